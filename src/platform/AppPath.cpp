@@ -1,0 +1,28 @@
+#include "platform/AppPath.h"
+
+namespace {
+QString& Stored()
+{
+    static QString path;
+    return path;
+}
+} // namespace
+
+const QString& AppPath()
+{
+    return Stored();
+}
+
+void SetAppPath(const QString& path)
+{
+    Stored() = path;
+    if (path.endsWith(u'\\') || path.endsWith(u'/'))
+        Stored().chop(1);
+}
+
+QString StationPath(QStringView literal)
+{
+    QString tail = literal.toString();
+    tail.replace(u'\\', u'/');
+    return AppPath() + tail;
+}

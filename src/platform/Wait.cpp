@@ -1,0 +1,99 @@
+#include "platform/Wait.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QEventLoop>
+#include <QTimer>
+
+namespace {
+
+bool g_closing = false;
+int g_depth = 0;
+
+QObject& Waker()
+{
+    static QObject waker;
+    return waker;
+}
+
+// Swallows user input while a wait is under way.
+class InputGate : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        switch (event->type()) {
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+        case QEvent::Close: // a window in use is not pulled away from under its handler
+            event->ignore();
+            return true;
+        default:
+            return false;
+        }
+    }
+};
+
+} // namespace
+
+bool Closing()
+{
+    return g_closing;
+}
+
+void SetClosing(bool closing)
+{
+    g_closing = closing;
+    WakeWaits();
+}
+
+bool Waiting()
+{
+    return g_depth > 0;
+}
+
+void WakeWaits()
+{
+    if (g_depth > 0)
+        QMetaObject::invokeMethod(
+            &Waker(), [] {}, Qt::QueuedConnection);
+}
+
+WaitResult WaitUntil(const std::function<bool()>& done, double seconds)
+{
+    if (done())
+        return WaitResult::Done;
+    if (g_closing)
+        return WaitResult::Closing;
+
+    InputGate gate;
+    ++g_depth;
+    if (g_depth == 1)
+        QCoreApplication::instance()->installEventFilter(&gate);
+    QTimer tick; // bounds the time between two tests of `done`
+    tick.start(100);
+
+    const QDeadlineTimer deadline(static_cast<qint64>(seconds * 1000.0));
+    WaitResult result = WaitResult::TimedOut;
+    while (!deadline.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        if (done()) {
+            result = WaitResult::Done;
+            break;
+        }
+        if (g_closing) {
+            result = WaitResult::Closing;
+            break;
+        }
+    }
+    --g_depth;
+    return result;
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+class QObject;
+
+// The process is leaving: every wait ends at once and long loops stop.
+bool Closing();
+void SetClosing(bool closing);
+
+enum class WaitResult
+{
+    Done,
+    TimedOut,
+    Closing
+};
+
+// Runs a nested event loop until `done` is true, `seconds` have passed, or Closing is set. Painting, timers and sockets
+// go on; key, mouse, wheel and touch input to every window is held back meanwhile, so nothing is started twice. `done`
+// is tested first and after every call of WakeWaits(), and at least every 100 ms. Never blocks when `done` is true
+// already.
+WaitResult WaitUntil(const std::function<bool()>& done, double seconds);
+
+// Called by whoever completes something that may be waited for.
+void WakeWaits();
+
+// Whether a wait is under way (the window shows that it is busy).
+bool Waiting();
