@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+// Programs that start with the desktop session (freedesktop.org Desktop Application Autostart Specification). An entry
+// is the file <name>.desktop in the scope's autostart folder.
+enum class AutostartScope
+{
+    User,
+    Machine
+};
+
+// Creates or replaces the entry; `command` stands in it as given (quotes included). False when it cannot be written.
+bool SetAutostart(AutostartScope scope, const QString& name, const QString& command);
+// Removes the entry; true also when there was none.
+bool DeleteAutostart(AutostartScope scope, const QString& name);
+// The entry's command, empty without an entry.
+QString AutostartCommand(AutostartScope scope, const QString& name);
+
+// Full path of a program of the family beside this one, with the platform's program suffix.
+QString ProgramPath(const QString& name);

@@ -1,0 +1,89 @@
+#include "platform/DatabaseFile.h"
+
+#include "platform/Connection.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlQuery>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList& CompanionEndings()
+{
+    static const QStringList endings{u"-wal"_s, u"-shm"_s};
+    return endings;
+}
+
+void RemoveCompanions(const QString& file)
+{
+    for (const QString& ending : CompanionEndings())
+        QFile::remove(file + ending);
+}
+
+// Closing the last connection of a file folds its companions into it.
+void FoldCompanions(const QString& file)
+{
+    if (!QFileInfo::exists(file + u"-wal"_s))
+        return;
+    Connection connection;
+    connection.setConnectionString(DatabaseConnectionString(file));
+    try {
+        connection.openAsIs();
+        QSqlQuery query(connection.database());
+        query.exec(u"PRAGMA wal_checkpoint(TRUNCATE)"_s);
+    } catch (const StoreError&) {
+        // A damaged file keeps its companions; they move with it.
+    }
+}
+
+} // namespace
+
+void CopyDatabase(const QString& from, const QString& to)
+{
+    const QString half = to + u".part"_s;
+    QFile::remove(half);
+    {
+        Connection connection;
+        connection.setConnectionString(DatabaseConnectionString(from));
+        connection.openAsIs();
+        QSqlQuery query(connection.database());
+        query.prepare(u"VACUUM INTO ?"_s);
+        query.addBindValue(half);
+        if (!query.exec()) {
+            QFile::remove(half);
+            throw StoreError(u"Cannot copy '%1' to '%2'"_s.arg(from, to), query.lastError());
+        }
+    }
+    QFile::setPermissions(half, QFile::ReadOwner | QFile::WriteOwner);
+    RemoveCompanions(to);
+    // Replaces the target in one step, so that a target is there at any moment.
+    if (std::rename(QFile::encodeName(half).constData(), QFile::encodeName(to).constData()) != 0) {
+        QFile::remove(half);
+        throw StoreError(u"Cannot replace '%1'"_s.arg(to));
+    }
+}
+
+void RenameDatabase(const QString& from, const QString& to)
+{
+    if (QFileInfo::exists(to))
+        throw StoreError(u"Cannot rename '%1': file '%2' already exists"_s.arg(from, to));
+    FoldCompanions(from);
+    RemoveCompanions(to);
+    QFile file(from);
+    if (!file.rename(to))
+        throw StoreError(u"Cannot rename '%1' to '%2': %3"_s.arg(from, to, file.errorString()));
+    for (const QString& ending : CompanionEndings())
+        QFile::rename(from + ending, to + ending);
+}
+
+void DeleteDatabase(const QString& file)
+{
+    QFile old(file);
+    if (old.exists() && !old.remove())
+        throw StoreError(u"Cannot delete '%1': %2"_s.arg(file, old.errorString()));
+    RemoveCompanions(file);
+}

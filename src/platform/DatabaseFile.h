@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+// Whole database files with their "-wal" and "-shm" companions: a companion never meets another file than its own. All
+// throw StoreError when they fail, and leave the target as it was then. Paths are platform paths.
+
+// Writes a consistent copy made by the database engine, whoever holds the source open; the target is replaced.
+void CopyDatabase(const QString& from, const QString& to);
+// Gives a file another name. Fails when the target exists, as a plain rename does.
+void RenameDatabase(const QString& from, const QString& to);
+void DeleteDatabase(const QString& file);
+// A copy without the room that deleted rows left.
+inline void CompactDatabase(const QString& from, const QString& to)
+{
+    CopyDatabase(from, to);
+}

@@ -1,0 +1,131 @@
+#include "store/BasicDefault.h"
+
+#include "platform/AppPath.h"
+#include "platform/Autostart.h"
+#include "platform/Clock.h"
+#include "platform/clsOSInfo.h"
+#include "store/TableAccess.h"
+#include "store/tables/Tables.h"
+#include "support/ServiceTexts.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The wall's style is honoured only on layouts whose fourth version part begins with a number of 22 or more.
+bool ReadsVideoWallStyle(const QString& version)
+{
+    const QString fourth = version.section(u'.', 3, 3).left(2);
+    bool ok = false;
+    const int number = fourth.toInt(&ok);
+    return ok && number >= 22;
+}
+
+} // namespace
+
+qint16 GetBasicDefault(Databases& databases, BasicDefaultSet& set)
+{
+    constexpr QLatin1String source("Module_DB_Access - GetBasicDefault");
+    if (OpenRecset(databases, u"BasicDefault"_s) == 0)
+        return 0;
+    BasicDefaultRecord& record = set.stored;
+    Trapped(source, [&] {
+        Recordset& rows = *databases.DBRec;
+        rows.moveFirst();
+        TableAccess<BasicDefaultRecord>(rows, BasicDefaultColumns, source).read(record);
+        if (record.sSystemName.isEmpty())
+            record.sSystemName = CMS_Core;
+        if (ReadsVideoWallStyle(record.sDBVer))
+            record.iVideoWallStyle = Int16Field(rows.value(u"iVideoWallStyle"_s));
+    });
+    Trapped(source, [&] { databases.DBRec->close(); });
+    record.bChanged = false;
+    return 1;
+}
+
+qint16 SaveMyDefault(Databases& databases, BasicDefaultSet& set)
+{
+    constexpr QLatin1String source("Module_DB_Access - SaveMyDefault");
+    if (OpenRecset(databases, u"BasicDefault"_s) == 0)
+        return 0;
+    Trapped(source, [&] {
+        Recordset& rows = *databases.DBRec;
+        const qint64 count = rows.recordCount();
+        for (qint64 i = 0; i < count; ++i) {
+            rows.moveFirst();
+            rows.move(i);
+            if (TextField(rows.value(u"sBrand"_s)) != set.stored.sBrand)
+                continue;
+            TableAccess<BasicDefaultRecord>(rows, BasicDefaultColumns, source).write(set.stored);
+            break;
+        }
+        set.stored.bChanged = false;
+        rows.update();
+    });
+    Trapped(source, [&] { databases.DBRec->close(); });
+    return 1;
+}
+
+void WMIGet(BasicDefaultSet& set)
+{
+    Trapped("Module_PublicFunction - WMIGet", [&] {
+        const clsOSInfo info;
+        set.edit.iMonitorCount = info.GetScreenCount();
+        set.edit.sSystemIP = LocalIPAddress();
+        set.stored.iMonitorCount = set.edit.iMonitorCount;
+        set.stored.sSystemIP = set.edit.sSystemIP;
+    });
+}
+
+void StartUp_Reg(const BasicDefaultRecord& record)
+{
+    constexpr QLatin1String source("Module_PublicFunction - StartUp_Reg");
+    const QString name = CMS_Core;
+    Trapped(source, [&] {
+        if (record.bStartup) {
+            if (!SetAutostart(AutostartScope::User, name, u'"' + ProgramPath(name) + u'"'))
+                throw StoreError(GetRegistryErrorText(12));
+        } else if (!DeleteAutostart(AutostartScope::User, name)) {
+            throw StoreError(GetRegistryErrorText(14));
+        }
+    });
+    Trapped(source, [&] {
+        if (!DeleteAutostart(AutostartScope::Machine, name))
+            throw StoreError(GetRegistryErrorText(14));
+    });
+}
+
+QString DetailExport()
+{
+    const QString file = StationPath(u"\\DetailExport-") + Now().toString(u"yyyyMMdd") + u".txt"_s;
+    Trapped("Form_Initial - DetailExport", [&] {
+        const clsOSInfo info;
+        const QStringList lines{u"OS           : "_s + info.OSName(), u"PCName       : "_s + info.ComputerName(),
+                                u"HDDSize      : "_s + QString::number(info.DiskSizeGB()) + u" GB"_s,
+                                u"MonitorCount : "_s + QString::number(info.GetScreenCount())};
+        QFile target(file);
+        if (!target.open(QIODevice::WriteOnly))
+            throw StoreError(u"Cannot write '%1': %2"_s.arg(file, target.errorString()));
+        for (const QString& line : lines) {
+            if (target.write(QuotedValue(line).toUtf8() + "\r\n") < 0)
+                throw StoreError(u"Cannot write '%1': %2"_s.arg(file, target.errorString()));
+        }
+        if (!target.flush())
+            throw StoreError(u"Cannot write '%1': %2"_s.arg(file, target.errorString()));
+    });
+    return file;
+}
+
+RecordFamily BasicDefaultFamily(Databases& databases, BasicDefaultSet& set)
+{
+    return {FamilyOrder::BasicDefault, 0, [&set] { return set.edit.bChanged; },
+            [&databases, &set] {
+                set.edit.bChanged = false;
+                set.stored = set.edit;
+                SaveMyDefault(databases, set);
+                StartUp_Reg(set.stored);
+            },
+            [&set] { set.edit = set.stored; }};
+}

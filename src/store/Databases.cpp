@@ -1,0 +1,90 @@
+#include "store/Databases.h"
+
+#include "app/log/Module_Log.h"
+#include "platform/AppPath.h"
+#include "platform/Clock.h"
+#include "platform/DatabaseFile.h"
+#include "store/Template.h"
+#include "support/TimeSeconds.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The audit log has no backup and no template file: it is made anew where it is missing.
+void ProvideSystemLog(const QString& file)
+{
+    if (QFileInfo::exists(file)) {
+        Connection probe;
+        probe.setConnectionString(DatabaseConnectionString(file));
+        try {
+            probe.openAsIs();
+            return;
+        } catch (const StoreError& error) {
+            LogTrap(u"Module_DB_Access - InitialDB"_s, QString::fromUtf8(error.what()));
+        }
+        const QString aside =
+            StationPath(u"\\Database\\") + QString::number(TimeToSeconds(Now())) + u".SystemLog.mdb"_s;
+        RenameDatabase(file, aside);
+    }
+    CreateSystemLog(file);
+}
+
+} // namespace
+
+qint16 InitialDB(Databases& databases)
+{
+    const bool ok = Trapped("Module_DB_Access - InitialDB", [&] {
+        databases.DBRec = std::make_unique<Recordset>();
+        databases.LogRec = std::make_unique<Recordset>();
+        databases.DBConn = std::make_unique<Connection>();
+        databases.LogConn = std::make_unique<Connection>();
+        databases.DBConn->setConnectionString(DatabaseConnectionString(StationPath(kDatabaseFile)));
+        databases.LogConn->setConnectionString(DatabaseConnectionString(StationPath(kSystemLogFile)));
+        databases.DBConn->open();
+        ProvideSystemLog(StationPath(kSystemLogFile));
+        databases.LogConn->open();
+    });
+    return ok ? 1 : 0;
+}
+
+void CloseDatabases(Databases& databases)
+{
+    databases.DBRec.reset();
+    databases.LogRec.reset();
+    databases.DBConn.reset();
+    databases.LogConn.reset();
+}
+
+void CloseDB(Databases& databases)
+{
+    Trapped("Module_DB_Access - CloseDB", [&] {
+        if (databases.DBRec && databases.DBRec->isOpen())
+            databases.DBRec->close();
+        if (databases.DBConn && databases.DBConn->isOpen())
+            databases.DBConn->close();
+    });
+}
+
+qint16 OpenRecset(Databases& databases, const QString& table)
+{
+    const bool ok = Trapped("Module_DB_Access - OpenRecset", [&] {
+        if (!databases.DBConn)
+            throw StoreError(u"Object variable not set"_s);
+        if (!databases.DBConn->isOpen())
+            databases.DBConn->open();
+        databases.DBRec->close();
+        databases.DBRec->open(table, *databases.DBConn, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
+    });
+    return ok ? 1 : 0;
+}
+
+void OpenStatement(Databases& databases, const QString& statement, LockType lock, const QVariantList& values)
+{
+    if (!databases.DBConn)
+        throw StoreError(u"Object variable not set"_s);
+    databases.DBRec->close();
+    databases.DBRec->open(statement, *databases.DBConn, CursorType::Static, lock, CommandType::Text, values);
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+// Positions are fractions of the picture, 0 to 1, four decimals.
+struct EMapGroupRow
+{
+    qint16 iMap_Type = 0; // 0 root, 1 group, 2 recorder's map, 3 sub-map
+    qint16 iMap_ID = 0;   // of a recorder's map: slot + 1
+    QString sName;
+    QString sParent; // empty or "MainMap": directly under the root
+    double dMapX = 0;
+    double dMapY = 0;
+    double dSMapX = 0;
+    double dSMapY = 0;
+    double dInfoX = 0;
+    double dInfoY = 0;
+    qint16 iInfo_Position = 0;
+    QString sMap_Path;
+    bool bChanged = false;
+};
+
+struct EMapIconRow
+{
+    qint16 iSVR = 0;     // from 1
+    qint16 iChannel = 0; // from 1
+    QString sParent;     // name of the map that shows the camera
+    double dMapX = 0;
+    double dMapY = 0;
+    double dInfoX = 0;
+    double dInfoY = 0;
+    qint16 iInfo_Position = 0;
+};

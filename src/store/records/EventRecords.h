@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QString>
+#include <array>
+
+struct ListenServerRec
+{
+    qint16 aID = 0; // 1 to 3
+    QString sMailFrom;
+    QString sMailServer;
+    qint32 lMailPort = 0;
+    QString sMailUser;
+    QString sMailPassword;
+    QString sMailName;
+    QString sMailReceipt;
+    QString sFTPserverIP;
+    qint32 iFTPPort = 0;
+    QString sFTPUser;
+    QString sFTPPassword;
+    QString sFTPPath;
+    QString sAlertIP;
+    qint32 iAlertPort = 0;
+    QString sAlertUser;
+    QString sAlertPassword;
+    QString sAlertText;
+    QString sWaringName;
+    QString sWarningPath;
+
+    qint32 lLastSend = 0; // seconds since 1970/1/1; not in the table
+    bool bChanged = false;
+};
+
+struct EventHandlingRecord
+{
+    bool bSystemStartup = false;
+    bool bConfigModify = false;
+    bool bSoftTrigger = false;
+    bool bNVRTrigger = false;
+    bool bTriActMail = false;
+    bool bTriActFTP = false;
+    bool bTriActSound = false;
+    bool bTriActHttpMsg = false;
+    QString strMailAddress;
+    QString strFTPUploadPath;
+    QString strHttpMsgContent;
+    QString strContentMsg;
+    bool bAttachSnapshot = false;
+    bool bChanged = false;
+};
+
+// A row of the four tables of analysis settings. Channel is the channel's analysis id.
+struct ChannelSettingRow
+{
+    qint32 Channel = 0;
+    qint16 Enable = 0;
+    qint32 Sensitivity = 50;
+};
+
+// Rows of the three region tables. Channel is the channel's analysis id.
+struct MotionROIRow
+{
+    qint32 Channel = 0;
+    qint32 Height = 0; // pixels of the picture the region was drawn on
+    qint32 Width = 0;
+    std::array<QString, 24> sROI; // 32 characters "0" or "1" each
+};
+
+struct RegionRow
+{
+    qint32 Channel = 0;
+    qint16 ID = 0;
+    qint32 Height = 0;
+    qint32 Width = 0;
+    qint32 LeftTopX = 0;
+    qint32 LeftTopY = 0;
+    qint32 RightBottomX = 0;
+    qint32 RightBottomY = 0;
+    qint16 Direction = 0; // lines only
+};
