@@ -1,0 +1,111 @@
+#include "app/CloseSequence.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "platform/AppPath.h"
+#include "platform/Clock.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "store/SystemLog.h"
+#include "support/TimeSeconds.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool MainViewerRuns()
+{
+    return QFileInfo::exists(StationPath(u"\\Running.txt"));
+}
+
+QString CountText(int items)
+{
+    return u'[' + QString::number(items) + u']';
+}
+
+} // namespace
+
+void CloseSequence::start()
+{
+    if (m_state != 0)
+        return;
+    m_station.notifications->stopTimer();
+    m_state = 1;
+}
+
+void CloseSequence::tick()
+{
+    Trapped("Form_Initial - TimerCloseSystem", [&] {
+        switch (m_state) {
+        case 1:
+            m_state = -1; // boxes run a loop of their own: no second tick while they show
+            Trapped("Form_Initial - TimerCloseSystem", [&] { askAndSave(); });
+            m_state = 2;
+            break;
+        case 2:
+            m_state = 3;
+            m_host.disableWindows();
+            showPending();
+            break;
+        case 3:
+            m_state = 5;
+            SaveSystemLog(m_station.databases, TimeToUtcSeconds(Now()), CurrentUser(), u"Close Rigging Desk"_s);
+            break;
+        case 5:
+            drainQueue();
+            break;
+        case 7:
+            m_state = 6;
+            CloseDatabases(m_station.databases);
+            break;
+        case 6:
+            m_state = 8;
+            m_host.closeProgressAndHide();
+            break;
+        case 8:
+            m_state = 0;
+            m_finished = true;
+            m_host.unloadAll();
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+void CloseSequence::askAndSave()
+{
+    SetClosing(true);
+    const QString title = GetLangString(570);
+    if (m_station.families.ExitCheck() && MsgBox(GetLangString(514), AskBoxStyle(), title) == MsgResult::Yes) {
+        SaveCheck(m_station);
+        if (MainViewerRuns())
+            MsgBox(GetLangString(772), InfoBoxStyle(), title);
+    }
+    if (!MainViewerRuns())
+        m_openMainViewer = MsgBox(GetLangString(508), AskBoxStyle(), title) == MsgResult::Yes;
+}
+
+void CloseSequence::showPending()
+{
+    m_PendingEvents = m_station.notifications->pendingItems();
+    m_host.showProgress(qMax(1, m_PendingEvents), m_PendingEvents > 0 ? CountText(m_PendingEvents) : QString());
+}
+
+void CloseSequence::drainQueue()
+{
+    NotificationQueue& queue = *m_station.notifications;
+    const bool cancelled = m_host.progressCancelled();
+    if (!cancelled) {
+        queue.CheckNeedToSend();
+        if (m_PendingEvents > 0) {
+            const int remaining = queue.pendingItems();
+            m_host.updateProgress(m_PendingEvents - remaining, CountText(remaining));
+        }
+    }
+    const bool idle = queue.sendsUnderWay() == 0;
+    if (idle && (cancelled || queue.timerStopped()))
+        m_state = 7;
+}

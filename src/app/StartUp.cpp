@@ -1,0 +1,99 @@
+#include "app/StartUp.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "platform/AppPath.h"
+#include "platform/DatabaseFile.h"
+#include "platform/MsgBox.h"
+#include "recorders/SVRStore.h"
+#include "store/Template.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String kLoadSource("Form_Initial - Form_Load");
+
+bool Exists(QStringView literal)
+{
+    return QFileInfo::exists(StationPath(literal));
+}
+
+// Only a missing database is repaired from a backup: the rename does not go over a damaged one that still stands.
+void RepairDatabase()
+{
+    for (const auto* backup : {kBackup1File, kBackup2File}) {
+        if (!Exists(backup))
+            continue;
+        Trapped(kLoadSource, [&] { RenameDatabase(StationPath(backup), StationPath(kDatabaseFile)); });
+        Trapped(kLoadSource, [&] { CopyDatabase(StationPath(kDatabaseFile), StationPath(backup)); });
+        return;
+    }
+    Trapped(kLoadSource, [&] { CopyDatabase(StationPath(kTemplateFile), StationPath(kDatabaseFile)); });
+}
+
+} // namespace
+
+void OpenDatabases(Station& station)
+{
+    if (InitialDB(station.databases) == 1)
+        return;
+    RepairDatabase();
+    InitialDB(station.databases);
+}
+
+void ReadDefaults(Station& station)
+{
+    Trapped(kLoadSource, [&] { GetBasicDefault(station.databases, station.basicDefault); });
+    WMIGet(station.basicDefault);
+    NormaliseLanguage(station);
+    Trapped(kLoadSource, [&] {
+        const QString& version = station.basicDefault.stored.sDBVer;
+        if (version != kDatabaseVersion)
+            throw StoreError(
+                u"Database version '%1' is not '%2'; it is used as it is"_s.arg(version, kDatabaseVersion));
+    });
+    NormaliseLanguage(station);
+    SettleLanguage(station);
+}
+
+void NormaliseLanguage(Station& station)
+{
+    qint16& language = station.basicDefault.stored.iLanguage;
+    if (language == 99 || language == 0)
+        language = static_cast<qint16>(GetOsLang());
+}
+
+void SettleLanguage(Station& station)
+{
+    SetLanguage(station.basicDefault.stored.iLanguage);
+    SetBoxStyles(Language() == kRightToLeftLanguage);
+}
+
+void LoadRecords(Station& station)
+{
+    GetSVREx(station.databases, station.recorders);
+    GetGroupPrivilege(station.databases, station.groups);
+    GetNVRPrivilege(station.databases, station.groups);
+}
+
+void SettleCurrentGroup(Station& station)
+{
+    // The user array is empty until users are part of the desk: everyone is the unnamed administrator.
+    station.CurrentGroupIndex = 0;
+}
+
+void RotateBackups()
+{
+    constexpr QLatin1String source("Form_Initial - Form_QueryUnload");
+    const QString backup1 = StationPath(kBackup1File);
+    const QString backup2 = StationPath(kBackup2File);
+    if (Exists(kBackup1File)) {
+        if (Exists(kBackup2File))
+            Trapped(source, [&] { DeleteDatabase(backup2); });
+        Trapped(source, [&] { RenameDatabase(backup1, backup2); });
+    }
+    Trapped(source, [&] { CopyDatabase(StationPath(kDatabaseFile), backup1); });
+}

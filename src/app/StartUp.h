@@ -1,0 +1,20 @@
+#pragma once
+
+#include "app/Station.h"
+
+// The steps of start-up and shut-down that need no window, each trapped on its own. Form_Initial calls them in order.
+
+// Opens the databases, with the repair from backups or the template when that fails.
+void OpenDatabases(Station& station);
+// Defaults, run-time facts, language and the version test.
+void ReadDefaults(Station& station);
+// A language that is not chosen yet (99, 0) from the system; the live language, its character set and the box styles.
+void NormaliseLanguage(Station& station);
+void SettleLanguage(Station& station);
+// All record families whose subsystem is part of the desk, in their fixed order.
+void LoadRecords(Station& station);
+// Group of the logged-in user, 0 for a user who is not in the array.
+void SettleCurrentGroup(Station& station);
+
+// After a run that saved something: the newest backup becomes the second one, and the database the newest.
+void RotateBackups();

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "recorders/RecorderSet.h"
+#include "store/BasicDefault.h"
+#include "store/Databases.h"
+#include "store/RecordFamily.h"
+#include "store/records/EventRecords.h"
+#include "users/GroupStore.h"
+
+// What notifications need of the events subsystem.
+class NotificationQueue
+{
+public:
+    virtual ~NotificationQueue() = default;
+    // Queues an event's text; with `attach` a snapshot goes along.
+    virtual void SendQueueStr_Set(const QString& text, bool attach) = 0;
+    // Items that wait in all queues, and sends under way.
+    virtual int pendingItems() const = 0;
+    virtual int sendsUnderWay() const = 0;
+    // The queue's own timer: while it is stopped, CheckNeedToSend is called by hand.
+    virtual void stopTimer() = 0;
+    virtual bool timerStopped() const = 0;
+    virtual void CheckNeedToSend() = 0;
+};
+
+// Holds nothing and sends nothing: stands in until notifications are part of the desk.
+class EmptyNotificationQueue final : public NotificationQueue
+{
+public:
+    void SendQueueStr_Set(const QString&, bool) override {}
+    int pendingItems() const override { return 0; }
+    int sendsUnderWay() const override { return 0; }
+    void stopTimer() override { m_stopped = true; }
+    bool timerStopped() const override { return m_stopped; }
+    void CheckNeedToSend() override {}
+
+private:
+    bool m_stopped = false;
+};
+
+// Everything the station knows, for the whole run of the process. Made once (on the heap) in main.
+struct Station
+{
+    Station();
+
+    Databases databases;
+    BasicDefaultSet basicDefault;
+    RecorderSet recorders;
+    GroupSet groups;
+    EventHandlingRecord eventHandling; // stored copy; all off until the event settings are read
+    FamilyRegister families;
+    std::unique_ptr<NotificationQueue> notifications;
+
+    quint32 CurrentUserIndex = 65535; // 65535 and above: not in the user array
+    qint16 CurrentGroupIndex = 0;     // 0 to 6
+    bool Loading = true;              // controls are being filled: their events count for nothing
+    bool LoginOk = false;
+    bool m_bDataSaved = false; // a page was saved in this run
+
+    // The rights record of the current group; throws ConversionError for an index outside 0 to 6.
+    const GroupPrivilegeRecord& currentGroup() const;
+};
+
+// Writes everything that is marked on any page, then the audit line (and notification) of each touched page.
+void SaveCheck(Station& station);
+
+// Audit line and notification of an action (0 to 12), notification alone (13 to 16), nothing above. `key` is
+// slot * 64 + channel, both from 0, or -1; `text` goes before the channel's text in actions 15 and 16.
+void RunEventAction(Station& station, int action, int key, const QString& text, const QString& operatorName);
