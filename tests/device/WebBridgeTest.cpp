@@ -1,0 +1,429 @@
+#include "device/Form_COM.h"
+#include "device/ModuleCGI.h"
+#include "platform/Wait.h"
+#include "support/Conversions.h"
+#include "tests/TestMain.h"
+#include "tests/device/ScriptedServer.h"
+
+#include <QCryptographicHash>
+#include <QElapsedTimer>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Answer = ScriptedServer::Answer;
+using Seen = ScriptedServer::Seen;
+
+class Bridge : public ::testing::Test
+{
+protected:
+    DeviceAddress device(const QString& user = {}, const QString& password = {}) const
+    {
+        return {u"127.0.0.1"_s, server.serverPort(), user, password};
+    }
+    qint32 send(const QString& url, qint32 mode = 1, const DeviceAddress* to = nullptr)
+    {
+        const DeviceAddress target = to ? *to : device();
+        qint32 outCode = 1;
+        return com.web.SendCgi(target.address, target.port, target.user, target.password, 1, url, u"-"_s, {}, mode,
+                               outCode);
+    }
+    QString get(const QString& url, const DeviceAddress& to) { return CgiGet(com.web, to, url, 2); }
+
+    TemporaryStation station;
+    ScriptedServer server;
+    Form_COM com;
+};
+
+QByteArray Md5(const QByteArray& text)
+{
+    return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();
+}
+
+// A device that takes Digest only (RFC 7616, MD5, qop auth), and checks all of it.
+Answer DigestDevice(const Seen& seen, const QByteArray& user, const QByteArray& password)
+{
+    const QByteArray given = seen.field("Authorization");
+    const auto part = [&](const char* name) {
+        const QRegularExpression pattern(u"[ ,]%1=\"?([^\",]*)"_s.arg(QLatin1String(name)));
+        return pattern.match(QString::fromUtf8(given)).captured(1).toUtf8();
+    };
+    const QList<QByteArray> line = seen.line.split(' ');
+    const QByteArray ha1 = Md5(user + ":R:" + password);
+    const QByteArray ha2 = Md5(line.value(0) + ':' + line.value(1));
+    const QByteArray wanted = Md5(ha1 + ":n0nce:" + part("nc") + ':' + part("cnonce") + ":auth:" + ha2);
+    if (given.startsWith("Digest ") && part("uri") == line.value(1) && part("response") == wanted)
+        return {ScriptedServer::page("OK in\n")};
+    return {ScriptedServer::page("go away", "401 Unauthorized",
+                                 "WWW-Authenticate: Digest realm=\"R\", nonce=\"n0nce\", qop=\"auth\"\r\n")};
+}
+
+} // namespace
+
+TEST_F(Bridge, TargetsAndBodiesGoOutByteForByte)
+{
+    const struct
+    {
+        QString url;
+        QByteArray target;
+    } cases[] = {
+        {u"/param.cgi?action=set&camera_c1.device.name=%u4E2D%20x%2f"_s,
+         "/param.cgi?action=set&camera_c1.device.name=%u4E2D%20x%2f"},
+        {u"/a/../b/./c//d?x=[1]|^{}\"<>\\"_s, "/a/../b/./c//d?x=[1]|^{}\"<>\\"},
+        {u"/x.cgi?text=Zürich"_s, "/x.cgi?text=Z\xc3\xbcrich"},
+        {u"/x.cgi?p=a#b"_s, "/x.cgi?p=a#b"},
+        {u"HTTP://other.example:81/alert?x=1"_s, "/alert?x=1"},
+        {u"alert?x=1"_s, "/alert?x=1"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(get(c.url, device()), u"OK\n"_s);
+        EXPECT_EQ(server.lastTarget(), c.target);
+    }
+    EXPECT_EQ(get(u"/x.cgi?name=two words"_s, device()), u"OK\n"_s);
+    EXPECT_EQ(server.requests.back().line, "GET /x.cgi?name=two words HTTP/1.1");
+
+    server.answerWith("<RESPONSE RET=\"0\"/>");
+    const QString xml = u"<CMD><Param>%41+&=\u4e2d</Param></CMD>"_s;
+    EXPECT_EQ(SendCmdXml(com.web, device(), xml), u"<RESPONSE RET=\"0\"/>"_s);
+    const Seen& seen = server.requests.back();
+    EXPECT_EQ(seen.line, "POST /cmd.cgi HTTP/1.1");
+    EXPECT_EQ(seen.field("Content-Type"), "application/x-www-form-urlencoded");
+    EXPECT_EQ(seen.body, QByteArray("type=action&xml=" + xml.toUtf8()));
+    EXPECT_EQ(com.web.Outstanding(), 0);
+}
+
+TEST_F(Bridge, EveryFailureOfTransportIsNegativeAndLeavesNothingBehind)
+{
+    const QByteArray huge = ScriptedServer::page(QByteArray(17 * 1024 * 1024, 'x'));
+    const struct
+    {
+        const char* what;
+        Answer answer;
+        qint32 result;
+    } cases[] = {
+        {"silence", {{}, false, 0, 0, true}, kWebTimedOut},
+        {"late", {ScriptedServer::page("OK"), false, 3000}, kWebTimedOut},
+        {"trickle", {ScriptedServer::page("OK and a long reply"), false, 0, 100}, kWebTimedOut},
+        {"closed without a word", {{}, true}, kWebBrokenOff},
+        {"cut off in the body", {"HTTP/1.1 200 OK\r\nContent-Length: 50\r\n\r\nOK", true}, kWebBrokenOff},
+        {"cut off in the header", {"HTTP/1.1 200 OK\r\nContent-Le", true}, kWebBrokenOff},
+        {"not HTTP", {"\x01\x02 hello\r\n\r\n", true}, kWebBrokenOff},
+        {"bad chunks", {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\nzz\r\nOK", true}, kWebBrokenOff},
+        {"said to be too large", {huge.left(100000)}, kWebTooLarge},
+        {"too large without a length", {"HTTP/1.0 200 OK\r\n\r\n" + huge, true}, kWebTooLarge},
+        {"endless header", {"HTTP/1.1 200 OK\r\n" + QByteArray("X-A: 0123456789\r\n").repeated(60000)}, kWebTooLarge},
+        {"gone", {ScriptedServer::page("OK", "404 Not Found")}, -404},
+        {"broken", {ScriptedServer::page("OK", "500 Oops")}, -500},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        server.answer = [&](const Seen&) { return c.answer; };
+        com.web.SetTimeout(1);
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_EQ(send(u"/x.cgi"_s), c.result);
+        EXPECT_LT(timer.elapsed(), 1900);
+        EXPECT_EQ(com.web.Outstanding(), 0);
+        EXPECT_EQ(com.http.open(), 0);
+    }
+    // The next request is served: a chunked reply with a trailer.
+    server.answer = [](const Seen&) {
+        return Answer{"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n2\r\nOK\r\n0\r\nX-Sum: 1\r\n\r\n"};
+    };
+    EXPECT_EQ(get(u"/x.cgi"_s, device()), u"OK"_s);
+}
+
+TEST_F(Bridge, AddressesThatCannotBeUsedAreRefused)
+{
+    QTcpServer closed;
+    closed.listen(QHostAddress(u"127.0.0.1"_s));
+    const quint16 freePort = closed.serverPort();
+    closed.close();
+    const quint16 port = server.serverPort();
+    const struct
+    {
+        DeviceAddress device;
+        QString url;
+        qint32 result;
+    } cases[] = {
+        {{u"127.0.0.1"_s, freePort, {}, {}}, u"/"_s, kWebRefused},
+        {{u"no-such-host.invalid"_s, port, {}, {}}, u"/"_s, kWebNotResolved},
+        {{u"127.0.0.1/x"_s, port, {}, {}}, u"/"_s, kWebBadRequest},
+        {{u"a@127.0.0.1"_s, port, {}, {}}, u"/"_s, kWebBadRequest},
+        {{QString(), port, {}, {}}, u"/"_s, kWebBadRequest},
+        {{u"127.0.0.1"_s, 0, {}, {}}, u"/"_s, kWebBadRequest},
+        {{u"127.0.0.1"_s, port + 65536, {}, {}}, u"/"_s, kWebBadRequest},
+        {{u"127.0.0.1"_s, port, {}, {}}, u"/x HTTP/1.1\r\nX-Y: z"_s, kWebBadRequest},
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(send(c.url, 1, &c.device), c.result) << c.device.address.toStdString() << ' ' << c.device.port;
+    }
+    EXPECT_TRUE(server.requests.empty());
+    EXPECT_EQ(com.web.Outstanding(), 0);
+}
+
+TEST_F(Bridge, BasicGoesOutAtOnceAndOnlyWithAUser)
+{
+    EXPECT_EQ(get(u"/a"_s, device()), u"OK\n"_s);
+    EXPECT_EQ(server.requests.back().field("Authorization"), QByteArray());
+    EXPECT_EQ(get(u"/a"_s, device(u"op"_s, u"p:\u00e9"_s)), u"OK\n"_s);
+    ASSERT_EQ(server.requests.size(), 2u);
+    EXPECT_EQ(server.requests.back().field("Authorization"), "Basic " + QByteArray("op:p:\xc3\xa9").toBase64());
+    EXPECT_EQ(server.connections, 1);
+}
+
+TEST_F(Bridge, DigestIsUsedWhenTheDeviceAsksAndRemembered)
+{
+    server.answer = [](const Seen& seen) { return DigestDevice(seen, "op", "secret"); };
+    const DeviceAddress good = device(u"op"_s, u"secret"_s);
+    EXPECT_EQ(get(u"/a.cgi?x=%u4E2D&y=[1]"_s, good), u"OK in\n"_s);
+    EXPECT_TRUE(server.requests.front().field("Authorization").startsWith("Basic "));
+    server.requests.clear();
+    EXPECT_EQ(SendCmdXml(com.web, good, u"<CMD/>"_s), u"OK in\n"_s);
+    EXPECT_EQ(server.requests.back().body, "type=action&xml=<CMD/>");
+    for (const Seen& seen : server.requests) // a password is not sent in the clear once the device wants Digest
+        EXPECT_FALSE(seen.field("Authorization").startsWith("Basic "));
+    EXPECT_EQ(get(u"/login.cgi"_s, device(u"op"_s, u"wrong"_s)), u"401 Unauthorized"_s);
+}
+
+TEST_F(Bridge, AnUnauthorisedRequestGivesA401TextAndTheLoginSaysSo)
+{
+    const struct
+    {
+        QByteArray status, body;
+        QString reply;
+        qint32 login;
+    } cases[] = {
+        {"401 Unauthorized", "no", u"401 Unauthorized"_s, 401},
+        {"401 Unauthorized", "<h1>401 go</h1>", u"<h1>401 go</h1>"_s, 401},
+        {"200 OK", "error 401", u"error 401"_s, 401},
+        {"200 OK", "OK\nsecuritylevel=7\n", u"OK\nsecuritylevel=7\n"_s, 1},
+        {"403 Forbidden", "no", {}, 404},
+        {"200 OK", "", {}, 404},
+    };
+    for (const auto& c : cases) {
+        server.answer = [&](const Seen&) {
+            return Answer{ScriptedServer::page(c.body, c.status, "WWW-Authenticate: Basic realm=\"R\"\r\n")};
+        };
+        QString reply = u"old"_s;
+        EXPECT_EQ(CgiLogin(com.web, device(u"op"_s), reply), c.login) << c.body.data();
+        EXPECT_EQ(reply, c.reply);
+    }
+}
+
+TEST_F(Bridge, TextIsUtf8OrElseLatin1)
+{
+    const struct
+    {
+        QByteArray bytes;
+        QString text;
+    } cases[] = {
+        {"Z\xc3\xbcrich \xe4\xb8\xad", u"Zürich \u4e2d"_s},
+        {"Z\xfcrich", u"Zürich"_s},
+        {"ends early \xe4\xb8", u"ends early \u00e4\u00b8"_s},
+        {QByteArray("a\0b", 3), QString(u"a\0b"_s)},
+        {"", {}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(TextOfReply(c.bytes), c.text) << c.bytes.toHex().data();
+}
+
+TEST_F(Bridge, ConnectionsAreUsedAgainAndADroppedOneIsReplaced)
+{
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(get(u"/a"_s, device()), u"OK\n"_s);
+    EXPECT_EQ(server.connections, 1);
+    // The device closes after an answer that did not say so.
+    server.answer = [](const Seen&) { return Answer{ScriptedServer::page("OK\n"), true}; };
+    EXPECT_EQ(get(u"/a"_s, device()), u"OK\n"_s);
+    server.answerWith("OK\n");
+    EXPECT_EQ(get(u"/a"_s, device()), u"OK\n"_s);
+    EXPECT_EQ(server.connections, 2);
+}
+
+TEST_F(Bridge, AsynchronousRequestsEndInOneEventEachAndAreReleased)
+{
+    std::vector<std::pair<qint32, QString>> ended;
+    QObject listener;
+    QObject::connect(&com.web, &WebBridge::RequestEnded, &listener, [&](qint32 request, qint32 status) {
+        ended.emplace_back(request, status < 0 ? QString::number(status) : com.web.GetCgiReply(request));
+    });
+    server.answer = [](const Seen& seen) {
+        return seen.line.contains("/bad") ? Answer{ScriptedServer::page("", "500 Oops")}
+                                          : Answer{ScriptedServer::page(seen.line.split(' ').value(1))};
+    };
+    qint32 timeout = kCgiDefaultTimeout;
+    qint32 outCode = 1;
+    const QString one = CgiRequest(com.web, device(), u"/one"_s, u"-"_s, timeout, {}, 0, outCode, false);
+    EXPECT_EQ(timeout, 60);
+    const QString bad = CgiRequest(com.web, device(), u"/bad"_s, u"-"_s, timeout, {}, 0, outCode, false);
+    const QString gone = CgiRequest(com.web, device(), u"/gone"_s, u"-"_s, timeout, {}, 0, outCode, false);
+    com.web.ReleaseRequest(kReleaseCgi, gone.toInt());
+    const qint16 slot = com.GetFreeSlot(kAlertSlot);
+    com.AlertRequests[static_cast<std::size_t>(slot)].RequestID = one.toInt();
+    EXPECT_EQ(WaitUntil([&] { return ended.size() >= 2 && com.web.Outstanding() == 0; }, 5), WaitResult::Done);
+    std::sort(ended.begin(), ended.end());
+    const std::vector<std::pair<qint32, QString>> wanted{{one.toInt(), u"/one"_s}, {bad.toInt(), u"-500"_s}};
+    EXPECT_EQ(ended, wanted);
+    EXPECT_EQ(com.GetFreeSlot(kAlertSlot), slot); // the slot of the ended request is free again
+}
+
+TEST_F(Bridge, ACallbackMayWaitForARequestThatEndedTogetherWithItsOwn)
+{
+    QString inner;
+    QObject listener;
+    QObject::connect(&com.web, &WebBridge::RequestEnded, &listener, [&](qint32, qint32) {
+        if (inner.isEmpty())
+            inner = get(u"/inner"_s, device());
+    });
+    for (int i = 0; i < 4; ++i)
+        send(u"/outer"_s, 0);
+    EXPECT_EQ(WaitUntil([&] { return !inner.isEmpty() && com.web.Outstanding() == 0; }, 5), WaitResult::Done);
+    EXPECT_EQ(inner, u"OK\n"_s);
+}
+
+TEST_F(Bridge, ClosingEndsAWaitAtOnceAndNoNewOneBegins)
+{
+    server.answer = [](const Seen&) { return Answer{{}, false, 0, 0, true}; };
+    QTimer::singleShot(50, &server, [] { SetClosing(true); });
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(send(u"/slow"_s), kWebClosing);
+    EXPECT_LT(timer.elapsed(), 1000);
+    EXPECT_EQ(com.http.open(), 0);
+    EXPECT_EQ(send(u"/next"_s), kWebClosing);
+    SetClosing(false);
+    EXPECT_EQ(server.requests.size(), 1u);
+}
+
+TEST_F(Bridge, AnUnreadRequestCountsAsSentWhateverTheDeviceAnswers)
+{
+    const auto alert = [&](const DeviceAddress& to) {
+        qint32 timeout = 1;
+        qint32 outCode = 1;
+        return CgiRequest(com.web, to, u"/alert"_s, {}, timeout, {}, 1, outCode, true);
+    };
+    EXPECT_EQ(alert(device()), u"SUCCESSED"_s);
+    server.answer = [](const Seen&) { return Answer{ScriptedServer::page("no", "500 Oops")}; };
+    EXPECT_EQ(alert(device()), u"SUCCESSED"_s);
+    server.answer = [](const Seen&) { return Answer{{}, true}; };
+    EXPECT_EQ(alert(device()), QString());
+    // Replies that stay unread do not pile up.
+    server.answerWith("OK");
+    for (int i = 0; i < 100; ++i)
+        alert(device());
+    EXPECT_LT(com.web.Outstanding(), 50);
+}
+
+TEST_F(Bridge, TheBinaryInterfaceAnswersFailure)
+{
+    EXPECT_LT(com.web.SendQuery(u"127.0.0.1"_s, 80, {}, {}, 1, 6, 1, 1, 1), 0);
+    EXPECT_LT(com.web.OpenCommand(0), 0);
+    EXPECT_LT(com.web.RunCommand(u"127.0.0.1"_s, 80, {}, {}, 1, 1, 6, 1, 1), 0);
+}
+
+TEST_F(Bridge, CommandsAskTheirOwnPath)
+{
+    WebBridge& web = com.web;
+    const DeviceAddress to = device();
+    const struct
+    {
+        std::function<void()> call;
+        QByteArray target;
+    } cases[] = {
+        {[&] { CgiGetGid(web, to); }, "/getgid.cgi"},
+        {[&] { CgiDetectCamera(web, to, u"10.0.0.5"_s, u"80"_s, u"root"_s, u"0"_s, {}); },
+         "/system/detectcam.cgi?ipaddr=10.0.0.5&httpport=80&username=root&password=0&brand="},
+        {[&] { CgiDetectCameraAs(web, to, u"10.0.0.5"_s, u"80"_s, u"root"_s, u"p"_s, 2, u"55"_s); },
+         "/system/detectcam.cgi?ipaddr=10.0.0.5&httpport=80&username=root&password=p&camera=2&brand=55"},
+        {[&] { GetSVRCameraSearch(web, to); }, "/system/searchcam.cgi"},
+        {[&] { CgiGetFwVersion(web, to); }, "/getfwver.cgi"},
+        {[&] { CgiSetEventHttp(web, to, u"camera_c1=1,2"_s, 3); },
+         "/event/basicevent.cgi?action=set&svr=3&camera_c1=1,2&httpenabled=1"},
+        {[&] { CgiSetEventHttp(web, to, u"&camera_c1="_s, 16); },
+         "/event/basicevent.cgi?action=set&svr=16&camera_c1=&httpenabled=1"},
+        {[&] { CgiSetEventHttp(web, to, {}, 1); }, "/event/basicevent.cgi?action=set&svr=1&httpenabled=1"},
+        {[&] { CgiGetBasicEvent(web, to); }, "/event/basicevent.cgi?action=get"},
+        {[&] { CgiSetBasicEvent(web, to, u"&customevent_c1=0"_s, 1); },
+         "/event/basicevent.cgi?action=set&customevent_c1=0"},
+        {[&] { CgiSetPresetSeqDwell(web, to, 7, 15); }, "/param.cgi?action=set&camera_c7.ptz.presetseqdwell=15"},
+        {[&] { CgiSetPresetSeqList(web, to, 64, u"1,2"_s); }, "/param.cgi?action=set&camera_c64.ptz.presetseqlist=1,2"},
+        {[&] { CgiGetOnvifParam(web, to, 1); }, "/param.cgi?action=get&group=camera_c1.onvif"},
+        {[&] { CgiGetImageParam(web, to, 1); }, "/param.cgi?action=get&group=camera_c1.image"},
+        {[&] { CgiGetPtzParam(web, to, 1); }, "/param.cgi?action=get&group=camera_c1.ptz"},
+    };
+    for (const auto& c : cases) {
+        c.call();
+        EXPECT_EQ(server.lastTarget(), c.target);
+    }
+    EXPECT_EQ(server.requests.size(), std::size(cases));
+    EXPECT_EQ(web.Timeout(), kRestingTimeout);
+}
+
+TEST_F(Bridge, RepliesAreReadAsTheDevicesWriteThem)
+{
+    for (const auto& [reply, reachable] : {std::pair{"ok", true}, {"BOOK", true}, {"no", false}, {"", false}}) {
+        server.answerWith(reply);
+        EXPECT_EQ(CgiGetGid(com.web, device()), reachable) << reply;
+    }
+    for (const auto& [reply, taken] : {std::pair{"ok, done", true}, {" OK", false}, {"ERR", false}}) {
+        server.answerWith(reply);
+        EXPECT_EQ(CgiSetPresetSeqList(com.web, device(), 1, u"1,2"_s), taken) << reply;
+    }
+    for (const char* reply : {"OK\ncamera_c1.ptz.presetseqlist=1,3,2\r\n", "x= 1,3,2 \nmore", "x=1,3,2"}) {
+        server.answerWith(reply);
+        EXPECT_EQ(CgiGetPresetSeqList(com.web, device(), 1), u"1,3,2"_s) << reply;
+    }
+    for (const auto& [reply, dwell] : {std::pair{"OK\nx=15\r\n", 15}, {"x=5\n", 5}, {"x=153", 15}}) {
+        server.answerWith(reply);
+        EXPECT_EQ(CgiGetPresetSeqDwell(com.web, device(), 1), dwell) << reply;
+    }
+    server.answerWith("ERR");
+    EXPECT_THROW(CgiGetPresetSeqDwell(com.web, device(), 1), ConversionError);
+    EXPECT_THROW(CgiGetPresetSeqList(com.web, device(), 1), ConversionError);
+}
+
+TEST_F(Bridge, CapabilitiesAreReadLineByLine)
+{
+    server.answerWith("ok\r\nmodelname=N-16\r\nbrand=Acme\r\nfirmwareversion=\r\nmaxchannelsupport=16\r\nmaxhdsupport="
+                      "many\r\ncmssupport=1.0\r\ndevicetype=OmluPro\r\ncustomeventsupport=2\r\nxbrand=1\r\nbroken\r\n");
+    SvrCapability capability;
+    capability.MaxHDSupport = 3;
+    EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), 1);
+    EXPECT_EQ(capability.ModelName, u"N-16"_s);
+    EXPECT_EQ(capability.Brand, u"1"_s); // a key matches inside a longer one
+    EXPECT_EQ(capability.FirmwareVersion, QString());
+    EXPECT_EQ(capability.MaxChannelSupport, 16);
+    EXPECT_EQ(capability.MaxHDSupport, 3); // the bad value costs itself only, and is logged
+    EXPECT_TRUE(capability.CMSSupport);
+    EXPECT_EQ(capability.DeviceType, u"OmluPro"_s);
+    EXPECT_FALSE(capability.CustomEventSupport);
+    EXPECT_EQ(QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).size(), 1);
+
+    server.answerWith("ERR\nbrand=2");
+    EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), -1);
+    EXPECT_EQ(capability.Brand, u"1"_s);
+}
+
+TEST_F(Bridge, SlotsAreTakenFromBelowAndGrow)
+{
+    EXPECT_EQ(com.GetFreeSlot(kMailSlot), 0);
+    EXPECT_EQ(com.MailRequests[0].Busy, -1);
+    EXPECT_EQ(com.GetFreeSlot(kMailSlot), 1);
+    EXPECT_EQ(com.MailRequests[1].Busy, -1);
+    com.MailRequests[0] = {-1, 4, 0, u"old"_s};
+    EXPECT_EQ(com.GetFreeSlot(kMailSlot), 0);
+    EXPECT_EQ(com.MailRequests[0].Kind, -1);
+    EXPECT_EQ(com.MailRequests[0].Result, QString());
+
+    EXPECT_EQ(com.GetFreeSlot(kAlertSlot), 0);
+    EXPECT_EQ(com.AlertRequests[0].Busy, 0); // an alert row is taken by its request number only
+    EXPECT_EQ(com.GetFreeSlot(kAlertSlot), 0);
+    com.AlertRequests[0].RequestID = 9;
+    EXPECT_EQ(com.FindFreeAlertSlot(), -1);
+    EXPECT_EQ(com.GetFreeSlot(kAlertSlot), 1);
+    EXPECT_EQ(com.GetFreeSlot(7), 0);
+}
