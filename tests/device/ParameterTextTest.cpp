@@ -1,0 +1,152 @@
+#include "device/ParameterText.h"
+#include "support/Conversions.h"
+#include "tests/TestMain.h"
+
+#include <QDir>
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+
+TEST(ParameterTexts, LinesFillTheChannel)
+{
+    const auto record = std::make_unique<SVRRecord>();
+    SVRRecord& svr = *record;
+    svr.iCH_MultiStream[3] = -1;
+    CHImageInfoPaser(svr,
+                     u"OK\r\ncamera_c4.image.resolution=640x480\r\ncamera_c4.image.liveformat=768\n"
+                     "camera_c4.image.fps=15\r\ncamera_c4.image.jpegquality=3\ncamera_c4.image.qualityrange=1,5\n"
+                     "camera_c4.image.ratectrlmode=1\ncamera_c4.image.maxbitrate=6\ncamera_c4.image.goplength=30\n"
+                     "camera_c4.image.resolutionlist=640x480,320x240;;=x\ncamera_c4.image.formatlist=256;768\n"
+                     "camera_c4.image.fpsrange=0,5\ncamera_c4.image.customfpslist=1,2\ncamera_c4.image.customfps=2\n"
+                     "camera_c4.image.rotation= 90 "_s,
+                     3);
+    EXPECT_THAT((QStringList{svr.sSub_CH_Resolution[3], svr.sSub_CH_VideoFormat[3], svr.sCH_Quality_Range[3],
+                             svr.sCH_ResolutionList[3], svr.sCH_FMTList[3], svr.sCH_FPS_Range[3],
+                             svr.sCH_FPS_List_Customer[3], svr.sCH_FPS_Customer[3]}),
+                ElementsAre(u"640x480"_s, u"768"_s, u"1,5"_s, u"640x480,320x240;;"_s, u"256;768"_s, u"0,5"_s, u"1,2"_s,
+                            u"2"_s));
+    EXPECT_THAT((std::vector<qint16>{svr.iCH_FPS[3], svr.iCH_Quality[3], svr.iCH_RateCtrl[3], svr.iCH_BitRate[3],
+                                     svr.iCH_GOP[3], svr.iCH_Rotation[3], svr.iCH_MultiStream[3]}),
+                ElementsAre(15, 3, 1, 6, 30, 90, -1));
+
+    CHPTZInfoPaser(svr,
+                   u"camera_c4.ptz.speedrange=1,9\ncamera_c4.ptz.moverange=8\ncamera_c4.ptz.movecontcap=1\n"
+                   "camera_c4.ptz.zoomcontcap=2\ncamera_c4.ptz.focuscontcap=3\ncamera_c4.ptz.iriscontcap=4\n"_s,
+                   3);
+    EXPECT_EQ(svr.sCH_PTZ_Speed_Range[3] + svr.sCH_PTZ_PanTilt_Range[3], u"1,98"_s);
+    EXPECT_THAT((std::vector<qint16>{svr.iCH_PTZ_MoveContCap[3], svr.iCH_PTZ_ZoomContCap[3],
+                                     svr.iCH_PTZ_FocusContCap[3], svr.iCH_PTZ_IrisContCap[3]}),
+                ElementsAre(1, 2, 3, 4));
+
+    CHOnvifInfoPaser(svr,
+                     u"camera_c4.onvif.qualityrange=1\ncamera_c4.onvif.jpegfpsrange=2\ncamera_c4.onvif.mpegfpsrange=3\n"
+                     "camera_c4.onvif.h264fpsrange=4\ncamera_c4.onvif.jpegresolution=5\n"
+                     "camera_c4.onvif.mpegresolution=6\ncamera_c4.onvif.h264resolution=7"_s,
+                     3);
+    EXPECT_THAT((QStringList{svr.sCH_Onvif_Quality[3], svr.sCH_Onvif_JPEG_FPS[3], svr.sCH_Onvif_MPEG_FPS[3],
+                             svr.sCH_Onvif_H264_FPS[3], svr.sCH_Onvif_JPEG_Resolution[3],
+                             svr.sCH_Onvif_MPEG_Resolution[3], svr.sCH_Onvif_H264_Resolution[3]}),
+                ElementsAre(u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s));
+}
+
+TEST(ParameterTexts, ABadNumberStopsAndKeepsWhatWasRead)
+{
+    const auto svr = std::make_unique<SVRRecord>();
+    EXPECT_THROW(CHImageInfoPaser(
+                     *svr, u"camera_c1.image.fps=15\ncamera_c1.image.quality=best\ncamera_c1.image.rotation=1"_s, 0),
+                 ConversionError);
+    EXPECT_EQ(svr->iCH_FPS[0], 15);
+    EXPECT_EQ(svr->iCH_Rotation[0], 0);
+    EXPECT_THROW(CHPTZInfoPaser(*svr, u"camera_c1.ptz.speedrange=1"_s, 64), ConversionError);
+    EXPECT_THROW(CHPTZInfoPaser(*svr, {}, -1), ConversionError);
+    EXPECT_NO_THROW(CHImageInfoPaser(*svr, {}, 63));
+}
+
+TEST(ParameterTexts, CodesAndNames)
+{
+    TemporaryStation station; // a code that is no number leaves a line in its log
+    const struct
+    {
+        QString (*translate)(const QString&, qint16);
+        QString text;
+        qint16 mode;
+        QString result;
+    } cases[] = {
+        {GetFMTNameFromCode, u" 1024 "_s, 0, u"H.264"_s},
+        {GetFMTNameFromCode, u"MJPEG"_s, 1, u"256"_s},
+        {GetFMTNameFromCode, u"mjpeg"_s, 1, u""_s},
+        {GetFMTNameFromCode, u""_s, 1, u""_s},
+        {GetFMTNameFromCode, u"768"_s, 2, u""_s},
+        {GetFMTNameFromCode, u"767"_s, 0, u""_s},
+        {GetFPSMapping, u"0"_s, 0, u"Full"_s},
+        {GetFPSMapping, u"full"_s, 1, u"0"_s},
+        {GetFPSMapping, u"20"_s, 1, u"5"_s},
+        {GetFPSMapping, u""_s, 1, u"-1"_s},
+        {GetFPSMapping, u""_s, 0, u""_s},
+        {GetFPSMapping, u"99999"_s, 0, u""_s},
+        {GetsBitrate, u"8"_s, 0, u"2048K"_s},
+        {GetsBitrate, u"1536k"_s, 1, u"7"_s},
+        {GetsRateControl, u"1"_s, 0, u"CBR"_s},
+        {GetsRateControl, u"VBR"_s, 1, u"0"_s},
+        {GetsRateControl, u"vbr"_s, 1, u""_s},
+        {GetsRateControl, u"-1"_s, 0, u"N/A"_s},
+    };
+    for (const auto& [translate, text, mode, result] : cases)
+        EXPECT_EQ(translate(text, mode), result) << text.toStdString() << " mode " << mode;
+    EXPECT_EQ(GetFPSMapping(u"N/A"_s, 0), QString());
+    QDir log(station.path(u"\\log"));
+    const QStringList files = log.entryList({u"LogSys*"_s});
+    ASSERT_EQ(files.size(), 1);
+    EXPECT_EQ(station.read(QString(u"\\log\\"_s + files[0])).count("\"Module_PublicFunction - GetFPSMapping\""), 3);
+
+    const struct
+    {
+        QString source;
+        qint32 brand;
+        QString family;
+    } types[] = {{u""_s, 0, u"SVR"_s},
+                 {u"SVR"_s, 5, u"SVR"_s},
+                 {u"TXR500"_s, 0, u"SVR"_s},
+                 {u"OmluPro"_s, 5, u"TXR632"_s},
+                 {u"OmluPro"_s, 4, u"OmluPro"_s},
+                 {u"TXR632"_s, 0, u"TXR632"_s},
+                 {u"svr"_s, 0, u""_s}};
+    for (const auto& [source, brand, family] : types)
+        EXPECT_EQ(ParameterText::GetsDeviceType(source, brand), family);
+}
+
+TEST(ParameterTexts, EscapeAndItsReverse)
+{
+    const struct
+    {
+        QString plain;
+        QString escaped;
+    } cases[] = {
+        {u""_s, u""_s},
+        {u"azAZ09@*_+-./"_s, u"azAZ09@*_+-./"_s},
+        {u"a b%\t~'"_s, u"a%20b%25%09%7E%27"_s},
+        {u"Süd\u00ff"_s, u"S%FCd%FF"_s},
+        {u"\u0100門"_s, u"%u0100%u9580"_s},
+        {u"\U0001F600"_s, u"%uD83D%uDE00"_s},
+    };
+    for (const auto& [plain, escaped] : cases) {
+        EXPECT_EQ(Escape(plain), escaped);
+        EXPECT_EQ(Unescape(escaped), plain);
+    }
+    EXPECT_EQ(Unescape(u"%fc%U0041%u00e9"_s), u"ü%U0041é"_s);
+    EXPECT_EQ(Unescape(u"100%|%4|%u12|%zz|%+1|%"_s), u"100%|%4|%u12|%zz|%+1|%"_s);
+
+    TemporaryStation station;
+    EXPECT_EQ(Escape(u"the \"big\" gate"_s), QString());
+    EXPECT_EQ(Unescape(u"\""_s), QString());
+}
+
+TEST(ParameterTexts, Addresses)
+{
+    for (const QString& good : {u"1.2.3.4"_s, u"01.2.3.4"_s, u"0.0.0.0"_s, u"255.255.255.255"_s, u"+1.2.3.4"_s})
+        EXPECT_TRUE(CheckIP(good)) << good.toStdString();
+    for (const QString& bad : {u""_s, u"1.2.3"_s, u"1.2.3.4.5"_s, u"1.2.3.256"_s, u"-1.2.3.4"_s, u" 1.2.3.4"_s,
+                               u"1.2. 3.4"_s, u"1.2.3."_s, u"a.b.c.d"_s, u"nan.0.0.0"_s, u"1.2.3.4\n"_s})
+        EXPECT_FALSE(CheckIP(bad)) << bad.toStdString();
+}
