@@ -157,11 +157,13 @@ QPixmap Illustration(QLatin1StringView name, qreal ratio)
         return {};
     // The file is drawn in the dark scheme's colours: exchange them for the live one's, by way of a mark so that no
     // colour is exchanged twice.
-    const auto mark = [](QLatin1StringView token) { return QByteArray("@").append(token.data(), token.size()) + '@'; };
+    const auto mark = [](QLatin1StringView token) -> QByteArray {
+        return QByteArray("@").append(token.data(), token.size()).append('@');
+    };
     for (const QLatin1StringView token : TokenNames())
-        svg.replace(Token(Scheme::Dark, token).name().toLatin1(), QByteArray(mark(token)));
+        svg.replace(Token(Scheme::Dark, token).name().toLatin1(), mark(token));
     for (const QLatin1StringView token : TokenNames())
-        svg.replace(QByteArray(mark(token)), Token(token).name().toLatin1());
+        svg.replace(mark(token), Token(token).name().toLatin1());
     QPixmap pixmap = RenderSvg(svg, DevicePixels({120, 88}, ratio), false);
     pixmap.setDevicePixelRatio(ratio);
     return pixmap;
