@@ -1,0 +1,166 @@
+#include "look/DialogFrame.h"
+
+#include "look/ActionBar.h"
+#include "look/ElidedLabel.h"
+#include "look/Icons.h"
+#include "look/StepStrip.h"
+#include "look/Theme.h"
+
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kTitleHeight = 52;
+
+// Lies over the window behind a dialog and follows its size.
+class Scrim : public QWidget
+{
+public:
+    explicit Scrim(QWidget* window)
+        : QWidget(window)
+    {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setAttribute(Qt::WA_NoSystemBackground);
+        setFocusPolicy(Qt::NoFocus);
+        setGeometry(window->rect());
+        window->installEventFilter(this);
+        show();
+        raise();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize)
+            setGeometry(parentWidget()->rect());
+        return QWidget::eventFilter(watched, event);
+    }
+
+    void paintEvent(QPaintEvent*) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), CurrentScheme() == Scheme::Dark ? QColor(6, 8, 10, 150) : QColor(27, 35, 44, 76));
+    }
+};
+
+} // namespace
+
+DialogFrame::DialogFrame(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+    , m_column(new QVBoxLayout(this))
+    , m_titleRow(new QWidget)
+    , m_title(new ElidedLabel)
+    , m_subtitle(new ElidedLabel)
+    , m_close(new QToolButton)
+    , m_body(new QVBoxLayout)
+    , m_content(new QWidget)
+{
+    setModal(true);
+    setSizeGripEnabled(true);
+    SetRole(m_title, "headline"_L1);
+    SetRole(m_subtitle, "muted"_L1);
+    m_close->setIcon(Icon("close"_L1, "muted"_L1));
+    m_close->setAutoRaise(true);
+    m_close->setFixedSize(32, 32);
+    m_close->setFocusPolicy(Qt::NoFocus); // Esc is its key
+    m_close->setAccessibleName(u"Esc"_s);
+    connect(m_close, &QToolButton::clicked, this, &DialogFrame::reject);
+
+    m_titleRow->setFixedHeight(kTitleHeight);
+    auto* title = new QHBoxLayout(m_titleRow);
+    title->setContentsMargins(20, 0, 12, 1);
+    title->setSpacing(12);
+    title->addWidget(m_title);
+    title->addWidget(m_subtitle, 1);
+    title->addWidget(m_close);
+
+    m_body->setContentsMargins(20, 20, 20, 20);
+    m_body->addWidget(m_content);
+    m_column->setContentsMargins(1, 1, 1, 1);
+    m_column->setSpacing(0);
+    m_column->addWidget(m_titleRow);
+    m_column->addLayout(m_body, 1);
+}
+
+DialogFrame::~DialogFrame()
+{
+    delete m_scrim;
+}
+
+void DialogFrame::setSubtitle(const QString& text)
+{
+    m_subtitle->setText(text);
+}
+
+void DialogFrame::setClosable(bool closable)
+{
+    m_close->setVisible(closable);
+}
+
+void DialogFrame::setContentMargins(int horizontal, int vertical)
+{
+    m_body->setContentsMargins(horizontal, vertical, horizontal, vertical);
+}
+
+StepStrip* DialogFrame::steps()
+{
+    if (!m_steps) {
+        m_steps = new StepStrip;
+        m_column->insertWidget(1, m_steps);
+    }
+    return m_steps;
+}
+
+ActionBar* DialogFrame::footer()
+{
+    if (!m_footer) {
+        m_footer = new ActionBar;
+        m_footer->layout()->setContentsMargins(20, 13, 20, 12);
+        m_column->addWidget(m_footer);
+    }
+    return m_footer;
+}
+
+bool DialogFrame::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowTitleChange)
+        m_title->setText(windowTitle());
+    return QDialog::event(event);
+}
+
+void DialogFrame::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    if (parentWidget() && isModal() && !m_scrim)
+        m_scrim = new Scrim(parentWidget()->window());
+}
+
+void DialogFrame::hideEvent(QHideEvent* event)
+{
+    QDialog::hideEvent(event);
+    delete m_scrim;
+}
+
+void DialogFrame::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Token("surface"_L1));
+    painter.fillRect(QRect(0, kTitleHeight, width(), 1), Token("line"_L1));
+    painter.setPen(Token("edge"_L1));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void DialogFrame::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && event->position().y() <= kTitleHeight && windowHandle())
+        windowHandle()->startSystemMove();
+    else
+        QDialog::mousePressEvent(event);
+}

@@ -1,0 +1,48 @@
+#include "look/ElidedLabel.h"
+
+#include <QHelpEvent>
+#include <QPainter>
+#include <QStyle>
+#include <QToolTip>
+
+ElidedLabel::ElidedLabel(QWidget* parent)
+    : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+ElidedLabel::ElidedLabel(const QString& text, QWidget* parent)
+    : ElidedLabel(parent)
+{
+    setText(text);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    const int width = std::min(sizeHint().width(), fontMetrics().averageCharWidth() * 4);
+    return {width, QLabel::minimumSizeHint().height()};
+}
+
+bool ElidedLabel::isCut() const
+{
+    return fontMetrics().horizontalAdvance(text()) > contentsRect().width();
+}
+
+bool ElidedLabel::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && toolTip().isEmpty() && isCut()) {
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+        return true;
+    }
+    return QLabel::event(event);
+}
+
+void ElidedLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    const QRect rect = contentsRect();
+    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, rect.width());
+    style()->drawItemText(&painter, rect, static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
+                          palette(), isEnabled(), shown, foregroundRole());
+}

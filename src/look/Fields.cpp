@@ -1,0 +1,88 @@
+#include "look/Fields.h"
+
+#include "look/Icons.h"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A button inside the trailing end of a field; it keeps its place and the text clear of it.
+class FieldButton : public QToolButton
+{
+public:
+    explicit FieldButton(QLineEdit* field)
+        : QToolButton(field)
+        , m_field(field)
+    {
+        setAutoRaise(true);
+        setFocusPolicy(Qt::TabFocus);
+        setCursor(Qt::ArrowCursor);
+        setIconSize({kIconSize, kIconSize});
+        field->installEventFilter(this);
+        place();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize || event->type() == QEvent::LayoutDirectionChange)
+            place();
+        return QToolButton::eventFilter(watched, event);
+    }
+
+private:
+    void place()
+    {
+        const int side = m_field->height() - 6;
+        const QRect logical(m_field->width() - side - 3, 3, side, side);
+        setGeometry(QStyle::visualRect(m_field->layoutDirection(), m_field->rect(), logical));
+        const bool mirrored = m_field->layoutDirection() == Qt::RightToLeft;
+        m_field->setTextMargins(mirrored ? side : 0, 0, mirrored ? 0 : side, 0);
+    }
+
+    QLineEdit* m_field;
+};
+
+} // namespace
+
+SearchField::SearchField(QWidget* parent)
+    : QLineEdit(parent)
+{
+    addAction(Icon("search"_L1, "muted"_L1), QLineEdit::LeadingPosition);
+    setClearButtonEnabled(true);
+}
+
+void SearchField::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && !text().isEmpty()) {
+        clear();
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void AddEye(QLineEdit* field, const QString& showText, const QString& hideText)
+{
+    field->setEchoMode(QLineEdit::Password);
+    auto* eye = new FieldButton(field);
+    eye->setCheckable(true);
+    const auto tell = [field, eye, showText, hideText](bool shown) {
+        field->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);
+        eye->setIcon(Icon(shown ? "eye-off"_L1 : "eye"_L1, "muted"_L1));
+        eye->setToolTip(shown ? hideText : showText);
+        eye->setAccessibleName(shown ? hideText : showText);
+    };
+    tell(false);
+    QObject::connect(eye, &QToolButton::toggled, field, tell);
+}
+
+void SetFaulty(QLineEdit* field, bool faulty)
+{
+    field->setProperty("faulty", faulty);
+    field->update();
+}

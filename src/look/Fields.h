@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QLineEdit>
+
+// A line edit that filters something: search icon in front, clear button behind, Esc clears.
+class SearchField : public QLineEdit
+{
+    Q_OBJECT
+public:
+    explicit SearchField(QWidget* parent = nullptr);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+// Puts an eye behind a password field: pressed, it shows what is typed. It is reached by Tab and says what it will do.
+void AddEye(QLineEdit* field, const QString& showText, const QString& hideText);
+// Marks a field as faulty or not: a border in the colour of faults. The words belong in a label beside it.
+void SetFaulty(QLineEdit* field, bool faulty);
