@@ -65,7 +65,7 @@
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
-        <translation>המערכת לא תוכל להמשיך לפעול.</translation>
+        <translation>המערכת לא תוכל להמשיך לפעול!</translation>
     </message>
     <message id="16">
         <source>Update Database ...</source>
@@ -133,7 +133,7 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>תם הזמן לזיהוי ההתקן!</translation>
+        <translation>תם הזמן הקצוב לזיהוי ההתקן!</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>האם לצאת ולפתוח את Rigging Desk?</translation>
+        <translation>האם לצאת ולפתוח את תוכנית התצורה?</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -301,7 +301,7 @@
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>תם הזמן לזיהוי ההתקן!</translation>
+        <translation>תם הזמן הקצוב לזיהוי ההתקן!</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>סבב ערוצים אינו זמין! יש לבחור יותר מערוץ אחד כדי להשתמש באפשרות זו.</translation>
+        <translation>סבב ערוצים אינו זמין. יש לבחור יותר מערוץ אחד כדי להשתמש באפשרות זו!</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>סבב NVR אינו זמין! יש לבחור יותר מ-NVR אחד כדי להשתמש באפשרות זו.</translation>
+        <translation>סבב NVR אינו זמין. יש לבחור יותר מ-NVR אחד כדי להשתמש באפשרות זו!</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>סבב תבניות אינו זמין! יש לבחור יותר מתבנית אחת כדי להשתמש באפשרות זו.</translation>
+        <translation>סבב תבניות אינו זמין. יש לבחור יותר מתבנית אחת כדי להשתמש באפשרות זו!</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -373,7 +373,7 @@
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>מספר הפורט אינו יכול להיות 0 או גדול מ-65536.</translation>
+        <translation>מספר הפורט אינו יכול להיות 0 או גדול מ-65536!</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="120">
         <source>SEQ ALL</source>
-        <translation>כל הסבבים</translation>
+        <translation>סבב מלא</translation>
     </message>
     <message id="121">
         <source>SEQ</source>
@@ -549,7 +549,7 @@
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
-        <translation>אין תמיכה במסך מלא או בשינוי חלוקה במצב סבב.</translation>
+        <translation>אין תמיכה במסך מלא או בשינוי חלוקה במצב סבב!</translation>
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
@@ -561,7 +561,7 @@
     </message>
     <message id="140">
         <source>Select a channel first.</source>
-        <translation>יש לבחור תחילה ערוץ.</translation>
+        <translation>יש לבחור תחילה ערוץ!</translation>
     </message>
     <message id="141">
         <source>Name Repeat!</source>
@@ -689,7 +689,7 @@
     </message>
     <message id="172">
         <source>Search Start Time</source>
-        <translation>תחילת חיפוש</translation>
+        <translation>זמן תחילת החיפוש</translation>
     </message>
     <message id="173">
         <source>Search by Event type</source>
@@ -773,7 +773,7 @@
     </message>
     <message id="193">
         <source>Return message: </source>
-        <translation>הודעה חוזרת: </translation>
+        <translation>הודעת תגובה: </translation>
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
@@ -881,11 +881,11 @@
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>הניגון נעצר! יש לבחור זמן חדש.</translation>
+        <translation>הניגון נעצר. יש לבחור זמן חדש!</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>אין תגובה! ניתן לנסות שוב או לבחור התקן אחר!</translation>
+        <translation>אין תגובה. ניתן לנסות שוב או לבחור התקן אחר!</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
@@ -893,11 +893,11 @@
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>לא ניתן לקבל זרם וידאו! יש לבחור ערוץ אחר.</translation>
+        <translation>לא ניתן לקבל זרם וידאו. יש לבחור ערוץ אחר!</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
-        <translation>אין הקלטה.</translation>
+        <translation>אין הקלטה!</translation>
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
@@ -945,7 +945,7 @@
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>ערוץ זה כבר מוצג במסך זה!</translation>
+        <translation>ערוץ זה כבר הוגדר לתצוגה במסך זה!</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -1305,7 +1305,7 @@
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
-        <translation>לא ניתן לפתוח בו-זמנית סבב ומסך מלא בצפייה החיה.</translation>
+        <translation>לא ניתן לפתוח בו-זמנית סבב ומסך מלא בצפייה החיה!</translation>
     </message>
     <message id="327">
         <source>No channel is selected!</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message id="334">
         <source>Start Up:</source>
-        <translation>הפעלה אוטומטית:</translation>
+        <translation>בהפעלה:</translation>
     </message>
     <message id="335">
         <source>Event Sync Time:</source>
@@ -1465,7 +1465,7 @@
     </message>
     <message id="368">
         <source>CH IP</source>
-        <translation>כתובת ערוץ</translation>
+        <translation>IP ערוץ</translation>
     </message>
     <message id="369">
         <source>CH Port</source>
@@ -1493,7 +1493,7 @@
     </message>
     <message id="375">
         <source>CH PTZ</source>
-        <translation>בקרת PTZ בערוץ</translation>
+        <translation>PTZ בערוץ</translation>
     </message>
     <message id="376">
         <source>CH audio</source>
@@ -1593,7 +1593,7 @@
     </message>
     <message id="400">
         <source>*Use Mouse drag the Device item into Intelligent detection List.</source>
-        <translation>*יש לגרור התקנים בעכבר אל רשימת האנליטיקה.</translation>
+        <translation>*יש לגרור התקנים באמצעות העכבר אל רשימת האנליטיקה.</translation>
     </message>
     <message id="401">
         <source>Device List:</source>
@@ -1869,11 +1869,11 @@
     </message>
     <message id="469">
         <source>Server IP</source>
-        <translation>כתובת השרת</translation>
+        <translation>IP של השרת</translation>
     </message>
     <message id="470">
         <source>Server Port</source>
-        <translation>פורט שרת</translation>
+        <translation>פורט השרת</translation>
     </message>
     <message id="471">
         <source>Text</source>
@@ -1897,7 +1897,7 @@
     </message>
     <message id="476">
         <source>Mail to</source>
-        <translation>דוא״ל אל</translation>
+        <translation>נמען</translation>
     </message>
     <message id="477">
         <source>FTP Setting</source>
@@ -1949,11 +1949,11 @@
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>הודעת הבדיקה נשלחה בהצלחה.</translation>
+        <translation>הודעת הבדיקה נשלחה בהצלחה!</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>שליחת הודעת הבדיקה נכשלה.</translation>
+        <translation>שליחת הודעת הבדיקה נכשלה!</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
@@ -1969,11 +1969,11 @@
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
-        <translation>ההתחברות לשרת ה-FTP הצליחה.</translation>
+        <translation>ההתחברות לשרת ה-FTP הצליחה!</translation>
     </message>
     <message id="495">
         <source>Connecting to ftp server failed.</source>
-        <translation>ההתחברות לשרת ה-FTP נכשלה.</translation>
+        <translation>ההתחברות לשרת ה-FTP נכשלה!</translation>
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
@@ -1989,11 +1989,11 @@
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>יש לבחור תחילה מספר מיקום.</translation>
+        <translation>יש לבחור תחילה מספר מיקום!</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>שם המיקום כבר בשימוש.</translation>
+        <translation>שם המיקום כבר בשימוש!</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2001,27 +2001,27 @@
     </message>
     <message id="502">
         <source>Can't Delete User.</source>
-        <translation>לא ניתן למחוק את המשתמש.</translation>
+        <translation>לא ניתן למחוק את המשתמש!</translation>
     </message>
     <message id="503">
         <source>Already Set.</source>
-        <translation>כבר הוגדר.</translation>
+        <translation>כבר הוגדר!</translation>
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>לא ניתן להגדיר יותר מ-16 הגדרות אנליטיקה</translation>
+        <translation>לא ניתן להוסיף יותר מ-16 הגדרות אנליטיקה!</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>הוספת ה-NVR נכשלה! יש להוסיף שוב.</translation>
+        <translation>הוספת ה-NVR נכשלה. יש להוסיף שוב!</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>גודל הקובץ אינו יכול לעלות על 5 MB</translation>
+        <translation>גודל הקובץ אינו יכול לעלות על 5 MB!</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>נשמר</translation>
+        <translation>השמירה הצליחה!</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
-        <translation>הרזולוציה אינה נתמכת.</translation>
+        <translation>הרזולוציה אינה נתמכת!</translation>
     </message>
     <message id="511">
         <source>Do you want to Save?</source>
@@ -2045,7 +2045,7 @@
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>אין הגדרה!</translation>
+        <translation>אין הגדרות!</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2057,7 +2057,7 @@
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>לא ניתן להתחבר לווידאו.</translation>
+        <translation>לא ניתן להתחבר לווידאו!</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2109,11 +2109,11 @@
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
-        <translation>הפעלה/ביטול של החלפה אוטומטית של קבוצת תצוגה.</translation>
+        <translation>הפעלה/השבתה של החלפה אוטומטית בין קבוצות להצגת וידאו.</translation>
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>הפעלה/ביטול של תצוגת וידאו מוגדלת.</translation>
+        <translation>הפעלה/השבתה של תצוגת וידאו מוגדלת.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>ל-NVR זה אין מזהה קבוצה לניגון!</translation>
+        <translation>לא ניתן לקבל מ-NVR זה מזהה קבוצה לניגון!</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>החיבור ל-SVD שנבחר נותק. הלוח ייסגר, ויש לבדוק את סטטוס ה-SVD!</translation>
+        <translation>החיבור ל-SVD שנבחר נותק. יש לסגור את הלוח ולבדוק את סטטוס ה-SVD!</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2277,7 +2277,7 @@
     </message>
     <message id="587">
         <source>Camera IP</source>
-        <translation>כתובת IP של המצלמה</translation>
+        <translation>IP של המצלמה</translation>
     </message>
     <message id="588">
         <source>Additional Camera Information</source>
@@ -2301,31 +2301,31 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>כתובת ה-IP של ה-NVR אינה יכולה להיות ריקה.</translation>
+        <translation>כתובת ה-IP של ה-NVR אינה יכולה להיות ריקה!</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
-        <translation>פורט ה-HTTP של ה-NVR אינו יכול להיות ריק.</translation>
+        <translation>פורט ה-HTTP של ה-NVR אינו יכול להיות ריק!</translation>
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>משתמש ה-NVR אינו יכול להיות ריק.</translation>
+        <translation>משתמש ה-NVR אינו יכול להיות ריק!</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
-        <translation>סיסמת ה-NVR אינה יכולה להיות ריקה.</translation>
+        <translation>סיסמת ה-NVR אינה יכולה להיות ריקה!</translation>
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>שגיאה בקבלת אזור הזמן! יש לזהות שוב.</translation>
+        <translation>שגיאה בקבלת אזור הזמן. יש לזהות שוב!</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
-        <translation>יש לבחור יצרן.</translation>
+        <translation>יש לבחור יצרן!</translation>
     </message>
     <message id="599">
         <source>IP Timeout.</source>
-        <translation>תם הזמן לתגובת ה-IP.</translation>
+        <translation>תם הזמן הקצוב לחיבור לכתובת ה-IP!</translation>
     </message>
     <message id="600">
         <source>Quality</source>
@@ -2369,7 +2369,7 @@
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>גרסת קושחה זו של ה-NVR אינה נתמכת. יש לעדכן לגרסה חדשה יותר.</translation>
+        <translation>גרסת קושחה זו של ה-NVR אינה נתמכת. יש לעדכן לגרסה חדשה יותר!</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
-        <translation>הגדרות המצלמה השתנו, יש לזהות מחדש.</translation>
+        <translation>הגדרות המצלמה השתנו. יש לזהות מחדש!</translation>
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>גודל הקובץ אינו יכול לעלות על 10 MB</translation>
+        <translation>גודל הקובץ אינו יכול לעלות על 10 MB!</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message id="674">
         <source>The account has reached the upper limit, for add new account you need to remove another account.</source>
-        <translation>מספר החשבונות הגיע למגבלה. כדי להוסיף חשבון חדש יש להסיר חשבון אחר.</translation>
+        <translation>מספר החשבונות הגיע למגבלה. כדי להוסיף חשבון חדש יש להסיר חשבון אחר!</translation>
     </message>
     <message id="675">
         <source>Object Loss</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message id="684">
         <source>Port number can't accept more then 32767.</source>
-        <translation>מספר הפורט אינו יכול להיות גדול מ-32767.</translation>
+        <translation>מספר הפורט אינו יכול להיות גדול מ-32767!</translation>
     </message>
     <message id="685">
         <source>Keep Ratio</source>
@@ -2613,7 +2613,7 @@
     </message>
     <message id="698">
         <source>Name can't be empty.</source>
-        <translation>השם אינו יכול להיות ריק.</translation>
+        <translation>השם אינו יכול להיות ריק!</translation>
     </message>
     <message id="699">
         <source>Object Counting</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message id="703">
         <source>Device settings have changes, please re-detect.</source>
-        <translation>הגדרות ההתקן השתנו, יש לזהות מחדש.</translation>
+        <translation>הגדרות ההתקן השתנו. יש לזהות מחדש!</translation>
     </message>
     <message id="704">
         <source>English and Digit Only</source>
@@ -2649,7 +2649,7 @@
     </message>
     <message id="707">
         <source>Member:</source>
-        <translation>חברים:</translation>
+        <translation>פריטים:</translation>
     </message>
     <message id="708">
         <source>Emap Position Assign</source>
@@ -2697,11 +2697,11 @@
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
-        <translation>להתקן זה אין ערוצים.</translation>
+        <translation>להתקן זה אין ערוצים!</translation>
     </message>
     <message id="720">
         <source>Please add channels  or  re-select the other device.</source>
-        <translation>יש להוסיף ערוצים או לבחור התקן אחר.</translation>
+        <translation>יש להוסיף ערוצים או לבחור התקן אחר!</translation>
     </message>
     <message id="721">
         <source>This device does not has any channel,Do you want to remove the device?</source>
@@ -2793,7 +2793,7 @@
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>אין יומן מערכת!</translation>
+        <translation>אין רשומות ביומן המערכת!</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
@@ -2869,7 +2869,7 @@
     </message>
     <message id="763">
         <source>Quad and Source View</source>
-        <translation>תצוגה מרובעת ומקור</translation>
+        <translation>תצוגה מרובעת ומקורית</translation>
     </message>
     <message id="764">
         <source>Double View</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>אין מספיק מסכים! אין תמיכה!</translation>
+        <translation>אין מספיק מסכים. הפעולה אינה נתמכת!</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
@@ -3133,7 +3133,7 @@
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
-        <translation>לא נבחר NVR.</translation>
+        <translation>לא נבחר NVR!</translation>
     </message>
     <message id="833">
         <source>Detect successful!</source>
@@ -3141,15 +3141,15 @@
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
-        <translation>הגדרת זיהוי המצלמה נכשלה בערוץ:</translation>
+        <translation>הגדרת הזיהוי של המצלמה נכשלה בערוצים:</translation>
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
-        <translation>פעולת הטריגר בוצעה.</translation>
+        <translation>פעולת הטריגר בוצעה!</translation>
     </message>
     <message id="836">
         <source>Event server has not set.</source>
-        <translation>שרת האירועים לא הוגדר.</translation>
+        <translation>שרת האירועים לא הוגדר!</translation>
     </message>
     <message id="837">
         <source>Privilege Setting</source>

@@ -33,7 +33,7 @@
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>デバイス接続エラーです。</translation>
+        <translation>デバイスとの接続でエラーが発生しました。</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>カメラのイベントサーバー設定エラーです。</translation>
+        <translation>カメラのイベントサーバー設定でエラーが発生しました。</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>スナップショットエラーです。</translation>
+        <translation>スナップショットでエラーが発生しました。</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>終了して設定ツールを開きますか？</translation>
+        <translation>終了して設定プログラムを開きますか？</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -273,7 +273,7 @@
     </message>
     <message id="68">
         <source>Video Wall default startup setting</source>
-        <translation>ビデオウォール既定起動設定</translation>
+        <translation>ビデオウォールの既定起動設定</translation>
     </message>
     <message id="69">
         <source>Intelligent Overview</source>
@@ -297,7 +297,7 @@
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>デバイス接続エラーです。</translation>
+        <translation>デバイスとの接続でエラーが発生しました。</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
@@ -677,7 +677,7 @@
     </message>
     <message id="169">
         <source>Log Event List</source>
-        <translation>履歴イベントリスト</translation>
+        <translation>イベント履歴リスト</translation>
     </message>
     <message id="170">
         <source>Search</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>録画データの受信に失敗しました</translation>
+        <translation>録画データの受信に失敗しました。</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -957,7 +957,7 @@
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
-        <translation>SVDの画面を切り替えています…</translation>
+        <translation>SVDの操作画面を切り替えています…</translation>
     </message>
     <message id="240">
         <source>NO.:</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message id="334">
         <source>Start Up:</source>
-        <translation>起動：</translation>
+        <translation>スタートアップ：</translation>
     </message>
     <message id="335">
         <source>Event Sync Time:</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message id="351">
         <source>CPU Performance:</source>
-        <translation>CPU性能：</translation>
+        <translation>CPUパフォーマンス：</translation>
     </message>
     <message id="352">
         <source>Login Windows then Auto Start up </source>
@@ -1465,7 +1465,7 @@
     </message>
     <message id="368">
         <source>CH IP</source>
-        <translation>CHのIP</translation>
+        <translation>CH IP</translation>
     </message>
     <message id="369">
         <source>CH Port</source>
@@ -1493,7 +1493,7 @@
     </message>
     <message id="375">
         <source>CH PTZ</source>
-        <translation>CHのPTZ</translation>
+        <translation>CH PTZ</translation>
     </message>
     <message id="376">
         <source>CH audio</source>
@@ -1785,7 +1785,7 @@
     </message>
     <message id="448">
         <source>System Start/Stop</source>
-        <translation>システム開始/停止</translation>
+        <translation>システム起動/停止</translation>
     </message>
     <message id="449">
         <source>Modify Setting of System</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>映像解析設定は16件までです</translation>
+        <translation>映像解析設定は16件までです。</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
@@ -2017,11 +2017,11 @@
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>ファイルサイズは5MBまでです</translation>
+        <translation>ファイルサイズは5MBまでです。</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>保存しました</translation>
+        <translation>保存しました。</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2181,11 +2181,11 @@
     </message>
     <message id="560">
         <source>All list</source>
-        <translation>全リスト</translation>
+        <translation>全項目リスト</translation>
     </message>
     <message id="561">
         <source>Selected list</source>
-        <translation>選択リスト</translation>
+        <translation>選択済みリスト</translation>
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
@@ -2193,7 +2193,7 @@
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
-        <translation>この画面に割り当てられていた機能は、自動的に画面 #1に移動します。</translation>
+        <translation>この画面に割り当てられていた機能は、自動的に画面#1に移動します。</translation>
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
@@ -2361,7 +2361,7 @@
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>検出エラーです。</translation>
+        <translation>検出中にエラーが発生しました。</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>映像フォーマットエラーです。</translation>
+        <translation>映像フォーマットが正しくありません。</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>ファイルサイズは10MBまでです</translation>
+        <translation>ファイルサイズは10MBまでです。</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2589,11 +2589,11 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>全画面の初期化</translation>
+        <translation>全画面の初期設定</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
-        <translation>起動画面レイアウト</translation>
+        <translation>起動時の画面レイアウト</translation>
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>画面数が足りません。対応していません。</translation>
+        <translation>画面数が足りないため、対応できません。</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
@@ -3209,7 +3209,7 @@
     </message>
     <message id="857">
         <source>Startup</source>
-        <translation>起動</translation>
+        <translation>スタートアップ</translation>
     </message>
     <message id="858">
         <source>Tooling</source>
@@ -3325,7 +3325,7 @@
     </message>
     <message id="886">
         <source>Facts of this installation</source>
-        <translation>このインストールの情報</translation>
+        <translation>このインストール環境の情報</translation>
     </message>
     <message id="887">
         <source>Show password</source>

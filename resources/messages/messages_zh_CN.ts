@@ -65,7 +65,7 @@
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
-        <translation>系统将无法继续工作。</translation>
+        <translation>系统将无法继续工作！</translation>
     </message>
     <message id="16">
         <source>Update Database ...</source>
@@ -169,11 +169,11 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>用户栏为空！</translation>
+        <translation>用户名为空！</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>密码栏为空！</translation>
+        <translation>密码为空！</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>是否退出并打开配置工具？</translation>
+        <translation>是否退出并打开设置程序？</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -341,27 +341,27 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>通道轮巡不可用！使用此功能时请至少选择两个通道。</translation>
+        <translation>通道轮巡不可用，使用此功能时请至少选择两个通道！</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>NVR 轮巡不可用！使用此功能时请至少选择两台 NVR。</translation>
+        <translation>NVR 轮巡不可用，使用此功能时请至少选择两台 NVR！</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>视图轮巡不可用！使用此功能时请至少选择两个视图。</translation>
+        <translation>视图轮巡不可用，使用此功能时请至少选择两个视图！</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
-        <translation>是否启用按通道轮巡？</translation>
+        <translation>是否启用“按通道轮巡”？</translation>
     </message>
     <message id="89">
         <source>Do you want to enable SEQ by NVR?</source>
-        <translation>是否启用按 NVR 轮巡？</translation>
+        <translation>是否启用“按 NVR 轮巡”？</translation>
     </message>
     <message id="90">
         <source>Do you want to enable SEQ by Pattern?</source>
-        <translation>是否启用按视图轮巡？</translation>
+        <translation>是否启用“按视图轮巡”？</translation>
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
@@ -373,7 +373,7 @@
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>端口号不能为 0，也不能超过 65536。</translation>
+        <translation>端口号不能为 0，也不能超过 65536！</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -549,7 +549,7 @@
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
-        <translation>轮巡模式下不支持全屏模式，也无法更改分割模式。</translation>
+        <translation>轮巡模式下不支持全屏模式，也无法更改分割模式！</translation>
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
@@ -561,7 +561,7 @@
     </message>
     <message id="140">
         <source>Select a channel first.</source>
-        <translation>请先选择通道。</translation>
+        <translation>请先选择通道！</translation>
     </message>
     <message id="141">
         <source>Name Repeat!</source>
@@ -777,7 +777,7 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR 无回放资源！</translation>
+        <translation>NVR 无可用的回放资源！</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
@@ -881,11 +881,11 @@
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>播放已停止！请选择新的时间。</translation>
+        <translation>播放已停止，请选择新的时间！</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>无响应！请重试或选择其他设备！</translation>
+        <translation>无响应，请重试或选择其他设备！</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
@@ -893,11 +893,11 @@
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>无法获取视频流！请选择其他通道。</translation>
+        <translation>无法获取视频流，请选择其他通道！</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
-        <translation>没有录像数据。</translation>
+        <translation>没有录像数据！</translation>
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
@@ -1305,7 +1305,7 @@
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
-        <translation>实时监控轮巡与全屏不能同时打开。</translation>
+        <translation>实时监控轮巡与全屏不能同时打开！</translation>
     </message>
     <message id="327">
         <source>No channel is selected!</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message id="334">
         <source>Start Up:</source>
-        <translation>启动：</translation>
+        <translation>启动设置：</translation>
     </message>
     <message id="335">
         <source>Event Sync Time:</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>确认密码不一致，请重新检查！</translation>
+        <translation>两次输入的密码不一致，请重新检查！</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message id="440">
         <source>User Detail List</source>
-        <translation>用户详细列表</translation>
+        <translation>用户详情列表</translation>
     </message>
     <message id="441">
         <source>Group List</source>
@@ -1949,11 +1949,11 @@
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>测试邮件发送成功。</translation>
+        <translation>测试邮件发送成功！</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>测试邮件发送失败。</translation>
+        <translation>测试邮件发送失败！</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
@@ -1969,11 +1969,11 @@
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
-        <translation>连接 FTP 服务器成功。</translation>
+        <translation>连接 FTP 服务器成功！</translation>
     </message>
     <message id="495">
         <source>Connecting to ftp server failed.</source>
-        <translation>连接 FTP 服务器失败。</translation>
+        <translation>连接 FTP 服务器失败！</translation>
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
@@ -1989,11 +1989,11 @@
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>请先选择预置点编号。</translation>
+        <translation>请先选择预置点编号！</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>该预置点名称已被使用。</translation>
+        <translation>该预置点名称已被使用！</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2001,27 +2001,27 @@
     </message>
     <message id="502">
         <source>Can't Delete User.</source>
-        <translation>无法删除用户。</translation>
+        <translation>无法删除用户！</translation>
     </message>
     <message id="503">
         <source>Already Set.</source>
-        <translation>已设置。</translation>
+        <translation>已设置！</translation>
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>智能侦测设置不能超过 16 个</translation>
+        <translation>智能侦测设置不能超过 16 个！</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>添加 NVR 失败！请重新添加。</translation>
+        <translation>添加 NVR 失败，请重新添加！</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>文件大小不能超过 5MB</translation>
+        <translation>文件大小不能超过 5MB！</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>保存成功</translation>
+        <translation>保存成功！</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
-        <translation>不支持该分辨率。</translation>
+        <translation>不支持该分辨率！</translation>
     </message>
     <message id="511">
         <source>Do you want to Save?</source>
@@ -2057,7 +2057,7 @@
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>无法连接视频。</translation>
+        <translation>无法连接视频！</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>该 NVR 无法获取组 ID 进行回放！</translation>
+        <translation>该 NVR 无法获取回放所需的组 ID！</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
@@ -2301,31 +2301,31 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>NVR IP 不能为空。</translation>
+        <translation>NVR IP 不能为空！</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
-        <translation>NVR HTTP 端口不能为空。</translation>
+        <translation>NVR HTTP 端口不能为空！</translation>
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>NVR 用户不能为空。</translation>
+        <translation>NVR 用户不能为空！</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
-        <translation>NVR 密码不能为空。</translation>
+        <translation>NVR 密码不能为空！</translation>
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>获取时区错误！请重新检测。</translation>
+        <translation>获取时区错误，请重新检测！</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
-        <translation>请选择品牌。</translation>
+        <translation>请选择品牌！</translation>
     </message>
     <message id="599">
         <source>IP Timeout.</source>
-        <translation>IP 连接超时。</translation>
+        <translation>IP 连接超时！</translation>
     </message>
     <message id="600">
         <source>Quality</source>
@@ -2369,7 +2369,7 @@
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>不支持该 NVR 固件版本，请更新到较新版本。</translation>
+        <translation>不支持该 NVR 固件版本，请更新到较新版本！</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
-        <translation>摄像机设置已更改，请重新检测。</translation>
+        <translation>摄像机设置已更改，请重新检测！</translation>
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>文件大小不能超过 10MB</translation>
+        <translation>文件大小不能超过 10MB！</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message id="674">
         <source>The account has reached the upper limit, for add new account you need to remove another account.</source>
-        <translation>账号数已达上限，如需添加新账号，请先移除其他账号。</translation>
+        <translation>账号数已达上限，如需添加新账号，请先移除其他账号！</translation>
     </message>
     <message id="675">
         <source>Object Loss</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message id="684">
         <source>Port number can't accept more then 32767.</source>
-        <translation>端口号不能超过 32767。</translation>
+        <translation>端口号不能超过 32767！</translation>
     </message>
     <message id="685">
         <source>Keep Ratio</source>
@@ -2589,11 +2589,11 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>全屏初始化</translation>
+        <translation>全屏初始设置</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
-        <translation>启动屏幕布局</translation>
+        <translation>启动时的屏幕布局</translation>
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
@@ -2613,7 +2613,7 @@
     </message>
     <message id="698">
         <source>Name can't be empty.</source>
-        <translation>名称不能为空。</translation>
+        <translation>名称不能为空！</translation>
     </message>
     <message id="699">
         <source>Object Counting</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message id="703">
         <source>Device settings have changes, please re-detect.</source>
-        <translation>设备设置已更改，请重新检测。</translation>
+        <translation>设备设置已更改，请重新检测！</translation>
     </message>
     <message id="704">
         <source>English and Digit Only</source>
@@ -2697,11 +2697,11 @@
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
-        <translation>该设备没有任何通道。</translation>
+        <translation>该设备没有任何通道！</translation>
     </message>
     <message id="720">
         <source>Please add channels  or  re-select the other device.</source>
-        <translation>请添加通道或重新选择其他设备。</translation>
+        <translation>请添加通道或重新选择其他设备！</translation>
     </message>
     <message id="721">
         <source>This device does not has any channel,Do you want to remove the device?</source>
@@ -2745,7 +2745,7 @@
     </message>
     <message id="732">
         <source>NVR Select</source>
-        <translation>NVR 选择</translation>
+        <translation>选择 NVR</translation>
     </message>
     <message id="733">
         <source>Condition</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>屏幕数量不足！不支持！</translation>
+        <translation>屏幕数量不足，不支持此功能！</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
@@ -3133,7 +3133,7 @@
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
-        <translation>未选择任何 NVR。</translation>
+        <translation>未选择任何 NVR！</translation>
     </message>
     <message id="833">
         <source>Detect successful!</source>
@@ -3145,11 +3145,11 @@
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
-        <translation>触发动作已完成。</translation>
+        <translation>触发动作已完成！</translation>
     </message>
     <message id="836">
         <source>Event server has not set.</source>
-        <translation>尚未设置事件服务器。</translation>
+        <translation>尚未设置事件服务器！</translation>
     </message>
     <message id="837">
         <source>Privilege Setting</source>
@@ -3209,7 +3209,7 @@
     </message>
     <message id="857">
         <source>Startup</source>
-        <translation>启动</translation>
+        <translation>启动设置</translation>
     </message>
     <message id="858">
         <source>Tooling</source>

@@ -65,7 +65,7 @@
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
-        <translation>系統將無法繼續運作。</translation>
+        <translation>系統將無法繼續運作！</translation>
     </message>
     <message id="16">
         <source>Update Database ...</source>
@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>是否要結束並開啟設定工具？</translation>
+        <translation>是否要結束並開啟設定程式？</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -341,27 +341,27 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>無法使用頻道輪播！使用此功能時請至少選擇兩個頻道。</translation>
+        <translation>無法使用頻道輪播，使用此功能時請至少選擇兩個頻道！</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>無法使用 NVR 輪播！使用此功能時請至少選擇兩台 NVR。</translation>
+        <translation>無法使用 NVR 輪播，使用此功能時請至少選擇兩台 NVR！</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>無法使用畫面組合輪播！使用此功能時請至少選擇兩個畫面組合。</translation>
+        <translation>無法使用畫面組合輪播，使用此功能時請至少選擇兩個畫面組合！</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
-        <translation>是否要啟用依頻道輪播？</translation>
+        <translation>是否要啟用「依頻道輪播」？</translation>
     </message>
     <message id="89">
         <source>Do you want to enable SEQ by NVR?</source>
-        <translation>是否要啟用依 NVR 輪播？</translation>
+        <translation>是否要啟用「依 NVR 輪播」？</translation>
     </message>
     <message id="90">
         <source>Do you want to enable SEQ by Pattern?</source>
-        <translation>是否要啟用依畫面組合輪播？</translation>
+        <translation>是否要啟用「依畫面組合輪播」？</translation>
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
@@ -373,7 +373,7 @@
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>連接埠號不可為 0，也不可超過 65536。</translation>
+        <translation>連接埠號不可為 0，也不可超過 65536！</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -549,7 +549,7 @@
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
-        <translation>輪播模式下不支援全螢幕模式，也無法變更分割模式。</translation>
+        <translation>輪播模式下不支援全螢幕模式，也無法變更分割模式！</translation>
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
@@ -561,7 +561,7 @@
     </message>
     <message id="140">
         <source>Select a channel first.</source>
-        <translation>請先選擇頻道。</translation>
+        <translation>請先選擇頻道！</translation>
     </message>
     <message id="141">
         <source>Name Repeat!</source>
@@ -729,7 +729,7 @@
     </message>
     <message id="182">
         <source>On-Line</source>
-        <translation>上線</translation>
+        <translation>線上</translation>
     </message>
     <message id="183">
         <source>Channel Name</source>
@@ -777,7 +777,7 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR 無回放資源！</translation>
+        <translation>NVR 無可用的回放資源！</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
@@ -881,11 +881,11 @@
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>播放已停止！請選擇新的時間。</translation>
+        <translation>播放已停止，請選擇新的時間！</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>無回應！請重試或選擇其他裝置！</translation>
+        <translation>無回應，請重試或選擇其他裝置！</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
@@ -893,11 +893,11 @@
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>無法取得影像串流！請選擇其他頻道。</translation>
+        <translation>無法取得影像串流，請選擇其他頻道！</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
-        <translation>沒有錄影資料。</translation>
+        <translation>沒有錄影資料！</translation>
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
@@ -1185,7 +1185,7 @@
     </message>
     <message id="296">
         <source>Initial NVR Value...</source>
-        <translation>正在初始化 NVR 值…</translation>
+        <translation>正在初始化 NVR 參數…</translation>
     </message>
     <message id="297">
         <source>Add Success!</source>
@@ -1305,7 +1305,7 @@
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
-        <translation>即時監看輪播與全螢幕無法同時開啟。</translation>
+        <translation>即時監看輪播與全螢幕無法同時開啟！</translation>
     </message>
     <message id="327">
         <source>No channel is selected!</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message id="334">
         <source>Start Up:</source>
-        <translation>啟動：</translation>
+        <translation>啟動設定：</translation>
     </message>
     <message id="335">
         <source>Event Sync Time:</source>
@@ -1429,7 +1429,7 @@
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>密碼確認不一致，請再次檢查！</translation>
+        <translation>兩次輸入的密碼不一致，請重新檢查！</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1669,11 +1669,11 @@
     </message>
     <message id="419">
         <source>Mail 1</source>
-        <translation>郵件 1</translation>
+        <translation>電子郵件 1</translation>
     </message>
     <message id="420">
         <source>Mail 2</source>
-        <translation>郵件 2</translation>
+        <translation>電子郵件 2</translation>
     </message>
     <message id="421">
         <source>Cell Phone</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message id="468">
         <source>Mail Addrrss</source>
-        <translation>郵件地址</translation>
+        <translation>電子郵件地址</translation>
     </message>
     <message id="469">
         <source>Server IP</source>
@@ -1945,15 +1945,15 @@
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>郵件地址不可為空白！</translation>
+        <translation>電子郵件地址不可為空白！</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>測試郵件傳送成功。</translation>
+        <translation>測試郵件傳送成功！</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>測試郵件傳送失敗。</translation>
+        <translation>測試郵件傳送失敗！</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
@@ -1969,11 +1969,11 @@
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
-        <translation>連線至 FTP 伺服器成功。</translation>
+        <translation>連線至 FTP 伺服器成功！</translation>
     </message>
     <message id="495">
         <source>Connecting to ftp server failed.</source>
-        <translation>連線至 FTP 伺服器失敗。</translation>
+        <translation>連線至 FTP 伺服器失敗！</translation>
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
@@ -1989,11 +1989,11 @@
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>請先選擇預設點編號。</translation>
+        <translation>請先選擇預設點編號！</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>此預設點名稱已被使用。</translation>
+        <translation>此預設點名稱已被使用！</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2001,27 +2001,27 @@
     </message>
     <message id="502">
         <source>Can't Delete User.</source>
-        <translation>無法刪除使用者。</translation>
+        <translation>無法刪除使用者！</translation>
     </message>
     <message id="503">
         <source>Already Set.</source>
-        <translation>已設定。</translation>
+        <translation>已設定！</translation>
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>智慧偵測設定不可超過 16 個</translation>
+        <translation>智慧偵測設定不可超過 16 個！</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>新增 NVR 失敗！請重新新增。</translation>
+        <translation>新增 NVR 失敗，請重新新增！</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>檔案大小不可超過 5MB</translation>
+        <translation>檔案大小不可超過 5MB！</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>儲存成功</translation>
+        <translation>儲存成功！</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
-        <translation>不支援此解析度。</translation>
+        <translation>不支援此解析度！</translation>
     </message>
     <message id="511">
         <source>Do you want to Save?</source>
@@ -2057,7 +2057,7 @@
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>無法連線至影像。</translation>
+        <translation>無法連線至影像！</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>此 NVR 無法取得群組 ID 進行回放！</translation>
+        <translation>此 NVR 無法取得回放所需的群組 ID！</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
@@ -2301,31 +2301,31 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>NVR IP 不可為空白。</translation>
+        <translation>NVR IP 不可為空白！</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
-        <translation>NVR HTTP 連接埠不可為空白。</translation>
+        <translation>NVR HTTP 連接埠不可為空白！</translation>
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>NVR 使用者不可為空白。</translation>
+        <translation>NVR 使用者不可為空白！</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
-        <translation>NVR 密碼不可為空白。</translation>
+        <translation>NVR 密碼不可為空白！</translation>
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>取得時區錯誤！請重新偵測。</translation>
+        <translation>取得時區錯誤，請重新偵測！</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
-        <translation>請選擇廠牌。</translation>
+        <translation>請選擇廠牌！</translation>
     </message>
     <message id="599">
         <source>IP Timeout.</source>
-        <translation>IP 連線逾時。</translation>
+        <translation>IP 連線逾時！</translation>
     </message>
     <message id="600">
         <source>Quality</source>
@@ -2369,7 +2369,7 @@
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>不支援此 NVR 韌體版本，請更新至較新版本。</translation>
+        <translation>不支援此 NVR 韌體版本，請更新至較新版本！</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
@@ -2393,7 +2393,7 @@
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
-        <translation>攝影機設定已變更，請重新偵測。</translation>
+        <translation>攝影機設定已變更，請重新偵測！</translation>
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>檔案大小不可超過 10MB</translation>
+        <translation>檔案大小不可超過 10MB！</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2453,11 +2453,11 @@
     </message>
     <message id="642">
         <source>*Double Click Windows to change Map images.</source>
-        <translation>*按兩下視窗以變更地圖影像。</translation>
+        <translation>*按兩下視窗以變更地圖圖片。</translation>
     </message>
     <message id="643">
         <source>Select an image file</source>
-        <translation>選擇影像檔</translation>
+        <translation>選擇圖片檔</translation>
     </message>
     <message id="645">
         <source>User Setting</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message id="674">
         <source>The account has reached the upper limit, for add new account you need to remove another account.</source>
-        <translation>帳號數已達上限，若要新增帳號，請先移除其他帳號。</translation>
+        <translation>帳號數已達上限，若要新增帳號，請先移除其他帳號！</translation>
     </message>
     <message id="675">
         <source>Object Loss</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message id="684">
         <source>Port number can't accept more then 32767.</source>
-        <translation>連接埠號不可超過 32767。</translation>
+        <translation>連接埠號不可超過 32767！</translation>
     </message>
     <message id="685">
         <source>Keep Ratio</source>
@@ -2589,11 +2589,11 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>全螢幕初始化</translation>
+        <translation>全螢幕初始設定</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
-        <translation>啟動螢幕配置</translation>
+        <translation>啟動時的螢幕配置</translation>
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
@@ -2613,7 +2613,7 @@
     </message>
     <message id="698">
         <source>Name can't be empty.</source>
-        <translation>名稱不可為空白。</translation>
+        <translation>名稱不可為空白！</translation>
     </message>
     <message id="699">
         <source>Object Counting</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message id="703">
         <source>Device settings have changes, please re-detect.</source>
-        <translation>裝置設定已變更，請重新偵測。</translation>
+        <translation>裝置設定已變更，請重新偵測！</translation>
     </message>
     <message id="704">
         <source>English and Digit Only</source>
@@ -2697,11 +2697,11 @@
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
-        <translation>此裝置沒有任何頻道。</translation>
+        <translation>此裝置沒有任何頻道！</translation>
     </message>
     <message id="720">
         <source>Please add channels  or  re-select the other device.</source>
-        <translation>請新增頻道或重新選擇其他裝置。</translation>
+        <translation>請新增頻道或重新選擇其他裝置！</translation>
     </message>
     <message id="721">
         <source>This device does not has any channel,Do you want to remove the device?</source>
@@ -2897,7 +2897,7 @@
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>螢幕數量不足！不支援！</translation>
+        <translation>螢幕數量不足，不支援此功能！</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
@@ -3133,7 +3133,7 @@
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
-        <translation>未選擇任何 NVR。</translation>
+        <translation>未選擇任何 NVR！</translation>
     </message>
     <message id="833">
         <source>Detect successful!</source>
@@ -3145,11 +3145,11 @@
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
-        <translation>觸發動作已完成。</translation>
+        <translation>觸發動作已完成！</translation>
     </message>
     <message id="836">
         <source>Event server has not set.</source>
-        <translation>尚未設定事件伺服器。</translation>
+        <translation>尚未設定事件伺服器！</translation>
     </message>
     <message id="837">
         <source>Privilege Setting</source>
@@ -3209,7 +3209,7 @@
     </message>
     <message id="857">
         <source>Startup</source>
-        <translation>啟動</translation>
+        <translation>啟動設定</translation>
     </message>
     <message id="858">
         <source>Tooling</source>
