@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>Seznam ID CGI je plný!</translation>
+        <translation>Seznam ID CGI je plný.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>Chybné uživatelské jméno nebo heslo!</translation>
+        <translation>Chybné uživatelské jméno nebo heslo.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>Chyba připojení k zařízení!</translation>
+        <translation>Chyba připojení k zařízení.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>Značka zařízení není podporována!</translation>
+        <translation>Značka zařízení není podporována.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>Odeslání příkazu CGI se nezdařilo!</translation>
+        <translation>Odeslání příkazu CGI se nezdařilo.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>Program je již spuštěn!</translation>
+        <translation>Program je již spuštěn.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>Konfigurátor je již otevřen. Zavřete jej!</translation>
+        <translation>Konfigurátor je již otevřen. Zavřete jej.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>Nesprávná verze databáze! Chcete databázi nyní obnovit do výchozího stavu?</translation>
+        <translation>Nesprávná verze databáze. Chcete databázi nyní obnovit do výchozího stavu?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>Časový limit detekce zařízení vypršel!</translation>
+        <translation>Časový limit detekce zařízení vypršel.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>Kanál SVR byl odebrán. Detekujte SVR znovu!</translation>
+        <translation>Kanál SVR byl odebrán. Detekujte SVR znovu.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Povolte přesměrování portů UPnP v SVR!</translation>
+        <translation>Povolte přesměrování portů UPnP v SVR.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>Pole uživatele je prázdné!</translation>
+        <translation>Pole uživatele je prázdné.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>Pole hesla je prázdné!</translation>
+        <translation>Pole hesla je prázdné.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>Nesprávný uživatelský účet nebo heslo!</translation>
+        <translation>Nesprávný uživatelský účet nebo heslo.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -189,7 +189,7 @@
     </message>
     <message id="47">
         <source>Event-Triggered Notification</source>
-        <translation>Oznámení při události</translation>
+        <translation>Oznámení o události</translation>
     </message>
     <message id="48">
         <source>Auto Search Notice</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>Chyba nastavení serveru událostí kamery!</translation>
+        <translation>Chyba nastavení serveru událostí kamery.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>Chyba snímku!</translation>
+        <translation>Chyba snímku.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>Zařízení nalezeno!</translation>
+        <translation>Zařízení nalezeno.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>Chybné uživatelské jméno nebo heslo!</translation>
+        <translation>Chybné uživatelské jméno nebo heslo.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>Značka není podporována!</translation>
+        <translation>Značka není podporována.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>Kamera není podporována!</translation>
+        <translation>Kamera není podporována.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>Chyba připojení k zařízení!</translation>
+        <translation>Chyba připojení k zařízení.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>Časový limit detekce zařízení vypršel!</translation>
+        <translation>Časový limit detekce zařízení vypršel.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>Nelze se připojit k serveru!</translation>
+        <translation>Nelze se připojit k serveru.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>Služba ještě není připojena!</translation>
+        <translation>Služba ještě není připojena.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>Zařízení této řady nelze přidat opakovaně!</translation>
+        <translation>Zařízení této řady nelze přidat opakovaně.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -337,19 +337,19 @@
     </message>
     <message id="84">
         <source>SEQ function is starting, do you want to continue to start SEQ content setting, which will stop SEQ function?</source>
-        <translation>Funkce sekvence je spuštěna. Chcete otevřít nastavení obsahu sekvence, čímž se funkce zastaví?</translation>
+        <translation>Funkce sekvence je spuštěna. Otevřením nastavení obsahu sekvence se zastaví. Chcete pokračovat?</translation>
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>Sekvence kanálů není dostupná! K použití této funkce vyberte více než jeden kanál.</translation>
+        <translation>Sekvence kanálů není dostupná. K použití této funkce vyberte více než jeden kanál.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>Sekvence NVR není dostupná! K použití této funkce vyberte více než jeden NVR.</translation>
+        <translation>Sekvence NVR není dostupná. K použití této funkce vyberte více než jeden NVR.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>Sekvence šablon není dostupná! K použití této funkce vyberte více než jednu šablonu.</translation>
+        <translation>Sekvence šablon není dostupná. K použití této funkce vyberte více než jednu šablonu.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,11 +365,11 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>Počet nastavení událostí kamer nesmí překročit 32!</translation>
+        <translation>Počet nastavení událostí kamer nesmí překročit 32.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>Nejprve přidejte NVR!</translation>
+        <translation>Nejprve přidejte NVR.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
@@ -393,7 +393,7 @@
     </message>
     <message id="98">
         <source>Storage Path</source>
-        <translation>Cesta úložiště</translation>
+        <translation>Cesta k úložišti</translation>
     </message>
     <message id="99">
         <source>Select a Path</source>
@@ -553,7 +553,7 @@
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>Celá obrazovka je spuštěna. Nejprve ji zavřete!</translation>
+        <translation>Celá obrazovka je zapnuta. Nejprve ji zavřete.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -565,7 +565,7 @@
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>Název se opakuje!</translation>
+        <translation>Tento název již existuje.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>Pořízení snímku se nezdařilo!</translation>
+        <translation>Pořízení snímku se nezdařilo.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR nemá prostředky k přehrávání!</translation>
+        <translation>NVR nemá prostředky k přehrávání.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>Požadavek na přehrávání se nezdařil!</translation>
+        <translation>Požadavek na přehrávání se nezdařil.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Příjem záznamu se nezdařil</translation>
+        <translation>Příjem záznamu se nezdařil.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,23 +877,23 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>Není žádný záznam k zobrazení!</translation>
+        <translation>Není žádný záznam k zobrazení.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>Přehrávání zastaveno! Vyberte nový čas.</translation>
+        <translation>Přehrávání zastaveno. Vyberte nový čas.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>Žádná odezva! Zkuste to znovu nebo vyberte jiné zařízení!</translation>
+        <translation>Žádná odezva. Zkuste to znovu nebo vyberte jiné zařízení.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>Odpojeno! </translation>
+        <translation>Odpojeno. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>Nelze získat videostream! Vyberte jiný kanál.</translation>
+        <translation>Nelze získat videostream. Vyberte jiný kanál.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
@@ -901,7 +901,7 @@
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
-        <translation>Záznam se aktualizuje, čekejte.</translation>
+        <translation>Záznam se aktualizuje, počkejte.</translation>
     </message>
     <message id="226">
         <source>Convert to AVI</source>
@@ -909,19 +909,19 @@
     </message>
     <message id="227">
         <source>Do you want to stop the conversion of avi file ?</source>
-        <translation>Chcete zastavit převod souboru AVI?</translation>
+        <translation>Chcete zastavit převod do AVI?</translation>
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>Převod souboru AVI dokončen! Soubor je… </translation>
+        <translation>Převod do AVI dokončen. Soubor je… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>Probíhá převod souboru AVI!</translation>
+        <translation>Probíhá převod do AVI.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>Převod do AVI se nezdařil!</translation>
+        <translation>Převod do AVI se nezdařil.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>Není nastaven žádný SVD. Přidejte SVD, který chcete ovládat!</translation>
+        <translation>Není nastaven žádný SVD. Přidejte SVD, který chcete ovládat.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>Tento kanál je již na této obrazovce zobrazen!</translation>
+        <translation>Tento kanál je již na této obrazovce zobrazen.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>Kliknutím sem se znovu připojíte!</translation>
+        <translation>Kliknutím sem se znovu připojíte.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message id="285">
         <source>Valid Channel:</source>
-        <translation>Platný kanál:</translation>
+        <translation>Platné kanály:</translation>
     </message>
     <message id="286">
         <source>Sync With NVR</source>
@@ -1173,7 +1173,7 @@
     </message>
     <message id="293">
         <source>Get Capability...</source>
-        <translation>Načítání schopností…</translation>
+        <translation>Načítání podporovaných funkcí…</translation>
     </message>
     <message id="294">
         <source>Get Channel Info...</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>Úspěšně přidáno!</translation>
+        <translation>Úspěšně přidáno.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Hlavní náhled je otevřen. Nejprve jej zavřete!</translation>
+        <translation>Hlavní náhled je otevřen. Nejprve jej zavřete.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>Je třeba nastavit název nebo seznam kanálů!</translation>
+        <translation>Je třeba nastavit název nebo seznam kanálů.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
@@ -1309,15 +1309,15 @@
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>Není vybrán žádný kanál!</translation>
+        <translation>Není vybrán žádný kanál.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>Vybraný čas je mimo rozsah dat!</translation>
+        <translation>Vybraný čas je mimo rozsah dat.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR je neplatný!</translation>
+        <translation>NVR je neplatný.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message id="351">
         <source>CPU Performance:</source>
-        <translation>Výkon CPU:</translation>
+        <translation>Vytížení CPU:</translation>
     </message>
     <message id="352">
         <source>Login Windows then Auto Start up </source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>NVR se připojuje, chvíli počkejte a spusťte znovu!</translation>
+        <translation>NVR se připojuje, chvíli počkejte a spusťte znovu.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR je offline, vyberte jiný NVR nebo ověřte stav jeho připojení!</translation>
+        <translation>NVR je offline, vyberte jiný NVR nebo ověřte stav jeho připojení.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>Výstupní zařízení bylo odebráno!</translation>
+        <translation>Výstupní zařízení bylo odebráno.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>Hesla se neshodují, zkontrolujte je!</translation>
+        <translation>Hesla se neshodují, zkontrolujte je.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1453,7 +1453,7 @@
     </message>
     <message id="365">
         <source>Power</source>
-        <translation>Napájení</translation>
+        <translation>Oprávnění</translation>
     </message>
     <message id="366">
         <source>CH</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message id="377">
         <source>Detect List</source>
-        <translation>Seznam detekce</translation>
+        <translation>Seznam detekovaných</translation>
     </message>
     <message id="378">
         <source>Advance Control </source>
@@ -1609,7 +1609,7 @@
     </message>
     <message id="404">
         <source>Motion Enable List:</source>
-        <translation>Seznam povolených detekcí pohybu:</translation>
+        <translation>Zapnuté detekce pohybu:</translation>
     </message>
     <message id="405">
         <source>Clear All</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message id="440">
         <source>User Detail List</source>
-        <translation>Podrobný seznam uživatelů</translation>
+        <translation>Podrobnosti uživatelů</translation>
     </message>
     <message id="441">
         <source>Group List</source>
@@ -1769,11 +1769,11 @@
     </message>
     <message id="444">
         <source>Modify User</source>
-        <translation>Změnit uživatele</translation>
+        <translation>Upravit uživatele</translation>
     </message>
     <message id="445">
         <source>Modify Group</source>
-        <translation>Změnit skupinu</translation>
+        <translation>Upravit skupinu</translation>
     </message>
     <message id="446">
         <source>System Event Trigger Action</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>Nastavení serveru HTTP se nezdařilo! Chcete odebrat všechny servery HTTP?</translation>
+        <translation>Nastavení serveru HTTP se nezdařilo. Chcete odebrat všechny servery HTTP?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>Počet nesmí být větší než 16!</translation>
+        <translation>Počet nesmí být větší než 16.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,23 +1929,23 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>Jméno odesílatele nesmí být prázdné!</translation>
+        <translation>Jméno odesílatele nesmí být prázdné.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>Poštovní server nesmí být prázdný!</translation>
+        <translation>Pole poštovního serveru nesmí být prázdné.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>Uživatel nesmí být prázdný!</translation>
+        <translation>Pole uživatele nesmí být prázdné.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>Heslo nesmí být prázdné!</translation>
+        <translation>Heslo nesmí být prázdné.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>E-mailová adresa nesmí být prázdná!</translation>
+        <translation>E-mailová adresa nesmí být prázdná.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
@@ -1957,15 +1957,15 @@
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>IP serveru nesmí být prázdná!</translation>
+        <translation>Adresa IP serveru nesmí být prázdná.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>Port serveru nesmí být prázdný!</translation>
+        <translation>Port serveru nesmí být prázdný.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>Kořenová cesta nesmí být prázdná!</translation>
+        <translation>Kořenová cesta nesmí být prázdná.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
@@ -1977,15 +1977,15 @@
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>Zpráva nesmí být prázdná!</translation>
+        <translation>Zpráva nesmí být prázdná.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>Popis zvuku nesmí být prázdný!</translation>
+        <translation>Popis zvuku nesmí být prázdný.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>Cesta ke zvukovému souboru nesmí být prázdná!</translation>
+        <translation>Cesta ke zvukovému souboru nesmí být prázdná.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
@@ -2009,15 +2009,15 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>Počet nastavení videoanalýzy nesmí překročit 16</translation>
+        <translation>Počet nastavení videoanalýzy nesmí překročit 16.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>Přidání NVR se nezdařilo! Přidejte jej znovu.</translation>
+        <translation>Přidání NVR se nezdařilo. Přidejte jej znovu.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Velikost souboru nesmí překročit 5 MB</translation>
+        <translation>Velikost souboru nesmí překročit 5 MB.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>Kanál nepodporuje detekci pohybu nebo není připojen!</translation>
+        <translation>Kanál nepodporuje detekci pohybu nebo není připojen.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>Žádné nastavení!</translation>
+        <translation>Žádné nastavení.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,7 +2053,7 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>Akce událostí ještě nejsou nastaveny!</translation>
+        <translation>Akce událostí ještě nejsou nastaveny.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>Zpráva byla úspěšně odeslána!</translation>
+        <translation>Zpráva byla úspěšně odeslána.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>Odeslání zprávy se nezdařilo!</translation>
+        <translation>Odeslání zprávy se nezdařilo.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>Pro vybraný čas není žádný záznam!</translation>
+        <translation>Pro vybraný čas není žádný záznam.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>Tento NVR nemůže získat ID skupiny k přehrávání!</translation>
+        <translation>Tento NVR nemůže získat ID skupiny k přehrávání.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>Vybraný SVD byl odpojen. Zavřete panel a ověřte stav SVD!</translation>
+        <translation>Vybraný SVD byl odpojen. Zavřete panel a ověřte stav SVD.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>Název NVR nesmí být prázdný!</translation>
+        <translation>Název NVR nesmí být prázdný.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>Nesprávná adresa IP nebo název hostitele!</translation>
+        <translation>Nesprávná adresa IP nebo název hostitele.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR neexistuje!</translation>
+        <translation>NVR neexistuje.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>Nesprávně nastavený port!</translation>
+        <translation>Nesprávně nastavený port.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>Vyberte alespoň 2 položky, jinak nelze uložit!</translation>
+        <translation>Vyberte alespoň 2 položky, jinak nelze uložit.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>K výběru není dost šablon!</translation>
+        <translation>K výběru není dost šablon.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>Tato obrazovka byla přiřazena videostěně!</translation>
+        <translation>Tato obrazovka byla přiřazena videostěně.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>K výběru není dost zařízení!</translation>
+        <translation>K výběru není dost zařízení.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2301,7 +2301,7 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>IP NVR nesmí být prázdná.</translation>
+        <translation>Adresa IP NVR nesmí být prázdná.</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>Uživatel NVR nesmí být prázdný.</translation>
+        <translation>Pole uživatele NVR nesmí být prázdné.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2317,7 +2317,7 @@
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>Chyba načtení časového pásma! Detekujte znovu.</translation>
+        <translation>Chyba načtení časového pásma. Detekujte znovu.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
@@ -2341,31 +2341,31 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>Název kanálu nesmí být prázdný!</translation>
+        <translation>Název kanálu nesmí být prázdný.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>Adresa IP nesmí být prázdná!</translation>
+        <translation>Adresa IP nesmí být prázdná.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>Port HTTP nesmí být prázdný!</translation>
+        <translation>Port HTTP nesmí být prázdný.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>Uživatelský účet nesmí být prázdný!</translation>
+        <translation>Název uživatelského účtu nesmí být prázdný.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>Heslo nesmí být prázdné!</translation>
+        <translation>Heslo nesmí být prázdné.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>Chyba detekce!</translation>
+        <translation>Chyba detekce.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>Není kamera nebo se připojení nezdařilo!</translation>
+        <translation>Kamera nenalezena nebo se připojení nezdařilo.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
@@ -2373,7 +2373,7 @@
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>Stisknutím tlačítka se změní data v NVR!</translation>
+        <translation>Stisknutím tlačítka se změní data v NVR.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>Značka není podporována!</translation>
+        <translation>Značka není podporována.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>Chyba formátu videa!</translation>
+        <translation>Chyba formátu videa.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2397,7 +2397,7 @@
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>Přidání kamery se nezdařilo!</translation>
+        <translation>Přidání kamery se nezdařilo.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>Zařízení není podporováno!</translation>
+        <translation>Zařízení není podporováno.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>Tento účet je již nastaven!</translation>
+        <translation>Tento účet již existuje.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Velikost souboru nesmí překročit 10 MB</translation>
+        <translation>Velikost souboru nesmí překročit 10 MB.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Jméno se ještě nepoužívá</translation>
+        <translation>Jméno se ještě nepoužívá.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Jméno se již používá</translation>
+        <translation>Jméno se již používá.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>Není zadán uživatel nebo heslo!</translation>
+        <translation>Není zadán uživatel nebo heslo.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>Inicializace celé obrazovky</translation>
+        <translation>Celá obrazovka při spuštění</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>Odchodem se rozvržení obrazovek uloží.</translation>
+        <translation>Odchodem ze stránky se rozvržení obrazovek uloží.</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>Počet zařízení překročí výchozí hodnotu!</translation>
+        <translation>Bude překročen povolený počet zařízení.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>Celkový počet kanálů překročí výchozí hodnotu!</translation>
+        <translation>Bude překročen povolený celkový počet kanálů.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>Chyba načtení schopností zařízení!</translation>
+        <translation>Chyba načtení podporovaných funkcí zařízení.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>Nastavení se nezdařilo!</translation>
+        <translation>Nastavení se nezdařilo.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>Žádná změna!</translation>
+        <translation>Žádná změna.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>Vyberte cestu pro export!</translation>
+        <translation>Vyberte cestu pro export.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>Čas začátku musí předcházet času konce!</translation>
+        <translation>Čas začátku musí předcházet času konce.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>Žádná událost!</translation>
+        <translation>Žádné události.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>Žádný systémový protokol!</translation>
+        <translation>V systémovém protokolu nejsou žádné záznamy.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>Export do CSV dokončen!</translation>
+        <translation>Export do CSV dokončen.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>Export do MDB dokončen!</translation>
+        <translation>Export do MDB dokončen.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>Nelze otevřít, není dost dostupných obrazovek!</translation>
+        <translation>Nelze otevřít, není dost dostupných obrazovek.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>Nelze otevřít, videostěna není povolena! </translation>
+        <translation>Nelze otevřít, videostěna není zapnuta. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>Počet obrazovek nestačí! Není podporováno!</translation>
+        <translation>Počet obrazovek nestačí. Není podporováno.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Nastavení se změnilo. Otevřete znovu hlavní náhled!</translation>
+        <translation>Nastavení se změnilo. Otevřete znovu hlavní náhled.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>Nedostatek místa pro snímky událostí!</translation>
+        <translation>Nedostatek místa pro snímky událostí.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2969,11 +2969,11 @@
     </message>
     <message id="790">
         <source>Intelligent Event Trigger</source>
-        <translation>Spuštění videoanalýzou</translation>
+        <translation>Spouštění událostí videoanalýzy</translation>
     </message>
     <message id="791">
         <source>NVR Event Trigger</source>
-        <translation>Spuštění událostí NVR</translation>
+        <translation>Spouštění událostí NVR</translation>
     </message>
     <message id="792">
         <source>Trigger Action</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>Není dost obrazovek k nastavení!</translation>
+        <translation>Není dost obrazovek k nastavení.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>Neplatná e-mailová adresa!</translation>
+        <translation>Neplatná e-mailová adresa.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>Neplatná hodnota!</translation>
+        <translation>Neplatná hodnota.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>Nelze přidat opakovaně!</translation>
+        <translation>Nelze přidat opakovaně.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>Další SVD již nelze přidat!</translation>
+        <translation>Další SVD již nelze přidat.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>Export dokončen!</translation>
+        <translation>Export dokončen.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3137,7 +3137,7 @@
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>Detekce byla úspěšná!</translation>
+        <translation>Detekce byla úspěšná.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3169,7 +3169,7 @@
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>Není připojen žádný monitor!</translation>
+        <translation>Není připojen žádný monitor.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>Snímky událostí nefungují!</translation>
+        <translation>Snímky událostí nefungují.</translation>
     </message>
     <message id="850">
         <source>System</source>

@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>Lista identyfikatorów CGI jest pełna!</translation>
+        <translation>Lista identyfikatorów CGI jest pełna.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>Nieprawidłowa nazwa użytkownika lub hasło!</translation>
+        <translation>Nieprawidłowa nazwa użytkownika lub hasło.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>Błąd połączenia z urządzeniem!</translation>
+        <translation>Błąd połączenia z urządzeniem.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>Nieobsługiwana marka urządzenia!</translation>
+        <translation>Nieobsługiwana marka urządzenia.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>Wysłanie polecenia CGI nie powiodło się!</translation>
+        <translation>Wysłanie polecenia CGI nie powiodło się.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>Program jest już uruchomiony!</translation>
+        <translation>Program jest już uruchomiony.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>Konfigurator jest już otwarty. Zamknij go!</translation>
+        <translation>Konfigurator jest już otwarty. Zamknij go.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>Nieprawidłowa wersja bazy danych! Czy zresetować teraz bazę danych?</translation>
+        <translation>Nieprawidłowa wersja bazy danych. Czy zresetować teraz bazę danych?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>Przekroczono czas wykrywania urządzenia!</translation>
+        <translation>Przekroczono czas wykrywania urządzenia.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>Kanał SVR został usunięty. Wykryj SVR ponownie!</translation>
+        <translation>Kanał SVR został usunięty. Wykryj SVR ponownie.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Włącz przekierowanie portów UPnP w SVR!</translation>
+        <translation>Włącz przekierowanie portów UPnP w SVR.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>Pole użytkownika jest puste!</translation>
+        <translation>Pole użytkownika jest puste.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>Pole hasła jest puste!</translation>
+        <translation>Pole hasła jest puste.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>Nieprawidłowe konto użytkownika lub hasło!</translation>
+        <translation>Nieprawidłowe konto użytkownika lub hasło.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,15 +241,15 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>Błąd ustawienia serwera zdarzeń kamery!</translation>
+        <translation>Błąd ustawień serwera zdarzeń kamery.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>Błąd migawki!</translation>
+        <translation>Błąd migawki.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
-        <translation>Trwa wysyłanie powiadomień o zdarzeniach.</translation>
+        <translation>Nadal trwa wysyłanie powiadomień o zdarzeniach.</translation>
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>Znaleziono urządzenie!</translation>
+        <translation>Znaleziono urządzenie.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -281,39 +281,39 @@
     </message>
     <message id="70">
         <source>Do You Want to Save Snapshot Images ?</source>
-        <translation>Czy zapisać obrazy migawek?</translation>
+        <translation>Czy zapisać migawki?</translation>
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>Nieprawidłowa nazwa użytkownika lub hasło!</translation>
+        <translation>Nieprawidłowa nazwa użytkownika lub hasło.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>Nieobsługiwana marka!</translation>
+        <translation>Nieobsługiwana marka.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>Nieobsługiwana kamera!</translation>
+        <translation>Nieobsługiwana kamera.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>Błąd połączenia z urządzeniem!</translation>
+        <translation>Błąd połączenia z urządzeniem.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>Przekroczono czas wykrywania urządzenia!</translation>
+        <translation>Przekroczono czas wykrywania urządzenia.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>Nie można połączyć się z serwerem!</translation>
+        <translation>Nie można połączyć się z serwerem.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>Usługa nie jest jeszcze połączona!</translation>
+        <translation>Usługa nie jest jeszcze połączona.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>Urządzenia tej serii nie można dodać ponownie!</translation>
+        <translation>Urządzenia tej serii nie można dodać ponownie.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -337,19 +337,19 @@
     </message>
     <message id="84">
         <source>SEQ function is starting, do you want to continue to start SEQ content setting, which will stop SEQ function?</source>
-        <translation>Funkcja sekwencji jest uruchomiona. Czy otworzyć ustawienia zawartości sekwencji, co zatrzyma tę funkcję?</translation>
+        <translation>Funkcja sekwencji jest uruchomiona. Otwarcie ustawień zawartości sekwencji zatrzyma ją. Czy kontynuować?</translation>
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>Sekwencja kanałów jest niedostępna! Aby użyć tej funkcji, wybierz więcej niż jeden kanał.</translation>
+        <translation>Sekwencja kanałów jest niedostępna. Aby użyć tej funkcji, wybierz więcej niż jeden kanał.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>Sekwencja NVR jest niedostępna! Aby użyć tej funkcji, wybierz więcej niż jeden NVR.</translation>
+        <translation>Sekwencja NVR jest niedostępna. Aby użyć tej funkcji, wybierz więcej niż jeden NVR.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>Sekwencja szablonów jest niedostępna! Aby użyć tej funkcji, wybierz więcej niż jeden szablon.</translation>
+        <translation>Sekwencja szablonów jest niedostępna. Aby użyć tej funkcji, wybierz więcej niż jeden szablon.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,11 +365,11 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>Liczba zdarzeń kamer nie może przekraczać 32!</translation>
+        <translation>Liczba zdarzeń kamer nie może przekraczać 32.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>Najpierw dodaj NVR!</translation>
+        <translation>Najpierw dodaj NVR.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
@@ -553,7 +553,7 @@
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>Pełny ekran jest uruchomiony. Najpierw go zamknij!</translation>
+        <translation>Pełny ekran jest włączony. Najpierw go zamknij.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -565,7 +565,7 @@
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>Nazwa się powtarza!</translation>
+        <translation>Taka nazwa już istnieje.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>Wykonanie migawki nie powiodło się!</translation>
+        <translation>Wykonanie migawki nie powiodło się.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR nie ma zasobów do odtwarzania!</translation>
+        <translation>NVR nie ma zasobów do odtwarzania.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>Żądanie odtwarzania nie powiodło się!</translation>
+        <translation>Żądanie odtwarzania nie powiodło się.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Odbiór nagrań nie powiódł się</translation>
+        <translation>Odbiór nagrań nie powiódł się.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,23 +877,23 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>Brak nagrań do wyświetlenia!</translation>
+        <translation>Brak nagrań do wyświetlenia.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>Odtwarzanie zatrzymane! Wybierz nowy czas.</translation>
+        <translation>Odtwarzanie zatrzymane. Wybierz nowy czas.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>Brak odpowiedzi! Spróbuj ponownie lub wybierz inne urządzenie!</translation>
+        <translation>Brak odpowiedzi. Spróbuj ponownie lub wybierz inne urządzenie.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>Rozłączono! </translation>
+        <translation>Rozłączono. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>Nie można pobrać strumienia wideo! Wybierz inny kanał.</translation>
+        <translation>Nie można pobrać strumienia wideo. Wybierz inny kanał.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
@@ -901,27 +901,27 @@
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
-        <translation>Trwa aktualizacja nagrań, czekaj.</translation>
+        <translation>Trwa aktualizacja nagrań, zaczekaj.</translation>
     </message>
     <message id="226">
         <source>Convert to AVI</source>
-        <translation>Konwertuj do AVI</translation>
+        <translation>Konwertuj na AVI</translation>
     </message>
     <message id="227">
         <source>Do you want to stop the conversion of avi file ?</source>
-        <translation>Czy zatrzymać konwersję pliku AVI?</translation>
+        <translation>Czy zatrzymać konwersję na AVI?</translation>
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>Konwersja pliku AVI zakończona! Plik to… </translation>
+        <translation>Konwersja na AVI zakończona. Plik to… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>Trwa konwersja pliku AVI!</translation>
+        <translation>Trwa konwersja na AVI.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>Konwersja do AVI nie powiodła się!</translation>
+        <translation>Konwersja na AVI nie powiodła się.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>Nie skonfigurowano żadnego SVD. Dodaj SVD, aby nim sterować!</translation>
+        <translation>Nie skonfigurowano żadnego SVD. Dodaj SVD, aby nim sterować.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>Ten kanał jest już wyświetlany na tym ekranie!</translation>
+        <translation>Ten kanał jest już wyświetlany na tym ekranie.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>Kliknij tutaj, aby połączyć ponownie!</translation>
+        <translation>Kliknij tutaj, aby połączyć ponownie.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message id="271">
         <source>Valid Ch</source>
-        <translation>Czynne kanały</translation>
+        <translation>Aktywne kanały</translation>
     </message>
     <message id="272">
         <source>Auto Search</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message id="285">
         <source>Valid Channel:</source>
-        <translation>Czynny kanał:</translation>
+        <translation>Aktywne kanały:</translation>
     </message>
     <message id="286">
         <source>Sync With NVR</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>Dodano pomyślnie!</translation>
+        <translation>Dodano pomyślnie.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Podgląd główny jest otwarty. Najpierw go zamknij!</translation>
+        <translation>Podgląd główny jest otwarty. Najpierw go zamknij.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>Ustaw nazwę lub listę kanałów!</translation>
+        <translation>Ustaw nazwę lub listę kanałów.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
@@ -1309,15 +1309,15 @@
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>Nie wybrano kanału!</translation>
+        <translation>Nie wybrano kanału.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>Wybrany czas wykracza poza zakres danych!</translation>
+        <translation>Wybrany czas wykracza poza zakres danych.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR jest nieprawidłowy!</translation>
+        <translation>NVR jest nieprawidłowy.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message id="351">
         <source>CPU Performance:</source>
-        <translation>Wydajność CPU:</translation>
+        <translation>Obciążenie CPU:</translation>
     </message>
     <message id="352">
         <source>Login Windows then Auto Start up </source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>Trwa łączenie z NVR, zaczekaj chwilę i uruchom ponownie!</translation>
+        <translation>Trwa łączenie z NVR, zaczekaj chwilę i uruchom ponownie.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR jest offline. Wybierz inny NVR lub sprawdź stan połączenia tego NVR!</translation>
+        <translation>NVR jest offline. Wybierz inny NVR lub sprawdź stan połączenia tego NVR.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>Urządzenie wyjściowe zostało usunięte!</translation>
+        <translation>Urządzenie wyjściowe zostało usunięte.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>Hasła nie są zgodne, sprawdź ponownie!</translation>
+        <translation>Hasła nie są zgodne, sprawdź ponownie.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1453,7 +1453,7 @@
     </message>
     <message id="365">
         <source>Power</source>
-        <translation>Zasilanie</translation>
+        <translation>Uprawnienia</translation>
     </message>
     <message id="366">
         <source>CH</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message id="387">
         <source>Modify</source>
-        <translation>Zmień</translation>
+        <translation>Modyfikuj</translation>
     </message>
     <message id="388">
         <source>Reconection </source>
@@ -1609,7 +1609,7 @@
     </message>
     <message id="404">
         <source>Motion Enable List:</source>
-        <translation>Lista włączonych detekcji ruchu:</translation>
+        <translation>Włączone detekcje ruchu:</translation>
     </message>
     <message id="405">
         <source>Clear All</source>
@@ -1677,7 +1677,7 @@
     </message>
     <message id="421">
         <source>Cell Phone</source>
-        <translation>Telefon komórkowy</translation>
+        <translation>Tel. komórkowy</translation>
     </message>
     <message id="422">
         <source>Photo Path</source>
@@ -1769,11 +1769,11 @@
     </message>
     <message id="444">
         <source>Modify User</source>
-        <translation>Zmień użytkownika</translation>
+        <translation>Modyfikuj użytkownika</translation>
     </message>
     <message id="445">
         <source>Modify Group</source>
-        <translation>Zmień grupę</translation>
+        <translation>Modyfikuj grupę</translation>
     </message>
     <message id="446">
         <source>System Event Trigger Action</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>Ustawienie serwera HTTP nie powiodło się! Czy usunąć wszystkie serwery HTTP?</translation>
+        <translation>Ustawienie serwera HTTP nie powiodło się. Czy usunąć wszystkie serwery HTTP?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>Liczba nie może przekraczać 16!</translation>
+        <translation>Liczba nie może przekraczać 16.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,23 +1929,23 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>Nazwa nadawcy nie może być pusta!</translation>
+        <translation>Nazwa nadawcy nie może być pusta.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>Serwer poczty nie może być pusty!</translation>
+        <translation>Pole serwera poczty nie może być puste.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>Użytkownik nie może być pusty!</translation>
+        <translation>Pole użytkownika nie może być puste.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>Hasło nie może być puste!</translation>
+        <translation>Hasło nie może być puste.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>Adres e-mail nie może być pusty!</translation>
+        <translation>Adres e-mail nie może być pusty.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
@@ -1957,15 +1957,15 @@
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>IP serwera nie może być puste!</translation>
+        <translation>Adres IP serwera nie może być pusty.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>Port serwera nie może być pusty!</translation>
+        <translation>Port serwera nie może być pusty.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>Ścieżka główna nie może być pusta!</translation>
+        <translation>Ścieżka główna nie może być pusta.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
@@ -1977,15 +1977,15 @@
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>Wiadomość nie może być pusta!</translation>
+        <translation>Wiadomość nie może być pusta.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>Opis dźwięku nie może być pusty!</translation>
+        <translation>Opis dźwięku nie może być pusty.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>Ścieżka pliku dźwiękowego nie może być pusta!</translation>
+        <translation>Ścieżka pliku dźwiękowego nie może być pusta.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
@@ -2009,15 +2009,15 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>Liczba ustawień analityki wideo nie może przekraczać 16</translation>
+        <translation>Liczba ustawień analityki wideo nie może przekraczać 16.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>Dodanie NVR nie powiodło się! Dodaj ponownie.</translation>
+        <translation>Dodanie NVR nie powiodło się. Dodaj ponownie.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Rozmiar pliku nie może przekraczać 5 MB</translation>
+        <translation>Rozmiar pliku nie może przekraczać 5 MB.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>Kanał nie obsługuje detekcji ruchu lub nie jest połączony!</translation>
+        <translation>Kanał nie obsługuje detekcji ruchu lub nie jest połączony.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>Brak ustawień!</translation>
+        <translation>Brak ustawień.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>Nie skonfigurowano jeszcze akcji zdarzeń!</translation>
+        <translation>Nie skonfigurowano jeszcze akcji zdarzeń.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>Nie można połączyć wideo.</translation>
+        <translation>Nie można nawiązać połączenia wideo.</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>Wiadomość wysłano pomyślnie!</translation>
+        <translation>Wiadomość wysłano pomyślnie.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>Wysłanie wiadomości nie powiodło się!</translation>
+        <translation>Wysłanie wiadomości nie powiodło się.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>Dla wybranego czasu nie ma nagrań!</translation>
+        <translation>Dla wybranego czasu nie ma nagrań.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>Ten NVR nie może uzyskać identyfikatora grupy do odtwarzania!</translation>
+        <translation>Ten NVR nie może uzyskać identyfikatora grupy do odtwarzania.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>Wybrany SVD został rozłączony. Zamknij panel i sprawdź stan SVD!</translation>
+        <translation>Wybrany SVD został rozłączony. Zamknij panel i sprawdź stan SVD.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>Nazwa NVR nie może być pusta!</translation>
+        <translation>Nazwa NVR nie może być pusta.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>Nieprawidłowy adres IP lub nazwa hosta!</translation>
+        <translation>Nieprawidłowy adres IP lub nazwa hosta.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR nie istnieje!</translation>
+        <translation>NVR nie istnieje.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>Nieprawidłowy port!</translation>
+        <translation>Nieprawidłowy port.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>Wybrano mniej niż 2 pozycje, nie można zapisać!</translation>
+        <translation>Wybrano mniej niż 2 pozycje, nie można zapisać.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>Za mało szablonów do wyboru!</translation>
+        <translation>Za mało szablonów do wyboru.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>Ten ekran został przypisany do ściany wideo!</translation>
+        <translation>Ten ekran został przypisany do ściany wideo.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>Za mało urządzeń do wyboru!</translation>
+        <translation>Za mało urządzeń do wyboru.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2301,7 +2301,7 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>IP NVR nie może być puste.</translation>
+        <translation>Adres IP NVR nie może być pusty.</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>Użytkownik NVR nie może być pusty.</translation>
+        <translation>Pole użytkownika NVR nie może być puste.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2317,7 +2317,7 @@
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>Błąd odczytu strefy czasowej! Wykryj ponownie.</translation>
+        <translation>Błąd odczytu strefy czasowej. Wykryj ponownie.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
@@ -2341,31 +2341,31 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>Nazwa kanału nie może być pusta!</translation>
+        <translation>Nazwa kanału nie może być pusta.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>Adres IP nie może być pusty!</translation>
+        <translation>Adres IP nie może być pusty.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>Port HTTP nie może być pusty!</translation>
+        <translation>Port HTTP nie może być pusty.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>Konto użytkownika nie może być puste!</translation>
+        <translation>Nazwa konta użytkownika nie może być pusta.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>Hasło nie może być puste!</translation>
+        <translation>Hasło nie może być puste.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>Błąd wykrywania!</translation>
+        <translation>Błąd wykrywania.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>Brak kamery lub połączenie nie powiodło się!</translation>
+        <translation>Brak kamery lub połączenie nie powiodło się.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
@@ -2373,7 +2373,7 @@
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>Naciśnięcie przycisku spowoduje zmianę danych w NVR!</translation>
+        <translation>Naciśnięcie przycisku spowoduje zmianę danych w NVR.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>Nieobsługiwana marka!</translation>
+        <translation>Nieobsługiwana marka.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>Błąd formatu wideo!</translation>
+        <translation>Błąd formatu wideo.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2397,7 +2397,7 @@
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>Dodanie kamery nie powiodło się!</translation>
+        <translation>Dodanie kamery nie powiodło się.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>Nieobsługiwane urządzenie!</translation>
+        <translation>Nieobsługiwane urządzenie.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>To konto jest już ustawione!</translation>
+        <translation>To konto już istnieje.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Rozmiar pliku nie może przekraczać 10 MB</translation>
+        <translation>Rozmiar pliku nie może przekraczać 10 MB.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Nazwa jeszcze nieużywana</translation>
+        <translation>Ta nazwa nie jest jeszcze używana.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Nazwa jest już używana</translation>
+        <translation>Ta nazwa jest już używana.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>Nie wprowadzono użytkownika lub hasła!</translation>
+        <translation>Nie wprowadzono użytkownika lub hasła.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>Inicjowanie pełnego ekranu</translation>
+        <translation>Pełny ekran przy starcie</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>Liczba urządzeń przekroczy wartość domyślną!</translation>
+        <translation>Zostanie przekroczona dopuszczalna liczba urządzeń.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>Łączna liczba kanałów przekroczy wartość domyślną!</translation>
+        <translation>Zostanie przekroczona dopuszczalna łączna liczba kanałów.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>Błąd pobierania możliwości urządzenia!</translation>
+        <translation>Błąd pobierania możliwości urządzenia.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>Ustawienie nie powiodło się!</translation>
+        <translation>Ustawienie nie powiodło się.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>Brak zmian!</translation>
+        <translation>Brak zmian.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>Wybierz ścieżkę eksportu!</translation>
+        <translation>Wybierz ścieżkę eksportu.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>Czas początkowy musi być wcześniejszy niż czas końcowy!</translation>
+        <translation>Czas początkowy musi być wcześniejszy niż czas końcowy.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>Brak zdarzeń!</translation>
+        <translation>Brak zdarzeń.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>Brak wpisów w dzienniku systemowym!</translation>
+        <translation>Brak wpisów w dzienniku systemowym.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>Eksport CSV zakończony!</translation>
+        <translation>Eksport CSV zakończony.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>Eksport MDB zakończony!</translation>
+        <translation>Eksport MDB zakończony.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>Nie można otworzyć, za mało dostępnych ekranów!</translation>
+        <translation>Nie można otworzyć, za mało dostępnych ekranów.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>Nie można otworzyć, ściana wideo nie jest włączona! </translation>
+        <translation>Nie można otworzyć, ściana wideo nie jest włączona. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>Za mało ekranów! Nieobsługiwane!</translation>
+        <translation>Za mało ekranów. Nieobsługiwane.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Ustawienia zostały zmienione. Otwórz ponownie podgląd główny!</translation>
+        <translation>Ustawienia zostały zmienione. Otwórz ponownie podgląd główny.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>Za mało miejsca na migawki zdarzeń!</translation>
+        <translation>Za mało miejsca na migawki zdarzeń.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2969,11 +2969,11 @@
     </message>
     <message id="790">
         <source>Intelligent Event Trigger</source>
-        <translation>Wyzwalanie przez analitykę wideo</translation>
+        <translation>Wyzwalanie zdarzeniem analityki wideo</translation>
     </message>
     <message id="791">
         <source>NVR Event Trigger</source>
-        <translation>Wyzwalanie przez NVR</translation>
+        <translation>Wyzwalanie zdarzeniem NVR</translation>
     </message>
     <message id="792">
         <source>Trigger Action</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>Za mało ekranów do ustawienia!</translation>
+        <translation>Za mało ekranów do ustawienia.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>Nieprawidłowy adres e-mail!</translation>
+        <translation>Nieprawidłowy adres e-mail.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>Nieprawidłowa wartość!</translation>
+        <translation>Nieprawidłowa wartość.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>Nie można dodać ponownie!</translation>
+        <translation>Nie można dodać ponownie.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>Nie można dodać więcej SVD!</translation>
+        <translation>Nie można dodać więcej SVD.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>Eksport zakończony!</translation>
+        <translation>Eksport zakończony.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3137,7 +3137,7 @@
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>Wykrywanie zakończone pomyślnie!</translation>
+        <translation>Wykrywanie zakończone pomyślnie.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3169,7 +3169,7 @@
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>Nie podłączono monitora!</translation>
+        <translation>Nie podłączono monitora.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>Migawki zdarzeń nie działają!</translation>
+        <translation>Migawki zdarzeń nie działają.</translation>
     </message>
     <message id="850">
         <source>System</source>

@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>Список идентификаторов CGI заполнен!</translation>
+        <translation>Список идентификаторов CGI заполнен.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>Неверное имя пользователя или пароль!</translation>
+        <translation>Неверное имя пользователя или пароль.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>Ошибка подключения к устройству!</translation>
+        <translation>Ошибка подключения к устройству.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>Марка устройства не поддерживается!</translation>
+        <translation>Марка устройства не поддерживается.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>Не удалось отправить команду CGI!</translation>
+        <translation>Не удалось отправить команду CGI.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>Программа уже запущена!</translation>
+        <translation>Программа уже запущена.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>Конфигуратор уже открыт. Закройте его!</translation>
+        <translation>Конфигуратор уже открыт. Закройте его.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>Неверная версия базы данных! Сбросить базу данных сейчас?</translation>
+        <translation>Неверная версия базы данных. Сбросить базу данных сейчас?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>Истекло время обнаружения устройства!</translation>
+        <translation>Истекло время обнаружения устройства.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>Канал SVR удалён. Выполните обнаружение SVR заново!</translation>
+        <translation>Канал SVR удалён. Выполните обнаружение SVR заново.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Включите перенаправление портов UPnP в SVR!</translation>
+        <translation>Включите перенаправление портов UPnP в SVR.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>Поле пользователя не заполнено!</translation>
+        <translation>Поле пользователя не заполнено.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>Поле пароля не заполнено!</translation>
+        <translation>Поле пароля не заполнено.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>Неверная учётная запись или пароль!</translation>
+        <translation>Неверная учётная запись или пароль.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>Ошибка настройки сервера событий камеры!</translation>
+        <translation>Ошибка настройки сервера событий камеры.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>Ошибка снимка!</translation>
+        <translation>Ошибка снимка.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>Устройство найдено!</translation>
+        <translation>Устройство найдено.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>Неверное имя пользователя или пароль!</translation>
+        <translation>Неверное имя пользователя или пароль.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>Марка не поддерживается!</translation>
+        <translation>Марка не поддерживается.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>Камера не поддерживается!</translation>
+        <translation>Камера не поддерживается.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>Ошибка подключения к устройству!</translation>
+        <translation>Ошибка подключения к устройству.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>Истекло время обнаружения устройства!</translation>
+        <translation>Истекло время обнаружения устройства.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>Не удалось подключиться к серверу!</translation>
+        <translation>Не удалось подключиться к серверу.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>Служба ещё не подключена!</translation>
+        <translation>Служба ещё не подключена.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>Устройства этой серии нельзя добавить повторно!</translation>
+        <translation>Устройства этой серии нельзя добавить повторно.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -337,19 +337,19 @@
     </message>
     <message id="84">
         <source>SEQ function is starting, do you want to continue to start SEQ content setting, which will stop SEQ function?</source>
-        <translation>Листание включено. Открыть настройку его содержимого (листание при этом остановится)?</translation>
+        <translation>Листание включено. Открытие настройки его содержимого остановит листание. Продолжить?</translation>
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>Листание каналов недоступно! Чтобы использовать эту функцию, выберите более одного канала.</translation>
+        <translation>Листание каналов недоступно. Чтобы использовать эту функцию, выберите более одного канала.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>Листание NVR недоступно! Чтобы использовать эту функцию, выберите более одного NVR.</translation>
+        <translation>Листание NVR недоступно. Чтобы использовать эту функцию, выберите более одного NVR.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>Листание шаблонов недоступно! Чтобы использовать эту функцию, выберите более одного шаблона.</translation>
+        <translation>Листание шаблонов недоступно. Чтобы использовать эту функцию, выберите более одного шаблона.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,11 +365,11 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>Число настроек событий камер не может превышать 32!</translation>
+        <translation>Число настроек событий камер не может превышать 32.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>Сначала добавьте NVR!</translation>
+        <translation>Сначала добавьте NVR.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
@@ -553,7 +553,7 @@
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>Включён полный экран. Сначала закройте его!</translation>
+        <translation>Включён полный экран. Сначала выйдите из него.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -565,7 +565,7 @@
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>Имя повторяется!</translation>
+        <translation>Такое имя уже есть.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,11 +621,11 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>Не удалось сделать снимок!</translation>
+        <translation>Не удалось сделать снимок.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
-        <translation>Патруль пресетов:</translation>
+        <translation>Патруль по пресетам:</translation>
     </message>
     <message id="157">
         <source>Loading Fullscreen layout data…</source>
@@ -713,7 +713,7 @@
     </message>
     <message id="178">
         <source>NO.</source>
-        <translation>Ном.</translation>
+        <translation>№</translation>
     </message>
     <message id="179">
         <source>CH</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>У NVR нет ресурсов для воспроизведения!</translation>
+        <translation>У NVR нет ресурсов для воспроизведения.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>Запрос на воспроизведение не выполнен!</translation>
+        <translation>Запрос на воспроизведение не выполнен.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -801,7 +801,7 @@
     </message>
     <message id="200">
         <source>Playback Info</source>
-        <translation>О воспроизведении</translation>
+        <translation>Данные воспроизведения</translation>
     </message>
     <message id="201">
         <source>NVR:</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Не удалось получить записи</translation>
+        <translation>Не удалось получить записи.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,23 +877,23 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>Нет записей для показа!</translation>
+        <translation>Нет записей для показа.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>Воспроизведение остановлено! Выберите другое время.</translation>
+        <translation>Воспроизведение остановлено. Выберите другое время.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>Нет ответа! Повторите попытку или выберите другое устройство!</translation>
+        <translation>Нет ответа. Повторите попытку или выберите другое устройство.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>Связь прервана! </translation>
+        <translation>Связь прервана. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>Не удаётся получить видеопоток! Выберите другой канал.</translation>
+        <translation>Не удаётся получить видеопоток. Выберите другой канал.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
@@ -909,19 +909,19 @@
     </message>
     <message id="227">
         <source>Do you want to stop the conversion of avi file ?</source>
-        <translation>Остановить преобразование файла AVI?</translation>
+        <translation>Остановить преобразование в AVI?</translation>
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>Преобразование файла AVI завершено! Файл… </translation>
+        <translation>Преобразование в AVI завершено. Файл… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>Преобразование файла AVI!</translation>
+        <translation>Идёт преобразование в AVI.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>Не удалось преобразовать в AVI!</translation>
+        <translation>Не удалось преобразовать в AVI.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>Ни один SVD не настроен. Добавьте SVD для управления!</translation>
+        <translation>Ни один SVD не настроен. Добавьте SVD для управления.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>Этот канал уже выводится на этот экран!</translation>
+        <translation>Этот канал уже выводится на этот экран.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>Щёлкните здесь, чтобы подключиться снова!</translation>
+        <translation>Щёлкните здесь, чтобы подключиться снова.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -961,7 +961,7 @@
     </message>
     <message id="240">
         <source>NO.:</source>
-        <translation>Ном.:</translation>
+        <translation>№:</translation>
     </message>
     <message id="241">
         <source>Name:</source>
@@ -1085,7 +1085,7 @@
     </message>
     <message id="271">
         <source>Valid Ch</source>
-        <translation>Действ. каналы</translation>
+        <translation>Активные каналы</translation>
     </message>
     <message id="272">
         <source>Auto Search</source>
@@ -1141,7 +1141,7 @@
     </message>
     <message id="285">
         <source>Valid Channel:</source>
-        <translation>Действ. канал:</translation>
+        <translation>Активные каналы:</translation>
     </message>
     <message id="286">
         <source>Sync With NVR</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>Успешно добавлено!</translation>
+        <translation>Успешно добавлено.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,15 +1201,15 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Открыт главный просмотр. Сначала закройте его!</translation>
+        <translation>Открыт главный просмотр. Сначала закройте его.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
-        <translation>Система и настройка</translation>
+        <translation>Система и настройки</translation>
     </message>
     <message id="302">
         <source>Setting</source>
-        <translation>Настройка</translation>
+        <translation>Настройки</translation>
     </message>
     <message id="303">
         <source>Manual Setting</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>Задайте имя или список каналов!</translation>
+        <translation>Задайте имя или список каналов.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
@@ -1309,15 +1309,15 @@
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>Канал не выбран!</translation>
+        <translation>Канал не выбран.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>Выбранное время вне диапазона данных!</translation>
+        <translation>Выбранное время вне диапазона данных.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>Недопустимый NVR!</translation>
+        <translation>Недопустимый NVR.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message id="351">
         <source>CPU Performance:</source>
-        <translation>Быстродействие CPU:</translation>
+        <translation>Загрузка CPU:</translation>
     </message>
     <message id="352">
         <source>Login Windows then Auto Start up </source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>NVR подключается. Подождите немного и запустите снова!</translation>
+        <translation>NVR подключается. Подождите немного и запустите снова.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR не в сети. Выберите другой NVR или проверьте подключение этого NVR!</translation>
+        <translation>NVR не в сети. Выберите другой NVR или проверьте подключение этого NVR.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>Устройство вывода удалено!</translation>
+        <translation>Устройство вывода удалено.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>Пароли не совпадают. Проверьте ещё раз!</translation>
+        <translation>Пароли не совпадают. Проверьте ещё раз.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1453,7 +1453,7 @@
     </message>
     <message id="365">
         <source>Power</source>
-        <translation>Питание</translation>
+        <translation>Права</translation>
     </message>
     <message id="366">
         <source>CH</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message id="377">
         <source>Detect List</source>
-        <translation>Список обнаружения</translation>
+        <translation>Список обнаруженных</translation>
     </message>
     <message id="378">
         <source>Advance Control </source>
@@ -1553,7 +1553,7 @@
     </message>
     <message id="390">
         <source>Preset Info</source>
-        <translation>О пресете</translation>
+        <translation>Данные пресета</translation>
     </message>
     <message id="391">
         <source>Sync</source>
@@ -1609,7 +1609,7 @@
     </message>
     <message id="404">
         <source>Motion Enable List:</source>
-        <translation>Список с детекцией движения:</translation>
+        <translation>Каналы с детекцией движения:</translation>
     </message>
     <message id="405">
         <source>Clear All</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message id="468">
         <source>Mail Addrrss</source>
-        <translation>Адрес почты</translation>
+        <translation>Адрес эл. почты</translation>
     </message>
     <message id="469">
         <source>Server IP</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>Не удалось настроить сервер HTTP! Удалить все серверы HTTP?</translation>
+        <translation>Не удалось настроить сервер HTTP. Удалить все серверы HTTP?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>Количество не может превышать 16!</translation>
+        <translation>Количество не может превышать 16.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,43 +1929,43 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>Имя отправителя не может быть пустым!</translation>
+        <translation>Имя отправителя не может быть пустым.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>Почтовый сервер не может быть пустым!</translation>
+        <translation>Поле почтового сервера не может быть пустым.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>Пользователь не может быть пустым!</translation>
+        <translation>Поле пользователя не может быть пустым.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>Пароль не может быть пустым!</translation>
+        <translation>Пароль не может быть пустым.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>Адрес почты не может быть пустым!</translation>
+        <translation>Адрес эл. почты не может быть пустым.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>Проверочное письмо отправлено.</translation>
+        <translation>Тестовое письмо отправлено.</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>Не удалось отправить проверочное письмо.</translation>
+        <translation>Не удалось отправить тестовое письмо.</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>IP сервера не может быть пустым!</translation>
+        <translation>IP-адрес сервера не может быть пустым.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>Порт сервера не может быть пустым!</translation>
+        <translation>Порт сервера не может быть пустым.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>Корневой путь не может быть пустым!</translation>
+        <translation>Корневой путь не может быть пустым.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
@@ -1977,15 +1977,15 @@
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>Сообщение не может быть пустым!</translation>
+        <translation>Сообщение не может быть пустым.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>Описание звука не может быть пустым!</translation>
+        <translation>Описание звука не может быть пустым.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>Путь к файлу звука не может быть пустым!</translation>
+        <translation>Путь к файлу звука не может быть пустым.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
@@ -2009,15 +2009,15 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>Число настроек видеоаналитики не может превышать 16</translation>
+        <translation>Число настроек видеоаналитики не может превышать 16.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>Не удалось добавить NVR! Добавьте ещё раз.</translation>
+        <translation>Не удалось добавить NVR. Добавьте ещё раз.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Размер файла не может превышать 5 МБ</translation>
+        <translation>Размер файла не может превышать 5 МБ.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>Канал не поддерживает детекцию движения или не подключён!</translation>
+        <translation>Канал не поддерживает детекцию движения или не подключён.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>Нет настроек!</translation>
+        <translation>Нет настроек.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,7 +2053,7 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>Действия по событиям ещё не настроены!</translation>
+        <translation>Действия по событиям ещё не настроены.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>Сообщение отправлено!</translation>
+        <translation>Сообщение отправлено.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>Не удалось отправить сообщение!</translation>
+        <translation>Не удалось отправить сообщение.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Включить или отключить наибольшее число показываемых видео.</translation>
+        <translation>Включить или отключить максимальное число показываемых видео.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>За выбранное время записей нет!</translation>
+        <translation>За выбранное время записей нет.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>Этот NVR не может получить ID группы для воспроизведения!</translation>
+        <translation>Этот NVR не может получить ID группы для воспроизведения.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>Выбранный SVD отключён. Закройте панель и проверьте состояние SVD!</translation>
+        <translation>Выбранный SVD отключён. Закройте панель и проверьте состояние SVD.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>Имя NVR не может быть пустым!</translation>
+        <translation>Имя NVR не может быть пустым.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>Неверно задан IP-адрес или имя хоста!</translation>
+        <translation>Неверно задан IP-адрес или имя хоста.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR не существует!</translation>
+        <translation>NVR не существует.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>Неверно задан порт!</translation>
+        <translation>Неверно задан порт.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>Выбрано менее 2 пунктов, сохранить невозможно!</translation>
+        <translation>Выбрано менее 2 пунктов, сохранить невозможно.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>Недостаточно шаблонов для выбора!</translation>
+        <translation>Недостаточно шаблонов для выбора.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>Этот экран назначен видеостене!</translation>
+        <translation>Этот экран назначен видеостене.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>Недостаточно устройств для выбора!</translation>
+        <translation>Недостаточно устройств для выбора.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2241,7 +2241,7 @@
     </message>
     <message id="578">
         <source>NO.</source>
-        <translation>Ном.</translation>
+        <translation>№</translation>
     </message>
     <message id="579">
         <source>Camera name</source>
@@ -2301,7 +2301,7 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>IP NVR не может быть пустым.</translation>
+        <translation>IP-адрес NVR не может быть пустым.</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>Пользователь NVR не может быть пустым.</translation>
+        <translation>Поле пользователя NVR не может быть пустым.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2317,7 +2317,7 @@
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>Ошибка запроса часового пояса! Повторите обнаружение.</translation>
+        <translation>Ошибка запроса часового пояса. Повторите обнаружение.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
@@ -2341,31 +2341,31 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>Имя канала не может быть пустым!</translation>
+        <translation>Имя канала не может быть пустым.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>IP-адрес не может быть пустым!</translation>
+        <translation>IP-адрес не может быть пустым.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>Порт HTTP не может быть пустым!</translation>
+        <translation>Порт HTTP не может быть пустым.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>Учётная запись не может быть пустой!</translation>
+        <translation>Имя учётной записи не может быть пустым.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>Пароль не может быть пустым!</translation>
+        <translation>Пароль не может быть пустым.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>Ошибка обнаружения!</translation>
+        <translation>Ошибка обнаружения.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>Нет камеры или не удалось подключиться!</translation>
+        <translation>Нет камеры или не удалось подключиться.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
@@ -2373,7 +2373,7 @@
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>При нажатии этой кнопки данные в NVR изменятся!</translation>
+        <translation>При нажатии этой кнопки данные в NVR изменятся.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>Марка не поддерживается!</translation>
+        <translation>Марка не поддерживается.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>Ошибка формата видео!</translation>
+        <translation>Ошибка формата видео.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2397,7 +2397,7 @@
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>Не удалось добавить камеру!</translation>
+        <translation>Не удалось добавить камеру.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>Устройство не поддерживается!</translation>
+        <translation>Устройство не поддерживается.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>Эта учётная запись уже задана!</translation>
+        <translation>Эта учётная запись уже есть.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Размер файла не может превышать 10 МБ</translation>
+        <translation>Размер файла не может превышать 10 МБ.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Имя ещё не используется</translation>
+        <translation>Имя ещё не используется.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Имя уже используется</translation>
+        <translation>Имя уже используется.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>Не введён пользователь или пароль!</translation>
+        <translation>Не введён пользователь или пароль.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>Инициализация полного экрана</translation>
+        <translation>Полный экран при запуске</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>Число устройств превысит значение по умолчанию!</translation>
+        <translation>Будет превышено допустимое число устройств.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>Общее число каналов превысит значение по умолчанию!</translation>
+        <translation>Будет превышено допустимое общее число каналов.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>Ошибка получения возможностей устройства!</translation>
+        <translation>Ошибка получения возможностей устройства.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>Не удалось настроить!</translation>
+        <translation>Не удалось настроить.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>Нет изменений!</translation>
+        <translation>Нет изменений.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,31 +2781,31 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>Выберите путь для экспорта!</translation>
+        <translation>Выберите путь для экспорта.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>Время начала должно быть раньше времени окончания!</translation>
+        <translation>Время начала должно быть раньше времени окончания.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>Нет событий!</translation>
+        <translation>Нет событий.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>Системный журнал пуст!</translation>
+        <translation>Системный журнал пуст.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>Экспорт CSV завершён!</translation>
+        <translation>Экспорт CSV завершён.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>Экспорт MDB завершён!</translation>
+        <translation>Экспорт MDB завершён.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
-        <translation>Настраиваемое</translation>
+        <translation>Пользовательское</translation>
     </message>
     <message id="748">
         <source>NVR Overview</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>Не удалось открыть, недостаточно доступных экранов!</translation>
+        <translation>Не удалось открыть, недостаточно доступных экранов.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>Не удалось открыть, видеостена не включена! </translation>
+        <translation>Не удалось открыть, видеостена не включена. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>Недостаточно экранов! Не поддерживается!</translation>
+        <translation>Недостаточно экранов. Не поддерживается.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Настройки изменены. Откройте главный просмотр заново!</translation>
+        <translation>Настройки изменены. Откройте главный просмотр заново.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>Недостаточно места для снимков событий!</translation>
+        <translation>Недостаточно места для снимков событий.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>Недостаточно экранов для настройки!</translation>
+        <translation>Недостаточно экранов для настройки.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>Недопустимый адрес эл. почты!</translation>
+        <translation>Недопустимый адрес эл. почты.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>Недопустимое значение!</translation>
+        <translation>Недопустимое значение.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>Нельзя добавить повторно!</translation>
+        <translation>Нельзя добавить повторно.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>Больше нельзя добавить SVD!</translation>
+        <translation>Больше нельзя добавить SVD.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>Экспорт завершён!</translation>
+        <translation>Экспорт завершён.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3137,7 +3137,7 @@
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>Обнаружение выполнено!</translation>
+        <translation>Обнаружение выполнено.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3169,7 +3169,7 @@
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>Монитор не подключён!</translation>
+        <translation>Монитор не подключён.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>Снимки событий не работают!</translation>
+        <translation>Снимки событий не работают.</translation>
     </message>
     <message id="850">
         <source>System</source>

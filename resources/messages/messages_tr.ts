@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>CGI ID listesi dolu!</translation>
+        <translation>CGI ID listesi dolu.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>Kullanıcı adı veya parola hatalı!</translation>
+        <translation>Kullanıcı adı veya parola hatalı.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>Cihaz bağlantı hatası!</translation>
+        <translation>Cihaz bağlantı hatası.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>Cihaz markası desteklenmiyor!</translation>
+        <translation>Cihaz markası desteklenmiyor.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>CGI komutu gönderilemedi!</translation>
+        <translation>CGI komutu gönderilemedi.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>Program zaten açık!</translation>
+        <translation>Program zaten açık.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>Yapılandırma programı zaten açık. Lütfen kapatın!</translation>
+        <translation>Yapılandırma programı zaten açık. Lütfen kapatın.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>Veritabanı sürümü yanlış! Veritabanını şimdi sıfırlamak istiyor musunuz?</translation>
+        <translation>Veritabanı sürümü yanlış. Veritabanını şimdi sıfırlamak istiyor musunuz?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>Cihaz algılama zaman aşımına uğradı!</translation>
+        <translation>Cihaz algılama zaman aşımına uğradı.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>SVR kanalı kaldırıldı. Lütfen SVR cihazını yeniden algılayın!</translation>
+        <translation>SVR kanalı kaldırıldı. Lütfen SVR cihazını yeniden algılayın.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Lütfen SVR cihazında UPnP port yönlendirmeyi etkinleştirin!</translation>
+        <translation>Lütfen SVR cihazında UPnP port yönlendirmeyi etkinleştirin.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>Kullanıcı alanı boş!</translation>
+        <translation>Kullanıcı alanı boş.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>Parola alanı boş!</translation>
+        <translation>Parola alanı boş.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>Kullanıcı hesabı veya parola yanlış!</translation>
+        <translation>Kullanıcı hesabı veya parola yanlış.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,15 +241,15 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>Kamera olay sunucusu ayarı hatası!</translation>
+        <translation>Kamera olay sunucusu ayarı hatası.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>Anlık görüntü hatası!</translation>
+        <translation>Anlık görüntü hatası.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
-        <translation>Olay bildirimi sürüyor.</translation>
+        <translation>Olay bildirimi hâlâ sürüyor.</translation>
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>Cihaz bulundu!</translation>
+        <translation>Cihaz bulundu.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -277,7 +277,7 @@
     </message>
     <message id="69">
         <source>Intelligent Overview</source>
-        <translation>Akıllı Algılamaya Bakış</translation>
+        <translation>Akıllı Algılamaya Genel Bakış</translation>
     </message>
     <message id="70">
         <source>Do You Want to Save Snapshot Images ?</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>Kullanıcı adı veya parola hatalı!</translation>
+        <translation>Kullanıcı adı veya parola hatalı.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>Marka desteklenmiyor!</translation>
+        <translation>Marka desteklenmiyor.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>Kamera desteklenmiyor!</translation>
+        <translation>Kamera desteklenmiyor.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>Cihaz bağlantı hatası!</translation>
+        <translation>Cihaz bağlantı hatası.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>Cihaz algılama zaman aşımına uğradı!</translation>
+        <translation>Cihaz algılama zaman aşımına uğradı.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>Sunucuya bağlanılamıyor!</translation>
+        <translation>Sunucuya bağlanılamıyor.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>Hizmet henüz bağlanmadı!</translation>
+        <translation>Hizmet henüz bağlanmadı.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>Bu seriden cihazlar yeniden eklenemez!</translation>
+        <translation>Bu seriden cihazlar yeniden eklenemez.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>Kanal turu kullanılamıyor! Bu işlev için lütfen birden fazla kanal seçin.</translation>
+        <translation>Kanal turu kullanılamıyor. Bu işlev için lütfen birden fazla kanal seçin.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>NVR turu kullanılamıyor! Bu işlev için lütfen birden fazla NVR seçin.</translation>
+        <translation>NVR turu kullanılamıyor. Bu işlev için lütfen birden fazla NVR seçin.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>Şablon turu kullanılamıyor! Bu işlev için lütfen birden fazla şablon seçin.</translation>
+        <translation>Şablon turu kullanılamıyor. Bu işlev için lütfen birden fazla şablon seçin.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,11 +365,11 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>Kamera olayı ayarı 32 adedi geçemez!</translation>
+        <translation>Kamera olayı ayarlarının sayısı 32 değerini aşamaz.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>Lütfen önce bir NVR ekleyin!</translation>
+        <translation>Lütfen önce bir NVR ekleyin.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
@@ -413,7 +413,7 @@
     </message>
     <message id="103">
         <source>E-MAP Monitor</source>
-        <translation>E-Harita Monitörü</translation>
+        <translation>E-harita Monitörü</translation>
     </message>
     <message id="104">
         <source>User Pattern</source>
@@ -553,7 +553,7 @@
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>Tam ekran çalışıyor. Önce kapatın!</translation>
+        <translation>Tam ekran açık. Önce kapatın.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -565,7 +565,7 @@
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>Ad yineleniyor!</translation>
+        <translation>Bu ad zaten var.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>Anlık görüntü alınamadı!</translation>
+        <translation>Anlık görüntü alınamadı.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -773,15 +773,15 @@
     </message>
     <message id="193">
         <source>Return message: </source>
-        <translation>Dönüş iletisi: </translation>
+        <translation>Yanıt iletisi: </translation>
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR'de oynatma kaynağı yok!</translation>
+        <translation>NVR'de oynatma kaynağı yok.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>Oynatma isteği başarısız!</translation>
+        <translation>Oynatma isteği başarısız.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Kayıt verileri alınamadı</translation>
+        <translation>Kayıt verileri alınamadı.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,23 +877,23 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>Gösterilecek kayıt verisi yok!</translation>
+        <translation>Gösterilecek kayıt verisi yok.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>Oynatma durdu! Yeni bir zaman seçin.</translation>
+        <translation>Oynatma durdu. Yeni bir zaman seçin.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>Yanıt yok! Yeniden deneyin veya başka bir cihaz seçin!</translation>
+        <translation>Yanıt yok. Yeniden deneyin veya başka bir cihaz seçin.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>Bağlantı kesildi! </translation>
+        <translation>Bağlantı kesildi. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>Video akışı alınamıyor! Lütfen başka bir kanal seçin.</translation>
+        <translation>Video akışı alınamıyor. Lütfen başka bir kanal seçin.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
@@ -909,19 +909,19 @@
     </message>
     <message id="227">
         <source>Do you want to stop the conversion of avi file ?</source>
-        <translation>AVI dosyasının dönüştürülmesini durdurmak istiyor musunuz?</translation>
+        <translation>AVI'ye dönüştürmeyi durdurmak istiyor musunuz?</translation>
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>AVI dosyası dönüştürme tamamlandı! Dosya… </translation>
+        <translation>AVI'ye dönüştürme tamamlandı. Dosya… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>AVI dosyası dönüştürülüyor!</translation>
+        <translation>AVI'ye dönüştürülüyor.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>AVI dönüştürme başarısız!</translation>
+        <translation>AVI'ye dönüştürme başarısız.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>Hiç SVD ayarlanmamış. Kontrol etmek için bir SVD ekleyin!</translation>
+        <translation>Hiç SVD ayarlanmamış. Kontrol etmek için bir SVD ekleyin.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>Bu kanal zaten bu ekranda gösterilecek şekilde ayarlanmış!</translation>
+        <translation>Bu kanal zaten bu ekranda gösterilecek şekilde ayarlanmış.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>Yeniden bağlanmak için buraya tıklayın!</translation>
+        <translation>Yeniden bağlanmak için buraya tıklayın.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -1001,19 +1001,19 @@
     </message>
     <message id="250">
         <source>Upper left</source>
-        <translation>Sol Yukarı</translation>
+        <translation>Sol Üst</translation>
     </message>
     <message id="251">
         <source>Upper right</source>
-        <translation>Sağ Yukarı</translation>
+        <translation>Sağ Üst</translation>
     </message>
     <message id="252">
         <source>Lower left</source>
-        <translation>Sol Aşağı</translation>
+        <translation>Sol Alt</translation>
     </message>
     <message id="253">
         <source>Lower right</source>
-        <translation>Sağ Aşağı</translation>
+        <translation>Sağ Alt</translation>
     </message>
     <message id="254">
         <source>Home</source>
@@ -1041,7 +1041,7 @@
     </message>
     <message id="260">
         <source>IRIS Auto</source>
-        <translation>Oto. Diyafram</translation>
+        <translation>Otomatik Diyafram</translation>
     </message>
     <message id="261">
         <source>IRIS Close</source>
@@ -1081,7 +1081,7 @@
     </message>
     <message id="270">
         <source>Detail Export:</source>
-        <translation>Ayrıntı Dışa Aktarma:</translation>
+        <translation>Ayrıntıları Dışa Aktar:</translation>
     </message>
     <message id="271">
         <source>Valid Ch</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message id="288">
         <source>NVR Search List</source>
-        <translation>NVR Arama Listesi</translation>
+        <translation>NVR Arama Sonuçları</translation>
     </message>
     <message id="289">
         <source>NVR Detect Status</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>Başarıyla eklendi!</translation>
+        <translation>Başarıyla eklendi.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Ana izleyici açık. Önce kapatın!</translation>
+        <translation>Ana izleyici açık. Önce kapatın.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message id="310">
         <source>E-Map Config</source>
-        <translation>E-Harita Ayarları</translation>
+        <translation>E-harita Ayarları</translation>
     </message>
     <message id="311">
         <source>Screen Layout Config</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message id="313">
         <source>Mail Config</source>
-        <translation>E-Posta Ayarları</translation>
+        <translation>E-posta Ayarları</translation>
     </message>
     <message id="314">
         <source>FTP Config</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>Ad veya kanal listesi ayarlanmalı!</translation>
+        <translation>Ad veya kanal listesi ayarlanmalı.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
@@ -1309,15 +1309,15 @@
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>Kanal seçilmedi!</translation>
+        <translation>Kanal seçilmedi.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>Seçilen zaman veri aralığının dışında!</translation>
+        <translation>Seçilen zaman veri aralığının dışında.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR geçersiz!</translation>
+        <translation>NVR geçersiz.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1401,7 +1401,7 @@
     </message>
     <message id="351">
         <source>CPU Performance:</source>
-        <translation>CPU Performansı:</translation>
+        <translation>CPU Kullanımı:</translation>
     </message>
     <message id="352">
         <source>Login Windows then Auto Start up </source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>NVR bağlanıyor, biraz bekleyip yeniden başlatın!</translation>
+        <translation>NVR bağlanıyor, biraz bekleyip yeniden başlatın.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR çevrimdışı, lütfen başka bir NVR seçin veya bu NVR'nin bağlantı durumunu kontrol edin!</translation>
+        <translation>NVR çevrimdışı, lütfen başka bir NVR seçin veya bu NVR'nin bağlantı durumunu kontrol edin.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>Çıkış cihazı kaldırıldı!</translation>
+        <translation>Çıkış cihazı kaldırıldı.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>Parolalar uyuşmuyor, lütfen yeniden kontrol edin!</translation>
+        <translation>Parolalar uyuşmuyor, lütfen yeniden kontrol edin.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1453,7 +1453,7 @@
     </message>
     <message id="365">
         <source>Power</source>
-        <translation>Güç</translation>
+        <translation>Yetki</translation>
     </message>
     <message id="366">
         <source>CH</source>
@@ -1485,7 +1485,7 @@
     </message>
     <message id="373">
         <source>MD Enable</source>
-        <translation>Algılama Etkin</translation>
+        <translation>Hareket Alg.</translation>
     </message>
     <message id="374">
         <source>MD Sen</source>
@@ -1501,7 +1501,7 @@
     </message>
     <message id="377">
         <source>Detect List</source>
-        <translation>Algılama Listesi</translation>
+        <translation>Algılananlar Listesi</translation>
     </message>
     <message id="378">
         <source>Advance Control </source>
@@ -1609,7 +1609,7 @@
     </message>
     <message id="404">
         <source>Motion Enable List:</source>
-        <translation>Etkin Hareket Listesi:</translation>
+        <translation>Etkin Hareket Algılamalar:</translation>
     </message>
     <message id="405">
         <source>Clear All</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message id="414">
         <source>EMap List:</source>
-        <translation>E-Harita Listesi:</translation>
+        <translation>E-harita Listesi:</translation>
     </message>
     <message id="415">
         <source>Screen List:</source>
@@ -1669,11 +1669,11 @@
     </message>
     <message id="419">
         <source>Mail 1</source>
-        <translation>E-Posta 1</translation>
+        <translation>E-posta 1</translation>
     </message>
     <message id="420">
         <source>Mail 2</source>
-        <translation>E-Posta 2</translation>
+        <translation>E-posta 2</translation>
     </message>
     <message id="421">
         <source>Cell Phone</source>
@@ -1693,7 +1693,7 @@
     </message>
     <message id="425">
         <source>Mail</source>
-        <translation>E-Posta</translation>
+        <translation>E-posta</translation>
     </message>
     <message id="426">
         <source>FTP</source>
@@ -1769,11 +1769,11 @@
     </message>
     <message id="444">
         <source>Modify User</source>
-        <translation>Kullanıcıyı Değiştir</translation>
+        <translation>Kullanıcıyı Düzenle</translation>
     </message>
     <message id="445">
         <source>Modify Group</source>
-        <translation>Grubu Değiştir</translation>
+        <translation>Grubu Düzenle</translation>
     </message>
     <message id="446">
         <source>System Event Trigger Action</source>
@@ -1829,7 +1829,7 @@
     </message>
     <message id="459">
         <source>Mail</source>
-        <translation>E-Posta</translation>
+        <translation>E-posta</translation>
     </message>
     <message id="460">
         <source>FTP</source>
@@ -1845,11 +1845,11 @@
     </message>
     <message id="463">
         <source>Sender E-mail Address</source>
-        <translation>Gönderen E-Posta Adresi</translation>
+        <translation>Gönderen E-posta Adresi</translation>
     </message>
     <message id="464">
         <source>Mail Server</source>
-        <translation>E-Posta Sunucusu</translation>
+        <translation>E-posta Sunucusu</translation>
     </message>
     <message id="465">
         <source>User</source>
@@ -1865,7 +1865,7 @@
     </message>
     <message id="468">
         <source>Mail Addrrss</source>
-        <translation>E-Posta Adresi</translation>
+        <translation>E-posta Adresi</translation>
     </message>
     <message id="469">
         <source>Server IP</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>HTTP sunucusu ayarlanamadı! Tüm HTTP sunucularını kaldırmak istiyor musunuz?</translation>
+        <translation>HTTP sunucusu ayarlanamadı. Tüm HTTP sunucularını kaldırmak istiyor musunuz?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>Sayı 16 değerinden büyük olamaz!</translation>
+        <translation>Sayı 16 değerinden büyük olamaz.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,23 +1929,23 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>Gönderen adı boş olamaz!</translation>
+        <translation>Gönderen adı boş olamaz.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>E-posta sunucusu boş olamaz!</translation>
+        <translation>E-posta sunucusu alanı boş olamaz.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>Kullanıcı boş olamaz!</translation>
+        <translation>Kullanıcı alanı boş olamaz.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>Parola boş olamaz!</translation>
+        <translation>Parola boş olamaz.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>E-posta adresi boş olamaz!</translation>
+        <translation>E-posta adresi boş olamaz.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
@@ -1957,15 +1957,15 @@
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>Sunucu IP boş olamaz!</translation>
+        <translation>Sunucu IP adresi boş olamaz.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>Sunucu portu boş olamaz!</translation>
+        <translation>Sunucu portu boş olamaz.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>Kök yolu boş olamaz!</translation>
+        <translation>Kök yolu boş olamaz.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
@@ -1977,15 +1977,15 @@
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>İleti boş olamaz!</translation>
+        <translation>İleti boş olamaz.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>Ses açıklaması boş olamaz!</translation>
+        <translation>Ses açıklaması boş olamaz.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>Ses dosyası yolu boş olamaz!</translation>
+        <translation>Ses dosyası yolu boş olamaz.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
@@ -2009,15 +2009,15 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>Akıllı algılama ayarı 16 adedi geçemez</translation>
+        <translation>Akıllı algılama ayarlarının sayısı 16 değerini aşamaz.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>NVR eklenemedi! Lütfen yeniden ekleyin.</translation>
+        <translation>NVR eklenemedi. Lütfen yeniden ekleyin.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Dosya boyutu 5 MB'den büyük olamaz</translation>
+        <translation>Dosya boyutu 5 MB'den büyük olamaz.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>Kanal hareket algılamayı desteklemiyor veya bağlı değil!</translation>
+        <translation>Kanal hareket algılamayı desteklemiyor veya bağlı değil.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>Ayar yok!</translation>
+        <translation>Ayar yok.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>Olay eylemi henüz yapılandırılmadı!</translation>
+        <translation>Olay eylemi henüz yapılandırılmadı.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>Video bağlanamıyor.</translation>
+        <translation>Video bağlantısı kurulamıyor.</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>İleti başarıyla gönderildi!</translation>
+        <translation>İleti başarıyla gönderildi.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>İleti gönderilemedi!</translation>
+        <translation>İleti gönderilemedi.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>Seçilen zamana ait kayıt verisi yok!</translation>
+        <translation>Seçilen zamana ait kayıt verisi yok.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>Bu NVR oynatma için grup ID'si alamıyor!</translation>
+        <translation>Bu NVR oynatma için grup ID'si alamıyor.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>Seçilen SVD'nin bağlantısı kesildi. Paneli kapatıp SVD durumunu kontrol edin!</translation>
+        <translation>Seçilen SVD'nin bağlantısı kesildi. Paneli kapatıp SVD durumunu kontrol edin.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>NVR adı boş olamaz!</translation>
+        <translation>NVR adı boş olamaz.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>IP adresi veya ana bilgisayar adı yanlış ayarlanmış!</translation>
+        <translation>IP adresi veya ana bilgisayar adı yanlış ayarlanmış.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR yok!</translation>
+        <translation>NVR mevcut değil.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>Port yanlış ayarlanmış!</translation>
+        <translation>Port yanlış ayarlanmış.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>2 öğeden az seçildi, kaydedilemez!</translation>
+        <translation>2'den az öğe seçildi, kaydedilemez.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>Seçilebilecek yeterli şablon yok!</translation>
+        <translation>Seçilebilecek yeterli şablon yok.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>Bu ekran video duvarına atanmış!</translation>
+        <translation>Bu ekran video duvarına atanmış.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>Seçilebilecek yeterli cihaz yok!</translation>
+        <translation>Seçilebilecek yeterli cihaz yok.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2301,7 +2301,7 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>NVR IP boş olamaz.</translation>
+        <translation>NVR IP adresi boş olamaz.</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>NVR kullanıcısı boş olamaz.</translation>
+        <translation>NVR kullanıcı alanı boş olamaz.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2317,7 +2317,7 @@
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>Saat dilimi isteği hatası! Lütfen yeniden algılayın.</translation>
+        <translation>Saat dilimi isteği hatası. Lütfen yeniden algılayın.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
@@ -2341,39 +2341,39 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>Kanal adı boş olamaz!</translation>
+        <translation>Kanal adı boş olamaz.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>IP adresi boş olamaz!</translation>
+        <translation>IP adresi boş olamaz.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>HTTP portu boş olamaz!</translation>
+        <translation>HTTP portu boş olamaz.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>Kullanıcı hesabı boş olamaz!</translation>
+        <translation>Kullanıcı hesabının adı boş olamaz.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>Parola boş olamaz!</translation>
+        <translation>Parola boş olamaz.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>Algılama hatası!</translation>
+        <translation>Algılama hatası.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>Kamera yok veya bağlantı kurulamadı!</translation>
+        <translation>Kamera yok veya bağlantı kurulamadı.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>NVR'nin bu donanım yazılımı sürümü desteklenmiyor, lütfen yeni sürüme güncelleyin.</translation>
+        <translation>NVR'nin bu donanım yazılımı sürümü desteklenmiyor, lütfen daha yeni bir sürüme güncelleyin.</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>Düğmeye basarsanız NVR'deki veriler değişir!</translation>
+        <translation>Düğmeye basarsanız NVR'deki veriler değişir.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>Marka desteklenmiyor!</translation>
+        <translation>Marka desteklenmiyor.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>Video biçimi hatası!</translation>
+        <translation>Video biçimi hatası.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2397,7 +2397,7 @@
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>Kamera eklenemedi!</translation>
+        <translation>Kamera eklenemedi.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>Cihaz desteklenmiyor!</translation>
+        <translation>Cihaz desteklenmiyor.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>Bu hesap zaten ayarlanmış!</translation>
+        <translation>Bu hesap zaten tanımlı.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,11 +2445,11 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Dosya boyutu 10 MB'den büyük olamaz</translation>
+        <translation>Dosya boyutu 10 MB'den büyük olamaz.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
-        <translation>E-Harita Ayarları</translation>
+        <translation>E-harita Ayarları</translation>
     </message>
     <message id="642">
         <source>*Double Click Windows to change Map images.</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Bu ad henüz kullanılmıyor</translation>
+        <translation>Bu ad henüz kullanılmıyor.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Bu ad kullanımda</translation>
+        <translation>Bu ad kullanımda.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>Kullanıcı veya parola girilmedi!</translation>
+        <translation>Kullanıcı veya parola girilmedi.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>Tam Ekranı Hazırlama</translation>
+        <translation>Başlangıçta Tam Ekran</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -2641,11 +2641,11 @@
     </message>
     <message id="705">
         <source>Emap Group Assign</source>
-        <translation>E-Harita Grubu Atama</translation>
+        <translation>E-harita Grubu Atama</translation>
     </message>
     <message id="706">
         <source>Emap Group </source>
-        <translation>E-Harita Grubu </translation>
+        <translation>E-harita Grubu </translation>
     </message>
     <message id="707">
         <source>Member:</source>
@@ -2653,7 +2653,7 @@
     </message>
     <message id="708">
         <source>Emap Position Assign</source>
-        <translation>E-Harita Konumu Atama</translation>
+        <translation>E-harita Konumu Atama</translation>
     </message>
     <message id="709">
         <source>Parent</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>Cihaz sayısı varsayılan değeri aşacak!</translation>
+        <translation>İzin verilen cihaz sayısı aşılacak.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>Toplam kanal sayısı varsayılan değeri aşacak!</translation>
+        <translation>İzin verilen toplam kanal sayısı aşılacak.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>Cihaz yetenekleri alınamadı!</translation>
+        <translation>Cihaz yetenekleri alınamadı.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>Ayarlanamadı!</translation>
+        <translation>Ayarlanamadı.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>Değişiklik yok!</translation>
+        <translation>Değişiklik yok.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2733,11 +2733,11 @@
     </message>
     <message id="729">
         <source>Event Export</source>
-        <translation>Olay Dışa Aktarma</translation>
+        <translation>Olayları Dışa Aktar</translation>
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>Sistem Günlüğü Dışa Aktarma</translation>
+        <translation>Sistem Günlüğünü Dışa Aktar</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>Dışa aktarmak için bir yol seçmelisiniz!</translation>
+        <translation>Dışa aktarmak için bir yol seçmelisiniz.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>Başlangıç zamanı bitiş zamanından önce olmalı!</translation>
+        <translation>Başlangıç zamanı bitiş zamanından önce olmalı.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>Olay yok!</translation>
+        <translation>Olay yok.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>Sistem günlüğü yok!</translation>
+        <translation>Sistem günlüğünde kayıt yok.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>CSV dışa aktarma tamamlandı!</translation>
+        <translation>CSV dışa aktarma tamamlandı.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>MDB dışa aktarma tamamlandı!</translation>
+        <translation>MDB dışa aktarma tamamlandı.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>Açılamadı, kullanılabilir ekran sayısı yetersiz!</translation>
+        <translation>Açılamadı, kullanılabilir ekran sayısı yetersiz.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>Açılamadı, video duvarı etkin değil! </translation>
+        <translation>Açılamadı, video duvarı etkin değil. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>Ekran sayısı yetersiz! Desteklenmiyor!</translation>
+        <translation>Ekran sayısı yetersiz. Desteklenmiyor.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Ayarlar değişti, lütfen ana izleyiciyi yeniden açın!</translation>
+        <translation>Ayarlar değişti, lütfen ana izleyiciyi yeniden açın.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>Olay anlık görüntüleri için depolama alanı yetersiz!</translation>
+        <translation>Olay anlık görüntüleri için depolama alanı yetersiz.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>Ayarlanabilecek yeterli ekran yok!</translation>
+        <translation>Ayarlanabilecek yeterli ekran yok.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>Geçersiz e-posta adresi!</translation>
+        <translation>Geçersiz e-posta adresi.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>Geçersiz değer!</translation>
+        <translation>Geçersiz değer.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>Yeniden eklenemez!</translation>
+        <translation>Yeniden eklenemez.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>Artık SVD eklenemez!</translation>
+        <translation>Artık SVD eklenemez.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>Dışa aktarma tamamlandı!</translation>
+        <translation>Dışa aktarma tamamlandı.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3137,7 +3137,7 @@
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>Algılama başarılı!</translation>
+        <translation>Algılama başarılı.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3165,11 +3165,11 @@
     </message>
     <message id="840">
         <source>SVD Search List</source>
-        <translation>SVD Arama Listesi</translation>
+        <translation>SVD Arama Sonuçları</translation>
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>Bağlı monitör yok!</translation>
+        <translation>Bağlı monitör yok.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>Olay anlık görüntüsü çalışmıyor!</translation>
+        <translation>Olay anlık görüntüsü çalışmıyor.</translation>
     </message>
     <message id="850">
         <source>System</source>
@@ -3201,7 +3201,7 @@
     </message>
     <message id="855">
         <source>E-Map</source>
-        <translation>E-Harita</translation>
+        <translation>E-harita</translation>
     </message>
     <message id="856">
         <source>Screen layout</source>
