@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>Der er ikke flere ledige CGI-id'er!</translation>
+        <translation>Der er ikke flere ledige CGI-id'er.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>Forkert brugernavn eller adgangskode!</translation>
+        <translation>Forkert brugernavn eller adgangskode.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>Fejl i forbindelsen til enheden!</translation>
+        <translation>Fejl i forbindelsen til enheden.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>Enhedens mærke understøttes ikke!</translation>
+        <translation>Enhedens mærke understøttes ikke.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>CGI-kommandoen kunne ikke sendes!</translation>
+        <translation>CGI-kommandoen kunne ikke sendes.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>Programmet er allerede åbent!</translation>
+        <translation>Programmet er allerede åbent.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>Opsætningsprogrammet er åbent. Luk det først!</translation>
+        <translation>Opsætningsprogrammet er åbent. Luk det først.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>Forkert databaseversion! Vil du nulstille databasen nu?</translation>
+        <translation>Forkert databaseversion. Vil du nulstille databasen nu?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
@@ -97,7 +97,7 @@
     </message>
     <message id="23">
         <source>Multi-Screen set up is loading ...</source>
-        <translation>Indlæser skærmopsætning …</translation>
+        <translation>Indlæser opsætning af flere skærme …</translation>
     </message>
     <message id="24">
         <source>System component registering  ...</source>
@@ -117,7 +117,7 @@
     </message>
     <message id="28">
         <source>Start Service Mode...</source>
-        <translation>Starter tjenestetilstand …</translation>
+        <translation>Starter servicetilstand …</translation>
     </message>
     <message id="29">
         <source>Start Monitor Window ...</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>Timeout ved detektering af enhed!</translation>
+        <translation>Timeout ved detektering af enhed.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>SVR'ens kanal er blevet fjernet. Detekter SVR'en igen!</translation>
+        <translation>SVR'ens kanal er blevet fjernet. Detekter SVR'en igen.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Aktiver UPnP-portviderestilling på SVR'en!</translation>
+        <translation>Aktiver UPnP-portviderestilling på SVR'en.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,19 +169,19 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>Feltet Bruger er tomt!</translation>
+        <translation>Feltet Bruger er tomt.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>Feltet Adgangskode er tomt!</translation>
+        <translation>Feltet Adgangskode er tomt.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>Forkert brugerkonto eller adgangskode!</translation>
+        <translation>Forkert brugerkonto eller adgangskode.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
-        <translation>Hovedviser</translation>
+        <translation>Hovedfremviser</translation>
     </message>
     <message id="46">
         <source>NVR Setting</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>Fejl i indstillingerne for kameraets hændelsesserver!</translation>
+        <translation>Fejl i indstillingerne for kameraets hændelsesserver.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>Fejl ved øjebliksbillede!</translation>
+        <translation>Fejl ved øjebliksbillede.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>Enhed fundet!</translation>
+        <translation>Enhed fundet.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>Forkert brugernavn eller adgangskode!</translation>
+        <translation>Forkert brugernavn eller adgangskode.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>Mærket understøttes ikke!</translation>
+        <translation>Mærket understøttes ikke.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>Kameraet understøttes ikke!</translation>
+        <translation>Kameraet understøttes ikke.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>Fejl i forbindelsen til enheden!</translation>
+        <translation>Fejl i forbindelsen til enheden.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>Timeout ved detektering af enhed!</translation>
+        <translation>Timeout ved detektering af enhed.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>Kan ikke oprette forbindelse til serveren!</translation>
+        <translation>Kan ikke oprette forbindelse til serveren.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>Tjenesten er ikke forbundet endnu!</translation>
+        <translation>Tjenesten er ikke forbundet endnu.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>Enheder i denne serie kan ikke tilføjes flere gange!</translation>
+        <translation>Enheder i denne serie kan ikke tilføjes flere gange.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>Kanal-SEQ er ikke tilgængelig! Vælg mere end én kanal for at bruge funktionen.</translation>
+        <translation>Kanal-SEQ er ikke tilgængelig. Vælg mere end én kanal for at bruge funktionen.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>NVR-SEQ er ikke tilgængelig! Vælg mere end én NVR for at bruge funktionen.</translation>
+        <translation>NVR-SEQ er ikke tilgængelig. Vælg mere end én NVR for at bruge funktionen.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>Visnings-SEQ er ikke tilgængelig! Vælg mere end én visning for at bruge funktionen.</translation>
+        <translation>Visnings-SEQ er ikke tilgængelig. Vælg mere end én visning for at bruge funktionen.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,11 +365,11 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>Der kan højst være 32 kamerahændelser!</translation>
+        <translation>Der kan højst være 32 kamerahændelser.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>Tilføj først en NVR!</translation>
+        <translation>Tilføj først en NVR.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
@@ -449,7 +449,7 @@
     </message>
     <message id="112">
         <source>Event Trigger</source>
-        <translation>Hændelsesudløser</translation>
+        <translation>Hændelse udløst</translation>
     </message>
     <message id="113">
         <source>Connecting</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="120">
         <source>SEQ ALL</source>
-        <translation>Alle SEQ</translation>
+        <translation>Alle i SEQ</translation>
     </message>
     <message id="121">
         <source>SEQ</source>
@@ -493,7 +493,7 @@
     </message>
     <message id="123">
         <source>Service Mode</source>
-        <translation>Tjenestetilstand</translation>
+        <translation>Servicetilstand</translation>
     </message>
     <message id="124">
         <source>Language</source>
@@ -553,7 +553,7 @@
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>Fuld skærm er aktiv. Luk den først!</translation>
+        <translation>Fuld skærm er aktiv. Luk den først.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -565,7 +565,7 @@
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>Navnet findes allerede!</translation>
+        <translation>Navnet findes allerede.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>Øjebliksbilledet mislykkedes!</translation>
+        <translation>Øjebliksbilledet mislykkedes.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -653,7 +653,7 @@
     </message>
     <message id="163">
         <source>Event Mode:</source>
-        <translation>Hændelsestilstand:</translation>
+        <translation>Hændelsestype:</translation>
     </message>
     <message id="164">
         <source>Event Trigger Time:</source>
@@ -721,7 +721,7 @@
     </message>
     <message id="180">
         <source>Event Mode</source>
-        <translation>Hændelsestilstand</translation>
+        <translation>Hændelsestype</translation>
     </message>
     <message id="181">
         <source>Process</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR'en har ingen ledige afspilningsressourcer!</translation>
+        <translation>NVR'en har ingen ledige afspilningsressourcer.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>Anmodning om afspilning mislykkedes!</translation>
+        <translation>Anmodning om afspilning mislykkedes.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -877,23 +877,23 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>Der er ingen optagelse at vise!</translation>
+        <translation>Der er ingen optagelse at vise.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>Afspilning stoppet! Vælg et nyt tidspunkt.</translation>
+        <translation>Afspilning stoppet. Vælg et nyt tidspunkt.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>Intet svar! Prøv igen, eller vælg en anden enhed!</translation>
+        <translation>Intet svar. Prøv igen, eller vælg en anden enhed.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>Forbindelsen er afbrudt! </translation>
+        <translation>Forbindelsen er afbrudt. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>Kan ikke hente videostream! Vælg en anden kanal.</translation>
+        <translation>Kan ikke hente videostream. Vælg en anden kanal.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
@@ -913,15 +913,15 @@
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>AVI-filen er konverteret! Filen er … </translation>
+        <translation>AVI-filen er konverteret. Filen er … </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>Konverterer AVI-fil!</translation>
+        <translation>Konverterer AVI-fil.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>AVI-konvertering mislykkedes!</translation>
+        <translation>AVI-konvertering mislykkedes.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>Der er ikke oprettet nogen SVD. Tilføj en SVD for at styre den!</translation>
+        <translation>Der er ikke oprettet nogen SVD. Tilføj en SVD for at styre den.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>Denne kanal vises allerede på denne skærm!</translation>
+        <translation>Denne kanal vises allerede på denne skærm.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,11 +953,11 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>Klik her for at genoprette forbindelsen!</translation>
+        <translation>Klik her for at genoprette forbindelsen.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
-        <translation>SVD-skærmbilledet skifter …</translation>
+        <translation>SVD-brugerfladen skifter …</translation>
     </message>
     <message id="240">
         <source>NO.:</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message id="288">
         <source>NVR Search List</source>
-        <translation>NVR-søgeliste</translation>
+        <translation>Fundne NVR'er</translation>
     </message>
     <message id="289">
         <source>NVR Detect Status</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>Tilføjet!</translation>
+        <translation>Tilføjet.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Hovedviseren er åben. Luk den først!</translation>
+        <translation>Hovedfremviseren er åben. Luk den først.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message id="318">
         <source>Main Viewer</source>
-        <translation>Hovedviser</translation>
+        <translation>Hovedfremviser</translation>
     </message>
     <message id="319">
         <source>Exit</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>Navn eller kanalliste skal angives!</translation>
+        <translation>Navn eller kanalliste skal angives.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
@@ -1309,15 +1309,15 @@
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>Der er ikke valgt nogen kanal!</translation>
+        <translation>Der er ikke valgt nogen kanal.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>Det valgte tidspunkt ligger uden for dataområdet!</translation>
+        <translation>Det valgte tidspunkt ligger uden for dataområdet.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR'en er ugyldig!</translation>
+        <translation>NVR'en er ugyldig.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1341,7 +1341,7 @@
     </message>
     <message id="335">
         <source>Event Sync Time:</source>
-        <translation>Hændelsessynkronisering:</translation>
+        <translation>Synk. af hændelser:</translation>
     </message>
     <message id="336">
         <source>Snapshot Count:</source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>NVR'en opretter forbindelse. Vent et øjeblik, og start igen!</translation>
+        <translation>NVR'en opretter forbindelse. Vent et øjeblik, og start igen.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR'en er offline. Vælg en anden NVR, eller kontroller dens forbindelse!</translation>
+        <translation>NVR'en er offline. Vælg en anden NVR, eller kontroller dens forbindelse.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>Outputenheden er blevet fjernet!</translation>
+        <translation>Outputenheden er blevet fjernet.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>Adgangskoderne er ikke ens. Kontroller dem igen!</translation>
+        <translation>Adgangskoderne er ikke ens. Kontroller dem igen.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1601,7 +1601,7 @@
     </message>
     <message id="402">
         <source>Trigger for Motion Detect</source>
-        <translation>Udløser for bevægelsesdetektering</translation>
+        <translation>Udløsning ved bevægelse</translation>
     </message>
     <message id="403">
         <source>Status</source>
@@ -1633,7 +1633,7 @@
     </message>
     <message id="410">
         <source>SET</source>
-        <translation>Angiv</translation>
+        <translation>Indstil</translation>
     </message>
     <message id="411">
         <source>User List:</source>
@@ -1645,7 +1645,7 @@
     </message>
     <message id="413">
         <source>Event Setting List:</source>
-        <translation>Liste over hændelsesindstillinger:</translation>
+        <translation>Hændelsesindstillinger:</translation>
     </message>
     <message id="414">
         <source>EMap List:</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>HTTP-serveren kunne ikke indstilles! Vil du fjerne alle HTTP-servere?</translation>
+        <translation>HTTP-serveren kunne ikke indstilles. Vil du fjerne alle HTTP-servere?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>Antallet må ikke være over 16!</translation>
+        <translation>Antallet må ikke være over 16.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,23 +1929,23 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>Afsendernavnet må ikke være tomt!</translation>
+        <translation>Afsendernavnet må ikke være tomt.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>Mailserveren må ikke være tom!</translation>
+        <translation>Mailserveren må ikke være tom.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>Brugeren må ikke være tom!</translation>
+        <translation>Brugernavnet må ikke være tomt.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>Adgangskoden må ikke være tom!</translation>
+        <translation>Adgangskoden må ikke være tom.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>Mailadressen må ikke være tom!</translation>
+        <translation>Mailadressen må ikke være tom.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
@@ -1957,15 +1957,15 @@
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>Server-IP må ikke være tom!</translation>
+        <translation>Server-IP'en må ikke være tom.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>Serverporten må ikke være tom!</translation>
+        <translation>Serverporten må ikke være tom.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>Rodstien må ikke være tom!</translation>
+        <translation>Rodstien må ikke være tom.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
@@ -1977,15 +1977,15 @@
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>Beskeden må ikke være tom!</translation>
+        <translation>Beskeden må ikke være tom.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>Lydbeskrivelsen må ikke være tom!</translation>
+        <translation>Lydbeskrivelsen må ikke være tom.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>Stien til lydfilen må ikke være tom!</translation>
+        <translation>Stien til lydfilen må ikke være tom.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
@@ -2009,15 +2009,15 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>Der kan højst være 16 analyseindstillinger</translation>
+        <translation>Der kan højst være 16 kanaler med videoanalyse.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>NVR'en kunne ikke tilføjes! Tilføj den igen.</translation>
+        <translation>NVR'en kunne ikke tilføjes. Tilføj den igen.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Filen må højst fylde 5 MB</translation>
+        <translation>Filen må højst fylde 5 MB.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
-        <translation>Vil du afslutte og åbne hovedviseren?</translation>
+        <translation>Vil du afslutte og åbne hovedfremviseren?</translation>
     </message>
     <message id="509">
         <source>Do you want to exit?</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>Kanalen understøtter ikke bevægelsesdetektering eller er ikke forbundet!</translation>
+        <translation>Kanalen understøtter ikke bevægelsesdetektering eller er ikke forbundet.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>Ingen indstilling!</translation>
+        <translation>Ingen indstilling.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>Hændelseshandlingen er ikke konfigureret endnu!</translation>
+        <translation>Hændelseshandlingen er ikke konfigureret endnu.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>Videoen kan ikke forbindes.</translation>
+        <translation>Der kan ikke oprettes videoforbindelse.</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>Beskeden er sendt!</translation>
+        <translation>Beskeden er sendt.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>Beskeden kunne ikke sendes!</translation>
+        <translation>Beskeden kunne ikke sendes.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>Der er ingen optagelse på det valgte tidspunkt!</translation>
+        <translation>Der er ingen optagelse på det valgte tidspunkt.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>Denne NVR kan ikke få et gruppe-id til afspilning!</translation>
+        <translation>Denne NVR leverer ikke noget gruppe-id til afspilning.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>Forbindelsen til den valgte SVD er afbrudt. Panelet lukkes. Kontroller SVD'ens status!</translation>
+        <translation>Forbindelsen til den valgte SVD er afbrudt. Panelet lukkes. Kontroller SVD'ens status.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>NVR-navnet må ikke være tomt!</translation>
+        <translation>NVR-navnet må ikke være tomt.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>IP-adressen eller værtsnavnet er forkert!</translation>
+        <translation>IP-adressen eller værtsnavnet er forkert.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR'en findes ikke!</translation>
+        <translation>NVR'en findes ikke.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>Porten er forkert!</translation>
+        <translation>Porten er forkert.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2177,7 +2177,7 @@
     </message>
     <message id="559">
         <source>Pattern select setting</source>
-        <translation>Valg af visning</translation>
+        <translation>Valg af visninger</translation>
     </message>
     <message id="560">
         <source>All list</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>Der er valgt færre end 2 elementer, så der kan ikke gemmes!</translation>
+        <translation>Der er valgt færre end 2 elementer, så der kan ikke gemmes.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>Der er ikke nok visninger at vælge imellem!</translation>
+        <translation>Der er ikke nok visninger at vælge imellem.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>Denne skærm er tildelt videovæggen!</translation>
+        <translation>Denne skærm er tildelt videovæggen.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>Der er ikke nok enheder at vælge imellem!</translation>
+        <translation>Der er ikke nok enheder at vælge imellem.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>NVR'ens bruger må ikke være tom.</translation>
+        <translation>NVR'ens brugernavn må ikke være tomt.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2317,7 +2317,7 @@
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>Fejl ved hentning af tidszone! Detekter igen.</translation>
+        <translation>Fejl ved hentning af tidszone. Detekter igen.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
@@ -2341,31 +2341,31 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>Kanalnavnet må ikke være tomt!</translation>
+        <translation>Kanalnavnet må ikke være tomt.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>IP-adressen må ikke være tom!</translation>
+        <translation>IP-adressen må ikke være tom.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>HTTP-porten må ikke være tom!</translation>
+        <translation>HTTP-porten må ikke være tom.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>Brugerkontoen må ikke være tom!</translation>
+        <translation>Brugerkontoen må ikke være tom.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>Adgangskoden må ikke være tom!</translation>
+        <translation>Adgangskoden må ikke være tom.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>Fejl ved detektering!</translation>
+        <translation>Fejl ved detektering.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>Intet kamera eller fejl i forbindelsen!</translation>
+        <translation>Intet kamera eller fejl i forbindelsen.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
@@ -2373,7 +2373,7 @@
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>Hvis du trykker på knappen, ændres dataene i NVR'en!</translation>
+        <translation>Hvis du trykker på knappen, ændres dataene i NVR'en.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>Mærket understøttes ikke!</translation>
+        <translation>Mærket understøttes ikke.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>Fejl i videoformat!</translation>
+        <translation>Fejl i videoformat.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2397,7 +2397,7 @@
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>Kameraet kunne ikke tilføjes!</translation>
+        <translation>Kameraet kunne ikke tilføjes.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>Enheden understøttes ikke!</translation>
+        <translation>Enheden understøttes ikke.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>Denne konto er allerede oprettet!</translation>
+        <translation>Denne konto er allerede oprettet.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Filen må højst fylde 10 MB</translation>
+        <translation>Filen må højst fylde 10 MB.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Dette navn er ledigt</translation>
+        <translation>Dette navn er ledigt.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Dette navn er i brug</translation>
+        <translation>Dette navn er i brug.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>Bruger eller adgangskode er ikke indtastet!</translation>
+        <translation>Bruger eller adgangskode er ikke indtastet.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2561,7 +2561,7 @@
     </message>
     <message id="685">
         <source>Keep Ratio</source>
-        <translation>Bevar billedformat</translation>
+        <translation>Bevar billedforhold</translation>
     </message>
     <message id="686">
         <source>Intelligent Detection</source>
@@ -2621,11 +2621,11 @@
     </message>
     <message id="700">
         <source>Foreign Object</source>
-        <translation>Fremmed objekt</translation>
+        <translation>Efterladt objekt</translation>
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Nulstil fremmed objekt </translation>
+        <translation>Nulstil efterladt objekt </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>Det tilladte antal enheder overskrides!</translation>
+        <translation>Det tilladte antal enheder overskrides.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>Det tilladte samlede antal kanaler overskrides!</translation>
+        <translation>Det tilladte samlede antal kanaler overskrides.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>Fejl ved hentning af enhedens funktioner!</translation>
+        <translation>Fejl ved hentning af enhedens funktioner.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
@@ -2709,11 +2709,11 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>Indstillingen mislykkedes!</translation>
+        <translation>Indstillingen mislykkedes.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
-        <translation>Vil du stoppe SEQ-tilstand?</translation>
+        <translation>Vil du stoppe SEQ-tilstanden?</translation>
     </message>
     <message id="725">
         <source>Type </source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>Ingen ændring!</translation>
+        <translation>Ingen ændring.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>Vælg en sti til eksporten!</translation>
+        <translation>Vælg en sti til eksporten.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>Starttid skal ligge før sluttid!</translation>
+        <translation>Starttid skal ligge før sluttid.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>Ingen hændelser!</translation>
+        <translation>Ingen hændelser.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>Ingen systemlog!</translation>
+        <translation>Ingen poster i systemloggen.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>CSV-eksport fuldført!</translation>
+        <translation>CSV-eksport fuldført.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>MDB-eksport fuldført!</translation>
+        <translation>MDB-eksport fuldført.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2853,7 +2853,7 @@
     </message>
     <message id="759">
         <source>Support</source>
-        <translation>Understøttelse</translation>
+        <translation>Understøttet</translation>
     </message>
     <message id="760">
         <source>Original View</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>Kan ikke åbnes: Der er ikke nok ledige skærme!</translation>
+        <translation>Kan ikke åbnes: Der er ikke nok ledige skærme.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>Kan ikke åbnes: Videovæggen er ikke aktiveret! </translation>
+        <translation>Kan ikke åbnes: Videovæggen er ikke aktiveret. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>Der er ikke nok skærme! Understøttes ikke!</translation>
+        <translation>Der er ikke nok skærme. Understøttes ikke.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Indstillingerne er ændret. Åbn hovedviseren igen!</translation>
+        <translation>Indstillingerne er ændret. Åbn hovedfremviseren igen.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>Der er ikke nok lagerplads til hændelsesbilleder!</translation>
+        <translation>Der er ikke nok lagerplads til hændelsesbilleder.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>Der er ikke nok skærme at indstille!</translation>
+        <translation>Der er ikke nok skærme at indstille.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3061,7 +3061,7 @@
     </message>
     <message id="813">
         <source>System Log Viewer</source>
-        <translation>Systemlogviser</translation>
+        <translation>Systemlogfremviser</translation>
     </message>
     <message id="814">
         <source>Management </source>
@@ -3069,7 +3069,7 @@
     </message>
     <message id="815">
         <source>Viewer</source>
-        <translation>Viser</translation>
+        <translation>Fremviser</translation>
     </message>
     <message id="816">
         <source>Add New SVD</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>Ugyldig mailadresse!</translation>
+        <translation>Ugyldig mailadresse.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>Ugyldig værdi!</translation>
+        <translation>Ugyldig værdi.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>Kan ikke tilføjes flere gange!</translation>
+        <translation>Kan ikke tilføjes flere gange.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>Der kan ikke tilføjes flere SVD'er!</translation>
+        <translation>Der kan ikke tilføjes flere SVD'er.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>Eksport fuldført!</translation>
+        <translation>Eksport fuldført.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3129,7 +3129,7 @@
     </message>
     <message id="831">
         <source>NVR Account setting</source>
-        <translation>NVR-konto</translation>
+        <translation>NVR-konti</translation>
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
@@ -3137,11 +3137,11 @@
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>Detektering fuldført!</translation>
+        <translation>Detektering fuldført.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
-        <translation>Kameradetektering kunne ikke konfigureres på kanal:</translation>
+        <translation>Kameraets detektering kunne ikke konfigureres på kanal:</translation>
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
@@ -3165,11 +3165,11 @@
     </message>
     <message id="840">
         <source>SVD Search List</source>
-        <translation>SVD-søgeliste</translation>
+        <translation>Fundne SVD'er</translation>
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>Ingen monitor tilsluttet!</translation>
+        <translation>Ingen monitor tilsluttet.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>Øjebliksbilleder ved hændelser virker ikke!</translation>
+        <translation>Øjebliksbilleder ved hændelser virker ikke.</translation>
     </message>
     <message id="850">
         <source>System</source>

@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>Keine freie CGI-ID mehr!</translation>
+        <translation>Keine freie CGI-ID mehr.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>Benutzername oder Passwort falsch!</translation>
+        <translation>Benutzername oder Passwort falsch.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>Verbindung zum Gerät fehlgeschlagen!</translation>
+        <translation>Verbindung zum Gerät fehlgeschlagen.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>Gerätemarke wird nicht unterstützt!</translation>
+        <translation>Gerätemarke wird nicht unterstützt.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>CGI-Befehl konnte nicht gesendet werden!</translation>
+        <translation>CGI-Befehl konnte nicht gesendet werden.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>Das Programm läuft bereits!</translation>
+        <translation>Das Programm läuft bereits.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>Das Einrichtungsprogramm ist noch geöffnet. Bitte zuerst schließen!</translation>
+        <translation>Das Einrichtungsprogramm ist noch geöffnet. Bitte zuerst schließen.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>Falsche Datenbankversion! Möchten Sie die Datenbank jetzt zurücksetzen?</translation>
+        <translation>Falsche Datenbankversion. Möchten Sie die Datenbank jetzt zurücksetzen?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
@@ -97,7 +97,7 @@
     </message>
     <message id="23">
         <source>Multi-Screen set up is loading ...</source>
-        <translation>Bildschirmeinstellungen werden geladen …</translation>
+        <translation>Mehrbildschirm-Einrichtung wird geladen …</translation>
     </message>
     <message id="24">
         <source>System component registering  ...</source>
@@ -117,7 +117,7 @@
     </message>
     <message id="28">
         <source>Start Service Mode...</source>
-        <translation>Dienstmodus wird gestartet …</translation>
+        <translation>Servicemodus wird gestartet …</translation>
     </message>
     <message id="29">
         <source>Start Monitor Window ...</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>Zeitüberschreitung bei der Geräteerkennung!</translation>
+        <translation>Zeitüberschreitung bei der Geräteerkennung.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>Der Kanal des SVR wurde entfernt. Bitte den SVR erneut erkennen!</translation>
+        <translation>Der Kanal des SVR wurde entfernt. Bitte den SVR erneut erkennen.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Bitte die UPnP-Portweiterleitung des SVR aktivieren!</translation>
+        <translation>Bitte die UPnP-Portweiterleitung des SVR aktivieren.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>Das Feld „Benutzer“ ist leer!</translation>
+        <translation>Das Feld „Benutzer“ ist leer.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>Das Feld „Passwort“ ist leer!</translation>
+        <translation>Das Feld „Passwort“ ist leer.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>Benutzerkonto oder Passwort falsch!</translation>
+        <translation>Benutzerkonto oder Passwort falsch.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>Fehler bei den Kamera-Ereignisserver-Einstellungen!</translation>
+        <translation>Fehler bei den Kamera-Ereignisserver-Einstellungen.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>Schnappschuss fehlgeschlagen!</translation>
+        <translation>Schnappschuss fehlgeschlagen.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>Gerät gefunden!</translation>
+        <translation>Gerät gefunden.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>Benutzername oder Passwort falsch!</translation>
+        <translation>Benutzername oder Passwort falsch.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>Marke wird nicht unterstützt!</translation>
+        <translation>Marke wird nicht unterstützt.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>Kamera wird nicht unterstützt!</translation>
+        <translation>Kamera wird nicht unterstützt.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>Verbindung zum Gerät fehlgeschlagen!</translation>
+        <translation>Verbindung zum Gerät fehlgeschlagen.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>Zeitüberschreitung bei der Geräteerkennung!</translation>
+        <translation>Zeitüberschreitung bei der Geräteerkennung.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>Keine Verbindung zum Server möglich!</translation>
+        <translation>Keine Verbindung zum Server möglich.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>Der Dienst ist noch nicht verbunden!</translation>
+        <translation>Der Dienst ist noch nicht verbunden.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>Geräte dieser Serie können nicht mehrfach hinzugefügt werden!</translation>
+        <translation>Geräte dieser Serie können nicht mehrfach hinzugefügt werden.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>Kanal-SEQ nicht verfügbar! Für diese Funktion bitte mehr als einen Kanal auswählen.</translation>
+        <translation>Kanal-SEQ nicht verfügbar. Für diese Funktion bitte mehr als einen Kanal auswählen.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>NVR-SEQ nicht verfügbar! Für diese Funktion bitte mehr als einen NVR auswählen.</translation>
+        <translation>NVR-SEQ nicht verfügbar. Für diese Funktion bitte mehr als einen NVR auswählen.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>Ansichten-SEQ nicht verfügbar! Für diese Funktion bitte mehr als eine Ansicht auswählen.</translation>
+        <translation>Ansichten-SEQ nicht verfügbar. Für diese Funktion bitte mehr als eine Ansicht auswählen.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,11 +365,11 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>Es sind höchstens 32 Kameraereignis-Einstellungen möglich!</translation>
+        <translation>Es sind höchstens 32 Kameraereignis-Einstellungen möglich.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>Bitte zuerst einen NVR hinzufügen!</translation>
+        <translation>Bitte zuerst einen NVR hinzufügen.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
@@ -449,11 +449,11 @@
     </message>
     <message id="112">
         <source>Event Trigger</source>
-        <translation>Ereignisauslöser</translation>
+        <translation>Ereignis ausgelöst</translation>
     </message>
     <message id="113">
         <source>Connecting</source>
-        <translation>Verbindet</translation>
+        <translation>Wird verbunden</translation>
     </message>
     <message id="114">
         <source>Video Loss</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="120">
         <source>SEQ ALL</source>
-        <translation>Alle SEQ</translation>
+        <translation>Alle in SEQ</translation>
     </message>
     <message id="121">
         <source>SEQ</source>
@@ -493,7 +493,7 @@
     </message>
     <message id="123">
         <source>Service Mode</source>
-        <translation>Dienstmodus</translation>
+        <translation>Servicemodus</translation>
     </message>
     <message id="124">
         <source>Language</source>
@@ -553,7 +553,7 @@
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>Das Vollbild ist aktiv. Bitte zuerst schließen!</translation>
+        <translation>Das Vollbild ist aktiv. Bitte zuerst schließen.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -565,7 +565,7 @@
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>Name bereits vorhanden!</translation>
+        <translation>Name bereits vorhanden.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>Schnappschuss fehlgeschlagen!</translation>
+        <translation>Schnappschuss fehlgeschlagen.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -653,7 +653,7 @@
     </message>
     <message id="163">
         <source>Event Mode:</source>
-        <translation>Ereignismodus:</translation>
+        <translation>Ereignistyp:</translation>
     </message>
     <message id="164">
         <source>Event Trigger Time:</source>
@@ -721,7 +721,7 @@
     </message>
     <message id="180">
         <source>Event Mode</source>
-        <translation>Ereignismodus</translation>
+        <translation>Ereignistyp</translation>
     </message>
     <message id="181">
         <source>Process</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>Keine Wiedergaberessourcen am NVR frei!</translation>
+        <translation>Keine Wiedergaberessourcen am NVR frei.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>Wiedergabeanforderung fehlgeschlagen!</translation>
+        <translation>Wiedergabeanforderung fehlgeschlagen.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -877,23 +877,23 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>Keine Aufzeichnung zum Anzeigen vorhanden!</translation>
+        <translation>Keine Aufzeichnung zum Anzeigen vorhanden.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>Wiedergabe beendet! Bitte eine neue Zeit wählen.</translation>
+        <translation>Wiedergabe beendet. Bitte eine neue Zeit wählen.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>Keine Antwort! Bitte erneut versuchen oder ein anderes Gerät wählen!</translation>
+        <translation>Keine Antwort. Bitte erneut versuchen oder ein anderes Gerät wählen.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>Verbindung getrennt! </translation>
+        <translation>Verbindung getrennt. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>Kein Videostream verfügbar! Bitte einen anderen Kanal auswählen.</translation>
+        <translation>Kein Videostream verfügbar. Bitte einen anderen Kanal auswählen.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
@@ -913,15 +913,15 @@
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>AVI-Umwandlung abgeschlossen! Datei … </translation>
+        <translation>AVI-Umwandlung abgeschlossen. Datei … </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>AVI-Datei wird umgewandelt!</translation>
+        <translation>AVI-Datei wird umgewandelt.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>AVI-Umwandlung fehlgeschlagen!</translation>
+        <translation>AVI-Umwandlung fehlgeschlagen.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>Es ist kein SVD eingerichtet. Bitte zuerst einen SVD hinzufügen!</translation>
+        <translation>Es ist kein SVD eingerichtet. Bitte zuerst einen SVD hinzufügen.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>Dieser Kanal wird auf diesem Bildschirm bereits angezeigt!</translation>
+        <translation>Dieser Kanal wird auf diesem Bildschirm bereits angezeigt.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>Zum erneuten Verbinden hier klicken!</translation>
+        <translation>Zum erneuten Verbinden hier klicken.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -985,11 +985,11 @@
     </message>
     <message id="246">
         <source>Up</source>
-        <translation>Oben</translation>
+        <translation>Aufwärts</translation>
     </message>
     <message id="247">
         <source>Down</source>
-        <translation>Unten</translation>
+        <translation>Abwärts</translation>
     </message>
     <message id="248">
         <source>Left</source>
@@ -1021,11 +1021,11 @@
     </message>
     <message id="255">
         <source>Zoom In</source>
-        <translation>Vergrößern</translation>
+        <translation>Heranzoomen</translation>
     </message>
     <message id="256">
         <source>Zoom Out</source>
-        <translation>Verkleinern</translation>
+        <translation>Herauszoomen</translation>
     </message>
     <message id="257">
         <source>Focus Far</source>
@@ -1153,7 +1153,7 @@
     </message>
     <message id="288">
         <source>NVR Search List</source>
-        <translation>NVR-Suchliste</translation>
+        <translation>Gefundene NVR</translation>
     </message>
     <message id="289">
         <source>NVR Detect Status</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>Hinzugefügt!</translation>
+        <translation>Erfolgreich hinzugefügt.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Die Hauptanzeige ist geöffnet. Bitte zuerst schließen!</translation>
+        <translation>Die Hauptanzeige ist geöffnet. Bitte zuerst schließen.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1301,7 +1301,7 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>Name oder Kanalliste muss angegeben werden!</translation>
+        <translation>Name oder Kanalliste muss angegeben werden.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
@@ -1309,15 +1309,15 @@
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>Kein Kanal ausgewählt!</translation>
+        <translation>Kein Kanal ausgewählt.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>Die gewählte Zeit liegt außerhalb des Datenbereichs!</translation>
+        <translation>Die gewählte Zeit liegt außerhalb des Datenbereichs.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR ist ungültig!</translation>
+        <translation>NVR ist ungültig.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1337,7 +1337,7 @@
     </message>
     <message id="334">
         <source>Start Up:</source>
-        <translation>Autostart:</translation>
+        <translation>Programmstart:</translation>
     </message>
     <message id="335">
         <source>Event Sync Time:</source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>Der NVR verbindet sich. Bitte einen Moment warten und erneut starten!</translation>
+        <translation>Der NVR verbindet sich. Bitte einen Moment warten und erneut starten.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>Der NVR ist offline. Bitte einen anderen NVR wählen oder seine Verbindung prüfen!</translation>
+        <translation>Der NVR ist offline. Bitte einen anderen NVR wählen oder seine Verbindung prüfen.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>Das Ausgabegerät wurde entfernt!</translation>
+        <translation>Das Ausgabegerät wurde entfernt.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>Die Passwörter stimmen nicht überein. Bitte erneut prüfen!</translation>
+        <translation>Die Passwörter stimmen nicht überein. Bitte erneut prüfen.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1601,7 +1601,7 @@
     </message>
     <message id="402">
         <source>Trigger for Motion Detect</source>
-        <translation>Auslöser für Bewegungserkennung</translation>
+        <translation>Auslösung bei Bewegung</translation>
     </message>
     <message id="403">
         <source>Status</source>
@@ -1609,7 +1609,7 @@
     </message>
     <message id="404">
         <source>Motion Enable List:</source>
-        <translation>Liste aktiver Bewegungserkennung:</translation>
+        <translation>Bewegungserkennung aktiv:</translation>
     </message>
     <message id="405">
         <source>Clear All</source>
@@ -1645,7 +1645,7 @@
     </message>
     <message id="413">
         <source>Event Setting List:</source>
-        <translation>Liste der Ereigniseinstellungen:</translation>
+        <translation>Ereigniseinstellungen:</translation>
     </message>
     <message id="414">
         <source>EMap List:</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message id="429">
         <source>Video Power</source>
-        <translation>Videorechte</translation>
+        <translation>Videoberechtigung</translation>
     </message>
     <message id="430">
         <source>Playback</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>HTTP-Server konnte nicht eingestellt werden! Möchten Sie alle HTTP-Server entfernen?</translation>
+        <translation>HTTP-Server konnte nicht eingestellt werden. Möchten Sie alle HTTP-Server entfernen?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>Die Anzahl darf höchstens 16 betragen!</translation>
+        <translation>Die Anzahl darf höchstens 16 betragen.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,23 +1929,23 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>Der Absendername darf nicht leer sein!</translation>
+        <translation>Der Absendername darf nicht leer sein.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>Der Mailserver darf nicht leer sein!</translation>
+        <translation>Der Mailserver darf nicht leer sein.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>Der Benutzer darf nicht leer sein!</translation>
+        <translation>Der Benutzername darf nicht leer sein.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>Das Passwort darf nicht leer sein!</translation>
+        <translation>Das Passwort darf nicht leer sein.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>Die E-Mail-Adresse darf nicht leer sein!</translation>
+        <translation>Die E-Mail-Adresse darf nicht leer sein.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
@@ -1957,15 +1957,15 @@
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>Die Server-IP darf nicht leer sein!</translation>
+        <translation>Die Server-IP darf nicht leer sein.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>Der Serverport darf nicht leer sein!</translation>
+        <translation>Der Serverport darf nicht leer sein.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>Der Stammpfad darf nicht leer sein!</translation>
+        <translation>Der Stammpfad darf nicht leer sein.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
@@ -1977,15 +1977,15 @@
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>Die Nachricht darf nicht leer sein!</translation>
+        <translation>Die Nachricht darf nicht leer sein.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>Die Tonbeschreibung darf nicht leer sein!</translation>
+        <translation>Die Tonbeschreibung darf nicht leer sein.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>Der Pfad der Tondatei darf nicht leer sein!</translation>
+        <translation>Der Pfad der Tondatei darf nicht leer sein.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
@@ -2009,15 +2009,15 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>Höchstens 16 Analyseeinstellungen möglich</translation>
+        <translation>Höchstens 16 Kanäle mit Videoanalyse möglich.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>NVR konnte nicht hinzugefügt werden! Bitte erneut hinzufügen.</translation>
+        <translation>NVR konnte nicht hinzugefügt werden. Bitte erneut hinzufügen.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Die Datei darf nicht größer als 5 MB sein</translation>
+        <translation>Die Datei darf nicht größer als 5 MB sein.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>Der Kanal unterstützt keine Bewegungserkennung oder ist nicht verbunden!</translation>
+        <translation>Der Kanal unterstützt keine Bewegungserkennung oder ist nicht verbunden.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>Keine Einstellung!</translation>
+        <translation>Keine Einstellung.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,7 +2053,7 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>Die Ereignisaktion ist noch nicht konfiguriert!</translation>
+        <translation>Die Ereignisaktion ist noch nicht konfiguriert.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>Nachricht erfolgreich gesendet!</translation>
+        <translation>Nachricht erfolgreich gesendet.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>Nachricht konnte nicht gesendet werden!</translation>
+        <translation>Nachricht konnte nicht gesendet werden.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>Zur gewählten Zeit gibt es keine Aufzeichnung!</translation>
+        <translation>Zur gewählten Zeit gibt es keine Aufzeichnung.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>Dieser NVR erhält keine Gruppen-ID für die Wiedergabe!</translation>
+        <translation>Dieser NVR liefert keine Gruppen-ID für die Wiedergabe.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>Die Verbindung zum gewählten SVD ist getrennt. Das Bedienfeld wird geschlossen, bitte den SVD-Status prüfen!</translation>
+        <translation>Die Verbindung zum gewählten SVD ist getrennt. Das Bedienfeld wird geschlossen, bitte den SVD-Status prüfen.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>Der NVR-Name darf nicht leer sein!</translation>
+        <translation>Der NVR-Name darf nicht leer sein.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>IP-Adresse oder Hostname ist falsch!</translation>
+        <translation>IP-Adresse oder Hostname ist falsch.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>Der NVR existiert nicht!</translation>
+        <translation>Der NVR existiert nicht.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>Der Port ist falsch!</translation>
+        <translation>Der Port ist falsch.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2181,15 +2181,15 @@
     </message>
     <message id="560">
         <source>All list</source>
-        <translation>Gesamtliste</translation>
+        <translation>Alle</translation>
     </message>
     <message id="561">
         <source>Selected list</source>
-        <translation>Auswahlliste</translation>
+        <translation>Ausgewählt</translation>
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>Es sind weniger als 2 Einträge ausgewählt. Speichern ist nicht möglich!</translation>
+        <translation>Es sind weniger als 2 Einträge ausgewählt. Speichern ist nicht möglich.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>Nicht genügend Ansichten zur Auswahl vorhanden!</translation>
+        <translation>Nicht genügend Ansichten zur Auswahl vorhanden.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>Dieser Bildschirm ist bereits der Videowand zugewiesen!</translation>
+        <translation>Dieser Bildschirm ist bereits der Videowand zugewiesen.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>Nicht genügend Geräte zur Auswahl vorhanden!</translation>
+        <translation>Nicht genügend Geräte zur Auswahl vorhanden.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>Der Benutzer des NVR darf nicht leer sein.</translation>
+        <translation>Der Benutzername des NVR darf nicht leer sein.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2317,7 +2317,7 @@
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>Abfrage der Zeitzone fehlgeschlagen! Bitte erneut erkennen.</translation>
+        <translation>Abfrage der Zeitzone fehlgeschlagen. Bitte erneut erkennen.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
@@ -2341,31 +2341,31 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>Der Kanalname darf nicht leer sein!</translation>
+        <translation>Der Kanalname darf nicht leer sein.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>Die IP-Adresse darf nicht leer sein!</translation>
+        <translation>Die IP-Adresse darf nicht leer sein.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>Der HTTP-Port darf nicht leer sein!</translation>
+        <translation>Der HTTP-Port darf nicht leer sein.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>Das Benutzerkonto darf nicht leer sein!</translation>
+        <translation>Das Benutzerkonto darf nicht leer sein.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>Das Passwort darf nicht leer sein!</translation>
+        <translation>Das Passwort darf nicht leer sein.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>Fehler bei der Erkennung!</translation>
+        <translation>Fehler bei der Erkennung.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>Keine Kamera oder Verbindung fehlgeschlagen!</translation>
+        <translation>Keine Kamera oder Verbindung fehlgeschlagen.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
@@ -2373,7 +2373,7 @@
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>Diese Schaltfläche ändert die Daten im NVR!</translation>
+        <translation>Diese Schaltfläche ändert die Daten im NVR.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>Marke wird nicht unterstützt!</translation>
+        <translation>Marke wird nicht unterstützt.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,7 +2389,7 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>Fehler im Videoformat!</translation>
+        <translation>Fehler im Videoformat.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
@@ -2397,7 +2397,7 @@
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>Kamera konnte nicht hinzugefügt werden!</translation>
+        <translation>Kamera konnte nicht hinzugefügt werden.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>Gerät wird nicht unterstützt!</translation>
+        <translation>Gerät wird nicht unterstützt.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>Dieses Konto ist bereits eingerichtet!</translation>
+        <translation>Dieses Konto ist bereits eingerichtet.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2425,7 +2425,7 @@
     </message>
     <message id="632">
         <source>Function Permission</source>
-        <translation>Funktionsrechte</translation>
+        <translation>Funktionsberechtigungen</translation>
     </message>
     <message id="633">
         <source>Playback</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Die Datei darf nicht größer als 10 MB sein</translation>
+        <translation>Die Datei darf nicht größer als 10 MB sein.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Dieser Name ist noch frei</translation>
+        <translation>Dieser Name ist noch frei.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Dieser Name ist vergeben</translation>
+        <translation>Dieser Name ist vergeben.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>Benutzer oder Passwort nicht eingegeben!</translation>
+        <translation>Benutzer oder Passwort nicht eingegeben.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>Die zulässige Anzahl an Geräten wird überschritten!</translation>
+        <translation>Die zulässige Anzahl an Geräten wird überschritten.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>Die zulässige Gesamtzahl an Kanälen wird überschritten!</translation>
+        <translation>Die zulässige Gesamtzahl an Kanälen wird überschritten.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,7 +2693,7 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>Funktionsumfang des Geräts konnte nicht abgefragt werden!</translation>
+        <translation>Funktionsumfang des Geräts konnte nicht abgefragt werden.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>Einstellung fehlgeschlagen!</translation>
+        <translation>Einstellung fehlgeschlagen.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>Keine Änderung!</translation>
+        <translation>Keine Änderung.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2737,7 +2737,7 @@
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>Systemprotokollexport</translation>
+        <translation>Systemprotokoll-Export</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>Bitte einen Pfad für den Export auswählen!</translation>
+        <translation>Bitte einen Pfad für den Export auswählen.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>Der Beginn muss vor dem Ende liegen!</translation>
+        <translation>Der Beginn muss vor dem Ende liegen.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>Kein Ereignis!</translation>
+        <translation>Keine Ereignisse.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>Kein Systemprotokoll!</translation>
+        <translation>Keine Einträge im Systemprotokoll.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>CSV-Export abgeschlossen!</translation>
+        <translation>CSV-Export abgeschlossen.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>MDB-Export abgeschlossen!</translation>
+        <translation>MDB-Export abgeschlossen.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2853,7 +2853,7 @@
     </message>
     <message id="759">
         <source>Support</source>
-        <translation>Unterstützung</translation>
+        <translation>Unterstützt</translation>
     </message>
     <message id="760">
         <source>Original View</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>Öffnen nicht möglich: Es sind nicht genügend Bildschirme verfügbar!</translation>
+        <translation>Öffnen nicht möglich: Es sind nicht genügend Bildschirme verfügbar.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>Öffnen nicht möglich: Die Videowand ist nicht aktiviert! </translation>
+        <translation>Öffnen nicht möglich: Die Videowand ist nicht aktiviert. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>Nicht genügend Bildschirme! Wird nicht unterstützt!</translation>
+        <translation>Nicht genügend Bildschirme. Wird nicht unterstützt.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Die Einstellungen wurden geändert. Bitte die Hauptanzeige neu öffnen!</translation>
+        <translation>Die Einstellungen wurden geändert. Bitte die Hauptanzeige neu öffnen.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>Nicht genügend Speicherplatz für Ereignisschnappschüsse!</translation>
+        <translation>Nicht genügend Speicherplatz für Ereignisschnappschüsse.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>Nicht genügend Bildschirme zum Einrichten!</translation>
+        <translation>Nicht genügend Bildschirme zum Einrichten.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3017,7 +3017,7 @@
     </message>
     <message id="802">
         <source>Display</source>
-        <translation>Anzeige</translation>
+        <translation>Bildschirm</translation>
     </message>
     <message id="803">
         <source>Resolution</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>Ungültige E-Mail-Adresse!</translation>
+        <translation>Ungültige E-Mail-Adresse.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>Ungültiger Wert!</translation>
+        <translation>Ungültiger Wert.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>Mehrfaches Hinzufügen ist nicht möglich!</translation>
+        <translation>Mehrfaches Hinzufügen ist nicht möglich.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>Es können keine weiteren SVD hinzugefügt werden!</translation>
+        <translation>Es können keine weiteren SVD hinzugefügt werden.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>Export abgeschlossen!</translation>
+        <translation>Export abgeschlossen.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3129,7 +3129,7 @@
     </message>
     <message id="831">
         <source>NVR Account setting</source>
-        <translation>NVR-Konto</translation>
+        <translation>NVR-Konten</translation>
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
@@ -3137,11 +3137,11 @@
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>Erkennung erfolgreich!</translation>
+        <translation>Erkennung erfolgreich.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
-        <translation>Kameraerkennung konnte nicht konfiguriert werden für Kanal:</translation>
+        <translation>Kameraseitige Erkennung konnte nicht konfiguriert werden. Kanal:</translation>
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
@@ -3165,11 +3165,11 @@
     </message>
     <message id="840">
         <source>SVD Search List</source>
-        <translation>SVD-Suchliste</translation>
+        <translation>Gefundene SVD</translation>
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>Kein Monitor angeschlossen!</translation>
+        <translation>Kein Monitor angeschlossen.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>Ereignisschnappschüsse funktionieren nicht!</translation>
+        <translation>Ereignisschnappschüsse funktionieren nicht.</translation>
     </message>
     <message id="850">
         <source>System</source>
@@ -3233,7 +3233,7 @@
     </message>
     <message id="863">
         <source>Filter name, address, model…</source>
-        <translation>Name, Adresse, Modell filtern …</translation>
+        <translation>Nach Name, Adresse, Modell filtern …</translation>
     </message>
     <message id="864">
         <source>Recorders of this station</source>

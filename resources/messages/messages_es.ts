@@ -373,7 +373,7 @@
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>El número de puerto no puede ser 0 ni mayor que 65535.</translation>
+        <translation>El número de puerto no puede ser 0 ni mayor que 65536.</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="120">
         <source>SEQ ALL</source>
-        <translation>Secuencia total</translation>
+        <translation>Todos en secuencia</translation>
     </message>
     <message id="121">
         <source>SEQ</source>
@@ -853,7 +853,7 @@
     </message>
     <message id="213">
         <source>RF</source>
-        <translation>ATRÁS</translation>
+        <translation>RETROCESO</translation>
     </message>
     <message id="214">
         <source>STOP</source>
@@ -1017,7 +1017,7 @@
     </message>
     <message id="254">
         <source>Home</source>
-        <translation>Inicio</translation>
+        <translation>Pos. inicial</translation>
     </message>
     <message id="255">
         <source>Zoom In</source>
@@ -1113,7 +1113,7 @@
     </message>
     <message id="278">
         <source>Device Name</source>
-        <translation>Dispositivo</translation>
+        <translation>Nombre disp.</translation>
     </message>
     <message id="279">
         <source>All</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message id="324">
         <source>Pattern List Overview</source>
-        <translation>Resumen de lista de vistas</translation>
+        <translation>Resumen de vistas</translation>
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
@@ -1937,7 +1937,7 @@
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>El usuario no puede estar vacío.</translation>
+        <translation>El nombre de usuario no puede estar vacío.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>No puede haber más de 16 canales con analítica</translation>
+        <translation>No puede haber más de 16 canales con analítica.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>El archivo no puede superar los 5 MB</translation>
+        <translation>El archivo no puede superar los 5 MB.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
-        <translation>¿Salir y abrir el visor principal?</translation>
+        <translation>¿Desea salir y abrir el visor principal?</translation>
     </message>
     <message id="509">
         <source>Do you want to exit?</source>
@@ -2057,7 +2057,7 @@
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>El vídeo no se puede conectar.</translation>
+        <translation>No se puede establecer la conexión de vídeo.</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>El usuario del NVR no puede estar vacío.</translation>
+        <translation>El nombre de usuario del NVR no puede estar vacío.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>El archivo no puede superar los 10 MB</translation>
+        <translation>El archivo no puede superar los 10 MB.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Este nombre está libre</translation>
+        <translation>Este nombre está libre.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Este nombre está en uso</translation>
+        <translation>Este nombre está en uso.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2637,7 +2637,7 @@
     </message>
     <message id="704">
         <source>English and Digit Only</source>
-        <translation>Solo letras inglesas y números</translation>
+        <translation>Solo letras A-Z y números</translation>
     </message>
     <message id="705">
         <source>Emap Group Assign</source>
@@ -2649,7 +2649,7 @@
     </message>
     <message id="707">
         <source>Member:</source>
-        <translation>Miembro:</translation>
+        <translation>Miembros:</translation>
     </message>
     <message id="708">
         <source>Emap Position Assign</source>
@@ -3113,7 +3113,7 @@
     </message>
     <message id="827">
         <source>Disable this Video Wall?</source>
-        <translation>¿Desactivar este videowall?</translation>
+        <translation>¿Desea desactivar este videowall?</translation>
     </message>
     <message id="828">
         <source>Export finish!</source>
@@ -3141,7 +3141,7 @@
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
-        <translation>No se pudo configurar la detección de la cámara en los canales:</translation>
+        <translation>No se pudo configurar la detección en la cámara de los canales:</translation>
     </message>
     <message id="835">
         <source>Trigger action has done.</source>

@@ -141,7 +141,7 @@
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>Activez la redirection de port UPnP du SVR.</translation>
+        <translation>Activez la redirection de ports UPnP du SVR.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -373,7 +373,7 @@
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>Le numéro de port ne peut pas être 0 ni supérieur à 65535.</translation>
+        <translation>Le numéro de port ne peut pas être 0 ni supérieur à 65536.</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="120">
         <source>SEQ ALL</source>
-        <translation>Séquence globale</translation>
+        <translation>Tous en séquence</translation>
     </message>
     <message id="121">
         <source>SEQ</source>
@@ -713,7 +713,7 @@
     </message>
     <message id="178">
         <source>NO.</source>
-        <translation>Num.</translation>
+        <translation>N°</translation>
     </message>
     <message id="179">
         <source>CH</source>
@@ -853,7 +853,7 @@
     </message>
     <message id="213">
         <source>RF</source>
-        <translation>RECUL</translation>
+        <translation>RETOUR</translation>
     </message>
     <message id="214">
         <source>STOP</source>
@@ -961,7 +961,7 @@
     </message>
     <message id="240">
         <source>NO.:</source>
-        <translation>Num. :</translation>
+        <translation>N° :</translation>
     </message>
     <message id="241">
         <source>Name:</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message id="324">
         <source>Pattern List Overview</source>
-        <translation>Synthèse de la liste des vues</translation>
+        <translation>Synthèse des vues</translation>
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
@@ -1937,7 +1937,7 @@
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>L’utilisateur ne peut pas être vide.</translation>
+        <translation>Le nom d’utilisateur ne peut pas être vide.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>L’analyse vidéo ne peut pas dépasser 16 canaux</translation>
+        <translation>L’analyse vidéo ne peut pas dépasser 16 canaux.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Le fichier ne peut pas dépasser 5 Mo</translation>
+        <translation>Le fichier ne peut pas dépasser 5 Mo.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
-        <translation>Quitter et ouvrir la visionneuse principale ?</translation>
+        <translation>Voulez-vous quitter et ouvrir la visionneuse principale ?</translation>
     </message>
     <message id="509">
         <source>Do you want to exit?</source>
@@ -2241,7 +2241,7 @@
     </message>
     <message id="578">
         <source>NO.</source>
-        <translation>Num.</translation>
+        <translation>N°</translation>
     </message>
     <message id="579">
         <source>Camera name</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>L’utilisateur du NVR ne peut pas être vide.</translation>
+        <translation>Le nom d’utilisateur du NVR ne peut pas être vide.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Le fichier ne peut pas dépasser 10 Mo</translation>
+        <translation>Le fichier ne peut pas dépasser 10 Mo.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Ce nom est libre</translation>
+        <translation>Ce nom est libre.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Ce nom est déjà utilisé</translation>
+        <translation>Ce nom est déjà utilisé.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2649,7 +2649,7 @@
     </message>
     <message id="707">
         <source>Member:</source>
-        <translation>Membre :</translation>
+        <translation>Membres :</translation>
     </message>
     <message id="708">
         <source>Emap Position Assign</source>
@@ -3113,7 +3113,7 @@
     </message>
     <message id="827">
         <source>Disable this Video Wall?</source>
-        <translation>Désactiver ce mur d’images ?</translation>
+        <translation>Voulez-vous désactiver ce mur d’images ?</translation>
     </message>
     <message id="828">
         <source>Export finish!</source>
@@ -3141,7 +3141,7 @@
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
-        <translation>Échec de la configuration de la détection caméra sur les canaux :</translation>
+        <translation>Échec de la configuration de la détection par la caméra sur les canaux :</translation>
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
@@ -3257,7 +3257,7 @@
     </message>
     <message id="869">
         <source>No unsaved changes</source>
-        <translation>Aucune modification</translation>
+        <translation>Rien à enregistrer</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>

@@ -373,7 +373,7 @@
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>Il numero di porta non può essere 0 né superiore a 65535.</translation>
+        <translation>Il numero di porta non può essere 0 né superiore a 65536.</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -481,7 +481,7 @@
     </message>
     <message id="120">
         <source>SEQ ALL</source>
-        <translation>Sequenza totale</translation>
+        <translation>Tutti in sequenza</translation>
     </message>
     <message id="121">
         <source>SEQ</source>
@@ -793,7 +793,7 @@
     </message>
     <message id="198">
         <source>Return</source>
-        <translation>Torna</translation>
+        <translation>Indietro</translation>
     </message>
     <message id="199">
         <source>SEQ Duration Time</source>
@@ -1297,7 +1297,7 @@
     </message>
     <message id="324">
         <source>Pattern List Overview</source>
-        <translation>Riepilogo elenco viste</translation>
+        <translation>Riepilogo viste</translation>
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>L’analisi video non può superare 16 canali</translation>
+        <translation>L’analisi video non può superare 16 canali.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
@@ -2017,7 +2017,7 @@
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>Il file non può superare 5 MB</translation>
+        <translation>Il file non può superare 5 MB.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
@@ -2029,7 +2029,7 @@
     </message>
     <message id="509">
         <source>Do you want to exit?</source>
-        <translation>Uscire?</translation>
+        <translation>Uscire dal programma?</translation>
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
@@ -2185,7 +2185,7 @@
     </message>
     <message id="561">
         <source>Selected list</source>
-        <translation>Elenco selezionati</translation>
+        <translation>Selezionati</translation>
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
@@ -2309,7 +2309,7 @@
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>L’utente dell’NVR non può essere vuoto.</translation>
+        <translation>Il nome utente dell’NVR non può essere vuoto.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
@@ -2409,7 +2409,7 @@
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>Questo account è già impostato.</translation>
+        <translation>Questo account è già configurato.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>Il file non può superare 10 MB</translation>
+        <translation>Il file non può superare 10 MB.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>Questo nome è libero</translation>
+        <translation>Questo nome è libero.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>Questo nome è in uso</translation>
+        <translation>Questo nome è in uso.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2637,7 +2637,7 @@
     </message>
     <message id="704">
         <source>English and Digit Only</source>
-        <translation>Solo lettere inglesi e cifre</translation>
+        <translation>Solo lettere A-Z e cifre</translation>
     </message>
     <message id="705">
         <source>Emap Group Assign</source>
@@ -2649,7 +2649,7 @@
     </message>
     <message id="707">
         <source>Member:</source>
-        <translation>Membro:</translation>
+        <translation>Membri:</translation>
     </message>
     <message id="708">
         <source>Emap Position Assign</source>
@@ -3141,7 +3141,7 @@
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
-        <translation>Configurazione del rilevamento della telecamera non riuscita sui canali:</translation>
+        <translation>Configurazione del rilevamento da telecamera non riuscita sui canali:</translation>
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
@@ -3257,7 +3257,7 @@
     </message>
     <message id="869">
         <source>No unsaved changes</source>
-        <translation>Nessuna modifica</translation>
+        <translation>Niente da salvare</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
