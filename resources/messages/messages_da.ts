@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>Ikke forbundet</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Produkt:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Skjul adgangskode</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>Not connected</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Product:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Hide password</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>No conectado</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Producto:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Ocultar contraseña</translation>
+    </message>
 </context>
 </TS>

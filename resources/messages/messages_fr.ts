@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>Non connecté</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Produit :</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Masquer le mot de passe</translation>
+    </message>
 </context>
 </TS>

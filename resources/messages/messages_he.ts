@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>לא מחובר</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>מוצר:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>הסתרת סיסמה</translation>
+    </message>
 </context>
 </TS>

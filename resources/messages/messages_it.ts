@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>Non connesso</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Prodotto:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Nascondi password</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>未接続</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>製品：</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>パスワードを隠す</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>Не подключено</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Продукт:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Скрыть пароль</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>Bağlı Değil</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>Ürün:</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>Parolayı Gizle</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>未连接</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>产品：</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>隐藏密码</translation>
+    </message>
 </context>
 </TS>

@@ -3371,5 +3371,13 @@
         <source>Not connected</source>
         <translation>未連線</translation>
     </message>
+    <message id="898">
+        <source>Product:</source>
+        <translation>產品：</translation>
+    </message>
+    <message id="899">
+        <source>Hide password</source>
+        <translation>隱藏密碼</translation>
+    </message>
 </context>
 </TS>

@@ -7,6 +7,8 @@
 #include "platform/MsgBox.h"
 #include "recorders/SVRStore.h"
 #include "store/Template.h"
+#include "support/Conversions.h"
+#include "users/AccountStore.h"
 
 #include <QFileInfo>
 
@@ -75,6 +77,7 @@ void SettleLanguage(Station& station)
 void LoadRecords(Station& station)
 {
     GetSVREx(station.databases, station.recorders);
+    GetMyAccount(station.databases, station.accounts);
     GetGroupPrivilege(station.databases, station.groups);
     GetNVRPrivilege(station.databases, station.groups);
 }
@@ -96,4 +99,17 @@ void RotateBackups()
         Trapped(source, [&] { RenameDatabase(backup1, backup2); });
     }
     Trapped(source, [&] { CopyDatabase(StationPath(kDatabaseFile), backup1); });
+}
+
+void FinishNewRecorders(Station& station)
+{
+    Trapped("Form_NVRSetting - lbNext_Click", [&] {
+        for (int slot = 0; slot < kMaxSVR; ++slot) {
+            if (At(station.recorders.SVRList, slot).sSVR_IP != At(station.recorders.SVRWorkList, slot).sSVR_IP)
+                GrantNewRecorder(station.groups, slot);
+        }
+        SaveNVRPrivilege(station.databases, station.groups,
+                         [&](int slot) { return !At(station.recorders.SVRWorkList, slot).sSVR_Name.isEmpty(); });
+    });
+    SaveCheck(station);
 }

@@ -18,3 +18,6 @@ void SettleCurrentGroup(Station& station);
 
 // After a run that saved something: the newest backup becomes the second one, and the database the newest.
 void RotateBackups();
+
+// The end of the wizard: a slot whose address is new gets every right for all groups, then everything marked is saved.
+void FinishNewRecorders(Station& station);

@@ -47,7 +47,8 @@ struct Station
     BasicDefaultSet basicDefault;
     RecorderSet recorders;
     GroupSet groups;
-    EventHandlingRecord eventHandling; // stored copy; all off until the event settings are read
+    std::vector<NVRAccountRecord> accounts{{}}; // tried on devices; one empty element when there is none
+    EventHandlingRecord eventHandling;          // stored copy; all off until the event settings are read
     FamilyRegister families;
     std::unique_ptr<NotificationQueue> notifications;
 

@@ -10,7 +10,11 @@ class Card : public QGroupBox
 {
     Q_OBJECT
 public:
-    explicit Card(const QString& title = {}, QWidget* parent = nullptr);
+    explicit Card(QWidget* parent = nullptr)
+        : Card(QString(), parent)
+    {
+    }
+    explicit Card(const QString& title, QWidget* parent = nullptr);
 
     // The content, top to bottom. Made on first use: a card may be given another layout instead.
     QVBoxLayout* content();

@@ -13,7 +13,11 @@ class EmptyState : public QWidget
     Q_OBJECT
 public:
     // `illustration` as in Illustration() of Icons.h.
-    explicit EmptyState(QLatin1StringView illustration = QLatin1StringView("empty-page"), QWidget* parent = nullptr);
+    explicit EmptyState(QWidget* parent = nullptr)
+        : EmptyState(QLatin1StringView("empty-page"), parent)
+    {
+    }
+    explicit EmptyState(QLatin1StringView illustration, QWidget* parent = nullptr);
 
     void setIllustration(QLatin1StringView illustration);
     void setHeadline(const QString& text);

@@ -73,6 +73,7 @@ struct ThemeState
     Scheme scheme = Scheme::Light;
     bool applied = false;
     QFont body;
+    QString leadingFamily;
     ThemeNotifier notifier;
 };
 
@@ -202,6 +203,23 @@ void ApplyTheme(QApplication& application, Scheme scheme)
     QToolTip::setPalette(palette);
     application.setStyleSheet(StyleSheet());
     emit state.notifier.schemeChanged(scheme);
+}
+
+void SetBodyFamily(const QString& family)
+{
+    ThemeState& state = State();
+    if (!state.applied || state.leadingFamily == family)
+        return;
+    QStringList families = state.body.families();
+    families.removeOne(state.leadingFamily);
+    state.leadingFamily = family;
+    if (!family.isEmpty() && QFontDatabase::hasFamily(family))
+        families.prepend(family);
+    if (families == state.body.families())
+        return;
+    state.body.setFamilies(families);
+    QApplication::setFont(state.body);
+    emit state.notifier.schemeChanged(state.scheme);
 }
 
 Scheme CurrentScheme()

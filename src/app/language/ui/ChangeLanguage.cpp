@@ -1,0 +1,110 @@
+#include "app/language/ui/ChangeLanguage.h"
+
+#include "app/language/CutText.h"
+#include "app/language/Languages.h"
+#include "look/Theme.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QEvent>
+#include <QGroupBox>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void SetCaption(QWidget* control, const QString& text)
+{
+    if (auto* label = qobject_cast<QLabel*>(control))
+        label->setText(text);
+    else if (auto* button = qobject_cast<QAbstractButton*>(control))
+        button->setText(text);
+    else if (auto* box = qobject_cast<QGroupBox*>(control))
+        box->setTitle(text);
+}
+
+// Cuts a control's caption anew whenever its width changes.
+class CaptionKeeper : public QObject
+{
+public:
+    CaptionKeeper(QWidget* control)
+        : QObject(control)
+        , m_control(control)
+    {
+        setObjectName(u"CaptionKeeper"_s);
+        control->installEventFilter(this);
+    }
+    static CaptionKeeper& of(QWidget* control)
+    {
+        auto* keeper =
+            static_cast<CaptionKeeper*>(control->findChild<QObject*>(u"CaptionKeeper"_s, Qt::FindDirectChildrenOnly));
+        return keeper ? *keeper : *new CaptionKeeper(control);
+    }
+    void setText(const QString& text, bool rightToLeft)
+    {
+        m_text = text;
+        m_rightToLeft = rightToLeft;
+        SetCaption(m_control, text);
+        m_control->setToolTip(text);
+        // What the control needs beside its text: margins, an icon, an indicator.
+        m_extra = m_control->sizeHint().width() - width(text);
+        if (m_control->isVisible())
+            fit();
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Resize)
+            fit();
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    int width(const QString& text) const { return m_control->fontMetrics().horizontalAdvance(text); }
+    void fit()
+    {
+        if (const auto* label = qobject_cast<QLabel*>(m_control); label && label->wordWrap())
+            return;
+        const int available = m_control->width() - qMax(0, m_extra);
+        SetCaption(m_control,
+                   CutText(m_text, available, m_rightToLeft, [this](const QString& text) { return width(text); }));
+    }
+
+    QWidget* m_control;
+    QString m_text;
+    bool m_rightToLeft = false;
+    int m_extra = 0;
+};
+
+void ApplyTag(QWidget* control)
+{
+    const QString tag = control->property("tag").toString();
+    const qsizetype colon = tag.indexOf(u':');
+    if (colon < 0)
+        return;
+    const QString text = GetLangString(tag.mid(colon + 1).toInt());
+    if (QStringView(tag).left(colon) == "Caption"_L1)
+        CutString(control, text, Language() == kRightToLeftLanguage);
+    else if (QStringView(tag).left(colon) == "ToolTip"_L1)
+        control->setToolTip(text);
+}
+
+} // namespace
+
+void CutString(QWidget* control, const QString& text, bool rightToLeft)
+{
+    CaptionKeeper::of(control).setText(text, rightToLeft);
+}
+
+void ApplyLanguage(QWidget* window)
+{
+    QApplication::setLayoutDirection(Language() == kRightToLeftLanguage ? Qt::RightToLeft : Qt::LeftToRight);
+    // Every language but Japanese is written in one and the same family; Japanese keeps the desktop's own.
+    SetBodyFamily(LanguageCharset() == kJapaneseCharset ? QString() : u"Verdana"_s);
+    ApplyTag(window);
+    const QList<QWidget*> controls = window->findChildren<QWidget*>();
+    for (QWidget* control : controls)
+        ApplyTag(control);
+}

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+// A widget carries the number of its text as the dynamic property "tag": "Caption:150" or "ToolTip:642". This walk over
+// a window puts the texts of the live language in place; what tags cannot reach each window sets afterwards. Also
+// settles the layout direction (right to left in language 14) and the desk's font for the language.
+void ApplyLanguage(QWidget* window);
+
+// Puts a caption in a label, button or box. Where the control is narrower than the text it is cut by the rule of
+// CutText, again at each change of its width; the tool tip is always the whole text.
+void CutString(QWidget* control, const QString& text, bool rightToLeft);

@@ -1,0 +1,356 @@
+#include "app/ui/Form_Initial.h"
+
+#include "app/StartUp.h"
+#include "app/language/Languages.h"
+#include "app/language/ui/ChangeLanguage.h"
+#include "app/log/Module_Log.h"
+#include "app/ui/MenuTable.h"
+#include "app/ui/PendingPage.h"
+#include "app/ui/RecordersPage.h"
+#include "app/ui/SystemPage.h"
+#include "look/Icons.h"
+#include "look/NavRail.h"
+#include "look/PageHeader.h"
+#include "look/ProgressWindow.h"
+#include "look/Theme.h"
+#include "platform/Autostart.h"
+#include "platform/Clock.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "recorders/ui/Form_NVRSetting.h"
+#include "recorders/ui/NVRPage.h"
+#include "store/SystemLog.h"
+#include "support/Conversions.h"
+#include "support/TimeSeconds.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QProcess>
+#include <QStackedWidget>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String kLoadSource("Form_Initial - Form_Load");
+constexpr int kSystem = 0;
+constexpr int kStartup = 8;
+constexpr int kVideoWall = 9;
+constexpr int kSVD = 10;
+constexpr int kTooling = 11;
+constexpr int kExit = 12;
+
+} // namespace
+
+Form_Initial::Form_Initial(Station& station, QWidget* parent)
+    : QWidget(parent)
+    , m_station(station)
+    , m_close(station, *this)
+{
+    setObjectName(u"Form_Initial"_s);
+    TimerCloseSystem.setInterval(500);
+    connect(&TimerCloseSystem, &QTimer::timeout, this, [this] { m_close.tick(); });
+    TimerCloseSystem.start();
+    m_headerClock.setInterval(1000);
+    connect(&m_headerClock, &QTimer::timeout, this,
+            [this] { m_header->setClock(Now().toString(u"yyyy/MM/dd hh:mm:ss")); });
+}
+
+Form_Initial::~Form_Initial() = default;
+
+bool Form_Initial::Form_Load()
+{
+    SetBoxStyles(false);
+    m_station.Loading = true;
+    OpenDatabases(m_station);
+    ReadDefaults(m_station);
+    Trapped(kLoadSource, [&] { buildWindow(); });
+
+    if (!m_instance.acquire()) {
+        MsgBox(GetLangString(10), InfoBoxStyle(), GetLangString(570));
+        return false;
+    }
+    Trapped(kLoadSource, [&] { loadRecordsAndPages(); });
+
+    // No user is known yet, so no login opens and everyone is the unnamed administrator.
+    m_station.LoginOk = true;
+    SettleCurrentGroup(m_station);
+    m_systemPage->SystemControl_Frame_Set();
+
+    Trapped(kLoadSource, [&] {
+        if (m_station.currentGroup().Setting != 1 && m_pageIndex != kStartup) {
+            openPage(kStartup);
+            m_pageIndex = kStartup;
+            PaintMenu(kStartup);
+        }
+    });
+    m_station.Loading = false;
+    SetClosing(false);
+    m_station.m_bDataSaved = false;
+    SaveSystemLog(m_station.databases, TimeToUtcSeconds(Now()), CurrentUser(), u"Open Rigging Desk"_s);
+    QTimer::singleShot(100, this, &Form_Initial::Timer_PrivilegeCheck);
+    return true;
+}
+
+void Form_Initial::buildWindow()
+{
+    setWindowIcon(ProgramIcon());
+    m_rail = new NavRail;
+    m_header = new PageHeader;
+    m_frames = new QStackedWidget;
+    m_frames->setObjectName(u"Frame_Setting"_s);
+    buildPages();
+
+    for (int index = 0; index < kPages; ++index) {
+        NavEntry* entry = m_rail->addEntry(At(kMenuTable, index).icon, QString());
+        entry->setObjectName(u"lbMenu_%1"_s.arg(index));
+    }
+    m_rail->addBottomEntry(At(kMenuTable, kExit).icon, QString())->setObjectName(u"lbMenu_12"_s);
+    connect(m_rail, &NavRail::entryClicked, this, &Form_Initial::lbMenu_Click);
+
+    m_header->themeToggle()->setObjectName(u"btnTheme"_s);
+    connect(m_header->themeToggle(), &QToolButton::clicked, this, [this] {
+        ApplyTheme(*qApp, CurrentScheme() == Scheme::Dark ? Scheme::Light : Scheme::Dark);
+        updateHeader();
+    });
+
+    auto* page = new QVBoxLayout;
+    page->setSpacing(0);
+    page->addWidget(m_header);
+    page->addWidget(m_frames, 1);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(0);
+    row->addWidget(m_rail);
+    row->addLayout(page, 1);
+    m_headerClock.start();
+}
+
+void Form_Initial::buildPages()
+{
+    m_systemPage = new SystemPage(m_station);
+    connect(m_systemPage, &SystemPage::languageChanged, this, &Form_Initial::ChangeLanguage);
+    auto* recorders = new RecordersPage(m_station.recorders);
+    m_nvrPage = recorders->list();
+    connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
+
+    m_pages[0] = m_systemPage;
+    m_pages[1] = recorders;
+    for (int index = 0; index < kPages; ++index) {
+        SettingsPage*& page = m_pages[static_cast<std::size_t>(index)];
+        if (!page)
+            page = new PendingPage;
+        page->setObjectName(u"Frame_Setting_%1"_s.arg(index));
+        connect(page, &SettingsPage::changesChanged, this, [this, index] {
+            m_rail->entry(index)->setDirty(m_pages[static_cast<std::size_t>(index)]->hasChanges(), GetLangString(868));
+        });
+        connect(page, &SettingsPage::subtitleChanged, this, &Form_Initial::updateHeader);
+        m_frames->addWidget(page);
+    }
+}
+
+void Form_Initial::loadRecordsAndPages()
+{
+    LoadRecords(m_station);
+    m_station.basicDefault.edit = m_station.basicDefault.stored;
+    PaintMenu(kSystem);
+    m_systemPage->SystemControl_Frame_Set();
+    LoadFrame(kSystem);
+    m_station.families.InitialSetValue();
+    ChangeLanguage();
+}
+
+void Form_Initial::ChangeLanguage()
+{
+    Trapped("Form_Initial - ChangeLanguage", [&] {
+        ApplyLanguage(this);
+        setWindowTitle(GetLangString(320));
+        m_rail->setBrand(u"Rigging Desk"_s);
+        m_rail->setAccessibleName(GetLangString(882));
+        for (int index = 0; index < kMenuEntries; ++index)
+            m_rail->entry(index)->setText(MenuText(index));
+        for (SettingsPage* page : m_pages)
+            page->changeLanguage();
+        updateHeader();
+    });
+}
+
+void Form_Initial::updateHeader()
+{
+    if (!m_header)
+        return;
+    m_header->setTitle(PageTitle(m_pageIndex));
+    m_header->setSubtitle(At(m_pages, m_pageIndex)->subtitle());
+    m_header->setUser(CurrentUser());
+    m_header->setClock(Now().toString(u"yyyy/MM/dd hh:mm:ss"));
+    m_header->setThemeToggleText(GetLangString(CurrentScheme() == Scheme::Dark ? 871 : 870));
+}
+
+void Form_Initial::PaintMenu(int index)
+{
+    if (index < kPages)
+        m_rail->setCurrentIndex(index);
+}
+
+void Form_Initial::LoadFrame(int page)
+{
+    m_frames->setCurrentWidget(At(m_pages, page));
+}
+
+void Form_Initial::openPage(int page)
+{
+    At(m_pages, page)->open();
+    LoadFrame(page);
+}
+
+void Form_Initial::lbMenu_Click(int index)
+{
+    Trapped("Form_Initial - lbMenu_Click", [&] {
+        m_systemPage->stopClock();
+        PaintMenu(index);
+        PageLeaveCheck(m_pageIndex, index);
+        if (index == kExit) {
+            askExit();
+            return;
+        }
+        if (index == kSVD && m_station.currentGroup().SVDControl != 1) {
+            MsgBox(GetLangString(139), InfoBoxStyle(), GetLangString(570));
+            return;
+        }
+        if (m_pageIndex != index) {
+            openPage(index);
+            m_pageIndex = index;
+            updateHeader();
+        }
+    });
+}
+
+void Form_Initial::PageLeaveCheck(int current, int next)
+{
+    if (current == next)
+        return;
+    SettingsPage* page = At(m_pages, current);
+    if (!page->hasChanges())
+        return;
+    if (MsgBox(GetLangString(514), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes)
+        page->applyAtLeave();
+    else
+        page->revertAtLeave();
+}
+
+void Form_Initial::Timer_PrivilegeCheck()
+{
+    Trapped("Form_Initial - Timer_PrivilegeCheck", [&] {
+        const GroupPrivilegeRecord& group = m_station.currentGroup();
+        if (group.Setting == 1)
+            return;
+        for (int index = 0; index < kMenuEntries; ++index)
+            m_rail->entry(index)->setVisible(index == kStartup || index == kExit);
+        if (group.Export == 1) {
+            m_rail->entry(kTooling)->setVisible(true);
+            m_rail->entry(kVideoWall)->setVisible(false);
+        } else if (group.Export == 0) {
+            m_rail->entry(kTooling)->setVisible(false);
+        }
+    });
+}
+
+void Form_Initial::showWizard()
+{
+    Form_NVRSetting wizard(
+        {m_com, m_station.recorders, m_station.accounts}, [this] { finishNewRecorders(); }, this);
+    wizard.exec();
+    m_nvrPage->Grid_SVR_Set_withDB();
+    updateHeader();
+}
+
+void Form_Initial::finishNewRecorders()
+{
+    FinishNewRecorders(m_station);
+}
+
+void Form_Initial::askExit()
+{
+    if (MsgBox(GetLangString(509), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes)
+        m_close.start();
+    else
+        PaintMenu(m_pageIndex);
+}
+
+void Form_Initial::closeEvent(QCloseEvent* event)
+{
+    if (m_unloaded) {
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (m_close.m_CloseState() == 0)
+        lbMenu_Click(kExit);
+}
+
+void Form_Initial::disableWindows()
+{
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows)
+        window->setEnabled(false);
+}
+
+void Form_Initial::showProgress(int maximum, const QString& count)
+{
+    if (!m_progress)
+        m_progress = new ProgressWindow(GetLangString(62));
+    m_progress->setWindowTitle(GetLangString(570));
+    m_progress->setMaximum(maximum);
+    m_progress->setCancelText(GetLangString(475));
+    if (!count.isEmpty())
+        m_progress->setText(count);
+    connect(m_progress, &ProgressWindow::cancelled, this, [this] { m_progressCancelled = true; });
+    m_progress->setModal(false);
+    m_progress->show();
+}
+
+void Form_Initial::updateProgress(int done, const QString& count)
+{
+    m_progress->setValue(done);
+    m_progress->setText(count);
+}
+
+void Form_Initial::closeProgressAndHide()
+{
+    if (m_progress) {
+        m_progress->hide();
+        m_progress->deleteLater();
+        m_progress = nullptr;
+    }
+    hide();
+}
+
+void Form_Initial::unloadAll()
+{
+    TimerCloseSystem.stop();
+    m_unloaded = true;
+    Form_QueryUnload();
+    close();
+    Form_Unload();
+    emit closed();
+}
+
+void Form_Initial::Form_QueryUnload()
+{
+    if (m_station.m_bDataSaved)
+        RotateBackups();
+}
+
+void Form_Initial::Form_Unload()
+{
+    if (!m_close.m_bOpenMainViewer())
+        return;
+    Trapped("Form_Initial - Form_Unload", [&] {
+        const QString program = ProgramPath(CMS_Core);
+        if (!QFileInfo::exists(program) || !QProcess::startDetached(program, {}))
+            throw StoreError(u"Cannot start '%1'"_s.arg(program));
+    });
+}

@@ -1,0 +1,29 @@
+#include "app/Station.h"
+#include "app/ui/Form_Initial.h"
+#include "app/ui/MsgBoxWindow.h"
+#include "look/Theme.h"
+#include "platform/AppPath.h"
+#include "platform/clsOSInfo.h"
+
+#include <QApplication>
+#include <QScreen>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setApplicationDisplayName(QStringLiteral("Rigging Desk"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    SetAppPath(QApplication::applicationDirPath());
+    clsOSInfo::setScreenCounter([] { return static_cast<int>(QGuiApplication::screens().size()); });
+    ApplyTheme(application, InitialScheme());
+    InstallMsgBoxWindow();
+
+    const auto station = std::make_unique<Station>();
+    Form_Initial window(*station);
+    if (!window.Form_Load())
+        return 0;
+    QObject::connect(&window, &Form_Initial::closed, &application, &QApplication::quit, Qt::QueuedConnection);
+    window.resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(QSize(1280, 800)));
+    window.show();
+    return QApplication::exec();
+}

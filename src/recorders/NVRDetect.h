@@ -1,0 +1,69 @@
+#pragma once
+
+#include "device/Form_COM.h"
+#include "recorders/RecorderSet.h"
+#include "store/records/UserRecords.h"
+
+#include <functional>
+#include <vector>
+
+// A recorder to be detected.
+struct NVRDetectItem
+{
+    qint16 iSlot = -1; // target slot from 0; -1: the first free one at detection time
+    QString sName;
+    QString sIP; // empty: the item is skipped
+    QString sModel;
+    qint32 iPort = 0;
+    QString sUser;
+    QString sPassword;
+};
+
+// Where a detection stands. `message` is a message number of the catalogue.
+struct DetectStatus
+{
+    int message = 0;
+    int percent = 0; // of the steps of this recorder, 0 to 100
+    enum class State
+    {
+        Running,
+        Done,
+        Failed
+    } state = State::Running;
+    QString suffix; // stands behind the message's text
+};
+using DetectReport = std::function<void(const DetectStatus&)>;
+
+// What a detection works on.
+struct DetectContext
+{
+    Form_COM& com;
+    RecorderSet& recorders;
+    const std::vector<NVRAccountRecord>& accounts; // tried in order when no login is given; never empty
+};
+
+enum class ManualField
+{
+    Name,
+    Address,
+    Port,
+    User,
+    Password
+};
+
+// What is wrong with a typed recorder, in the order of the checks: the message number and the field to go to.
+struct ManualFault
+{
+    int message = 0; // 0: nothing is wrong
+    ManualField field = ManualField::Name;
+};
+// Resolves a host name, so it may wait (at most 10 seconds).
+ManualFault ValidateManualNVR(const QString& name, const QString& address, const QString& port);
+
+// Logs in to a recorder, reads what it can do and its channels, and fills the slot of the working generation. True on
+// success; on failure the slot stays as it was and the report's last message says why. The last report of a success is
+// message 297. Waits on the device's replies (platform/Wait.h); ends early when Closing is set.
+bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report);
+
+// Whether the login reply's level and group allow this user for a family ("securitylevel=" and "group=" digits).
+bool LoginLevelPasses(const QString& loginReply, const QString& family);

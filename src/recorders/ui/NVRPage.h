@@ -1,0 +1,41 @@
+#pragma once
+
+#include "recorders/NVRListModel.h"
+
+#include <QWidget>
+#include <memory>
+
+class EmptyState;
+class QSortFilterProxyModel;
+namespace Ui {
+class NVRPage;
+}
+
+// Page 1: the recorders of the station, with a quick filter and sorting.
+class NVRPage : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NVRPage(const RecorderSet& recorders, QWidget* parent = nullptr);
+    ~NVRPage() override;
+
+    void Grid_SVR_Draw();       // prepares the list and its heads
+    void Grid_SVR_Set_withDB(); // fills it from the stored generation
+    void changeLanguage();
+
+public slots:
+    // Opens the wizard, or says that the station is full.
+    void lbAdd_Click();
+
+signals:
+    void wizardWanted();
+
+private:
+    void showCounts();
+
+    const RecorderSet& m_recorders;
+    std::unique_ptr<Ui::NVRPage> m_ui;
+    NVRListModel* m_model;
+    QSortFilterProxyModel* m_proxy;
+};
