@@ -186,12 +186,12 @@ void PaintButtonLabel(const QStyleOptionButton& option, QPainter* painter, const
     QPixmap picture;
     if (!option.icon.isNull()) {
         const qreal ratio = painter->device()->devicePixelRatioF();
-        picture = option.icon.pixmap(option.iconSize, ratio, IsEnabled(option) ? QIcon::Normal : QIcon::Disabled,
-                                     option.state.testFlag(QStyle::State_On) ? QIcon::On : QIcon::Off);
-        if (filled && option.icon.name().startsWith("desk:"_L1)) {
+        picture = option.icon.pixmap(option.iconSize, ratio, IsEnabled(option) ? QIcon::Normal : QIcon::Disabled);
+        const bool on = IsEnabled(option) && option.state.testFlag(QStyle::State_On);
+        if ((filled || on) && option.icon.name().startsWith("desk:"_L1)) {
             QPainter tint(&picture);
             tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
-            tint.fillRect(QRect(QPoint(), option.iconSize), ink);
+            tint.fillRect(QRect(QPoint(), option.iconSize), filled ? ink : Token("accent"_L1));
         }
     }
     const int pictureWidth = picture.isNull() ? 0 : option.iconSize.width();
@@ -276,6 +276,31 @@ void PaintComboBox(const QStyleOptionComboBox& option, QPainter* painter, const 
                 IsEnabled(option) ? "muted"_L1 : "disabled"_L1);
 }
 
+void PaintComboLabel(const QStyleOptionComboBox& option, QPainter* painter, const QRect& field)
+{
+    if (option.editable)
+        return;
+    QRect text = field;
+    if (!option.currentIcon.isNull()) {
+        const QSize size = option.iconSize;
+        const QRect logical(field.left(), field.top() + (field.height() - size.height()) / 2, size.width(),
+                            size.height());
+        option.currentIcon.paint(painter, QStyle::visualRect(option.direction, field, logical), Qt::AlignCenter,
+                                 IsEnabled(option) ? QIcon::Normal : QIcon::Disabled);
+        text = QStyle::visualRect(option.direction, field, field.adjusted(size.width() + 8, 0, 0, 0));
+    }
+    painter->setPen(Token(IsEnabled(option) ? "text"_L1 : "disabled"_L1));
+    painter->drawText(text,
+                      static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter)),
+                      painter->fontMetrics().elidedText(option.currentText, Qt::ElideRight, text.width()));
+}
+
+QIcon AccentIcon(const QIcon& icon)
+{
+    const QByteArray name = icon.name().mid(5).toLatin1();
+    return Icon(QLatin1StringView(name), "accent"_L1);
+}
+
 void PaintSpinBox(const QStyleOptionSpinBox& option, QPainter* painter, const QRect& up, const QRect& down)
 {
     if (option.frame)
@@ -303,9 +328,9 @@ void PaintSlider(const QStyleOptionSlider& option, QPainter* painter, const QRec
     QRectF track(groove);
     const QPointF centre = QRectF(groove).center();
     if (across)
-        track = QRectF(groove.left() + 8, centre.y() - 2, groove.width() - 16, 4);
+        track = QRectF(groove.left() + 2, centre.y() - 2, groove.width() - 4, 4);
     else
-        track = QRectF(centre.x() - 2, groove.top() + 8, 4, groove.height() - 16);
+        track = QRectF(centre.x() - 2, groove.top() + 2, 4, groove.height() - 4);
     PaintBox(painter, track, 2, Token("edge"_L1));
     const QPointF knob = QRectF(handle).center();
     QRectF filled = track;

@@ -32,9 +32,12 @@ void PaintField(const QStyleOption& option, QPainter* painter, bool focused, boo
 void PaintCheckBox(const QStyleOption& option, QPainter* painter);
 void PaintRadioButton(const QStyleOption& option, QPainter* painter);
 void PaintComboBox(const QStyleOptionComboBox& option, QPainter* painter, const QRect& arrow);
+void PaintComboLabel(const QStyleOptionComboBox& option, QPainter* painter, const QRect& field);
 void PaintSpinBox(const QStyleOptionSpinBox& option, QPainter* painter, const QRect& up, const QRect& down);
 void PaintSlider(const QStyleOptionSlider& option, QPainter* painter, const QRect& groove, const QRect& handle);
 void PaintToolButton(const QStyleOptionToolButton& option, QPainter* painter, const QWidget* widget);
+// The same line icon in the accent colour, for what is switched on.
+QIcon AccentIcon(const QIcon& icon);
 void PaintGroupBox(const QStyleOptionGroupBox& option, QPainter* painter, const QRect& title, const QRect& check);
 void PaintProgress(const QStyleOptionProgressBar& option, QPainter* painter, const QWidget* widget);
 

@@ -73,6 +73,10 @@ void DeskStyle::polish(QWidget* widget)
                 scroller->widget()->setAutoFillBackground(false);
         }
     }
+    // The sheet's style sizes spin boxes without asking this one.
+    if (auto* spin = qobject_cast<QAbstractSpinBox*>(widget); spin && spin->hasFrame())
+        spin->setMinimumHeight(
+            std::max(spin->minimumHeight(), std::max(kControlHeight, spin->fontMetrics().height() + 14)));
     if (auto* header = qobject_cast<QHeaderView*>(widget))
         header->setFont(DeskFont(0.92, true));
 }
@@ -180,7 +184,10 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                 width += button->iconSize.width() + (button->text.isEmpty() ? 0 : 8);
             if (button->features.testFlag(QStyleOptionButton::HasMenu))
                 width += 20;
-            return {button->text.isEmpty() ? std::max(width + 16, kControlHeight) : std::max(width + 32, 80),
+            const bool quiet = widget && widget->property("kind").toString() == "quiet"_L1;
+            return {button->text.isEmpty() ? std::max(width + 16, kControlHeight)
+                    : quiet                ? width + 24
+                                           : std::max(width + 32, 80),
                     ControlHeight(option)};
         }
         break;
@@ -214,13 +221,23 @@ QRect DeskStyle::subElementRect(SubElement element, const QStyleOption* option, 
 {
     switch (element) {
     case SE_LineEditContents:
-        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0)
-            return option->rect.adjusted(kFieldPadding, 1, -kFieldPadding, -1);
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
+            // An icon in front brings its own distance.
+            const int leading = widget && widget->property("leadingIcon").toBool() ? 2 : kFieldPadding;
+            return visualRect(option->direction, option->rect, option->rect.adjusted(leading, 1, -kFieldPadding, -1));
+        }
+
         return option->rect;
     case SE_ProgressBarGroove:
     case SE_ProgressBarContents:
     case SE_ProgressBarLabel:
         return option->rect;
+    case SE_HeaderLabel: {
+        const int margin = pixelMetric(PM_HeaderMargin, option, widget);
+        return option->rect.adjusted(margin, 0, -margin, 0);
+    }
+    case SE_TabWidgetTabContents:
+        return QProxyStyle::subElementRect(SE_TabWidgetTabPane, option, widget).adjusted(0, 12, 0, 0);
     case SE_CheckBoxFocusRect:
     case SE_RadioButtonFocusRect:
         return option->rect;
@@ -314,8 +331,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     }
     case PE_Frame:
     case PE_FrameTabWidget:
-        if (element == PE_FrameTabWidget)
+        if (element == PE_FrameTabWidget) {
+            painter->fillRect(QRect(option->rect.left(), option->rect.top() - 1, option->rect.width(), 1),
+                              Token("line"_L1));
             return;
+        }
         if (qobject_cast<const QAbstractScrollArea*>(widget)) {
             const bool view = qobject_cast<const QAbstractItemView*>(widget);
             const bool popup = widget->window()->windowType() == Qt::Popup;
@@ -341,14 +361,13 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorBranch:
         return PaintBranch(*option, painter);
     case PE_IndicatorHeaderArrow:
+        return; // the label draws it right behind its text
     case PE_IndicatorArrowDown:
     case PE_IndicatorArrowUp:
     case PE_IndicatorArrowLeft:
     case PE_IndicatorArrowRight: {
         QLatin1StringView name = "chevron-down"_L1;
-        if (const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(option))
-            name = header->sortIndicator == QStyleOptionHeader::SortUp ? "chevron-up"_L1 : "chevron-down"_L1;
-        else if (element == PE_IndicatorArrowUp)
+        if (element == PE_IndicatorArrowUp)
             name = "chevron-up"_L1;
         else if (element == PE_IndicatorArrowLeft)
             name = "previous"_L1;
@@ -424,11 +443,8 @@ void DeskStyle::drawControl(ControlElement element, const QStyleOption* option, 
         }
         break;
     case CE_ComboBoxLabel:
-        if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option)) {
-            QStyleOptionComboBox label(*combo);
-            label.state.setFlag(State_On, false);
-            return QProxyStyle::drawControl(element, &label, painter, widget);
-        }
+        if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
+            return PaintComboLabel(*combo, painter, subControlRect(CC_ComboBox, combo, SC_ComboBoxEditField, widget));
         break;
     default:
         break;
@@ -459,6 +475,8 @@ void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
             PaintToolButton(*button, painter, widget);
             QStyleOptionToolButton label(*button);
             label.state.setFlag(State_Sunken, false);
+            if (label.state.testFlag(State_On) && label.icon.name().startsWith("desk:"_L1))
+                label.icon = AccentIcon(label.icon);
             drawControl(CE_ToolButtonLabel, &label, painter, widget);
             return;
         }

@@ -72,7 +72,9 @@ void PaintViewRow(const QStyleOptionViewItem& option, QPainter* painter, const Q
         return;
     const bool hovered = option.index.isValid() && option.index.row() == HoverRow(widget);
     FillWithin(painter, option.rect, InnerBox(widget), kCardRadius - 1, RowColour(option, widget, hovered));
-    painter->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), Token("line"_L1));
+    // Rows are parted by a line; the frame closes the last one where the table ends with it.
+    if (option.rect.bottom() < table->viewport()->height() - 1)
+        painter->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1), Token("rowLine"_L1));
 }
 
 void PaintViewItem(const QStyleOptionViewItem& option, QPainter* painter, const QWidget* widget)
@@ -137,7 +139,8 @@ void PaintHeaderLabel(const QStyleOptionHeader& option, QPainter* painter, const
                      : centred ? rect.left() + (rect.width() - width) / 2
                                : rect.left();
     painter->setPen(Token(IsEnabled(option) ? "muted"_L1 : "disabled"_L1));
-    painter->drawText(QRect(left, rect.top(), width + 1, rect.height()), Qt::AlignVCenter | Qt::AlignLeft, text);
+    painter->drawText(QRect(left, rect.top(), width + 1, rect.height()),
+                      Qt::AlignVCenter | Qt::AlignLeft | Qt::TextDontClip, text);
     if (sorted) {
         const QRect place(right ? left - arrow : left + width + 4, rect.center().y() - 6, 13, 13);
         Icon(option.sortIndicator == QStyleOptionHeader::SortUp ? "chevron-up"_L1 : "chevron-down"_L1, "accent"_L1)

@@ -1,11 +1,15 @@
 #include "look/DialogFrame.h"
 
 #include "look/ActionBar.h"
+#include "look/DeskPaint.h"
+
 #include "look/ElidedLabel.h"
 #include "look/Icons.h"
 #include "look/StepStrip.h"
 #include "look/Theme.h"
 
+#include <QBitmap>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
@@ -46,9 +50,15 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        painter.fillRect(rect(), CurrentScheme() == Scheme::Dark ? QColor(6, 8, 10, 150) : QColor(27, 35, 44, 76));
+        painter.fillRect(rect(), CurrentScheme() == Scheme::Dark ? QColor(6, 8, 10, 128) : QColor(27, 35, 44, 76));
     }
 };
+
+// Windows can be cut to shape on X11 only; elsewhere the corners stay square.
+bool HasRoundCorners()
+{
+    return QGuiApplication::platformName() == "xcb"_L1;
+}
 
 } // namespace
 
@@ -151,10 +161,24 @@ void DialogFrame::hideEvent(QHideEvent* event)
 void DialogFrame::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), Token("surface"_L1));
-    painter.fillRect(QRect(0, kTitleHeight, width(), 1), Token("line"_L1));
-    painter.setPen(Token("edge"_L1));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    const qreal radius = HasRoundCorners() ? kCardRadius : 0;
+    PaintBox(&painter, rect(), radius, Token("surface"_L1), Token("edge"_L1));
+    painter.fillRect(QRect(1, kTitleHeight, width() - 2, 1), Token("line"_L1));
+}
+
+void DialogFrame::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (!HasRoundCorners())
+        return;
+    QBitmap shape(size());
+    shape.clear();
+    QPainter painter(&shape);
+    painter.setBrush(Qt::color1);
+    painter.setPen(Qt::NoPen);
+    painter.drawRoundedRect(rect(), kCardRadius, kCardRadius);
+    painter.end();
+    setMask(shape);
 }
 
 void DialogFrame::mousePressEvent(QMouseEvent* event)

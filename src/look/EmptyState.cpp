@@ -23,8 +23,7 @@ EmptyState::EmptyState(QLatin1StringView illustration, QWidget* parent)
         label->setAlignment(Qt::AlignCenter);
     m_headline->setWordWrap(true);
     m_hint->setWordWrap(true);
-    m_hint->setMaximumWidth(420);
-    m_hint->setMinimumWidth(240);
+    m_hint->setFixedWidth(400);
     m_button->hide();
     connect(m_button, &QPushButton::clicked, this, &EmptyState::clicked);
     connect(&ThemeEvents(), &ThemeNotifier::schemeChanged, this, &EmptyState::showPicture);
@@ -36,7 +35,11 @@ EmptyState::EmptyState(QLatin1StringView illustration, QWidget* parent)
     layout->addWidget(m_picture);
     layout->addSpacing(8);
     layout->addWidget(m_headline);
-    layout->addWidget(m_hint, 0, Qt::AlignHCenter);
+    auto* hint = new QHBoxLayout;
+    hint->addStretch();
+    hint->addWidget(m_hint);
+    hint->addStretch();
+    layout->addLayout(hint);
     layout->addSpacing(8);
     layout->addWidget(m_button, 0, Qt::AlignHCenter);
     layout->addStretch(3);

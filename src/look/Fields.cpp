@@ -55,6 +55,7 @@ SearchField::SearchField(QWidget* parent)
 {
     addAction(Icon("search"_L1, "muted"_L1), QLineEdit::LeadingPosition);
     setClearButtonEnabled(true);
+    setProperty("leadingIcon", true);
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event)

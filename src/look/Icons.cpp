@@ -73,12 +73,12 @@ public:
     {
     }
 
-    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override
     {
         const qreal ratio = painter->device()->devicePixelRatioF();
         const int side = std::min(rect.width(), rect.height());
         const QRect square(rect.x() + (rect.width() - side) / 2, rect.y() + (rect.height() - side) / 2, side, side);
-        painter->drawPixmap(square, IconPixmap(name(), square.size(), colour(mode, state), ratio));
+        painter->drawPixmap(square, IconPixmap(name(), square.size(), colour(mode), ratio));
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
@@ -86,9 +86,9 @@ public:
         return scaledPixmap(size, mode, state, 1.0);
     }
 
-    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal) override
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State, qreal) override
     {
-        return IconPixmap(name(), size, colour(mode, state), 1.0);
+        return IconPixmap(name(), size, colour(mode), 1.0);
     }
 
     QIconEngine* clone() const override { return new LineIconEngine(name(), QLatin1StringView(m_token)); }
@@ -98,13 +98,13 @@ public:
 
 private:
     QLatin1StringView name() const { return QLatin1StringView(m_name); }
-    QColor colour(QIcon::Mode mode, QIcon::State state) const
+    QColor colour(QIcon::Mode mode) const
     {
         if (mode == QIcon::Disabled)
             return Token("disabled"_L1);
         if (!m_token.isEmpty())
             return Token(QLatin1StringView(m_token));
-        return Token(mode == QIcon::Selected || state == QIcon::On ? "accent"_L1 : "text"_L1);
+        return Token(mode == QIcon::Selected ? "accent"_L1 : "text"_L1);
     }
 
     QByteArray m_name;

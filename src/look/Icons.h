@@ -5,9 +5,9 @@
 #include <QPixmap>
 
 // A line icon of the desk by name ("nvr", "add", "eye-off" …; the files of resources/icons). It is drawn in the live
-// scheme's text colour whenever it is painted, in the accent colour when selected or switched on, and muted when
-// disabled. "back", "next", "exit" and their like are mirrored in a right-to-left desk. An unknown name gives a null
-// icon.
+// scheme's text colour whenever it is painted, in the accent colour when selected or on a button switched on, and
+// greyed when disabled. "back", "next", "exit" and their like are mirrored in a right-to-left desk. An unknown name
+// gives a null icon.
 QIcon Icon(QLatin1StringView name);
 // The same in the colour of a token whatever the state, for icons that tell a state ("warning" in "warning").
 QIcon Icon(QLatin1StringView name, QLatin1StringView token);

@@ -77,6 +77,9 @@ void Pill::paintEvent(QPaintEvent*)
         content.setLeft(content.left() + kIcon + 6);
     }
     painter.setPen(Token("text"_L1));
+    if (m_monospace)
+        painter.setLayoutDirection(Qt::LeftToRight); // dates and times keep their order
+
     painter.drawText(QStyle::visualRect(layoutDirection(), rect(), content), Qt::AlignCenter | Qt::TextDontClip,
                      m_text);
 }

@@ -19,7 +19,7 @@ ProgressWindow::ProgressWindow(const QString& text, QWidget* parent)
     setModal(false);
     setClosable(false);
     setSizeGripEnabled(false);
-    setMinimumWidth(400);
+    content()->setMinimumWidth(360);
     m_text->setWordWrap(true);
     m_text->setTextFormat(Qt::PlainText);
     m_bar->setRange(0, 0);
@@ -29,6 +29,7 @@ ProgressWindow::ProgressWindow(const QString& text, QWidget* parent)
     column->addWidget(m_text);
     column->addWidget(m_bar);
     setText(text);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void ProgressWindow::setText(const QString& text)

@@ -67,6 +67,9 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         option->font = MonoFont();
         option->fontMetrics = QFontMetrics(option->font);
+        // Addresses and times keep their order in a right-to-left desk.
+        if (option->direction == Qt::RightToLeft)
+            option->text = QString(QChar(0x202a) + option->text + QChar(0x202c));
     }
 };
 

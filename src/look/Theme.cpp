@@ -35,6 +35,7 @@ constexpr std::array kTokens{
     TokenValue{"field"_L1, 0xffffffff, 0xff171c23},
     // lines: 1 px separators, borders of fields and buttons, borders of check boxes
     TokenValue{"line"_L1, 0xffd5dce4, 0xff2f3a46},
+    TokenValue{"rowLine"_L1, 0xffe3e8ee, 0xff28323d},
     TokenValue{"edge"_L1, 0xffbcc6d1, 0xff3b4856},
     TokenValue{"control"_L1, 0xff87939f, 0xff5f6e7e},
     // writing

@@ -250,6 +250,7 @@ QWidget* MakeFormPage(bool german)
     language->content()->addWidget(Said(Either(german, u"Applies to the desk and to every user of this station.",
                                                u"Gilt für das Programm und für alle Benutzer dieser Station."),
                                         "hint"_L1));
+    language->content()->addStretch();
     grid->addWidget(language, 0, 0);
 
     auto* start = new Card(Either(german, u"Start", u"Anlaufverhalten"));
@@ -419,6 +420,7 @@ QWidget* MakeControlsPage(bool german)
     stuck->setEnabled(false);
     for (QWidget* each : std::initializer_list<QWidget*>{done, busy, slider, stuck})
         work->content()->addWidget(each);
+    work->content()->addStretch();
     grid->addWidget(work, 1, 0);
 
     auto* tabs = new QTabWidget;
@@ -492,9 +494,9 @@ QWidget* MakePicturesPage()
     column->addWidget(icons);
     auto* flags = new Card(u"Flags"_s);
     auto* row = new QHBoxLayout;
-    row->setSpacing(10);
-    for (int language = 1; language <= 14; ++language)
-        for (const int width : {24, 48}) {
+    row->setSpacing(6);
+    for (const int width : {24, 48})
+        for (int language = 1; language <= 14; ++language) {
             auto* label = new QLabel;
             label->setPixmap(Flag(language).pixmap({width, width * 2 / 3}));
             row->addWidget(label);
@@ -508,7 +510,7 @@ QWidget* MakePicturesPage()
         label->setPixmap(Illustration(name, 1));
         big->addWidget(label);
     }
-    for (const int side : {128, 64, 32, 16}) {
+    for (const int side : {64, 32, 16}) {
         auto* label = new QLabel;
         label->setPixmap(ProgramIcon().pixmap(side));
         big->addWidget(label);

@@ -13,11 +13,14 @@
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -104,11 +107,37 @@ void Shoot(Gallery& gallery, const QString& prefix, bool german)
         QTest::qWait(60);
         save(gallery.window.grab(), QString::number(page));
     }
+    const bool desktop = QGuiApplication::platformName() == "xcb"_L1;
+    if (desktop) {
+        gallery.rail->entry(0)->click();
+        auto* picker = gallery.pages->currentWidget()->findChild<QComboBox*>(u"picker"_s);
+        picker->showPopup();
+        QTest::qWait(200);
+        save(QGuiApplication::primaryScreen()->grabWindow(0), u"popup"_s);
+        picker->hidePopup();
+        QMenu menu;
+        menu.addAction(Icon("edit"_L1), u"Edit"_s);
+        menu.addAction(Icon("copy"_L1), u"Copy the setting to…"_s)->setEnabled(false);
+        menu.addSeparator();
+        menu.addAction(Icon("delete"_L1), u"Remove"_s);
+        menu.popup(QPoint(600, 300));
+        QTest::keyClick(&menu, Qt::Key_Down);
+        QToolTip::showText(QPoint(300, 300), u"A tool tip of the desk"_s, &gallery.window);
+        QTest::qWait(200);
+        save(QGuiApplication::primaryScreen()->grabWindow(0), u"menu"_s);
+    }
     gallery.rail->entry(1)->click();
     for (int index = 0; DialogFrame* dialog = MakeDialog(index, german, &gallery.window); ++index) {
         dialog->show();
         QTest::qWait(60);
+        if (desktop) {
+            QTest::qWait(200);
+            save(QGuiApplication::primaryScreen()->grabWindow(0), u"d%1"_s.arg(index));
+            delete dialog;
+            continue;
+        }
         QPixmap picture = gallery.window.grab();
+
         QPainter painter(&picture);
         painter.drawPixmap((gallery.window.width() - dialog->width()) / 2,
                            (gallery.window.height() - dialog->height()) / 2, dialog->grab());
