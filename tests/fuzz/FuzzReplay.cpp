@@ -42,8 +42,9 @@ QByteArray Mutated(QByteArray bytes, std::minstd_rand& random)
             break;
         case 4: { // numbers and markup that readers trip over
             static const QByteArrayList tokens = {
-                "-1", "65536",  "99999999999",       "",    "1e9", "<", ">", "\"", "&amp;", "<![CDATA[", "=",
-                "%u", "camera", QByteArray(1, '\0'), "</a>"};
+                "-1",    "65536",  "99999999999", "",          "1e9", "<",  ">",      "\"",
+                "&amp;", "&quot;", "&lt;",        "<![CDATA[", "=",   "%u", "camera", QByteArray(1, '\0'),
+                "</a>"};
             bytes.replace(at, below(4), tokens[below(tokens.size())]);
             break;
         }

@@ -28,8 +28,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
     const auto pro = std::make_unique<SVRProRecord>();
     const auto svd = std::make_unique<SVDRecord>();
 
-    const bool accepted = Accepted(QString::fromUtf8(reply.utf8()));
-    if (accepted != (CheckCmdResult(QString::fromUtf8(reply.utf8())) >= 0 && !reply.utf8().isEmpty()))
+    const QString text = QString::fromUtf8(reply.utf8());
+    if (Accepted(text) != (ParseResultCode(reply) >= 0 && !text.isEmpty()))
+        std::abort();
+    QString replaced = text;
+    for (const auto& [reference, character] : {std::pair("&lt;", "<"), {"&amp;", "&"}, {"&quot;", "\""}})
+        replaced.replace(QLatin1String(reference), QLatin1String(character));
+    if (XmlText(0, text) != replaced)
         std::abort();
 
     Attempt([&] {
