@@ -1,6 +1,11 @@
 #include "device/ReplyParsers.h"
 #include "device/XmlReply.h"
 
+#include <QVarLengthArray>
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
 using namespace Qt::StringLiterals;
 
 // The two replies that fill a recorder's channels: the list of its channels and the answer to a camera probe.
@@ -17,7 +22,7 @@ struct ChannelTarget
     qint16 speedUpper = 0;
     // Slot of the stream of a probe's current settings whose elements are being read.
     std::size_t slot = 0;
-    std::size_t streamCount = 0;
+    std::string scratch = {};
 
     ProChannelStreams& streams() { return pro.Streams[index]; }
 };
@@ -33,11 +38,31 @@ T& Cell(ChannelTarget& target, PerChannel<T> SVRProRecord::*field)
     return (target.pro.*field)[target.index];
 }
 
+// The texts of the children with `separator` between, before the second decoding: no reference can span two of them.
+struct JoinedTexts
+{
+    QVarLengthArray<char, 512> list; // ends in NUL
+    std::size_t count = 0;
+};
+JoinedTexts Joined(pugi::xml_node node, char separator)
+{
+    JoinedTexts joined;
+    std::string scratch;
+    ForEachElement(node, [&](pugi::xml_node child) {
+        if (joined.count++ > 0)
+            joined.list.append(separator);
+        const char* const text = RawText(child, scratch);
+        joined.list.append(text, static_cast<qsizetype>(std::strlen(text)));
+    });
+    joined.list.append('\0');
+    return joined;
+}
+
 // Readers of one element into the channel's cell of `Field`.
 template <auto Field>
 void Text(ChannelTarget& target, pugi::xml_node node)
 {
-    Cell(target, Field) = DecodedText(node);
+    Decode(RawText(node, target.scratch), Cell(target, Field));
 }
 template <auto Field>
 void Int16(ChannelTarget& target, pugi::xml_node node)
@@ -58,15 +83,12 @@ void Flag(ChannelTarget& target, pugi::xml_node node)
 template <auto Field>
 void TextList(ChannelTarget& target, pugi::xml_node node)
 {
-    QString list;
-    ForEachElement(node, [&](pugi::xml_node child) { list += DecodedText(child) + u','; });
-    list.chop(1);
-    Cell(target, Field) = list;
+    Decode(Joined(node, ',').list.constData(), Cell(target, Field));
 }
 
 using Reader = ElementReader<ChannelTarget>;
 
-constexpr auto kSystem = ElementTable<ChannelTarget>({
+constexpr auto kSystem = Elements<ChannelTarget>({
     {"UserName", Text<&SVRRecord::sSub_CH_UserName>},
     {"Password", Text<&SVRRecord::sSub_CH_Password>},
     {"Model", Text<&SVRProRecord::sCH_Pro_Model>},
@@ -78,7 +100,7 @@ constexpr auto kSystem = ElementTable<ChannelTarget>({
 });
 
 // CapAudioIn decides both ways, CapAudioOut only raises: their order in the reply matters.
-constexpr auto kAudio = ElementTable<ChannelTarget>({
+constexpr auto kAudio = Elements<ChannelTarget>({
     {"FMT", Text<&SVRProRecord::sCH_Pro_AudioType>},
     {"CapAudioIn",
      [](ChannelTarget& target, pugi::xml_node node) {
@@ -96,15 +118,16 @@ constexpr Reader kSpeedLower{"SpeedLower",
 constexpr Reader kSpeedUpper{"SpeedUpper",
                              [](ChannelTarget& target, pugi::xml_node node) { target.speedUpper = Int16Of(node); }};
 constexpr Reader kSpeedStep{"SpeedStep", [](ChannelTarget& target, pugi::xml_node node) {
-                                Cell(target, &SVRRecord::sCH_PTZ_Speed_Range) =
-                                    QString::number(target.speedLower) + u',' + QString::number(target.speedUpper) +
-                                    u',' + QString::number(Int16Of(node));
+                                std::array<char, 32> range;
+                                std::snprintf(range.data(), range.size(), "%d,%d,%d", target.speedLower,
+                                              target.speedUpper, Int16Of(node));
+                                Decode(range.data(), Cell(target, &SVRRecord::sCH_PTZ_Speed_Range));
                             }};
 constexpr Reader kMove{"Move", [](ChannelTarget& target, pugi::xml_node node) {
                            Cell(target, &SVRRecord::sCH_PTZ_PanTilt_Range) = QString::number(Int16Of(node));
                        }};
 
-constexpr auto kPtz = ElementTable<ChannelTarget>({
+constexpr auto kPtz = Elements<ChannelTarget>({
     {"PTZEnable", Flag<&SVRRecord::bSub_CH_PTZ>},
     {"PTZABS", Flag<&SVRProRecord::bCH_Pro_ABS>},
     {"AutoPan", Int16<&SVRProRecord::iCH_Pro_AutoPanMode>},
@@ -122,7 +145,7 @@ constexpr auto kPtz = ElementTable<ChannelTarget>({
     {"Mode4FishEye", Text<&SVRRecord::sSub_CH_Mode4FishEye>},
 });
 
-constexpr auto kProbePtz = ElementTable<ChannelTarget>({
+constexpr auto kProbePtz = Elements<ChannelTarget>({
     {"PTZEnable", Flag<&SVRRecord::bSub_CH_PTZ>},
     {"PTZABS", Flag<&SVRProRecord::bCH_Pro_ABS>},
     {"AutoPan", Int16<&SVRProRecord::iCH_Pro_AutoPanMode>},
@@ -145,10 +168,12 @@ constexpr Reader kSupportFmt{
         ForEachElement(node, [&](pugi::xml_node child) { ParseSupportFmt(target.streams(), child, slot); });
     }};
 constexpr Reader kFmtList{"FMTList", [](ChannelTarget& target, pugi::xml_node node) {
-                              Cell(target, &SVRRecord::sCH_FMTList) = DecodedText(node).replace(u' ', u',');
+                              QString& list = Cell(target, &SVRRecord::sCH_FMTList);
+                              Decode(RawText(node, target.scratch), list);
+                              list.replace(u' ', u',');
                           }};
 
-constexpr auto kVideo = ElementTable<ChannelTarget>({
+constexpr auto kVideo = Elements<ChannelTarget>({
     {"FMT", Text<&SVRRecord::sSub_CH_VideoFormat>},
     {"Size", Text<&SVRRecord::sSub_CH_Resolution>},
     {"FPS", Int16<&SVRRecord::iCH_FPS>},
@@ -167,7 +192,7 @@ constexpr auto kVideo = ElementTable<ChannelTarget>({
 });
 
 // The present settings of one stream of a probed camera.
-constexpr auto kStream = ElementTable<ChannelTarget>({
+constexpr auto kStream = Elements<ChannelTarget>({
     {"FMT",
      [](ChannelTarget& target, pugi::xml_node node) {
          const QString format = DecodedText(node);
@@ -206,7 +231,7 @@ void ReadCurrentSettings(ChannelTarget& target, pugi::xml_node list)
     }
 }
 
-constexpr auto kProbeVideo = ElementTable<ChannelTarget>({
+constexpr auto kProbeVideo = Elements<ChannelTarget>({
     {"CurrentSettingsList", ReadCurrentSettings},
     {"LensMode", Text<&SVRProRecord::sCH_Pro_LensMode>},
     {"LeftDisplayMode", Text<&SVRProRecord::sCH_Pro_LeftDisplayMode>},
@@ -241,7 +266,7 @@ void Section(ChannelTarget& target, pugi::xml_node node)
     ReadElements(Table, target, node);
 }
 
-constexpr auto kChannel = ElementTable<ChannelTarget>({
+constexpr auto kChannel = Elements<ChannelTarget>({
     {"Name", Text<&SVRRecord::sSub_CH_Name>},
     {"IP", Text<&SVRRecord::sSub_CH_IP>},
     {"HTTPPort", Int32<&SVRRecord::iSub_CH_HttpPort>},
@@ -251,7 +276,7 @@ constexpr auto kChannel = ElementTable<ChannelTarget>({
     {"PTZ", Section<kPtz>},
 });
 
-constexpr auto kProbe = ElementTable<ChannelTarget>({
+constexpr auto kProbe = Elements<ChannelTarget>({
     {"System", Section<kSystem>},
     {"Video", ReadProbeVideo},
     {"Audio", Section<kAudio>},
@@ -292,49 +317,56 @@ qint16 ParseChannelList(ReplyText reply, SVRRecord& channels, SVRProRecord& form
 
 void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& slot)
 {
-    std::string_view format;
-    const auto present = static_cast<std::size_t>(slot);
-    for (const pugi::xml_attribute attribute : child.attributes()) {
-        const std::string_view name = attribute.name();
-        const std::string_view value = attribute.value();
-        if (name == "FMT") {
+    const char* format = "";
+    const qint16 present = slot;
+    for (pugi::xml_attribute at = child.first_attribute(); at; at = at.next_attribute()) {
+        const char* const name = at.name();
+        const char* const value = at.value();
+        if (SameName(name, "FMT")) {
             format = value;
-            const QString upper = QString::fromUtf8(attribute.value()).toUpper();
-            slot = upper == "JPEG"_L1 ? 0 : upper == "MPEG4"_L1 ? 1 : 2;
-        } else if (name == "QualityLower") {
+            slot = qstricmp(value, "JPEG") == 0 ? 0 : qstricmp(value, "MPEG4") == 0 ? 1 : 2;
+        } else if (SameName(name, "QualityLower")) {
             At(formats.iQualityLower, present) = Int16Of(value);
-        } else if (name == "QualityUpper") {
+        } else if (SameName(name, "QualityUpper")) {
             At(formats.iQualityUpper, present) = Int16Of(value);
-        } else if (name == "RateControl") {
+        } else if (SameName(name, "RateControl")) {
             At(formats.bRateControlCap, present) = Int32Of(value) != 0;
         }
     }
 
     constexpr std::array<std::string_view, kMaxStream> names = {"jpeg", "mpeg4", "h264"};
     const auto named = std::ranges::find(names, format);
-    const std::size_t count = ElementCount(child);
-    if (named == names.end() || count == 0)
+    if (named == names.end())
+        return;
+    auto [sizes, count] = Joined(child, ' ');
+    if (count == 0)
         return;
     const auto own = static_cast<std::size_t>(named - names.begin());
-    const std::pair<std::string_view, std::vector<qint16>*> bounds[] = {
+    std::ranges::replace(sizes, ' ', ',');
+    Decode(sizes.constData(), formats.sResolutionList[own]);
+
+    const std::array<std::pair<const char*, std::vector<qint16>*>, 4> bounds = {{
         {"FPSLower", &formats.iFPSLower[own]},
         {"FPSUpper", &formats.iFPSUpper[own]},
         {"BPSLower", &formats.iBPSLower[own]},
         {"BPSUpper", &formats.iBPSUpper[own]},
-    };
-    QString sizes;
-    ForEachElement(child, [&](pugi::xml_node size) { sizes += DecodedText(size) + u' '; });
-    sizes.chop(1);
-    formats.sResolutionList[own] = sizes.replace(u' ', u',');
+    }};
     for (const auto& [name, values] : bounds)
         values->assign(count, 0);
     std::size_t position = 0;
     ForEachElement(child, [&](pugi::xml_node size) {
-        for (const pugi::xml_attribute attribute : size.attributes()) {
-            for (const auto& [name, values] : bounds) {
-                if (name == attribute.name())
-                    (*values)[position] = Int16Of(std::string_view(attribute.value()));
+        std::size_t expected = 0; // devices send them in this order
+        pugi::xml_attribute at = size.first_attribute();
+        for (const char* name = at.name(); *name != '\0'; name = at.name()) {
+            for (std::size_t tried = 0; tried < bounds.size(); ++tried, ++expected) {
+                const auto& [bound, values] = bounds[expected % bounds.size()];
+                if (!SameName(bound, name))
+                    continue;
+                (*values)[position] = Int16Of(at.value());
+                ++expected;
+                break;
             }
+            at = at.next_attribute();
         }
         ++position;
     });
@@ -352,7 +384,9 @@ qint16 ParseDetectedCamera(ReplyText reply, SVRRecord& channels, SVRProRecord& f
     ChannelTarget target{channels, formats, static_cast<std::size_t>(channel)};
     // Recorders differ in whether a wrapper stands round the sections.
     ForEachElement(response, [&](pugi::xml_node child) {
-        if (std::string_view(child.name()) != "UserData" && !ReadElement(kProbe, target, child))
+        if (const std::size_t index = IndexOf(kProbe, child.name()); index < kProbe.size())
+            kProbe[index].read(target, child);
+        else if (!SameName(child.name(), "UserData"))
             ReadElements(kProbe, target, child);
     });
     return 0;

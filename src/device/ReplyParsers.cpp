@@ -15,7 +15,7 @@ bool ForEachListed(const XmlReply& reply, const char* list, Visit&& visit)
     return !response.empty();
 }
 
-constexpr auto kSystemInfo = ElementTable<SVRRecord>({
+constexpr auto kSystemInfo = Elements<SVRRecord>({
     {"Name", [](SVRRecord& edit, pugi::xml_node node) { edit.sSVR_Name = NodeText(node); }},
     {"HTTPPort", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_HttpPort = Int32Of(node); }},
     {"Port", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_VideoPort = Int32Of(node); }},
@@ -23,12 +23,12 @@ constexpr auto kSystemInfo = ElementTable<SVRRecord>({
     {"TimeZone", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_TimeZoneNum = Int16Of(node); }},
 });
 
-constexpr auto kTimeSettings = ElementTable<SVRRecord>({
+constexpr auto kTimeSettings = Elements<SVRRecord>({
     {"TimeZone", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_TimeZoneNum = Int16Of(node); }},
     {"SummerTime", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_SummerTime = Int16Of(node); }},
 });
 
-constexpr auto kDeviceInfo = ElementTable<DeviceInfo>({
+constexpr auto kDeviceInfo = Elements<DeviceInfo>({
     {"Brand", [](DeviceInfo& info, pugi::xml_node node) { info.Brand = NodeText(node); }},
     {"Model", [](DeviceInfo& info, pugi::xml_node node) { info.Model = NodeText(node); }},
     {"URL", [](DeviceInfo& info, pugi::xml_node node) { info.URL = NodeText(node); }},
@@ -41,7 +41,7 @@ constexpr auto kDeviceInfo = ElementTable<DeviceInfo>({
     {"OutputPort", [](DeviceInfo& info, pugi::xml_node node) { info.OutputPort = Int32Of(node); }},
 });
 
-constexpr auto kFoundDevice = ElementTable<FoundDevice>({
+constexpr auto kFoundDevice = Elements<FoundDevice>({
     {"IP", [](FoundDevice& found, pugi::xml_node node) { found.IP = NodeText(node); }},
     {"NetMask", [](FoundDevice& found, pugi::xml_node node) { found.NetMask = NodeText(node); }},
     {"Manufacturer", [](FoundDevice& found, pugi::xml_node node) { found.Manufacturer = NodeText(node); }},
@@ -52,7 +52,7 @@ constexpr auto kFoundDevice = ElementTable<FoundDevice>({
     {"DeviceType", [](FoundDevice& found, pugi::xml_node node) { found.DeviceType = Int16Of(node); }},
 });
 
-constexpr auto kPosition = ElementTable<PositionRecord>({
+constexpr auto kPosition = Elements<PositionRecord>({
     {"CH", [](PositionRecord& position, pugi::xml_node node) { position.CH = Int16Of(node); }},
     {"Pan", [](PositionRecord& position, pugi::xml_node node) { position.Pan = NodeText(node); }},
     {"Tilt", [](PositionRecord& position, pugi::xml_node node) { position.Tilt = NodeText(node); }},
@@ -60,7 +60,7 @@ constexpr auto kPosition = ElementTable<PositionRecord>({
     {"Focus", [](PositionRecord& position, pugi::xml_node node) { position.Focus = NodeText(node); }},
 });
 
-constexpr auto kPreset = ElementTable<PresetEntry>({
+constexpr auto kPreset = Elements<PresetEntry>({
     {"Name", [](PresetEntry& preset, pugi::xml_node node) { preset.Name = DecodedText(node); }},
     {"PTZABS", [](PresetEntry& preset, pugi::xml_node node) { preset.PTZABS = DecodedText(node) == "1"_L1; }},
     {"Pan", [](PresetEntry& preset, pugi::xml_node node) { preset.Pan = DecodedText(node); }},
@@ -69,7 +69,7 @@ constexpr auto kPreset = ElementTable<PresetEntry>({
     {"Focus", [](PresetEntry& preset, pugi::xml_node node) { preset.Focus = DecodedText(node); }},
 });
 
-constexpr std::pair<std::string_view, qint16 ActionRecord::*> kActionNumbers[] = {
+constexpr std::pair<const char*, qint16 ActionRecord::*> kActionNumbers[] = {
     {"CH", &ActionRecord::CH},
     {"ActionGroup", &ActionRecord::ActionGroup},
     {"TriggerID", &ActionRecord::TriggerID},
@@ -85,13 +85,13 @@ constexpr std::pair<std::string_view, qint16 ActionRecord::*> kActionNumbers[] =
 void ReadAction(ActionRecord& action, pugi::xml_node node)
 {
     for (const pugi::xml_attribute attribute : node.attributes()) {
-        const std::string_view name = attribute.name();
-        if (name == "Event") {
+        const char* const name = attribute.name();
+        if (SameName(name, "Event")) {
             action.Event = Int32Of(attribute.value());
             continue;
         }
         for (const auto& [known, member] : kActionNumbers) {
-            if (name == known)
+            if (SameName(name, known))
                 action.*member = Int16Of(attribute.value());
         }
     }
@@ -104,7 +104,7 @@ qint16 ParseResultCode(ReplyText reply)
     const XmlReply document(std::move(reply));
     const pugi::xml_attribute result = document.response().attribute("RET");
     try {
-        return result ? Int16Of(std::string_view(result.value())) : qint16(-1);
+        return result ? Int16Of(result.value()) : qint16(-1);
     } catch (const ConversionError&) {
         return -1;
     }
@@ -140,7 +140,7 @@ void ParseSearchResult(ReplyText reply, std::vector<FoundDevice>& found)
     };
     // Recorders differ in whether a wrapper stands round the devices.
     ForEachElement(document.response(), [&](pugi::xml_node child) {
-        if (std::string_view(child.name()) == "Device")
+        if (SameName(child.name(), "Device"))
             read(child);
         else
             ForEachElement(child, "Device", read);
@@ -212,13 +212,13 @@ QString ParseApplyResult(ReplyText reply)
 {
     const XmlReply document(std::move(reply));
     const pugi::xml_attribute result = document.response().attribute("RET");
-    if (!result || Int16Of(std::string_view(result.value())) != 0)
+    if (!result || Int16Of(result.value()) != 0)
         return {};
     QStringList refused;
     ForEachListed(document, "CHList", [&](pugi::xml_node channel) {
         const auto failed = [&](const char* name) {
             const pugi::xml_attribute code = channel.attribute(name);
-            return code && Int16Of(std::string_view(code.value())) != 0;
+            return code && Int16Of(code.value()) != 0;
         };
         if (failed("MDRet") || failed("DIRet"))
             refused += QString::fromUtf8(channel.attribute("ID").value());

@@ -29,7 +29,7 @@ void ReadVideoList(SVDChannel& channel, pugi::xml_node list)
     });
 }
 
-constexpr auto kChannelInfo = ElementTable<SVDChannel>({
+constexpr auto kChannelInfo = Elements<SVDChannel>({
     {"Name", Text<&SVDChannel::sCamName>},
     {"IP", Text<&SVDChannel::sCamIP>},
     {"HTTPPort", [](SVDChannel& channel, pugi::xml_node node) { channel.lCamHttpPort = Int32Of(node); }},
@@ -64,13 +64,13 @@ constexpr auto kChannelInfo = ElementTable<SVDChannel>({
     {"VideoList", ReadVideoList},
 });
 
-constexpr auto kShownChannel = ElementTable<SVDChannel>({
+constexpr auto kShownChannel = Elements<SVDChannel>({
     {"NVRID", Int16<&SVDChannel::iCamNVRID>},
     {"NVRCH", Int16<&SVDChannel::iCamNVRCH>},
     {"Audio", Int16<&SVDChannel::iCamAudio>},
 });
 
-constexpr auto kSystemInfo = ElementTable<SVDRecord>({
+constexpr auto kSystemInfo = Elements<SVDRecord>({
     {"TimeZone", [](SVDRecord& svd, pugi::xml_node node) { svd.iTimeZone = Int16Of(node); }},
     {"DSTEnable", [](SVDRecord& svd, pugi::xml_node node) { svd.iSummerTime = Int16Of(node); }},
     {"DSTIndex", [](SVDRecord& svd, pugi::xml_node node) { svd.iSummerTimeIndex = Int16Of(node); }},

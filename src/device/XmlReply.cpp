@@ -1,16 +1,19 @@
 #include "device/XmlReply.h"
 
-#include <charconv>
-#include <string>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+// Character data that begins an element becomes the element's own value: nearly every element of a reply is such a
+// one, and the document needs half the nodes.
+constexpr unsigned kLoading = pugi::parse_default | pugi::parse_embed_pcdata;
+
 bool WithinMarkupLimit(const QByteArray& bytes)
 {
-    return std::count(bytes.cbegin(), bytes.cend(), '<') <= kMaxReplyMarkup &&
-           std::count(bytes.cbegin(), bytes.cend(), '=') <= kMaxReplyMarkup;
+    return bytes.size() <= kMaxReplyMarkup || (std::count(bytes.cbegin(), bytes.cend(), '<') <= kMaxReplyMarkup &&
+                                               std::count(bytes.cbegin(), bytes.cend(), '=') <= kMaxReplyMarkup);
 }
 
 // The node after `node` in document order within `top`, without recursion; null at the end.
@@ -26,36 +29,41 @@ pugi::xml_node NextInDocument(pugi::xml_node node, pugi::xml_node top)
     return {};
 }
 
-bool IsCharacterData(pugi::xml_node node)
+// Whether `text` is nothing but a whole number of at most nine digits.
+bool PlainNumber(const char* text, qint32& value)
 {
-    return node.type() == pugi::node_pcdata || node.type() == pugi::node_cdata;
+    const bool negative = *text == '-';
+    const char* const digits = text + (negative ? 1 : 0);
+    const char* at = digits;
+    qint32 number = 0;
+    for (; *at >= '0' && *at <= '9' && at - digits < 9; ++at)
+        number = number * 10 + (*at - '0');
+    value = negative ? -number : number;
+    return *at == '\0' && at != digits;
 }
 
-// Nearly every element holds one run of text: that is handed out as it lies in the document. `scratch` takes the rest.
-std::string_view RawText(pugi::xml_node node, std::string& scratch)
+// The three replacements one after the other, in one pass: "&quot;" is the only thing that an earlier one can make for
+// a later one, from "&amp;quot;".
+void DecodeReferences(QString& text)
 {
-    const pugi::xml_node first = node.first_child();
-    if (!first)
-        return {};
-    if (IsCharacterData(first) && !first.next_sibling())
-        return first.value();
-    for (pugi::xml_node at = first; at; at = NextInDocument(at, node)) {
-        if (IsCharacterData(at))
-            scratch += at.value();
+    const qsizetype first = text.indexOf(u'&');
+    if (first < 0)
+        return;
+    constexpr std::pair<QStringView, QChar> references[] = {
+        {u"&lt;", u'<'}, {u"&amp;quot;", u'"'}, {u"&amp;", u'&'}, {u"&quot;", u'"'}};
+    QChar* const begin = text.data();
+    const QChar* const end = begin + text.size();
+    QChar* to = begin + first;
+    for (const QChar* from = to; from != end;) {
+        const QStringView rest(from, end);
+        const auto found =
+            *from != u'&' ? std::end(references) : std::ranges::find_if(references, [&](const auto& reference) {
+                return rest.startsWith(reference.first);
+            });
+        *to++ = found == std::end(references) ? *from : found->second;
+        from += found == std::end(references) ? 1 : found->first.size();
     }
-    return scratch;
-}
-
-QString FromUtf8(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-template <class Int>
-bool WholeNumber(std::string_view text, Int& value)
-{
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return error == std::errc() && end == text.data() + text.size();
+    text.truncate(to - begin);
 }
 
 } // namespace
@@ -77,11 +85,11 @@ XmlReply::XmlReply(ReplyText text)
 {
     if (m_bytes.isEmpty() || !WithinMarkupLimit(m_bytes))
         return;
-    if (!m_document.load_buffer_inplace(m_bytes.data(), static_cast<std::size_t>(m_bytes.size()), pugi::parse_default,
+    if (!m_document.load_buffer_inplace(m_bytes.data(), static_cast<std::size_t>(m_bytes.size()), kLoading,
                                         pugi::encoding_utf8))
         return;
     for (pugi::xml_node at = m_document.first_child(); at; at = NextInDocument(at, m_document)) {
-        if (std::string_view(at.name()) == "RESPONSE") {
+        if (SameName(at.name(), "RESPONSE")) {
             if (at.first_attribute())
                 m_response = at;
             return;
@@ -92,10 +100,9 @@ XmlReply::XmlReply(ReplyText text)
 QString XmlText(qint16 mode, const QString& text)
 {
     if (mode == 0) {
-        if (!text.contains(u'&'))
-            return text;
         QString decoded = text;
-        return decoded.replace("&lt;"_L1, "<"_L1).replace("&amp;"_L1, "&"_L1).replace("&quot;"_L1, "\""_L1);
+        DecodeReferences(decoded);
+        return decoded;
     }
     QString encoded;
     encoded.reserve(text.size());
@@ -112,27 +119,60 @@ QString XmlText(qint16 mode, const QString& text)
     return encoded;
 }
 
+const char* RawText(pugi::xml_node node, std::string& scratch)
+{
+    const char* const value = node.value();
+    if (!node.first_child())
+        return value;
+    scratch.clear();
+    for (pugi::xml_node at = node; at; at = NextInDocument(at, node))
+        scratch += at.value();
+    return scratch.c_str();
+}
+
+void Decode(const char* raw, QString& text)
+{
+    unsigned char bits = 0;
+    bool reference = false;
+    const char* end = raw;
+    for (; *end != '\0'; ++end) {
+        bits |= static_cast<unsigned char>(*end);
+        reference |= *end == '&';
+    }
+    if (bits < 0x80)
+        text = QLatin1StringView(raw, end - raw);
+    else
+        text = QString::fromUtf8(raw, end - raw);
+    if (reference)
+        DecodeReferences(text);
+}
+
 QString NodeText(pugi::xml_node node)
 {
     std::string scratch;
-    return FromUtf8(RawText(node, scratch));
+    return QString::fromUtf8(RawText(node, scratch));
 }
 
 QString DecodedText(pugi::xml_node node)
 {
-    return XmlText(0, NodeText(node));
+    std::string scratch;
+    QString text;
+    Decode(RawText(node, scratch), text);
+    return text;
 }
 
-qint16 Int16Of(std::string_view text)
-{
-    qint16 value = 0;
-    return WholeNumber(text, value) ? value : ToInt16(FromUtf8(text));
-}
-
-qint32 Int32Of(std::string_view text)
+qint16 Int16Of(const char* text)
 {
     qint32 value = 0;
-    return WholeNumber(text, value) ? value : ToInt32(FromUtf8(text));
+    if (PlainNumber(text, value) && value == static_cast<qint16>(value))
+        return static_cast<qint16>(value);
+    return ToInt16(QString::fromUtf8(text));
+}
+
+qint32 Int32Of(const char* text)
+{
+    qint32 value = 0;
+    return PlainNumber(text, value) ? value : ToInt32(QString::fromUtf8(text));
 }
 
 qint16 Int16Of(pugi::xml_node node)
@@ -147,7 +187,7 @@ qint32 Int32Of(pugi::xml_node node)
     return Int32Of(RawText(node, scratch));
 }
 
-std::string_view FirstAttribute(pugi::xml_node node)
+const char* FirstAttribute(pugi::xml_node node)
 {
     const pugi::xml_attribute first = node.first_attribute();
     if (!first)

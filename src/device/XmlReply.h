@@ -3,11 +3,10 @@
 #include "device/ReplyText.h"
 #include "support/Conversions.h"
 
-#include <algorithm>
 #include <array>
+#include <cstring>
 #include <pugixml.hpp>
-#include <span>
-#include <string_view>
+#include <string>
 
 // What the readers of a device's XML replies stand on: the loaded document and the value readers. A reply is hostile
 // input: it is loaded only within the limits of ReplyText.h, nothing here recurses (neither does the loading or the
@@ -30,29 +29,34 @@ private:
     pugi::xml_node m_response;
 };
 
-// The text of an element: all character data in it, in document order.
+// The text of an element: all character data in it, in document order. `scratch` takes it where it does not lie in one
+// piece in the document.
+const char* RawText(pugi::xml_node node, std::string& scratch);
 QString NodeText(pugi::xml_node node);
 // The same with the second decoding that channel and preset replies carry.
 QString DecodedText(pugi::xml_node node);
+// Decodes UTF-8 and then, as DecodedText, the three references left in it; reuses the memory of `text`.
+void Decode(const char* raw, QString& text);
 
 // Numbers; throw ConversionError for anything that is not one or does not fit.
-qint16 Int16Of(std::string_view text);
-qint32 Int32Of(std::string_view text);
+qint16 Int16Of(const char* text);
+qint32 Int32Of(const char* text);
 qint16 Int16Of(pugi::xml_node node);
 qint32 Int32Of(pugi::xml_node node);
 
 // Value of the first attribute, whatever its name; throws ConversionError when the element has none.
-std::string_view FirstAttribute(pugi::xml_node node);
+const char* FirstAttribute(pugi::xml_node node);
 
-inline bool IsElement(pugi::xml_node node)
+// Most comparisons of names differ in the first character.
+inline bool SameName(const char* one, const char* other)
 {
-    return node.type() == pugi::node_element;
+    return *one == *other && std::strcmp(one, other) == 0;
 }
 
-inline std::size_t ElementCount(pugi::xml_node parent)
+// Comments, instructions and declarations are not loaded, and character data has no name.
+inline bool IsElement(pugi::xml_node node)
 {
-    const auto children = parent.children();
-    return static_cast<std::size_t>(std::count_if(children.begin(), children.end(), IsElement));
+    return *node.name() != '\0';
 }
 
 template <class Visit>
@@ -71,35 +75,55 @@ void ForEachElement(pugi::xml_node parent, const char* name, Visit&& visit)
         visit(child);
 }
 
-// Element names with the reader of each, sorted at compile time; a name that is not listed is skipped.
+inline std::size_t ElementCount(pugi::xml_node parent)
+{
+    std::size_t count = 0;
+    ForEachElement(parent, [&](pugi::xml_node) { ++count; });
+    return count;
+}
+
+// An element's name with its reader. A table of them is best kept in the order in which devices send the elements.
 template <class Target>
 struct ElementReader
 {
-    std::string_view name;
+    const char* name;
     void (*read)(Target&, pugi::xml_node);
 };
 
 template <class Target, std::size_t N>
-consteval std::array<ElementReader<Target>, N> ElementTable(const ElementReader<Target> (&readers)[N])
-{
-    std::array<ElementReader<Target>, N> table = std::to_array(readers);
-    std::ranges::sort(table, {}, &ElementReader<Target>::name);
-    return table;
-}
+using ElementTable = std::array<ElementReader<Target>, N>;
 
 template <class Target, std::size_t N>
-bool ReadElement(const std::array<ElementReader<Target>, N>& table, Target& target, pugi::xml_node element)
+constexpr ElementTable<Target, N> Elements(const ElementReader<Target> (&readers)[N])
 {
-    const std::string_view name = element.name();
-    const auto found = std::ranges::lower_bound(table, name, {}, &ElementReader<Target>::name);
-    if (found == table.end() || found->name != name)
-        return false;
-    found->read(target, element);
-    return true;
+    return std::to_array(readers);
 }
 
+// Index of `name` in a table, N when it is not there. The search begins at `expected`.
 template <class Target, std::size_t N>
-void ReadElements(const std::array<ElementReader<Target>, N>& table, Target& target, pugi::xml_node parent)
+std::size_t IndexOf(const ElementTable<Target, N>& table, const char* name, std::size_t expected = 0)
 {
-    ForEachElement(parent, [&](pugi::xml_node child) { ReadElement(table, target, child); });
+    for (std::size_t at = expected; at < N; ++at) {
+        if (SameName(table[at].name, name))
+            return at;
+    }
+    for (std::size_t at = 0; at < expected; ++at) {
+        if (SameName(table[at].name, name))
+            return at;
+    }
+    return N;
+}
+
+// Reads the children of `parent` that the table names; others are skipped.
+template <class Target, std::size_t N>
+void ReadElements(const ElementTable<Target, N>& table, Target& target, pugi::xml_node parent)
+{
+    std::size_t expected = 0;
+    for (pugi::xml_node child = parent.first_child(); child; child = child.next_sibling()) {
+        const std::size_t index = IndexOf(table, child.name(), expected);
+        if (index == N)
+            continue;
+        table[index].read(target, child);
+        expected = index + 1;
+    }
 }

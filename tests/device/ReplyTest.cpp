@@ -263,7 +263,8 @@ TEST(Replies, PresetsPositionsAndSequences)
     EXPECT_EQ(position.CH, 3);
     EXPECT_THAT((QStringList{position.Pan, position.Tilt, position.Zoom, position.Focus}),
                 ElementsAre(u"1"_s, u"-2"_s, u"x"_s, u""_s));
-    EXPECT_EQ(ParseFishEyeMode(Response("<Mode4FishEye>1P</Mode4FishEye>")), u"1P"_s);
+    EXPECT_EQ(ParseFishEyeMode(Response("<Mode4FishEye>1<!-- x -->P <![CDATA[<&]]><i>2</i>3</Mode4FishEye>")),
+              u"1P <&23"_s);
 }
 
 TEST(Replies, ActionsAreReadByAttributeName)
