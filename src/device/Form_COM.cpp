@@ -1,5 +1,9 @@
 #include "device/Form_COM.h"
 
+#include "app/log/Module_Log.h"
+#include "support/Conversions.h"
+
+#include <algorithm>
 #include <limits>
 #include <stdexcept>
 
@@ -22,6 +26,7 @@ qint16 TakeFreeRow(std::vector<EventRequest>& rows, qint16 busy)
 Form_COM::Form_COM(QObject* parent)
     : QObject(parent)
     , web(http)
+    , device(web, http)
     , MailRequests(1)
     , AlertRequests(1)
 {
@@ -42,9 +47,16 @@ Form_COM::Form_COM(QObject* parent)
         if (status >= 0)
             web.ReleaseRequest(kReleaseQuery, request);
     });
+    connect(&device, &DeviceBridge::OnNotifyServiceStatus, this, &Form_COM::notifyServiceStatus);
 }
 
 Form_COM::~Form_COM() = default;
+
+void Form_COM::Unload()
+{
+    finder.Stop();
+    emit Unloading();
+}
 
 qint16 Form_COM::GetFreeSlot(qint16 kind)
 {
@@ -68,4 +80,45 @@ qint16 Form_COM::FindFreeMailSlot()
 qint16 Form_COM::FindFreeAlertSlot()
 {
     return TakeFreeRow(AlertRequests, 0);
+}
+
+qint16 Form_COM::FindServiceSlot(qint16 svrIndex) const
+{
+    for (std::size_t row = 0; row < Services.size(); ++row) {
+        if (Services[row].SvrIndex == svrIndex)
+            return static_cast<qint16>(row);
+    }
+    return -1;
+}
+
+void Form_COM::SetProToDeviceBridge(std::span<const SVRRecord> list)
+{
+    device.SetServiceTimeout(60);
+    const std::size_t count = std::min<std::size_t>(list.size(), kMaxSVR);
+    for (std::size_t index = 0; index < count; ++index) {
+        const SVRRecord& svr = list[index];
+        if (svr.sSVR_IP.isEmpty() || svr.sSVR_DeviceType != kFamilyTXR632)
+            continue;
+        const auto svrIndex = static_cast<qint16>(index);
+        const qint16 row = FindServiceSlot(svrIndex);
+        if (row >= 0) {
+            if (Services[static_cast<std::size_t>(row)].Status > 0)
+                continue;
+            device.RemoveService(row);
+            Services[static_cast<std::size_t>(row)] = ServiceSlot();
+        }
+        const qint16 service =
+            device.AddService(svr.sSVR_IP, svr.iSVR_HttpPort, svr.sSVR_UserName, svr.sSVR_Password, QString(CMS_Core));
+        if (service < 0)
+            continue;
+        if (static_cast<std::size_t>(service) >= Services.size())
+            Services.resize(static_cast<std::size_t>(service) + 1);
+        Services[static_cast<std::size_t>(service)] = {svrIndex, 0};
+    }
+}
+
+void Form_COM::notifyServiceStatus(qint16 service, qint32 status)
+{
+    Trapped("Form_COM - DeviceBridge_OnNotifyServiceStatus",
+            [&] { At(Services, service).Status = static_cast<qint16>(status); });
 }

@@ -1,10 +1,14 @@
 #pragma once
 
+#include "device/DeviceBridge.h"
+#include "device/FinderBridge.h"
 #include "device/WebBridge.h"
 #include "platform/HttpClient.h"
+#include "store/records/SVRRecord.h"
 
 #include <QObject>
 #include <QString>
+#include <span>
 #include <vector>
 
 // Slot of a request that the event layer sent.
@@ -14,6 +18,13 @@ struct EventRequest
     qint32 Kind = -1;      // -1: free
     qint16 Busy = 0;       // -1 while a send is under way
     QString Result;
+};
+
+// A device service and the recorder it belongs to; the row is the service number.
+struct ServiceSlot
+{
+    qint16 SvrIndex = -1; // recorder slot, 0 to 15; -1: a number that is not ours
+    qint16 Status = 0;    // last status reported; above 0: connected
 };
 
 inline constexpr qint16 kMailSlot = 0;
@@ -31,6 +42,8 @@ public:
 
     HttpClient http;
     WebBridge web;
+    DeviceBridge device;
+    FinderBridge finder;
 
     // One row each, free, from the beginning; they only grow.
     std::vector<EventRequest> MailRequests;
@@ -42,4 +55,21 @@ public:
     // Row index as above, -1 when no row is free.
     qint16 FindFreeMailSlot();
     qint16 FindFreeAlertSlot();
+
+    std::vector<ServiceSlot> Services;
+
+    // First row of the recorder slot (0 to 15), or -1.
+    qint16 FindServiceSlot(qint16 svrIndex) const;
+    // Run when the recorder list has changed: every occupied slot of family "TXR632" (index 0 to 15) whose service is
+    // missing or down is registered anew.
+    void SetProToDeviceBridge(std::span<const SVRRecord> list);
+
+    // End of the run: stops the search and tells the owners of the other bridges.
+    void Unload();
+
+signals:
+    void Unloading();
+
+private:
+    void notifyServiceStatus(qint16 service, qint32 status);
 };

@@ -1,0 +1,170 @@
+#include "device/Form_COM.h"
+#include "platform/Wait.h"
+#include "tests/TestMain.h"
+#include "tests/device/ScriptedServer.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Answer = ScriptedServer::Answer;
+
+class ParameterBridge : public ::testing::Test
+{
+protected:
+    DeviceAddress device() const { return {u"127.0.0.1"_s, server.serverPort(), u"admin"_s, u"pw"_s}; }
+    TemporaryStation station;
+    ScriptedServer server;
+    Form_COM com;
+};
+
+SVRRecord Recorder(const ScriptedServer& at, const QString& family = u"TXR632"_s)
+{
+    SVRRecord svr;
+    svr.sSVR_IP = u"127.0.0.1"_s;
+    svr.iSVR_HttpPort = at.serverPort();
+    svr.sSVR_DeviceType = family;
+    return svr;
+}
+
+} // namespace
+
+TEST_F(ParameterBridge, ReadsFactsAndChannelsOfARecorder)
+{
+    server.answerWith("OK\r\nsystem.videoport=8016\r\nsystem.timezone=31\r\nsystem.summertime=-1\r\n");
+    RecorderFacts facts;
+    EXPECT_EQ(com.device.GetSystemFacts(device(), facts), 0);
+    EXPECT_EQ(server.lastTarget(), "/param.cgi?action=get&group=system");
+    EXPECT_EQ(facts.VideoPort, 8016);
+    EXPECT_EQ(facts.TimeZone, 31);
+    EXPECT_EQ(facts.SummerTime, -1);
+
+    server.answerWith("camera_c12.device.name=%u4E2Dx\r\ncamera_c12.device.ip=10.0.0.7\r\n"
+                      "camera_c1.device.ip=9.9.9.9\r\ncamera_c12.device.httpport=80a\r\n"
+                      "camera_c12.device.username=root\r\ncamera_c12.device.password=a=b=\r\n"
+                      "camera_c12.device.format=1024\r\ncamera_c12.device.resolution=1920x1080\r\n"
+                      "camera_c12.device.brand=55\r\n");
+    RecorderChannel channel;
+    channel.HttpPort = 7;
+    EXPECT_EQ(com.device.GetChannel(device(), 12, channel), 0);
+    EXPECT_EQ(server.lastTarget(), "/param.cgi?action=get&group=camera_c12.device");
+    EXPECT_EQ(channel.Name, u"%u4E2Dx"_s); // still escaped
+    EXPECT_EQ(channel.IP, u"10.0.0.7"_s);
+    EXPECT_EQ(channel.HttpPort, 0); // no number: logged
+    EXPECT_EQ(channel.Password, u"a=b="_s);
+    EXPECT_EQ(channel.Format, 1024);
+    EXPECT_EQ(channel.Brand, 55);
+
+    server.answerWith("camera_c3.device.name=\r\ncamera_c3.device.ip=\r\ncamera_c3.device.httpport=\r\n");
+    EXPECT_EQ(com.device.GetChannel(device(), 3, channel), 0);
+    EXPECT_EQ(channel.IP, QString());
+
+    server.answerWith("ERROR\r\nRET=\"7\"\r\n");
+    channel.IP = u"kept"_s;
+    EXPECT_EQ(com.device.GetChannel(device(), 3, channel), -1);
+    EXPECT_EQ(com.device.GetSystemFacts(device(), facts), -1);
+    EXPECT_EQ(channel.IP, u"kept"_s);
+    EXPECT_EQ(facts.VideoPort, 8016);
+}
+
+TEST_F(ParameterBridge, WritesAChannelInItsTwoForms)
+{
+    ChannelSettings settings;
+    settings.Name = u"%u4E2Dx"_s;
+    settings.IP = u"10.0.0.7"_s;
+    settings.HttpPort = u"80"_s;
+    settings.UserName = u"root"_s;
+    settings.Password = u"a&b=c d%"_s;
+    settings.Format = u"1024"_s;
+    settings.Resolution = u"1920x1080"_s;
+    settings.BitRate = u"6"_s;
+    const QByteArray camera = "/param.cgi?action=set&camera_c64.device.name=%u4E2Dx&camera_c64.device.ip=10.0.0.7"
+                              "&camera_c64.device.httpport=80&camera_c64.device.username=root"
+                              "&camera_c64.device.password=a%26b%3Dc%20d%25&camera_c64.device.brand=";
+    server.answerWith("OK\r\nRET=\"0\"\r\n");
+    EXPECT_TRUE(DeviceBridge::DeviceTook(com.device.SetChannel(device(), 64, settings, ChannelForm::Simple)));
+    EXPECT_EQ(server.lastTarget(), camera);
+    com.device.SetChannel(device(), 64, settings, ChannelForm::Both);
+    EXPECT_EQ(server.lastTarget(), QByteArray(camera + "&camera_c64.device.format=1024"
+                                                       "&camera_c64.device.resolution=1920x1080"
+                                                       "&camera_c64.device.bitrate=6"));
+    server.answerWith("ERROR\r\nRET=\"10\"\r\n");
+    EXPECT_FALSE(DeviceBridge::DeviceTook(com.device.SetChannel(device(), 64, settings, ChannelForm::Both)));
+
+    const std::size_t sent = server.requests.size();
+    settings.Password = u"a\"b"_s;
+    EXPECT_THROW(com.device.SetChannel(device(), 64, settings, ChannelForm::Both), std::invalid_argument);
+    EXPECT_EQ(server.requests.size(), sent);
+}
+
+TEST_F(ParameterBridge, PresetsAndMovementAskThePtzPath)
+{
+    DeviceBridge& bridge = com.device;
+    server.answerWith("OK\r\nRET=\"0\"\r\n");
+    const struct
+    {
+        std::function<bool()> call;
+        QByteArray query;
+    } cases[] = {
+        {[&] { return bridge.GotoPreset(device(), 3, 8, 5); }, "channel=3&action=goto&preset=8&speed=5"},
+        {[&] { return bridge.SetPreset(device(), 3, 1, u"Tor \u4e2d"_s); },
+         "channel=3&action=setpreset&preset=1&name=Tor%20%u4E2D"},
+        {[&] { return bridge.MovePtz(device(), 3, PtzAction::Move, 7, 2); },
+         "channel=3&action=move&direction=7&speed=2"},
+        {[&] { return bridge.MovePtz(device(), 3, PtzAction::Iris, 0, 1); },
+         "channel=3&action=iris&direction=0&speed=1"},
+        {[&] { return bridge.StopPtz(device(), 3); }, "channel=3&action=stop"},
+    };
+    for (const auto& c : cases) {
+        EXPECT_TRUE(c.call());
+        EXPECT_EQ(server.lastTarget(), QByteArray("/ptz.cgi?" + c.query));
+    }
+    server.answerWith("camera_c2.fisheye.mode=2P\r\n");
+    EXPECT_EQ(bridge.GetFishEyeMode(device(), 2), u"2P"_s);
+    EXPECT_FALSE(bridge.StopPtz(device(), 3));
+}
+
+TEST_F(ParameterBridge, ServicesFollowTheirDevice)
+{
+    com.device.SetPollInterval(20);
+    const auto status = [&](qint16 svr) {
+        const qint16 row = com.FindServiceSlot(svr);
+        return row < 0 ? -1 : com.Services[static_cast<std::size_t>(row)].Status;
+    };
+    ScriptedServer other;
+    std::vector<SVRRecord> list(17);
+    list[1] = Recorder(server);
+    list[2] = Recorder(server, u"OmluPro"_s);
+    list[15] = Recorder(other);
+    list[16] = Recorder(server); // beyond the station's slots
+    EXPECT_EQ(com.FindServiceSlot(1), -1);
+    com.SetProToDeviceBridge(list);
+    EXPECT_EQ(com.Services.size(), 2u);
+    EXPECT_EQ(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5), WaitResult::Done);
+
+    // A connected service is left alone, one that is down is registered anew at its present address.
+    other.answerWith("no");
+    EXPECT_EQ(WaitUntil([&] { return status(15) == 0; }, 5), WaitResult::Done);
+    ScriptedServer moved;
+    list[1] = Recorder(moved);
+    list[15] = Recorder(moved);
+    com.SetProToDeviceBridge(list);
+    EXPECT_EQ(WaitUntil([&] { return status(15) > 0; }, 5), WaitResult::Done);
+    EXPECT_EQ(com.FindServiceSlot(15), 1);
+    const std::size_t asked = other.requests.size();
+    const std::size_t askedFirst = server.requests.size();
+    EXPECT_EQ(WaitUntil([&] { return server.requests.size() > askedFirst + 2; }, 5), WaitResult::Done);
+    EXPECT_EQ(other.requests.size(), asked);
+}
+
+TEST_F(ParameterBridge, AStatusOfAnUnknownServiceIsAnErrorAndNoNewRow)
+{
+    emit com.device.OnNotifyServiceStatus(3, 1);
+    EXPECT_TRUE(com.Services.empty());
+    const QStringList logs = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s});
+    ASSERT_EQ(logs.size(), 1);
+    EXPECT_TRUE(
+        station.read(QString(u"\\log\\"_s + logs.front())).contains("Form_COM - DeviceBridge_OnNotifyServiceStatus"));
+}
