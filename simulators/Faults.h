@@ -30,9 +30,9 @@ struct Fault
 {
     FaultKind kind = FaultKind::Delay;
     qint64 amount = 0;
-    QByteArray path;
+    QByteArray path = {};
     int cmd = 0;
-    QByteArray text;
+    QByteArray text = {};
     int skip = 0;   // matching requests that pass unharmed before
     int count = -1; // requests it hits, -1 for all
 };
