@@ -20,6 +20,7 @@ enum class FaultKind
     Unauthorized, // 401 whatever the login is
     Refuse,       // the device's own refusal: RET="<amount>" (-4 when 0), nothing is written
     Body,         // HTTP 200 with `text` as the body
+    NoLength,     // the good reply as HTTP/1.0 without a length, ended by closing the connection
     Silent,       // the request is taken and never answered
     Reset         // the connection is closed at once
 };

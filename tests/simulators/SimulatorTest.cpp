@@ -3,6 +3,8 @@
 #include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QNetworkDatagram>
+#include <QNetworkInterface>
 #include <QTcpSocket>
 #include <QTimer>
 #include <gmock/gmock.h>
@@ -215,11 +217,18 @@ TEST(Simulator, ParameterTextIsReadBack)
         {"/event/basicevent.cgi?action=get", "camera_c1=1,2;\r\ncamera_c2=2;\r\ncamera_c3=;\r\n"},
         {"/system/detectcam.cgi?ipaddr=192.168.10.21&httpport=80&username=root&password=no&brand=", "Error"},
         {"/ptz.cgi?channel=4&action=setpreset&preset=3&name=Ecke%20n", "RET=\"0\""},
+        {"/ptz.cgi?channel=4&action=goto&preset=2&speed=1", "RET=\"0\""},
+        {"/ptz.cgi?channel=4&action=move&direction=3&speed=4", "RET=\"0\""},
+        {"/ptz.cgi?channel=4&action=move&direction=3&speed=11", "RET=\"-3\""},
+        {"/snapshot.cgi?channel=4", "image/jpeg\r\n"},
+        {"/snapshot.cgi?channel=5", "404"},
         {"/cmd.cgi?x", "404"},
     };
     for (const auto& row : table)
         EXPECT_TRUE(get(device, row.target).contains(row.holds)) << row.target.constData();
     EXPECT_EQ(device.channel(4).presets.back().name, u"Ecke n"_s);
+    EXPECT_EQ(device.channel(4).position.pan, 16); // preset 2 lies at 20, four to the left
+    EXPECT_TRUE(bodyOf(get(device, "/snapshot.cgi?channel=4")).startsWith("\xff\xd8\xff"));
     EXPECT_EQ(device.state().eventSlot, 3);
     device.reboot();
     EXPECT_EQ(device.channel(1).cameraEvents, 3);
@@ -291,6 +300,8 @@ TEST(Simulator, FaultsHappenInTheBytes)
     EXPECT_TRUE(with({FaultKind::Unauthorized}).startsWith("HTTP/1.1 401 "));
     EXPECT_EQ(bodyOf(with({FaultKind::Body, 0, {}, 0, "maybe"})), "maybe");
     EXPECT_EQ(with({FaultKind::Reset}), "");
+    EXPECT_EQ(with({FaultKind::NoLength}),
+              QByteArray("HTTP/1.0 200 OK\r\nContent-Type: text/plain; charset=utf-8\r\n\r\n" + bodyOf(good)));
     QElapsedTimer clock;
     clock.start();
     EXPECT_EQ(with({FaultKind::Delay, 250}), good);
@@ -340,6 +351,54 @@ TEST(Simulator, AnswersProbesThatAreMeantForIt)
     EXPECT_TRUE(probeMatch(probe("dn:NetworkVideoTransmitter"), site->device(1)).isEmpty());
     EXPECT_TRUE(probeMatch(probe("", "discovery/Hello"), site->device(0)).isEmpty());
     EXPECT_TRUE(probeMatch("<broken", site->device(0)).isEmpty());
+}
+
+TEST(Simulator, AnswersOverLoopbackMulticast)
+{
+    SiteDescription description;
+    description.port = 0;
+    description.devices = {deviceFromText(u"SVR"_s), deviceFromText(u"SVD"_s), deviceFromText(u"SVR,discoverable=0"_s)};
+    Site site(description);
+    site.start();
+    if (!site.discoveryRunning())
+        GTEST_SKIP() << "no multicast on loopback here";
+    QUdpSocket socket;
+    ASSERT_TRUE(socket.bind(QHostAddress::LocalHost, 0));
+    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces())
+        if (interface.flags().testFlag(QNetworkInterface::IsLoopBack))
+            socket.setMulticastInterface(interface);
+    QEventLoop loop;
+    QByteArray answers;
+    const QByteArray own = site.device(1).hostAndPort();
+    QObject::connect(&socket, &QUdpSocket::readyRead, &loop, [&] {
+        while (socket.hasPendingDatagrams())
+            answers += socket.receiveDatagram().data();
+        if (answers.contains(own) && answers.contains(site.device(0).hostAndPort()))
+            loop.quit();
+    });
+    QTimer::singleShot(3000, &loop, &QEventLoop::quit);
+    socket.writeDatagram("<E><MessageID>uuid:1</MessageID><Action>x/discovery/Probe</Action><Probe/></E>",
+                         QHostAddress(u"239.255.255.250"_s), 3702);
+    loop.exec();
+    EXPECT_TRUE(answers.contains(site.device(0).hostAndPort()) && answers.contains(own));
+    EXPECT_FALSE(answers.contains(site.device(2).hostAndPort()));
+}
+
+TEST(Simulator, DecoderTellsItsScreensAndChannels)
+{
+    const auto site = siteOf({u"SVD,cameras=3"_s});
+    Device& device = site->device(0);
+    device.state().decoderChannels[1] = {4, 9, 1, true, true};
+    EXPECT_TRUE(get(device, "/getsvrcapability.cgi").contains("devicetype=SVD\n"));
+    const QByteArray info = post(device, tagged(24577, "<CHList></CHList>"));
+    EXPECT_TRUE(info.count("<CH ID=") == 3 && info.contains("<MultiDynamicEnable>1</MultiDynamicEnable><VideoList>"
+                                                            "<Video ID=\"1\">"));
+    EXPECT_TRUE(post(device, "<CMD ID=\"4202501\"/>")
+                    .contains("<CH ID=\"2\"><NVRID>4</NVRID><NVRCH>9</NVRCH><Audio>1</Audio></CH>"));
+    EXPECT_TRUE(post(device, "<CMD ID=\"4198422\"/>").contains("<Screen ID=\"2\"><Resolution>0</Resolution></Screen>"));
+    const QByteArray resolutions = post(device, "<CMD ID=\"4198402\"><Param><Screen>2</Screen></Param></CMD>");
+    EXPECT_EQ(resolutions.count("<Resolution>"), 3);
+    EXPECT_EQ(retOf(post(device, "<CMD ID=\"4198402\"><Param><Screen>3</Screen></Param></CMD>")), -3);
 }
 
 TEST(Simulator, RunsInAThreadAndReadsItsDescription)
