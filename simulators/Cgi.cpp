@@ -177,27 +177,20 @@ HttpReply movePtz(CommandContext& context, const Query& query)
         context.saved.channels[static_cast<size_t>(query.number("channel") - 1)].presets = channel->presets;
         return ret(context, 0);
     }
-    if (speed < channel->camera.ptz.speedLower || speed > channel->camera.ptz.speedUpper)
+    if (!speedFits(channel->camera, speed))
         return ret(context, kRetBadValue);
     if (action == u"goto"_s) {
         if (found == channel->presets.end())
             return ret(context, kRetNotFound);
-        channel->gotoPreset = preset;
+        recallPreset(*channel, *found);
         return ret(context, 0);
     }
-    const int direction = query.number("direction", -1);
-    if (direction < 0 || direction > 8)
-        return ret(context, kRetBadValue);
-    if (action == u"move"_s)
-        channel->position.pan += direction + speed;
-    else if (action == u"zoom"_s)
-        channel->position.zoom += direction ? -speed : speed;
-    else if (action == u"focus"_s)
-        channel->position.focus += direction;
-    else if (action == u"iris"_s)
-        channel->position.iris += direction;
-    else
+    static const QStringList kAxes{u"move"_s, u"zoom"_s, u"focus"_s, u"iris"_s}; // in the order of PtzAxis
+    const qsizetype axis = kAxes.indexOf(action);
+    if (axis < 0)
         return ret(context, kRetUnknownCommand);
+    if (!moveCamera(channel->position, static_cast<PtzAxis>(axis), query.number("direction", -1), speed))
+        return ret(context, kRetBadValue);
     channel->moving = true;
     return ret(context, 0);
 }

@@ -10,11 +10,6 @@ namespace {
 
 constexpr size_t kMaxPresets = 8;
 
-bool speedFits(const Camera& camera, int speed)
-{
-    return speed >= camera.ptz.speedLower && speed <= camera.ptz.speedUpper;
-}
-
 // `cont` 0 moves one step, 1 until it is stopped, 2 stops.
 int move(int id, pugi::xml_node param, Channel& channel)
 {
@@ -33,32 +28,9 @@ int move(int id, pugi::xml_node param, Channel& channel)
         channel.moving = false;
         return 0;
     }
-    if (!speedFits(channel.camera, *speed) || *direction < 0 || *direction > (id == 12289 ? 8 : 2))
+    if (!speedFits(channel.camera, *speed) ||
+        !moveCamera(channel.position, static_cast<PtzAxis>(id - 12289), *direction, *speed))
         return kRetBadValue;
-    PtzPosition& at = channel.position;
-    switch (id) {
-    case 12289: // 0 home, 1 up, 2 down, 3 left, 4 right, 5 to 8 between them
-        if (*direction == 0) {
-            at.pan = at.tilt = 0;
-            break;
-        }
-        at.tilt += *speed * (*direction == 1 || *direction == 5 || *direction == 6   ? 1
-                             : *direction == 2 || *direction == 7 || *direction == 8 ? -1
-                                                                                     : 0);
-        at.pan += *speed * (*direction == 4 || *direction == 6 || *direction == 8   ? 1
-                            : *direction == 3 || *direction == 5 || *direction == 7 ? -1
-                                                                                    : 0);
-        break;
-    case 12290:
-        at.zoom += *direction == 0 ? *speed : -*speed;
-        break;
-    case 12291:
-        at.focus += *direction == 2 ? *speed : *direction == 1 ? -*speed : -at.focus;
-        break;
-    default:
-        at.iris += *direction == 2 ? *speed : *direction == 1 ? -*speed : -at.iris;
-        break;
-    }
     channel.moving = *cont == 1;
     return 0;
 }
@@ -78,8 +50,7 @@ int gotoPreset(pugi::xml_node param, Channel& channel)
         return kRetNotFound;
     if (!speedFits(channel.camera, numberOf(param, "Speed").value_or(-1)))
         return kRetBadValue;
-    channel.position = {preset->pan.toInt(), preset->tilt.toInt(), preset->zoom.toInt(), preset->focus.toInt(), 0};
-    channel.gotoPreset = id;
+    recallPreset(channel, *preset);
     return 0;
 }
 
@@ -175,6 +146,37 @@ int sequence(CommandContext& context, bool write, pugi::xml_node param, pugi::xm
 }
 
 } // namespace
+
+bool speedFits(const Camera& camera, int speed)
+{
+    return speed >= camera.ptz.speedLower && speed <= camera.ptz.speedUpper;
+}
+
+bool moveCamera(PtzPosition& at, PtzAxis axis, int direction, int speed)
+{
+    static constexpr int kPan[] = {0, 0, 0, -1, 1, -1, 1, -1, 1};
+    static constexpr int kTilt[] = {0, 1, -1, 0, 0, 1, 1, -1, -1};
+    if (direction < 0 || direction > (axis == PtzAxis::Move ? 8 : axis == PtzAxis::Zoom ? 1 : 2))
+        return false;
+    if (axis == PtzAxis::Move) {
+        at.pan = direction == 0 ? 0 : at.pan + kPan[direction] * speed;
+        at.tilt = direction == 0 ? 0 : at.tilt + kTilt[direction] * speed;
+        return true;
+    }
+    if (axis == PtzAxis::Zoom) {
+        at.zoom += direction == 0 ? speed : -speed;
+        return true;
+    }
+    int& value = axis == PtzAxis::Focus ? at.focus : at.iris;
+    value = direction == 0 ? 0 : value + (direction == 2 ? speed : -speed);
+    return true;
+}
+
+void recallPreset(Channel& channel, const Preset& preset)
+{
+    channel.position = {preset.pan.toInt(), preset.tilt.toInt(), preset.zoom.toInt(), preset.focus.toInt(), 0};
+    channel.gotoPreset = preset.id;
+}
 
 std::optional<int> runPtzCommand(CommandContext& context, int id, pugi::xml_node cmd, pugi::xml_node response)
 {

@@ -53,6 +53,19 @@ std::optional<int> runPtzCommand(CommandContext& context, int id, pugi::xml_node
 std::optional<int> runEventCommand(CommandContext& context, int id, pugi::xml_node cmd, pugi::xml_node response);
 std::optional<int> runDecoderCommand(CommandContext& context, int id, pugi::xml_node cmd, pugi::xml_node response);
 
+// What a movement does to the position. Moves: 0 home, 1 up, 2 down, 3 left, 4 right, 5 to 8 between them. Zoom: 0 in,
+// 1 out. Focus and iris: 2 up, 1 down, 0 automatic.
+enum class PtzAxis
+{
+    Move,
+    Zoom,
+    Focus,
+    Iris
+};
+bool moveCamera(PtzPosition& at, PtzAxis axis, int direction, int speed); // false: no such direction
+void recallPreset(Channel& channel, const Preset& preset);
+bool speedFits(const Camera& camera, int speed);
+
 // A CGI path. No value: the device has no such path.
 std::optional<HttpReply> runCgi(CommandContext& context, const QByteArray& path, const Query& query);
 HttpReply parameterText(CommandContext& context, const Query& query);

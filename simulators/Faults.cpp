@@ -7,7 +7,7 @@ namespace simulators {
 
 namespace {
 
-constexpr std::array<std::pair<const char*, FaultKind>, 12> kNames{{{"delay", FaultKind::Delay},
+constexpr std::array<std::pair<const char*, FaultKind>, 13> kNames{{{"delay", FaultKind::Delay},
                                                                     {"cutoff", FaultKind::CutOff},
                                                                     {"garbage", FaultKind::Garbage},
                                                                     {"garbagebody", FaultKind::GarbageBody},
@@ -17,6 +17,7 @@ constexpr std::array<std::pair<const char*, FaultKind>, 12> kNames{{{"delay", Fa
                                                                     {"unauthorized", FaultKind::Unauthorized},
                                                                     {"refuse", FaultKind::Refuse},
                                                                     {"body", FaultKind::Body},
+                                                                    {"nolength", FaultKind::NoLength},
                                                                     {"silent", FaultKind::Silent},
                                                                     {"reset", FaultKind::Reset}}};
 

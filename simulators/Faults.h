@@ -20,6 +20,7 @@ enum class FaultKind
     Unauthorized, // 401 whatever the login is
     Refuse,       // the device's own refusal: RET="<amount>" (-4 when 0), nothing is written
     Body,         // HTTP 200 with `text` as the body
+    NoLength,     // the good reply as HTTP/1.0 without a length, ended by closing the connection
     Silent,       // the request is taken and never answered
     Reset         // the connection is closed at once
 };
@@ -30,9 +31,9 @@ struct Fault
 {
     FaultKind kind = FaultKind::Delay;
     qint64 amount = 0;
-    QByteArray path;
+    QByteArray path = {};
     int cmd = 0;
-    QByteArray text;
+    QByteArray text = {};
     int skip = 0;   // matching requests that pass unharmed before
     int count = -1; // requests it hits, -1 for all
 };

@@ -174,6 +174,10 @@ private:
         case FaultKind::GarbageBody:
             reply.body = noise(fault.amount);
             return send(headOf(reply, reply.body.size(), m_keepAlive) + reply.body);
+        case FaultKind::NoLength:
+            m_keepAlive = false;
+            return send("HTTP/1.0 " + QByteArray::number(reply.status) + ' ' + reasonOf(reply.status) +
+                        "\r\nContent-Type: " + reply.contentType + "\r\n\r\n" + reply.body);
         case FaultKind::Silent:
             return; // stays busy until the other side gives up
         case FaultKind::Reset:
