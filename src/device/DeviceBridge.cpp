@@ -131,7 +131,7 @@ qint32 DeviceBridge::GetChannel(const DeviceAddress& device, qint16 channel, Rec
     return 0;
 }
 
-QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, const ChannelSettings& settings,
+QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
                                  ChannelForm form)
 {
     QString url = u"/param.cgi?action=set"_s;

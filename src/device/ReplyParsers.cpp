@@ -41,15 +41,15 @@ constexpr auto kDeviceInfo = Elements<DeviceInfo>({
     {"OutputPort", [](DeviceInfo& info, pugi::xml_node node) { info.OutputPort = Int32Of(node); }},
 });
 
-constexpr auto kFoundDevice = Elements<FoundDevice>({
-    {"IP", [](FoundDevice& found, pugi::xml_node node) { found.IP = NodeText(node); }},
-    {"NetMask", [](FoundDevice& found, pugi::xml_node node) { found.NetMask = NodeText(node); }},
-    {"Manufacturer", [](FoundDevice& found, pugi::xml_node node) { found.Manufacturer = NodeText(node); }},
-    {"Model", [](FoundDevice& found, pugi::xml_node node) { found.Model = NodeText(node); }},
-    {"DeviceName", [](FoundDevice& found, pugi::xml_node node) { found.DeviceName = NodeText(node); }},
-    {"MACAddress", [](FoundDevice& found, pugi::xml_node node) { found.MACAddress = NodeText(node); }},
-    {"HTTPPort", [](FoundDevice& found, pugi::xml_node node) { found.HTTPPort = Int32Of(node); }},
-    {"DeviceType", [](FoundDevice& found, pugi::xml_node node) { found.DeviceType = Int16Of(node); }},
+constexpr auto kFoundCamera = Elements<FoundCamera>({
+    {"IP", [](FoundCamera& found, pugi::xml_node node) { found.IP = NodeText(node); }},
+    {"NetMask", [](FoundCamera& found, pugi::xml_node node) { found.NetMask = NodeText(node); }},
+    {"Manufacturer", [](FoundCamera& found, pugi::xml_node node) { found.Manufacturer = NodeText(node); }},
+    {"Model", [](FoundCamera& found, pugi::xml_node node) { found.Model = NodeText(node); }},
+    {"DeviceName", [](FoundCamera& found, pugi::xml_node node) { found.DeviceName = NodeText(node); }},
+    {"MACAddress", [](FoundCamera& found, pugi::xml_node node) { found.MACAddress = NodeText(node); }},
+    {"HTTPPort", [](FoundCamera& found, pugi::xml_node node) { found.HTTPPort = Int32Of(node); }},
+    {"DeviceType", [](FoundCamera& found, pugi::xml_node node) { found.DeviceType = Int16Of(node); }},
 });
 
 constexpr auto kPosition = Elements<PositionRecord>({
@@ -128,15 +128,15 @@ void ParseDeviceInfo(ReplyText reply, DeviceInfo& info)
     ReadElements(kDeviceInfo, info, document.response());
 }
 
-void ParseSearchResult(ReplyText reply, std::vector<FoundDevice>& found)
+void ParseSearchResult(ReplyText reply, std::vector<FoundCamera>& found)
 {
-    found.assign(1, FoundDevice());
+    found.assign(1, FoundCamera());
     const XmlReply document(std::move(reply));
     std::size_t count = 0;
     const auto read = [&](pugi::xml_node device) {
         if (count == found.size())
             found.emplace_back();
-        ReadElements(kFoundDevice, found[count++], device);
+        ReadElements(kFoundCamera, found[count++], device);
     };
     // Recorders differ in whether a wrapper stands round the devices.
     ForEachElement(document.response(), [&](pugi::xml_node child) {

@@ -47,7 +47,7 @@ void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& s
 qint16 ParseDetectedCamera(ReplyText reply, SVRRecord& channels, SVRProRecord& formats, qint16 channel);
 
 // One row per camera found; one empty row when none was, or the reply cannot be read.
-void ParseSearchResult(ReplyText reply, std::vector<FoundDevice>& found);
+void ParseSearchResult(ReplyText reply, std::vector<FoundCamera>& found);
 
 // Presets in the reply's order, eight at most (more are ignored). 1, or -1 when the reply cannot be read.
 qint16 ParsePresetList(ReplyText reply, PresetRecord& record);

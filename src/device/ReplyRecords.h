@@ -65,7 +65,7 @@ struct DeviceInfo
 };
 
 // A camera that a recorder sees on its own network.
-struct FoundDevice
+struct FoundCamera
 {
     QString IP;
     QString NetMask;

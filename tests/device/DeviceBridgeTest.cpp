@@ -71,7 +71,7 @@ TEST_F(ParameterBridge, ReadsFactsAndChannelsOfARecorder)
 
 TEST_F(ParameterBridge, WritesAChannelInItsTwoForms)
 {
-    ChannelSettings settings;
+    ChannelParameters settings;
     settings.Name = u"%u4E2Dx"_s;
     settings.IP = u"10.0.0.7"_s;
     settings.HttpPort = u"80"_s;

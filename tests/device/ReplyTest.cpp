@@ -223,7 +223,7 @@ TEST(Replies, FoundCamerasStandDirectlyOrInAWrapper)
                                "<DeviceName>5</DeviceName><MACAddress>6</MACAddress><HTTPPort>70000</HTTPPort>"
                                "<DeviceType>8</DeviceType></Device><Device><IP>9</IP></Device>";
     for (const QByteArray& reply : {Response(devices), Response("<DeviceList>" + devices + "</DeviceList>")}) {
-        std::vector<FoundDevice> found;
+        std::vector<FoundCamera> found;
         ParseSearchResult(reply, found);
         ASSERT_EQ(found.size(), 2u);
         EXPECT_THAT((QStringList{found[0].IP, found[0].NetMask, found[0].Manufacturer, found[0].Model,

@@ -58,7 +58,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
         ParseDeviceInfo(reply, info);
     });
     Attempt([&] {
-        std::vector<FoundDevice> found;
+        std::vector<FoundCamera> found;
         ParseSearchResult(reply, found);
     });
     Attempt([&] {
