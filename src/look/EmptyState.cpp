@@ -19,6 +19,7 @@ EmptyState::EmptyState(QLatin1StringView illustration, QWidget* parent)
     SetRole(m_headline, "headline"_L1);
     SetRole(m_hint, "muted"_L1);
     SetKind(m_button, "primary"_L1);
+    m_button->setObjectName(u"btnEmptyState"_s);
     for (QLabel* label : {m_picture, m_headline, m_hint})
         label->setAlignment(Qt::AlignCenter);
     m_headline->setWordWrap(true);

@@ -5,13 +5,12 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
 bool SingleInstance::acquire()
 {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR");
     if (folder.isEmpty())
         folder = QDir::tempPath();
     const QByteArray station = QFileInfo(AppPath()).canonicalFilePath().toUtf8();
