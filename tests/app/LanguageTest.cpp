@@ -1,0 +1,143 @@
+#include "app/language/CutText.h"
+#include "app/language/Languages.h"
+#include "platform/clsOSInfo.h"
+#include "tests/store/StoreFixture.h"
+
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Bank = QMap<int, QString>;
+
+// A bank's texts by number, from its source file.
+Bank ReadBank(const QString& file)
+{
+    Bank bank;
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return bank;
+    QXmlStreamReader xml(&source);
+    int number = -1;
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == "message"_L1)
+            number = xml.attributes().value("id"_L1).toInt();
+        else if (xml.name() == "translation"_L1)
+            bank.insert(number, xml.readElementText());
+    }
+    EXPECT_FALSE(xml.hasError()) << file.toStdString();
+    return bank;
+}
+
+QString MessagesFolder()
+{
+    return QStringLiteral(DESK_MESSAGES);
+}
+
+qsizetype LeadingBlanks(const QString& text)
+{
+    return text.size() - QString(text).replace(QRegularExpression(u"^ +"_s), {}).size();
+}
+qsizetype TrailingBlanks(const QString& text)
+{
+    return text.size() - QString(text).replace(QRegularExpression(u" +$"_s), {}).size();
+}
+
+bool EndsAsLabel(const QString& text)
+{
+    const QString trimmed = text.trimmed();
+    return trimmed.endsWith(u':') || trimmed.endsWith(u'：');
+}
+
+} // namespace
+
+TEST(Banks, HoldTheSameNumbersAndKeepWhatCodeJoins)
+{
+    const QDir folder(MessagesFolder());
+    const Bank english = ReadBank(folder.filePath(u"messages_en.ts"_s));
+    ASSERT_GT(english.size(), 840);
+    const QStringList files = folder.entryList({u"messages_*.ts"_s});
+    EXPECT_EQ(files.size(), kLanguages);
+    for (const QString& file : files) {
+        const Bank bank = ReadBank(folder.filePath(file));
+        ASSERT_EQ(bank.keys(), english.keys()) << file.toStdString();
+        for (auto it = bank.begin(); it != bank.end(); ++it) {
+            const QString& text = it.value();
+            const QString& original = english[it.key()];
+            const std::string where = QString(file + u' ' + QString::number(it.key()) + u": "_s + text).toStdString();
+            EXPECT_FALSE(text.trimmed().isEmpty()) << where;
+            EXPECT_EQ(LeadingBlanks(text), LeadingBlanks(original)) << where;
+            EXPECT_EQ(TrailingBlanks(text), TrailingBlanks(original)) << where;
+            EXPECT_EQ(EndsAsLabel(text), EndsAsLabel(original)) << where;
+            EXPECT_EQ(text.startsWith(u'*'), original.startsWith(u'*')) << where;
+            for (const auto* mark : {u"%1", u"%2"})
+                EXPECT_EQ(text.count(QStringView(mark)), original.count(QStringView(mark))) << where;
+            if (original.endsWith(u'!') || original.endsWith(u'?')) {
+                EXPECT_TRUE(text.trimmed().back().isPunct()) << where;
+            }
+        }
+    }
+}
+
+// A sentence that reads as in English was forgotten; names, abbreviations and words that both languages share may.
+TEST(Banks, LeaveNoSentenceInEnglish)
+{
+    const QDir folder(MessagesFolder());
+    const Bank english = ReadBank(folder.filePath(u"messages_en.ts"_s));
+    for (const QString& file : folder.entryList({u"messages_*.ts"_s})) {
+        if (file == "messages_en.ts"_L1)
+            continue;
+        const Bank bank = ReadBank(folder.filePath(file));
+        for (auto it = bank.begin(); it != bank.end(); ++it) {
+            if (it.value() == english[it.key()]) {
+                EXPECT_LT(it.value().split(u' ', Qt::SkipEmptyParts).size(), 3)
+                    << file.toStdString() << ' ' << it.key() << ": " << it.value().toStdString();
+            }
+        }
+    }
+}
+
+class LanguageTest : public StoreFixture
+{
+protected:
+    ~LanguageTest() override { SetLanguage(1); }
+};
+
+TEST_F(LanguageTest, TextsComeByNumberInTheLiveLanguage)
+{
+    SetLanguage(1);
+    EXPECT_EQ(GetLangString(570), u"Information"_s);
+    EXPECT_EQ(GetLangString(4), u"Spainish"_s);
+    EXPECT_EQ(GetLangString(20), u"Group Data  is loading..."_s);
+    EXPECT_EQ(GetLangString(151), u"Display Image of Motion Detection "_s);
+    EXPECT_EQ(GetLangString(27), u"Loading User's Pattern …"_s);
+    EXPECT_EQ(GetLangString(31), QString()) << "a gap";
+    for (int language = 1; language <= kLanguages; ++language) {
+        SetLanguage(language);
+        EXPECT_FALSE(GetLangString(514).isEmpty()) << language;
+        EXPECT_EQ(GetBankString(language, 514) == GetBankString(1, 514), language == 1);
+    }
+    SetLanguage(15);
+    EXPECT_EQ(GetLangString(570), QString());
+    EXPECT_EQ(logLines("Module_Language - GetLangString"), 1);
+    SetLanguage(99);
+    EXPECT_FALSE(GetLangString(570).isEmpty());
+    EXPECT_EQ(Language(), GetOsLang());
+    SetLanguage(4);
+    EXPECT_EQ(LanguageCharset(), 128);
+}
+
+TEST(CutText, KeepsTheEndThatIsReadFirst)
+{
+    const auto measure = [](const QString& text) { return static_cast<int>(text.size()) * 10; };
+    EXPECT_EQ(CutText(u"abcdefgh"_s, 80, false, measure), u"abcdefgh"_s) << "exactly as wide is not cut";
+    EXPECT_EQ(CutText(u"abcdefgh"_s, 79, false, measure), u"abcde~"_s);
+    EXPECT_EQ(CutText(u"abcdefgh"_s, 79, true, measure), u"~defgh"_s);
+    EXPECT_EQ(CutText(u"abcdefgh"_s, 15, false, measure), u"~"_s);
+}
