@@ -140,7 +140,7 @@ void PaintHeaderLabel(const QStyleOptionHeader& option, QPainter* painter, const
                                : rect.left();
     painter->setPen(Token(IsEnabled(option) ? "muted"_L1 : "disabled"_L1));
     painter->drawText(QRect(left, rect.top(), width + 1, rect.height()),
-                      Qt::AlignVCenter | Qt::AlignLeft | Qt::TextDontClip, text);
+                      Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute | Qt::TextDontClip, text);
     if (sorted) {
         const QRect place(right ? left - arrow : left + width + 4, rect.center().y() - 6, 13, 13);
         Icon(option.sortIndicator == QStyleOptionHeader::SortUp ? "chevron-up"_L1 : "chevron-down"_L1, "accent"_L1)
