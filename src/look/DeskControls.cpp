@@ -346,10 +346,12 @@ void PaintSlider(const QStyleOptionSlider& option, QPainter* painter, const QRec
     const QRectF round(knob.x() - 8, knob.y() - 8, 16, 16);
     PaintBox(painter, round, 8, Token(enabled ? "surface"_L1 : "raised"_L1), Token(!enabled ? "edge"_L1 : "accent"_L1),
              2);
-    if (IsPressed(option) || IsHovered(option))
+    if (ShowsFocusRing(option)) {
+        PaintBox(painter, round.adjusted(-2, -2, 2, 2), 10, Token("surface"_L1), Token("accent"_L1), 2);
+        PaintBox(painter, round.adjusted(2, 2, -2, -2), 6, Token("accent"_L1));
+    } else if (IsPressed(option) || IsHovered(option)) {
         PaintBox(painter, round.adjusted(5, 5, -5, -5), 3, Token("accent"_L1));
-    if (ShowsFocusRing(option))
-        PaintFocusRing(painter, QRectF(option.rect), 4);
+    }
 }
 
 void PaintToolButton(const QStyleOptionToolButton& option, QPainter* painter, const QWidget* widget)

@@ -65,7 +65,7 @@ void DeskStyle::polish(QWidget* widget)
         widget->setAttribute(Qt::WA_Hover);
     if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) {
         // The frame paints the rounded ground; the viewport lets it through.
-        area->viewport()->setAutoFillBackground(false);
+        area->viewport()->setAutoFillBackground(area->inherits("QComboBoxListView"));
         auto* scroller = qobject_cast<QScrollArea*>(widget);
         if (scroller) {
             scroller->setFrameShape(QFrame::NoFrame);
@@ -140,7 +140,7 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_SplitterWidth:
         return 8;
     case PM_ToolTipLabelFrameWidth:
-        return 4;
+        return 1;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -211,6 +211,11 @@ QSize DeskStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
         return {size.width(), std::max(LineHeight(option), 8)};
     case CT_GroupBox:
         return size;
+    case CT_CheckBox:
+    case CT_RadioButton:
+        // Room for the ring round the label.
+        return QProxyStyle::sizeFromContents(type, option, size, widget) + QSize(6, 2);
+
     default:
         break;
     }
@@ -324,6 +329,11 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorRadioButton:
         return PaintRadioButton(*option, painter);
     case PE_FrameFocusRect: {
+        const bool popup = widget && widget->window()->windowType() == Qt::Popup;
+        if (popup)
+            return; // the row itself shows where one is
+        if (qobject_cast<const QAbstractButton*>(widget))
+            return PaintFocusRing(painter, QRectF(option->rect).adjusted(-5, -1, 5, 1), 4);
         const bool cell = option->state.testFlag(State_Item) || qobject_cast<const QAbstractItemView*>(widget);
         if (!cell || WalkedByKeyboard(widget))
             PaintFocusRing(painter, QRectF(option->rect).adjusted(cell ? 1 : 0, cell ? 1 : 0, cell ? -1 : 0, -1), 4);

@@ -70,7 +70,9 @@ void PaintViewRow(const QStyleOptionViewItem& option, QPainter* painter, const Q
     const auto* table = qobject_cast<const QTableView*>(widget);
     if (!table)
         return;
-    const bool hovered = option.index.isValid() && option.index.row() == HoverRow(widget);
+    // The view does not say which row it is painting here.
+    const int row = HoverRow(widget);
+    const bool hovered = row >= 0 && table->rowAt(option.rect.center().y()) == row;
     FillWithin(painter, option.rect, InnerBox(widget), kCardRadius - 1, RowColour(option, widget, hovered));
     // Rows are parted by a line; the frame closes the last one where the table ends with it.
     if (option.rect.bottom() < table->viewport()->height() - 1)
@@ -140,7 +142,7 @@ void PaintHeaderLabel(const QStyleOptionHeader& option, QPainter* painter, const
                                : rect.left();
     painter->setPen(Token(IsEnabled(option) ? "muted"_L1 : "disabled"_L1));
     painter->drawText(QRect(left, rect.top(), width + 1, rect.height()),
-                      Qt::AlignVCenter | Qt::AlignLeft | Qt::TextDontClip, text);
+                      Qt::AlignVCenter | Qt::AlignLeft | Qt::AlignAbsolute | Qt::TextDontClip, text);
     if (sorted) {
         const QRect place(right ? left - arrow : left + width + 4, rect.center().y() - 6, 13, 13);
         Icon(option.sortIndicator == QStyleOptionHeader::SortUp ? "chevron-up"_L1 : "chevron-down"_L1, "accent"_L1)

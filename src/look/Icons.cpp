@@ -205,6 +205,7 @@ QIcon Flag(int language)
                                 1.5 * unit);
         painter.end();
         icon.addPixmap(rounded);
+        icon.addPixmap(rounded, QIcon::Selected); // colours stay true in a selected row
     }
     return icon;
 }

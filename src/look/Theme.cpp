@@ -30,7 +30,7 @@ constexpr std::array kTokens{
     TokenValue{"raised"_L1, 0xfff7f9fb, 0xff232c36},
     TokenValue{"raisedHover"_L1, 0xffeef2f6, 0xff2b3642},
     TokenValue{"raisedPressed"_L1, 0xffe3e9ef, 0xff1f2730},
-    TokenValue{"hover"_L1, 0xfff1f5fa, 0xff202831},
+    TokenValue{"hover"_L1, 0xffedf2f8, 0xff232c37},
     TokenValue{"railHover"_L1, 0xffdfe5ec, 0xff19202a},
     TokenValue{"field"_L1, 0xffffffff, 0xff171c23},
     // lines: 1 px separators, borders of fields and buttons, borders of check boxes

@@ -149,7 +149,7 @@ QWidget* MakeTablePage(bool german)
     table->horizontalHeader()->setSortIndicator(1, Qt::AscendingOrder);
     table->horizontalHeader()->setSortIndicatorShown(true);
     table->setFixedHeight(TableRowHeight() * 7 + 2);
-    table->selectRow(2);
+    table->setCurrentIndex(model->index(2, 1));
     content->addWidget(table);
     content->addStretch();
 
@@ -211,7 +211,7 @@ QWidget* MakeRightsPage(bool german)
     const int widths[] = {64, 200, 90, 90, german ? 120 : 100, 90};
     for (int i = 0; i < 6; ++i)
         table->setColumnWidth(i, widths[i]);
-    table->selectRow(4);
+    table->setCurrentIndex(model->index(4, 1));
     content->addWidget(table, 1);
     auto* bar = new ActionBar;
     bar->setNote(Either(german, u"2 changes not applied", u"2 Änderungen wurden noch nicht übernommen"));
@@ -493,16 +493,16 @@ QWidget* MakePicturesPage()
     icons->content()->addLayout(grid);
     column->addWidget(icons);
     auto* flags = new Card(u"Flags"_s);
-    auto* row = new QHBoxLayout;
-    row->setSpacing(6);
-    for (const int width : {24, 48})
+    for (const int width : {24, 48}) {
+        auto* row = new QHBoxLayout;
         for (int language = 1; language <= 14; ++language) {
             auto* label = new QLabel;
             label->setPixmap(Flag(language).pixmap({width, width * 2 / 3}));
             row->addWidget(label);
         }
-    row->addStretch();
-    flags->content()->addLayout(row);
+        row->addStretch();
+        flags->content()->addLayout(row);
+    }
     column->addWidget(flags);
     auto* big = new QHBoxLayout;
     for (const auto name : {"empty-recorder"_L1, "empty-page"_L1, "empty-screens"_L1}) {

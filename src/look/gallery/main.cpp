@@ -93,6 +93,32 @@ void Build(Gallery& gallery, bool german)
     show(0);
 }
 
+// One strip a control of a page, each with the keyboard's focus on it: every ring must be seen.
+QPixmap FocusSheet(QMainWindow& window, QWidget* page)
+{
+    const QSize strip(310, 56);
+    QList<QPixmap> strips;
+    window.setAttribute(Qt::WA_KeyboardFocusChange);
+    for (QWidget* control : page->findChildren<QWidget*>()) {
+        if (!control->isVisible() || !control->isEnabled() || !(control->focusPolicy() & Qt::TabFocus))
+            continue;
+        control->setFocus(Qt::TabFocusReason);
+        if (QWidget* now = QApplication::focusWidget(); now != control)
+            continue;
+        QTest::qWait(10);
+        const QRect place(control->mapTo(&window, QPoint(0, 0)), control->size());
+        strips.append(window.grab(QRect(place.left() - 12, place.top() - 8, strip.width(), strip.height())));
+    }
+    const int columns = 4;
+    const int rows = (static_cast<int>(strips.size()) + columns - 1) / columns;
+    QPixmap sheet(columns * strip.width(), rows * strip.height());
+    sheet.fill(Qt::magenta);
+    QPainter painter(&sheet);
+    for (int i = 0; i < strips.size(); ++i)
+        painter.drawPixmap(i % columns * strip.width(), i / columns * strip.height(), strips[i]);
+    return sheet;
+}
+
 void Shoot(Gallery& gallery, const QString& prefix, bool german)
 {
     const auto save = [&](const QPixmap& picture, const QString& name) { picture.save(prefix + name + u".png"_s); };
@@ -106,6 +132,8 @@ void Shoot(Gallery& gallery, const QString& prefix, bool german)
         }
         QTest::qWait(60);
         save(gallery.window.grab(), QString::number(page));
+        if (page < 4)
+            save(FocusSheet(gallery.window, gallery.pages->currentWidget()), u"f%1"_s.arg(page));
     }
     const bool desktop = QGuiApplication::platformName() == "xcb"_L1;
     if (desktop) {
@@ -122,9 +150,12 @@ void Shoot(Gallery& gallery, const QString& prefix, bool german)
         menu.addAction(Icon("delete"_L1), u"Remove"_s);
         menu.popup(QPoint(600, 300));
         QTest::keyClick(&menu, Qt::Key_Down);
-        QToolTip::showText(QPoint(300, 300), u"A tool tip of the desk"_s, &gallery.window);
         QTest::qWait(200);
         save(QGuiApplication::primaryScreen()->grabWindow(0), u"menu"_s);
+        menu.close();
+        QToolTip::showText(QPoint(300, 300), u"A tool tip of the desk"_s, &gallery.window);
+        QTest::qWait(500);
+        save(QGuiApplication::primaryScreen()->grabWindow(0), u"tip"_s);
     }
     gallery.rail->entry(1)->click();
     for (int index = 0; DialogFrame* dialog = MakeDialog(index, german, &gallery.window); ++index) {
