@@ -148,7 +148,11 @@ bool DialogFrame::event(QEvent* event)
 void DialogFrame::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (parentWidget() && isModal() && !m_scrim)
+    if (!parentWidget())
+        return;
+    const QRect owner = parentWidget()->window()->geometry();
+    move(owner.center() - rect().center());
+    if (isModal() && !m_scrim)
         m_scrim = new Scrim(parentWidget()->window());
 }
 

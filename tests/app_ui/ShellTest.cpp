@@ -1,0 +1,292 @@
+#include "app/Station.h"
+#include "app/language/Languages.h"
+#include "app/ui/Form_Initial.h"
+#include "app/ui/MsgBoxWindow.h"
+#include "look/Theme.h"
+#include "platform/Clock.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "tests/store/StoreFixture.h"
+#include "tests/walkthrough/Driver.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    ApplyTheme(*application, Scheme::Dark);
+    return application;
+}
+const bool g_registered = (g_applicationFactory = MakeApplication, true);
+
+// The desk started on a station of its own; boxes are answered from a list unless a test shows them.
+class ShellTest : public StoreFixture
+{
+protected:
+    ShellTest()
+    {
+        qputenv("XDG_CONFIG_HOME", path(u"\\config").toUtf8());
+        qputenv("XDG_CONFIG_DIRS", path(u"\\machine").toUtf8());
+        SetMsgBoxHandler([this](const QString& text, qint32 style, const QString&) {
+            boxes << text;
+            styles << style;
+            return answers.isEmpty() ? MsgResult::No : answers.takeFirst();
+        });
+        SetLanguage(99);
+    }
+    ~ShellTest() override
+    {
+        desk.reset();
+        SetMsgBoxHandler(nullptr);
+        SetClosing(false);
+        SetLanguage(1);
+        SetBoxStyles(false);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        PinClock(QDateTime());
+    }
+    bool start(const QString& statement = {})
+    {
+        desk.reset();
+        if (!QFile::exists(path(kDatabaseFile)))
+            QFile::copy(path(kTemplateFile), path(kDatabaseFile));
+        if (!statement.isEmpty()) {
+            Connection connection;
+            connection.setConnectionString(DatabaseConnectionString(path(kDatabaseFile)));
+            connection.open();
+            EXPECT_TRUE(QSqlQuery(connection.database()).exec(statement)) << statement.toStdString();
+        }
+        station = std::make_unique<Station>();
+        desk = std::make_unique<Form_Initial>(*station);
+        if (!desk->Form_Load())
+            return false;
+        desk->resize(1280, 720);
+        desk->show();
+        return QTest::qWaitForWindowExposed(desk.get());
+    }
+    void press(const QString& name, Qt::Key key) { QTest::keyClick(Driver::find(name), key); }
+    QStringList audit()
+    {
+        QStringList texts;
+        QSqlQuery rows(station->databases.LogConn->database());
+        rows.exec(u"SELECT Description FROM SystemLog ORDER BY rowid"_s);
+        while (rows.next())
+            texts << rows.value(0).toString();
+        return texts;
+    }
+    QVariant stored(const QString& column)
+    {
+        QSqlQuery query(station->databases.DBConn->database());
+        return query.exec(u"SELECT %1 FROM BasicDefault"_s.arg(column)) && query.next() ? query.value(0) : QVariant();
+    }
+
+    std::unique_ptr<Station> station;
+    std::unique_ptr<Form_Initial> desk;
+    QStringList boxes;
+    QList<qint32> styles;
+    QList<MsgResult> answers;
+};
+
+} // namespace
+
+TEST_F(ShellTest, SystemPageEditsByKeyboardAndSavesOnApply)
+{
+    ASSERT_TRUE(start());
+    EXPECT_FALSE(Driver::find(u"lbSystemApply_0"_s)->isEnabled()) << "filling the page is no change";
+    auto* name = Driver::find<QLineEdit>(u"Text1_fm0_0"_s);
+    name->setFocus();
+    name->selectAll();
+    QTest::keyClicks(name, u"Tor 7"_s);
+    QKeyEvent umlaut(QEvent::KeyPress, 0xdc, Qt::NoModifier, u"ü"_s);
+    QApplication::sendEvent(name, &umlaut);
+    EXPECT_EQ(name->text(), u"Tor 7"_s) << "typed names are plain ASCII";
+    EXPECT_TRUE(Driver::find(u"lbSystemApply_0"_s)->isEnabled());
+    Driver::click(u"optStartUp_2"_s);
+    press(u"Cmb_Snap"_s, Qt::Key_Down);
+    QTest::keyClick(name, Qt::Key_Return);
+    EXPECT_EQ(stored(u"sSystemName"_s).toString(), u"Tor 7"_s);
+    EXPECT_EQ(stored(u"iSnapCount"_s).toInt(), 2);
+    EXPECT_EQ(stored(u"bStartup"_s).toInt(), 1);
+    EXPECT_EQ(stored(u"bStartupToHide"_s).toInt(), 1);
+    EXPECT_FALSE(Driver::find(u"lbSystemApply_0"_s)->isEnabled());
+    EXPECT_EQ(audit(), (QStringList{u"Open Rigging Desk"_s, u"Modify Setting of System"_s}));
+
+    QTest::keyClicks(name, u"x"_s);
+    Driver::click(u"lbSystemApply_1"_s);
+    EXPECT_EQ(name->text(), u"Tor 7"_s) << "Cancel falls back to the edit record";
+    name->clear();
+    Driver::click(u"lbSystemApply_0"_s);
+    EXPECT_EQ(stored(u"sSystemName"_s).toString(), u"Tor 7"_s) << "an empty name is not applied";
+    EXPECT_TRUE(boxes.isEmpty());
+}
+
+TEST_F(ShellTest, ASnapCountOutOfRangeShowsNothingAndAppliesAsZero)
+{
+    ASSERT_TRUE(start(u"UPDATE BasicDefault SET iSnapCount=9, iLanguage=1"_s));
+    EXPECT_EQ(Driver::find<QComboBox>(u"Cmb_Snap"_s)->currentIndex(), -1);
+    Driver::click(u"optStartUp_1"_s);
+    Driver::click(u"lbSystemApply_0"_s);
+    EXPECT_EQ(stored(u"iSnapCount"_s).toInt(), 0);
+}
+
+TEST_F(ShellTest, LeavingAChangedPageAsksAndTheCloseOfTheShownOneDoesNot)
+{
+    ASSERT_TRUE(start());
+    Driver::click(u"lbMenu_0"_s);
+    EXPECT_TRUE(boxes.isEmpty());
+    QTest::keyClicks(Driver::find(u"Text1_fm0_0"_s), u"A"_s);
+    Driver::click(u"lbMenu_1"_s); // No
+    EXPECT_EQ(boxes, QStringList{GetLangString(514)});
+    EXPECT_EQ(styles, QList<qint32>{36});
+    EXPECT_EQ(desk->m_PageIndex(), 1);
+    EXPECT_EQ(stored(u"sSystemName"_s).toString(), u"CMS_Core"_s);
+    Driver::click(u"lbMenu_0"_s);
+    EXPECT_EQ(Driver::find<QLineEdit>(u"Text1_fm0_0"_s)->text(), u"CMS_Core"_s);
+    QTest::keyClicks(Driver::find(u"Text1_fm0_0"_s), u"B"_s);
+    answers = {MsgResult::Yes};
+    Driver::click(u"lbMenu_2"_s);
+    EXPECT_EQ(stored(u"sSystemName"_s).toString(), u"CMS_CoreB"_s);
+    EXPECT_EQ(desk->m_PageIndex(), 2);
+}
+
+TEST_F(ShellTest, ApplyingALanguageSwitchesTheDeskAtOnce)
+{
+    ASSERT_TRUE(start(u"UPDATE BasicDefault SET iLanguage=1"_s));
+    auto* picker = Driver::find<QComboBox>(u"ImageCombo1"_s);
+    ASSERT_EQ(picker->count(), kLanguages);
+    const QString english = Driver::find<QAbstractButton>(u"lbMenu_0"_s)->text();
+    picker->setFocus();
+    QTest::keyClick(picker, Qt::Key_End); // Hebrew
+    Driver::click(u"lbSystemApply_0"_s);
+    EXPECT_EQ(stored(u"iLanguage"_s).toInt(), 14);
+    EXPECT_NE(Driver::find<QAbstractButton>(u"lbMenu_0"_s)->text(), english);
+    EXPECT_EQ(QApplication::layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(InfoBoxStyle(), 0x80040);
+    EXPECT_EQ(AskBoxStyle(), 0x80024);
+    QFile::remove(path(u"\\config\\autostart\\CMS_Core.desktop"));
+    ASSERT_TRUE(start());
+    EXPECT_EQ(Language(), 14);
+}
+
+TEST_F(ShellTest, ExportWritesTheFactsAndSaysWhere)
+{
+    PinClock(QDateTime(QDate(2026, 11, 24), QTime(8, 0)));
+    ASSERT_TRUE(start());
+    Driver::click(u"lbSystemApply_2"_s);
+    const QString file = path(u"\\DetailExport-20261124.txt");
+    EXPECT_EQ(boxes, QStringList{GetLangString(828) + u' ' + file});
+    const QList<QByteArray> lines = read(u"\\DetailExport-20261124.txt").split('\n');
+    ASSERT_EQ(lines.size(), 5);
+    EXPECT_TRUE(lines[0].startsWith("\"OS           : "));
+    EXPECT_EQ(lines[3].trimmed(), "\"MonitorCount : 1\"");
+}
+
+TEST_F(ShellTest, RightsDecideTheMenu)
+{
+    ASSERT_TRUE(start(u"UPDATE GroupPrivilege SET SVDControl=0"_s));
+    Driver::click(u"lbMenu_10"_s);
+    EXPECT_EQ(boxes, QStringList{GetLangString(139)});
+    EXPECT_EQ(desk->m_PageIndex(), 0) << "the old page stays";
+
+    ASSERT_TRUE(start(u"UPDATE GroupPrivilege SET Setting=0, Export=1"_s));
+    EXPECT_EQ(desk->m_PageIndex(), 8);
+    ASSERT_TRUE(QTest::qWaitFor([] { return !Driver::find(u"lbMenu_0"_s); }));
+    QList<int> shown;
+    for (int entry = 0; entry < kMenuEntries; ++entry) {
+        if (Driver::find(u"lbMenu_%1"_s.arg(entry)))
+            shown << entry;
+    }
+    EXPECT_EQ(shown, (QList<int>{8, 11, 12}));
+}
+
+TEST_F(ShellTest, ASecondInstanceSaysSoAndEnds)
+{
+    ASSERT_TRUE(start());
+    const auto other = std::make_unique<Station>();
+    Form_Initial second(*other);
+    EXPECT_FALSE(second.Form_Load());
+    EXPECT_EQ(boxes, QStringList{GetLangString(10)});
+}
+
+TEST_F(ShellTest, ClosingTheWindowAsksLikeExitAndKeepsTheDeskOnNo)
+{
+    ASSERT_TRUE(start());
+    desk->close();
+    EXPECT_TRUE(desk->isVisible());
+    EXPECT_EQ(boxes, QStringList{GetLangString(509)});
+    answers = {MsgResult::Yes, MsgResult::No};
+    desk->close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return desk->unloaded(); }, 10000));
+    EXPECT_FALSE(QFile::exists(path(kBackup1File))) << "nothing was saved, so no backup is written";
+}
+
+TEST_F(ShellTest, ARunThatSavedLeavesABackup)
+{
+    ASSERT_TRUE(start());
+    QTest::keyClicks(Driver::find(u"Text1_fm0_0"_s), u"Z"_s);
+    Driver::click(u"lbSystemApply_0"_s);
+    answers = {MsgResult::Yes, MsgResult::Yes};
+    desk->close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return desk->unloaded(); }, 10000));
+    EXPECT_TRUE(QFile::exists(path(kBackup1File)));
+    EXPECT_EQ(logLines("Form_Initial - Form_Unload"), 1) << "the viewer is not there: a line, no box";
+}
+
+TEST_F(ShellTest, TheDesksOwnBoxAnswersByKeyboard)
+{
+    ASSERT_TRUE(start());
+    const MsgBoxHandler queued = SetMsgBoxHandler(nullptr);
+    InstallMsgBoxWindow();
+    Driver driver;
+    MsgResult result = MsgResult::Ok;
+    driver.add(
+        u"ask"_s, [] { return true; }, [&] { result = MsgBox(u"?"_s, AskBoxStyle(), u"Information"_s); });
+    driver.add(
+        u"escape"_s, [] { return Driver::boxText() == u"?"_s; },
+        [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    driver.add(
+        u"gone"_s, [] { return !QApplication::activeModalWidget(); }, [] {});
+    driver.run();
+    EXPECT_EQ(result, MsgResult::No);
+    SetMsgBoxHandler(queued);
+}
+
+// Every caption of the shell in every language at the default size: what does not fit is listed, and the list stays
+// short.
+TEST_F(ShellTest, CaptionsFitInEveryLanguage)
+{
+    int cut = 0;
+    for (int language = 1; language <= kLanguages; ++language) {
+        ASSERT_TRUE(start(u"UPDATE BasicDefault SET iLanguage=%1"_s.arg(language)));
+        for (int page = 0; page < kPages; ++page) {
+            Driver::click(u"lbMenu_%1"_s.arg(page));
+            QCoreApplication::processEvents();
+            const QList<QWidget*> widgets = desk->findChildren<QWidget*>();
+            for (QWidget* widget : widgets) {
+                if (!widget->isVisible() || widget->property("tag").toString().isEmpty())
+                    continue;
+                const auto* label = qobject_cast<QLabel*>(widget);
+                const auto* button = qobject_cast<QAbstractButton*>(widget);
+                const QString text = label ? label->text() : button ? button->text() : QString();
+                if (text.startsWith(u'~') || text.endsWith(u'~')) {
+                    ++cut;
+                    std::printf("cut in language %d: %s \"%s\"\n", language, qPrintable(widget->objectName()),
+                                qPrintable(widget->toolTip()));
+                }
+            }
+        }
+        EXPECT_LE(desk->minimumSizeHint().width(), 1280) << "language " << language;
+        EXPECT_LE(desk->minimumSizeHint().height(), 720) << "language " << language;
+    }
+    EXPECT_LE(cut, 3);
+}
