@@ -95,7 +95,7 @@ int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
         return kCheckSide;
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
-        return 8;
+        return 10;
     case PM_DefaultFrameWidth:
         if (IsTextView(widget))
             return 4;

@@ -17,9 +17,9 @@ bool IsEnabled(const QStyleOption& option)
 }
 
 // The row the pointer is over in a view that StyleTable set up, -1 for none.
-int HoverRow(const QWidget* widget)
+int HoverRow(const QTableView* table)
 {
-    const QVariant row = widget ? widget->property("deskHoverRow") : QVariant();
+    const QVariant row = table->viewport()->property("deskHoverRow");
     return row.isValid() ? row.toInt() : -1;
 }
 
@@ -71,7 +71,7 @@ void PaintViewRow(const QStyleOptionViewItem& option, QPainter* painter, const Q
     if (!table)
         return;
     // The view does not say which row it is painting here.
-    const int row = HoverRow(widget);
+    const int row = HoverRow(table);
     const bool hovered = row >= 0 && table->rowAt(option.rect.center().y()) == row;
     FillWithin(painter, option.rect, InnerBox(widget), kCardRadius - 1, RowColour(option, widget, hovered));
     // Rows are parted by a line; the frame closes the last one where the table ends with it.

@@ -80,13 +80,15 @@ DialogFrame::DialogFrame(QWidget* parent)
     m_close->setAutoRaise(true);
     m_close->setFixedSize(32, 32);
     m_close->setFocusPolicy(Qt::NoFocus); // Esc is its key
-    m_close->setAccessibleName(u"Esc"_s);
+    setCloseText(u"Close"_s);
     connect(m_close, &QToolButton::clicked, this, &DialogFrame::reject);
 
     m_titleRow->setFixedHeight(kTitleHeight);
     auto* title = new QHBoxLayout(m_titleRow);
-    title->setContentsMargins(20, 0, 12, 1);
+    // Margins are not mirrored, spacings are.
+    title->setContentsMargins(12, 0, 12, 1);
     title->setSpacing(12);
+    title->addSpacing(8);
     title->addWidget(m_title);
     title->addWidget(m_subtitle, 1);
     title->addWidget(m_close);
@@ -107,6 +109,12 @@ DialogFrame::~DialogFrame()
 void DialogFrame::setSubtitle(const QString& text)
 {
     m_subtitle->setText(text);
+}
+
+void DialogFrame::setCloseText(const QString& text)
+{
+    m_close->setToolTip(text);
+    m_close->setAccessibleName(text);
 }
 
 void DialogFrame::setClosable(bool closable)

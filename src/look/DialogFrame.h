@@ -21,6 +21,8 @@ public:
 
     // A second line of quiet writing beside the title, such as what the dialog is about.
     void setSubtitle(const QString& text);
+    // What the close button says as its tool tip and accessible name.
+    void setCloseText(const QString& text);
     // Hidden for dialogs that only end by their own work.
     void setClosable(bool closable);
     // Where the dialog's own widgets go; it has no layout yet. Its margins are the frame's affair.

@@ -1,7 +1,9 @@
 #include "look/Fields.h"
 
 #include "look/Icons.h"
+#include "look/Theme.h"
 
+#include <QDateTimeEdit>
 #include <QEvent>
 #include <QKeyEvent>
 #include <QStyle>
@@ -80,6 +82,14 @@ void AddEye(QLineEdit* field, const QString& showText, const QString& hideText)
     };
     tell(false);
     QObject::connect(eye, &QToolButton::toggled, field, tell);
+}
+
+void SetTimeFormat(QDateTimeEdit* field, const QString& format)
+{
+    field->setLayoutDirection(Qt::LeftToRight); // before the format
+    field->setDisplayFormat(format);
+    field->setCalendarPopup(format.contains(u'd'));
+    field->setFont(MonoFont());
 }
 
 void SetFaulty(QLineEdit* field, bool faulty)

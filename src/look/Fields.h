@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+class QDateTimeEdit;
+
 // A line edit that filters something: search icon in front, clear button behind, Esc clears.
 class SearchField : public QLineEdit
 {
@@ -15,5 +17,8 @@ protected:
 
 // Puts an eye behind a password field: pressed, it shows what is typed. It is reached by Tab and says what it will do.
 void AddEye(QLineEdit* field, const QString& showText, const QString& hideText);
+// Gives a date or time field its format, the figures face and a calendar. It reads from left to right in every desk: a
+// right-to-left field would turn the order of its parts round.
+void SetTimeFormat(QDateTimeEdit* field, const QString& format);
 // Marks a field as faulty or not: a border in the colour of faults. The words belong in a label beside it.
 void SetFaulty(QLineEdit* field, bool faulty);

@@ -169,7 +169,7 @@ NavRail::NavRail(QWidget* parent)
     m_bottom->setContentsMargins(10, 8, 10, 12);
     m_bottom->setSpacing(2);
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 1, 0);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_brand);
     layout->addWidget(scroll, 1);

@@ -40,8 +40,9 @@ PageHeader::PageHeader(QWidget* parent)
 
     m_trailing->setSpacing(8);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(24, 12, 20, 13);
+    layout->setContentsMargins(20, 12, 20, 13);
     layout->setSpacing(16);
+    layout->addSpacing(4); // margins are not mirrored, spacings are
     layout->addWidget(m_title);
     layout->addWidget(m_subtitle, 1);
     layout->addLayout(m_trailing);

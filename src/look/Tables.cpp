@@ -13,13 +13,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Keeps the number of the row below the pointer where the style finds it.
+// Keeps the number of the row below the pointer at the viewport, where the style finds it. The table may be half
+// destroyed when the viewport's last events come, so that only a moving pointer asks it.
 class RowHover : public QObject
 {
 public:
     explicit RowHover(QTableView* table)
         : QObject(table)
         , m_table(table)
+        , m_viewport(table->viewport())
     {
         table->setMouseTracking(true);
         table->viewport()->installEventFilter(this);
@@ -48,11 +50,12 @@ private:
         if (row == m_row)
             return;
         m_row = row;
-        m_table->setProperty("deskHoverRow", row);
-        m_table->viewport()->update();
+        m_viewport->setProperty("deskHoverRow", row);
+        m_viewport->update();
     }
 
     QTableView* m_table;
+    QWidget* m_viewport;
     int m_row = -1;
 };
 

@@ -341,7 +341,7 @@ TEST(LookTables, RowsShowHoverAndSelection)
     table.show();
     table.setCurrentIndex(model.index(1, 1));
     QTest::mouseMove(table.viewport(), QPoint(20, TableRowHeight() / 2));
-    ASSERT_TRUE(QTest::qWaitFor([&table] { return table.property("deskHoverRow") == QVariant(0); }));
+    ASSERT_TRUE(QTest::qWaitFor([&table] { return table.viewport()->property("deskHoverRow") == QVariant(0); }));
     const QImage image = table.grab().toImage();
     const auto colour = [&](int row, int column) {
         const QRect cell = table.visualRect(model.index(row, column)).translated(table.viewport()->pos());

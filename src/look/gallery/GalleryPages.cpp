@@ -143,9 +143,11 @@ QWidget* MakeTablePage(bool german)
     StyleTable(table);
     MonospaceColumn(table, 2);
     StatusColumn(table, 6);
-    const int widths[] = {64, 170, 190, 120, 120, german ? 130 : 90, 200};
+    const int widths[] = {64, 120, 180, 100, 100, german ? 130 : 90, 250};
     for (int i = 0; i < 7; ++i)
         table->setColumnWidth(i, widths[i]);
+    table->horizontalHeader()->setStretchLastSection(false);
+    table->horizontalHeader()->setSectionResizeMode(1, QHeaderView::Stretch);
     table->horizontalHeader()->setSortIndicator(1, Qt::AscendingOrder);
     table->horizontalHeader()->setSortIndicatorShown(true);
     table->setFixedHeight(TableRowHeight() * 7 + 2);
@@ -385,9 +387,7 @@ QWidget* MakeControlsPage(bool german)
     placeholder->setPlaceholderText(Either(german, u"Placeholder", u"Platzhalter"));
     placeholder->setClearButtonEnabled(true);
     auto* time = new QDateTimeEdit(QDateTime(QDate(2026, 11, 24), QTime(11, 20, 5)));
-    time->setDisplayFormat(u"yyyy/MM/dd hh:mm:ss"_s);
-    time->setCalendarPopup(true);
-    time->setFont(MonoFont());
+    SetTimeFormat(time, u"yyyy/MM/dd hh:mm:ss"_s);
     auto* combo = new QComboBox;
     combo->addItems({u"Disabled combo"_s});
     combo->setEnabled(false);

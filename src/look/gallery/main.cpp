@@ -109,6 +109,8 @@ QPixmap FocusSheet(QMainWindow& window, QWidget* page)
         const QRect place(control->mapTo(&window, QPoint(0, 0)), control->size());
         strips.append(window.grab(QRect(place.left() - 12, place.top() - 8, strip.width(), strip.height())));
     }
+    if (strips.isEmpty())
+        return {}; // no window manager gives the focus
     const int columns = 4;
     const int rows = (static_cast<int>(strips.size()) + columns - 1) / columns;
     QPixmap sheet(columns * strip.width(), rows * strip.height());
