@@ -1,0 +1,265 @@
+// The spine against its floors in the same run: start to a usable window on a full station (16 recorders of 64
+// channels) against an empty Qt window; saving the 1,024 rows one by one, and loading them, against the SQLite C API
+// with the same settings.
+#include "app/StartUp.h"
+#include "app/Station.h"
+#include "app/ui/Form_Initial.h"
+#include "look/Theme.h"
+#include "platform/AppPath.h"
+#include "platform/DatabaseFile.h"
+#include "platform/Wait.h"
+#include "recorders/SVRStore.h"
+#include "store/Template.h"
+#include "store/tables/SVRTable.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <cstdio>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kRuns = 7;
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+template <class Work>
+double Milliseconds(Work&& work)
+{
+    QElapsedTimer time;
+    time.start();
+    work();
+    return static_cast<double>(time.nsecsElapsed()) / 1e6;
+}
+
+void Report(const char* what, const std::vector<double>& ours, const std::vector<double>& floor, double wanted)
+{
+    const double ratio = Median(ours) / Median(floor);
+    std::printf("%-44s %8.1f ms  floor %8.1f ms  ratio %5.2f  (wanted: at most %.1f)\n", what, Median(ours),
+                Median(floor), ratio, wanted);
+}
+
+void FillRecorders(RecorderSet& set)
+{
+    for (int slot = 0; slot < kMaxSVR; ++slot) {
+        SVRRecord& svr = At(set.SVRList, slot);
+        SVRProRecord& pro = At(set.SVRProList, slot);
+        svr.iSVR_Num = static_cast<qint16>(slot + 1);
+        svr.sSVR_Name = u"Recorder %1"_s.arg(slot + 1);
+        svr.sSVR_IP = u"192.168.10.%1"_s.arg(slot + 20);
+        svr.sSVR_DeviceType = kFamilyTXR632;
+        svr.sSVR_DisplayDeviceType = u"TX-64"_s;
+        svr.iSVR_Maxchannel = kMaxChannel;
+        for (int channel = 0; channel < kMaxChannel; ++channel) {
+            ClearChannel(svr, pro, channel);
+            const auto c = static_cast<std::size_t>(channel);
+            svr.sSub_CH_Name[c] = u"Camera %1"_s.arg(channel + 1);
+            svr.sSub_CH_IP[c] = u"192.168.20.%1"_s.arg(channel + 1);
+            svr.sSub_CH_UserName[c] = svr.sSub_CH_Password[c] = u"admin"_s;
+            svr.sSub_CH_VideoFormat[c] = u"H264"_s;
+            svr.sSub_CH_Resolution[c] = u"1920x1080"_s;
+            svr.sCH_ResolutionList[c] = u"1920x1080,1280x720,640x480;640x480;1920x1080"_s;
+            svr.sCH_PTZ_Speed_Range[c] = u"1,10,1"_s;
+            pro.sCH_Pro_Mac[c] = u"02:1a:4f:00:00:06"_s;
+            ProChannelStreams& streams = pro.Streams[c];
+            for (std::size_t stream = 0; stream < kMaxStream; ++stream) {
+                streams.sResolutionList[stream] = u"1920x1080,1280x720,640x480,320x240"_s;
+                for (auto member : {&ProChannelStreams::iFPSUpper, &ProChannelStreams::iFPSLower,
+                                    &ProChannelStreams::iBPSUpper, &ProChannelStreams::iBPSLower})
+                    (streams.*member)[stream] = {30, 25, 15, 5};
+            }
+        }
+    }
+}
+
+sqlite3* OpenRaw(const QString& file)
+{
+    sqlite3* database = nullptr;
+    if (sqlite3_open(file.toUtf8().constData(), &database) != SQLITE_OK)
+        std::abort();
+    sqlite3_exec(database, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
+    return database;
+}
+
+struct RawRow
+{
+    std::vector<std::pair<int, QByteArray>> cells; // SQLite type and text
+};
+
+std::vector<RawRow> ReadRaw(sqlite3* database)
+{
+    std::vector<RawRow> rows;
+    sqlite3_stmt* select = nullptr;
+    sqlite3_prepare_v2(database, "SELECT * FROM SVR", -1, &select, nullptr);
+    while (sqlite3_step(select) == SQLITE_ROW) {
+        RawRow& row = rows.emplace_back();
+        for (int i = 0; i < sqlite3_column_count(select); ++i)
+            row.cells.emplace_back(sqlite3_column_type(select, i),
+                                   QByteArray(reinterpret_cast<const char*>(sqlite3_column_text(select, i)),
+                                              sqlite3_column_bytes(select, i)));
+    }
+    sqlite3_finalize(select);
+    return rows;
+}
+
+// The same rows, row by row, each its own transaction; before them the old ones are deleted a recorder at a time.
+void SaveRaw(sqlite3* database, const std::vector<RawRow>& rows)
+{
+    std::string sql = "INSERT INTO SVR VALUES (?";
+    for (std::size_t i = 1; i < rows[0].cells.size(); ++i)
+        sql += ",?";
+    sql += ")";
+    sqlite3_stmt* insert = nullptr;
+    sqlite3_prepare_v2(database, sql.c_str(), -1, &insert, nullptr);
+    for (int slot = 1; slot <= kMaxSVR; ++slot) {
+        const std::string remove = "DELETE FROM SVR WHERE iSVR_Num=" + std::to_string(slot);
+        sqlite3_exec(database, remove.c_str(), nullptr, nullptr, nullptr);
+        for (int channel = 0; channel < kMaxChannel; ++channel) {
+            const RawRow& row = rows[static_cast<std::size_t>((slot - 1) * kMaxChannel + channel)];
+            for (std::size_t i = 0; i < row.cells.size(); ++i) {
+                const auto& [type, text] = row.cells[i];
+                const int at = static_cast<int>(i) + 1;
+                if (type == SQLITE_INTEGER)
+                    sqlite3_bind_int64(insert, at, text.toLongLong());
+                else
+                    sqlite3_bind_text(insert, at, text.constData(), static_cast<int>(text.size()), SQLITE_STATIC);
+            }
+            if (sqlite3_step(insert) != SQLITE_DONE)
+                std::abort();
+            sqlite3_reset(insert);
+        }
+    }
+    sqlite3_finalize(insert);
+}
+
+qint64 ReadAllColumns(sqlite3* database)
+{
+    qint64 sum = 0;
+    sqlite3_stmt* select = nullptr;
+    sqlite3_prepare_v2(database, "SELECT * FROM SVR", -1, &select, nullptr);
+    const int columns = sqlite3_column_count(select);
+    while (sqlite3_step(select) == SQLITE_ROW) {
+        for (int i = 0; i < columns; ++i) {
+            if (sqlite3_column_type(select, i) == SQLITE_INTEGER) {
+                sum += sqlite3_column_int64(select, i);
+            } else {
+                const QString text(reinterpret_cast<const QChar*>(sqlite3_column_text16(select, i)),
+                                   sqlite3_column_bytes16(select, i) / 2);
+                sum += text.size();
+            }
+        }
+    }
+    sqlite3_finalize(select);
+    return sum;
+}
+
+void BenchStore(const QString& floorFile)
+{
+    auto station = std::make_unique<Station>();
+    OpenDatabases(*station);
+    FillRecorders(station->recorders);
+    std::vector<double> ours;
+    std::vector<double> floor;
+    const auto save = [&] {
+        for (int slot = 0; slot < kMaxSVR; ++slot)
+            SaveMySVR(station->databases, station->recorders, slot);
+    };
+    save();
+    CopyDatabase(StationPath(kDatabaseFile), floorFile);
+    sqlite3* raw = OpenRaw(floorFile);
+    const std::vector<RawRow> rows = ReadRaw(raw);
+    if (rows.size() != 1024)
+        std::abort();
+    for (int run = 0; run < kRuns; ++run) {
+        ours.push_back(Milliseconds(save));
+        floor.push_back(Milliseconds([&] { SaveRaw(raw, rows); }));
+    }
+    Report("save 16 recorders, 1,024 rows row by row", ours, floor, 2.5);
+
+    ours.clear();
+    floor.clear();
+    auto back = std::make_unique<RecorderSet>();
+    qint64 sum = 0;
+    for (int run = 0; run < kRuns; ++run) {
+        ours.push_back(Milliseconds([&] { GetSVREx(station->databases, *back); }));
+        floor.push_back(Milliseconds([&] { sum += ReadAllColumns(raw); }));
+    }
+    if (back->SVRList[15].sSub_CH_Name[63] != u"Camera 64"_s || sum == 0)
+        std::abort();
+    Report("load 16 recorders, 1,024 rows", ours, floor, 3.0);
+    sqlite3_close(raw);
+}
+
+// One start in a process of its own: "desk" up to the painted, usable main window, "empty" an empty Qt window.
+int StartOnce(QApplication& application, const QString& what)
+{
+    if (what == "empty"_L1) {
+        QWidget window;
+        window.resize(1280, 800);
+        window.show();
+        if (!QTest::qWaitForWindowExposed(&window))
+            return 1;
+        window.grab();
+        return 0;
+    }
+    ApplyTheme(application, InitialScheme());
+    auto station = std::make_unique<Station>();
+    Form_Initial window(*station);
+    if (!window.Form_Load())
+        return 1;
+    window.resize(1280, 800);
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window))
+        return 1;
+    window.grab();
+    return station->recorders.SVRList[15].sSub_CH_Name[63] == u"Camera 64"_s ? 0 : 1;
+}
+
+void BenchStart()
+{
+    std::vector<double> ours;
+    std::vector<double> floor;
+    const auto run = [](const QString& what) {
+        return Milliseconds([&] {
+            QProcess child;
+            child.setStandardErrorFile(QProcess::nullDevice());
+            child.start(QCoreApplication::applicationFilePath(), {what, AppPath()});
+            if (!child.waitForFinished() || child.exitCode() != 0)
+                std::abort();
+        });
+    };
+    run(u"desk"_s);
+    run(u"empty"_s);
+    for (int i = 0; i < kRuns; ++i) {
+        ours.push_back(run(u"desk"_s));
+        floor.push_back(run(u"empty"_s));
+    }
+    Report("start to usable window, full station", ours, floor, 8.0);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    if (argc == 3) {
+        SetAppPath(QString::fromLocal8Bit(argv[2]));
+        return StartOnce(application, QString::fromLocal8Bit(argv[1]));
+    }
+    QTemporaryDir folder;
+    SetAppPath(folder.path());
+    CreateTemplate(StationPath(kTemplateFile));
+    BenchStore(folder.filePath(u"floor.mdb"_s));
+    BenchStart();
+    return 0;
+}
