@@ -1,7 +1,7 @@
 # Sourced by the commands at the top: installs the Debian packages that are missing and sets what builds share.
 desk_packages=(
     build-essential ccache clang-format cmake git ninja-build pkg-config
-    qt6-base-dev qt6-multimedia-dev libqt6svg6-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+    qt6-base-dev qt6-multimedia-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     libqt6sql6-sqlite libpugixml-dev libcurl4-openssl-dev libsqlite3-dev sqlite3
     libgl-dev libgtest-dev libgmock-dev xauth xvfb
     fonts-dejavu-core fonts-noto-cjk fonts-noto-core fonts-noto-mono

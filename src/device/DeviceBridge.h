@@ -79,7 +79,8 @@ public:
 
     // Reply text of the device; it took the values when DeviceTook() says so. Values are escaped on the way, the name
     // is not (it comes escaped). Throws std::invalid_argument for a value that cannot be escaped, with nothing sent.
-    QString SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings, ChannelForm form);
+    QString SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
+                       ChannelForm form);
     static bool DeviceTook(const QString& reply);
 
     // Presets (from 1) and movement; true when the device took the command.
