@@ -56,7 +56,8 @@ void FillRecorders(RecorderSet& set)
         SVRProRecord& pro = At(set.SVRProList, slot);
         svr.iSVR_Num = static_cast<qint16>(slot + 1);
         svr.sSVR_Name = u"Recorder %1"_s.arg(slot + 1);
-        svr.sSVR_IP = u"192.168.10.%1"_s.arg(slot + 20);
+        svr.sSVR_IP = u"127.0.1.%1"_s.arg(slot + 20); // answers with a refusal
+        svr.iSVR_HttpPort = 9;
         svr.sSVR_DeviceType = kFamilyTXR632;
         svr.sSVR_DisplayDeviceType = u"TX-64"_s;
         svr.iSVR_Maxchannel = kMaxChannel;

@@ -3,6 +3,7 @@
 #include "platform/Wait.h"
 #include "support/Conversions.h"
 #include "support/HostNames.h"
+#include "support/ServiceTexts.h"
 #include "support/TimeSeconds.h"
 #include "tests/TestMain.h"
 
@@ -55,6 +56,14 @@ TEST(HostNames, ResolveToTheFirstIPv4Address)
     EXPECT_EQ(GetIpByName(u"127.0.0.9"_s), u"127.0.0.9"_s);
     EXPECT_EQ(GetIpByName(u"localhost"_s), u"127.0.0.1"_s);
     EXPECT_EQ(GetIpByName(u"no-such-host.invalid"_s), QString());
+}
+
+TEST(ServiceTexts, NameRegistryErrors)
+{
+    EXPECT_EQ(GetRegistryErrorText(4), u"Value Data Type Mismatch."_s);
+    EXPECT_EQ(GetRegistryErrorText(14), u"Unable To Delete Value."_s);
+    EXPECT_EQ(GetRegistryErrorText(99), u"Undefined Error."_s);
+    EXPECT_EQ(GetRegistryErrorText(-1), u"Undefined Error."_s);
 }
 
 class Logs : public ::testing::Test

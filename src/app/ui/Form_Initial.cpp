@@ -87,6 +87,7 @@ bool Form_Initial::Form_Load()
             PaintMenu(kStartup);
         }
     });
+    Trapped(kLoadSource, [&] { m_com.SetProToDeviceBridge(m_station.recorders.SVRList); });
     m_station.Loading = false;
     SetClosing(false);
     m_station.m_bDataSaved = false;
@@ -270,6 +271,7 @@ void Form_Initial::showWizard()
 void Form_Initial::finishNewRecorders()
 {
     FinishNewRecorders(m_station);
+    m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
 }
 
 void Form_Initial::askExit()
@@ -346,6 +348,7 @@ void Form_Initial::Form_QueryUnload()
 
 void Form_Initial::Form_Unload()
 {
+    m_com.Unload();
     if (!m_close.m_bOpenMainViewer())
         return;
     Trapped("Form_Initial - Form_Unload", [&] {
