@@ -12,6 +12,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -277,7 +278,8 @@ TEST_F(ShellTest, CaptionsFitInEveryLanguage)
                     continue;
                 const auto* label = qobject_cast<QLabel*>(widget);
                 const auto* button = qobject_cast<QAbstractButton*>(widget);
-                const QString text = label ? label->text() : button ? button->text() : QString();
+                const auto* box = qobject_cast<QGroupBox*>(widget);
+                const QString text = label ? label->text() : button ? button->text() : box ? box->title() : QString();
                 if (text.startsWith(u'~') || text.endsWith(u'~')) {
                     ++cut;
                     std::printf("cut in language %d: %s \"%s\"\n", language, qPrintable(widget->objectName()),

@@ -100,7 +100,7 @@ void SystemPage::SystemControl_Frame_Set()
         m_ui->Cmb_Snap->setCurrentIndex(edit.iSnapCount >= 1 && edit.iSnapCount <= 3 ? edit.iSnapCount - 1 : -1);
     });
     setApplyActive(false);
-    showTime();
+    m_ui->lbSysContent_6->setText(Now().toString(u"yyyy/MM/dd hh:mm:ss"));
     Timer_system->start();
     m_ready = true;
     emit subtitleChanged();

@@ -24,6 +24,8 @@ void SetCaption(QWidget* control, const QString& text)
         box->setTitle(text);
 }
 
+constexpr int kBoxMargins = 32; // pixels beside the title of a box
+
 // Cuts a control's caption anew whenever its width changes.
 class CaptionKeeper : public QObject
 {
@@ -48,7 +50,8 @@ public:
         SetCaption(m_control, text);
         m_control->setToolTip(text);
         // What the control needs beside its text: margins, an icon, an indicator.
-        m_extra = m_control->sizeHint().width() - width(text);
+        // A box is as wide as its content, which says nothing of its title.
+        m_extra = qobject_cast<QGroupBox*>(m_control) ? kBoxMargins : m_control->sizeHint().width() - width(text);
         if (m_control->isVisible())
             fit();
     }
