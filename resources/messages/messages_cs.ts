@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Skrýt heslo</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Kdokoli otevře tento program, je jeho správcem, protože zatím nemá žádného uživatele.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Vytvořit prvního správce</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Teď ne</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Zatím žádný uživatel</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Dostupné kamery</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Kdo má přístup</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filtrovat kanály…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Celý rekordér</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Živě</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Živý monitor všech kanálů</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Udělit</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Odebrat</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Živě řídí ostatní práva. Mezerník přepíná vybrané buňky; Shift+mezerník vybere řádek, Ctrl+mezerník sloupec.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Správci mají na všech kanálech všechna práva.</translation>
+    </message>
 </context>
 </TS>

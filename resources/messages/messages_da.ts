@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Skjul adgangskode</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Enhver, der åbner programmet, er administrator, fordi der endnu ikke er nogen bruger.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Opret den første administrator</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Ikke nu</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Ingen bruger endnu</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Kameraer inden for rækkevidde</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Hvem der når det</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filtrer kanaler…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Hele optageren</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Livemonitor for alle kanaler</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Tildel</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Fratag</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Live styrer de andre rettigheder. Mellemrum skifter de valgte celler; Skift+Mellemrum vælger en række, Ctrl+Mellemrum en kolonne.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Administratorer har alle rettigheder på alle kanaler.</translation>
+    </message>
 </context>
 </TS>

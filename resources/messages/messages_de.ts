@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Passwort verbergen</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Wer diesen Leitstand öffnet, ist sein Administrator, denn es gibt noch keinen Benutzer.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Ersten Administrator anlegen</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Noch kein Benutzer</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Erreichbare Kameras</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Wer sie erreicht</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Kanäle filtern…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Ganzer Rekorder</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Live-Monitor aller Kanäle</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Gewähren</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Entziehen</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Live bestimmt die übrigen Rechte. Leertaste schaltet die gewählten Zellen um; Umschalt+Leertaste wählt eine Zeile, Strg+Leertaste eine Spalte.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Administratoren haben auf jedem Kanal jedes Recht.</translation>
+    </message>
 </context>
 </TS>

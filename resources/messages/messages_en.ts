@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Hide password</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Anyone who opens this desk is its administrator, because it has no user yet.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Make the first administrator</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Not now</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>No user yet</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Cameras in reach</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Who reaches it</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filter channels…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Whole recorder</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Live Monitor of all channels</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Grant</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Withdraw</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Administrators have every right on every channel.</translation>
+    </message>
 </context>
 </TS>

@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Ocultar contraseña</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Cualquiera que abra este programa es su administrador, porque aún no hay usuarios.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Crear el primer administrador</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Ahora no</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Aún no hay usuarios</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Cámaras a su alcance</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Quién la alcanza</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filtrar canales…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Grabador completo</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>En vivo</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Monitor en vivo de todos los canales</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Conceder</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Retirar</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>En vivo rige los demás derechos. Espacio cambia las celdas elegidas; Mayús+Espacio elige una fila, Ctrl+Espacio una columna.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Los administradores tienen todos los derechos en todos los canales.</translation>
+    </message>
 </context>
 </TS>

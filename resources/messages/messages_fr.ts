@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Masquer le mot de passe</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Toute personne qui ouvre ce programme en est l'administrateur, car il n'a pas encore d'utilisateur.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Créer le premier administrateur</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Pas maintenant</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Aucun utilisateur</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Caméras accessibles</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Qui y accède</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filtrer les canaux…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Enregistreur entier</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Direct</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Moniteur en direct de tous les canaux</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Accorder</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Retirer</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Le direct commande les autres droits. Espace bascule les cellules choisies ; Maj+Espace choisit une ligne, Ctrl+Espace une colonne.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Les administrateurs ont tous les droits sur tous les canaux.</translation>
+    </message>
 </context>
 </TS>

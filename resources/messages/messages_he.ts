@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>הסתרת סיסמה</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>כל מי שפותח תוכנה זו הוא מנהל שלה, כי עדיין אין בה משתמשים.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>יצירת המנהל הראשון</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>לא עכשיו</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>אין עדיין משתמשים</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>מצלמות נגישות</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>למי יש גישה</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>סינון ערוצים…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>המקליט כולו</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>שידור חי</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>ניטור חי של כל הערוצים</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>הענקה</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>שלילה</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>השידור החי קובע את שאר ההרשאות. רווח מחליף את התאים הנבחרים; Shift+רווח בוחר שורה, Ctrl+רווח בוחר עמודה.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>למנהלים כל ההרשאות בכל הערוצים.</translation>
+    </message>
 </context>
 </TS>

@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Nascondi password</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Chiunque apra questo programma ne è l'amministratore, perché non c'è ancora alcun utente.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Crea il primo amministratore</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Non ora</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Nessun utente</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Telecamere raggiungibili</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Chi la raggiunge</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filtra i canali…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Intero registratore</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Dal vivo</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Monitor dal vivo di tutti i canali</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Concedi</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Revoca</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Dal vivo regola gli altri diritti. Spazio cambia le celle scelte; Maiusc+Spazio sceglie una riga, Ctrl+Spazio una colonna.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Gli amministratori hanno tutti i diritti su tutti i canali.</translation>
+    </message>
 </context>
 </TS>

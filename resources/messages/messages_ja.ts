@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>パスワードを隠す</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>まだユーザーがいないため、この画面を開いた人は誰でも管理者になります。</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>最初の管理者を作成</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>後で</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>ユーザーがまだいません</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>閲覧できるカメラ</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>閲覧できる人</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>チャンネルを絞り込む…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>レコーダー全体</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>全チャンネルのライブ監視</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>許可する</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>取り消す</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>ライブが他の権限を左右します。スペースで選択セルを切り替え、Shift+スペースで行、Ctrl+スペースで列を選択します。</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>管理者は全チャンネルのすべての権限を持ちます。</translation>
+    </message>
 </context>
 </TS>

@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Ukryj hasło</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Każdy, kto otworzy ten program, jest administratorem, ponieważ nie ma jeszcze użytkowników.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Utwórz pierwszego administratora</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Nie teraz</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Brak użytkowników</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Dostępne kamery</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Kto ma dostęp</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Filtruj kanały…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Cały rejestrator</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Na żywo</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Podgląd na żywo wszystkich kanałów</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Przyznaj</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Odbierz</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Podgląd na żywo decyduje o pozostałych prawach. Spacja przełącza wybrane komórki; Shift+Spacja wybiera wiersz, Ctrl+Spacja kolumnę.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Administratorzy mają wszystkie prawa do wszystkich kanałów.</translation>
+    </message>
 </context>
 </TS>

@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Скрыть пароль</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Любой, кто откроет эту программу, становится её администратором: пользователей пока нет.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>Создать первого администратора</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Не сейчас</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Пользователей пока нет</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Доступные камеры</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Кому доступна</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Фильтр каналов…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Весь регистратор</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Просмотр</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Живой просмотр всех каналов</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Разрешить</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Запретить</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Просмотр определяет остальные права. Пробел переключает выбранные ячейки; Shift+Пробел выбирает строку, Ctrl+Пробел — столбец.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Администраторы имеют все права на всех каналах.</translation>
+    </message>
 </context>
 </TS>

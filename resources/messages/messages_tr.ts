@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>Parolayı Gizle</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>Henüz kullanıcı olmadığından bu programı açan herkes yöneticisidir.</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>İlk yöneticiyi oluştur</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>Şimdi değil</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>Henüz kullanıcı yok</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>Erişilen kameralar</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>Kimler erişiyor</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>Kanalları süz…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>Tüm kayıt cihazı</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>Canlı</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>Tüm kanalların canlı izlenmesi</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>Ver</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>Geri al</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Canlı diğer hakları belirler. Boşluk seçili hücreleri değiştirir; Shift+Boşluk satırı, Ctrl+Boşluk sütunu seçer.</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>Yöneticiler tüm kanallarda tüm haklara sahiptir.</translation>
+    </message>
 </context>
 </TS>

@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>隐藏密码</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>目前还没有用户，任何打开本程序的人都是管理员。</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>创建第一位管理员</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>以后再说</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>还没有用户</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>可访问的摄像机</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>可访问者</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>筛选通道…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>整台录像机</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>实时画面</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>所有通道的实时监看</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>授予</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>收回</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>实时画面决定其他权限。空格键切换所选单元格；Shift+空格选择行，Ctrl+空格选择列。</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>管理员对所有通道拥有全部权限。</translation>
+    </message>
 </context>
 </TS>

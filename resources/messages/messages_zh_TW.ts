@@ -3379,5 +3379,61 @@
         <source>Hide password</source>
         <translation>隱藏密碼</translation>
     </message>
+    <message id="900">
+        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
+        <translation>目前尚無使用者，任何開啟本程式的人都是管理員。</translation>
+    </message>
+    <message id="901">
+        <source>Make the first administrator</source>
+        <translation>建立第一位管理員</translation>
+    </message>
+    <message id="902">
+        <source>Not now</source>
+        <translation>稍後再說</translation>
+    </message>
+    <message id="903">
+        <source>No user yet</source>
+        <translation>尚無使用者</translation>
+    </message>
+    <message id="904">
+        <source>Cameras in reach</source>
+        <translation>可存取的攝影機</translation>
+    </message>
+    <message id="905">
+        <source>Who reaches it</source>
+        <translation>可存取者</translation>
+    </message>
+    <message id="906">
+        <source>Filter channels…</source>
+        <translation>篩選頻道…</translation>
+    </message>
+    <message id="907">
+        <source>Whole recorder</source>
+        <translation>整部錄影機</translation>
+    </message>
+    <message id="908">
+        <source>Live</source>
+        <translation>即時影像</translation>
+    </message>
+    <message id="909">
+        <source>Live Monitor of all channels</source>
+        <translation>所有頻道的即時監看</translation>
+    </message>
+    <message id="910">
+        <source>Grant</source>
+        <translation>授予</translation>
+    </message>
+    <message id="911">
+        <source>Withdraw</source>
+        <translation>收回</translation>
+    </message>
+    <message id="912">
+        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>即時影像決定其他權限。空白鍵切換所選儲存格；Shift+空白鍵選取列，Ctrl+空白鍵選取欄。</translation>
+    </message>
+    <message id="913">
+        <source>Administrators have every right on every channel.</source>
+        <translation>管理員對所有頻道擁有全部權限。</translation>
+    </message>
 </context>
 </TS>

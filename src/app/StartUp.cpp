@@ -77,6 +77,7 @@ void SettleLanguage(Station& station)
 void LoadRecords(Station& station)
 {
     GetSVREx(station.databases, station.recorders);
+    GetUser(station.databases, station.users);
     GetMyAccount(station.databases, station.accounts);
     GetGroupPrivilege(station.databases, station.groups);
     GetNVRPrivilege(station.databases, station.groups);
@@ -84,8 +85,11 @@ void LoadRecords(Station& station)
 
 void SettleCurrentGroup(Station& station)
 {
-    // The user array is empty until users are part of the desk: everyone is the unnamed administrator.
     station.CurrentGroupIndex = 0;
+    if (station.CurrentUserIndex < 65535) {
+        Trapped(kLoadSource,
+                [&] { station.CurrentGroupIndex = At(station.users.stored, station.CurrentUserIndex).iGroup; });
+    }
 }
 
 void RotateBackups()

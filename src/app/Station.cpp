@@ -2,6 +2,7 @@
 
 #include "app/log/Module_Log.h"
 #include "platform/Clock.h"
+#include "platform/clsOSInfo.h"
 #include "recorders/SVRStore.h"
 #include "store/SystemLog.h"
 #include "support/Conversions.h"
@@ -52,11 +53,19 @@ Station::Station()
     families.add(SVRFamily(databases, recorders));
     families.add(GroupFamily(databases, groups,
                              [this](int slot) { return !At(recorders.SVRWorkList, slot).sSVR_Name.isEmpty(); }));
+    families.add(UserFamily(databases, users, [] { return int(clsOSInfo().GetScreenCount()); }));
 }
 
 const GroupPrivilegeRecord& Station::currentGroup() const
 {
     return At(groups.stored, CurrentGroupIndex);
+}
+
+GroupPrivilegeRecord Station::currentRights() const
+{
+    GroupPrivilegeRecord rights;
+    Trapped("Form_Initial - Timer_PrivilegeCheck", [&] { rights = currentGroup(); });
+    return rights;
 }
 
 void SaveCheck(Station& station)

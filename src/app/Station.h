@@ -6,6 +6,7 @@
 #include "store/RecordFamily.h"
 #include "store/records/EventRecords.h"
 #include "users/GroupStore.h"
+#include "users/UserStore.h"
 
 // What notifications need of the events subsystem.
 class NotificationQueue
@@ -47,6 +48,7 @@ struct Station
     BasicDefaultSet basicDefault;
     RecorderSet recorders;
     GroupSet groups;
+    UserSet users;
     std::vector<NVRAccountRecord> accounts{{}}; // tried on devices; one empty element when there is none
     EventHandlingRecord eventHandling;          // stored copy; all off until the event settings are read
     FamilyRegister families;
@@ -60,6 +62,8 @@ struct Station
 
     // The rights record of the current group; throws ConversionError for an index outside 0 to 6.
     const GroupPrivilegeRecord& currentGroup() const;
+    // The same, without any right (and one log line) where there is no such group.
+    GroupPrivilegeRecord currentRights() const;
 };
 
 // Writes everything that is marked on any page, then the audit line (and notification) of each touched page.

@@ -8,6 +8,7 @@
 #include "app/ui/PendingPage.h"
 #include "app/ui/RecordersPage.h"
 #include "app/ui/SystemPage.h"
+#include "app/ui/UsersPage.h"
 #include "look/Icons.h"
 #include "look/NavRail.h"
 #include "look/PageHeader.h"
@@ -22,12 +23,15 @@
 #include "store/SystemLog.h"
 #include "support/Conversions.h"
 #include "support/TimeSeconds.h"
+#include "users/ui/Form_Login.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QProcess>
+#include <QPushButton>
 #include <QStackedWidget>
 #include <QToolButton>
 
@@ -75,13 +79,19 @@ bool Form_Initial::Form_Load()
     }
     Trapped(kLoadSource, [&] { loadRecordsAndPages(); });
 
-    // No user is known yet, so no login opens and everyone is the unnamed administrator.
     m_station.LoginOk = true;
+    if (!login()) {
+        m_station.LoginOk = false;
+        SetClosing(true);
+        return false;
+    }
     SettleCurrentGroup(m_station);
+    updateHeader();
+    showFirstUserNotice();
     m_systemPage->SystemControl_Frame_Set();
 
     Trapped(kLoadSource, [&] {
-        if (m_station.currentGroup().Setting != 1 && m_pageIndex != kStartup) {
+        if (m_station.currentRights().Setting != 1 && m_pageIndex != kStartup) {
             openPage(kStartup);
             m_pageIndex = kStartup;
             PaintMenu(kStartup);
@@ -94,6 +104,26 @@ bool Form_Initial::Form_Load()
     SaveSystemLog(m_station.databases, TimeToUtcSeconds(Now()), CurrentUser(), u"Open Rigging Desk"_s);
     QTimer::singleShot(100, this, &Form_Initial::Timer_PrivilegeCheck);
     return true;
+}
+
+// Nobody is asked on a station whose first user has no name: everyone is the unnamed administrator there.
+bool Form_Initial::login()
+{
+    const std::vector<UserRecord>& users = m_station.users.stored;
+    if (users.empty() || users.front().sUser.isEmpty())
+        return true;
+    Form_Login form(users);
+    if (form.exec() != QDialog::Accepted)
+        return false;
+    m_station.CurrentUserIndex = form.CurrentUserIndex();
+    SetCurrentUser(form.userName());
+    return true;
+}
+
+void Form_Initial::showFirstUserNotice()
+{
+    if (m_firstUser)
+        m_firstUser->setVisible(CurrentUser().isEmpty() && SetUser_TotalNum(m_station.users) == 0);
 }
 
 void Form_Initial::buildWindow()
@@ -121,6 +151,34 @@ void Form_Initial::buildWindow()
     auto* page = new QVBoxLayout;
     page->setSpacing(0);
     page->addWidget(m_header);
+    m_firstUser = new QFrame;
+    m_firstUser->setObjectName(u"firstUserNotice"_s);
+    SetRole(m_firstUser, "panel"_L1);
+    auto* notice = new QHBoxLayout(m_firstUser);
+    notice->setContentsMargins(24, 10, 24, 10);
+    auto* words = new QLabel;
+    words->setWordWrap(true);
+    words->setProperty("tag", u"Caption:900"_s);
+    auto* make = new QPushButton;
+    make->setObjectName(u"btnFirstUser"_s);
+    make->setProperty("tag", u"Caption:901"_s);
+    auto* later = new QPushButton;
+    later->setObjectName(u"btnFirstUserLater"_s);
+    later->setProperty("tag", u"Caption:902"_s);
+    SetKind(later, "quiet"_L1);
+    notice->addWidget(words, 1);
+    notice->addWidget(make);
+    notice->addWidget(later);
+    m_firstUser->hide();
+    connect(make, &QPushButton::clicked, this, [this] {
+        lbMenu_Click(3);
+        m_usersPage->lists()->lbUserAdd_Click();
+    });
+    connect(later, &QPushButton::clicked, this, [this] {
+        m_firstUser->deleteLater();
+        m_firstUser = nullptr;
+    });
+    page->addWidget(m_firstUser);
     page->addWidget(m_frames, 1);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -140,6 +198,10 @@ void Form_Initial::buildPages()
 
     m_pages[0] = m_systemPage;
     m_pages[1] = recorders;
+    m_usersPage = new UsersPage({m_station.databases, m_station.users, m_station.groups, m_station.recorders,
+                                 m_station.accounts, [this] { SaveCheck(m_station); }});
+    connect(m_usersPage->lists(), &UserPage::usersChanged, this, &Form_Initial::showFirstUserNotice);
+    m_pages[3] = m_usersPage;
     for (int index = 0; index < kPages; ++index) {
         SettingsPage*& page = m_pages[static_cast<std::size_t>(index)];
         if (!page)
@@ -217,7 +279,7 @@ void Form_Initial::lbMenu_Click(int index)
             askExit();
             return;
         }
-        if (index == kSVD && m_station.currentGroup().SVDControl != 1) {
+        if (index == kSVD && m_station.currentRights().SVDControl != 1) {
             MsgBox(GetLangString(139), InfoBoxStyle(), GetLangString(570));
             return;
         }
@@ -245,7 +307,7 @@ void Form_Initial::PageLeaveCheck(int current, int next)
 void Form_Initial::Timer_PrivilegeCheck()
 {
     Trapped("Form_Initial - Timer_PrivilegeCheck", [&] {
-        const GroupPrivilegeRecord& group = m_station.currentGroup();
+        const GroupPrivilegeRecord group = m_station.currentRights();
         if (group.Setting == 1)
             return;
         for (int index = 0; index < kMenuEntries; ++index)

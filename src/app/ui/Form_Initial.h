@@ -10,6 +10,7 @@
 #include <array>
 
 class NavEntry;
+class QFrame;
 class NavRail;
 class NVRPage;
 class PageHeader;
@@ -17,6 +18,7 @@ class ProgressWindow;
 class QStackedWidget;
 class SettingsPage;
 class SystemPage;
+class UsersPage;
 
 inline constexpr int kPages = 12;       // 0 to 11 stand in Frame_Setting
 inline constexpr int kMenuEntries = 13; // the pages and Exit
@@ -59,6 +61,8 @@ private:
     void askExit();
     void showWizard();
     void finishNewRecorders();
+    bool login();
+    void showFirstUserNotice();
     void updateHeader();
     void Form_QueryUnload();
     void Form_Unload();
@@ -84,6 +88,8 @@ private:
     std::array<SettingsPage*, kPages> m_pages{};
     SystemPage* m_systemPage = nullptr;
     NVRPage* m_nvrPage = nullptr;
+    UsersPage* m_usersPage = nullptr;
+    QFrame* m_firstUser = nullptr; // offers to make the first administrator
     ProgressWindow* m_progress = nullptr;
     bool m_progressCancelled = false;
     int m_pageIndex = 0;

@@ -1,4 +1,5 @@
 #include "app/Station.h"
+#include "app/ui/FileChooserWindow.h"
 #include "app/ui/Form_Initial.h"
 #include "app/ui/MsgBoxWindow.h"
 #include "look/Theme.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv)
     clsOSInfo::setScreenCounter([] { return static_cast<int>(QGuiApplication::screens().size()); });
     ApplyTheme(application, InitialScheme());
     InstallMsgBoxWindow();
+    InstallFileChooserWindow();
 
     const auto station = std::make_unique<Station>();
     Form_Initial window(*station);

@@ -1,0 +1,192 @@
+#include "users/ui/Form_Login.h"
+
+#include "app/language/Languages.h"
+#include "app/language/ui/ChangeLanguage.h"
+#include "app/log/Module_Log.h"
+#include "look/ActionBar.h"
+#include "look/Fields.h"
+#include "look/Icons.h"
+#include "look/Theme.h"
+#include "platform/AppPath.h"
+#include "platform/MsgBox.h"
+
+#include <QFormLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLogo = 72; // px
+
+QLabel* Caption(int number, QWidget* field, const QString& name)
+{
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setProperty("tag", u"Caption:%1"_s.arg(number));
+    label->setBuddy(field);
+    return label;
+}
+
+} // namespace
+
+Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
+    : DialogFrame(parent)
+    , m_users(users)
+    , m_logo(new QLabel)
+    , m_name(new QLineEdit)
+    , m_password(new QLineEdit)
+{
+    setObjectName(u"Form_Login"_s);
+    setClosable(false);
+    setSizeGripEnabled(false);
+    m_logo->setObjectName(u"Image1"_s);
+    m_logo->setAlignment(Qt::AlignCenter);
+    auto* title = new QLabel(u"Rigging Desk"_s);
+    title->setObjectName(u"Label1"_s);
+    title->setAlignment(Qt::AlignCenter);
+    SetRole(title, "title"_L1);
+    m_name->setObjectName(u"txtLogin_0"_s);
+    m_password->setObjectName(u"txtLogin_1"_s);
+    m_password->setEchoMode(QLineEdit::Password);
+    m_password->installEventFilter(this);
+    m_name->installEventFilter(this);
+
+    auto* column = new QVBoxLayout(content());
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(12);
+    column->addWidget(m_logo);
+    column->addWidget(title);
+    auto* form = new QFormLayout;
+    form->setVerticalSpacing(10);
+    form->addRow(Caption(40, m_name, u"lbLogin_0"_s), m_name);
+    form->addRow(Caption(41, m_password, u"lbLogin_1"_s), m_password);
+    column->addLayout(form);
+
+    m_exit = footer()->addButton(QString());
+    m_exit->setObjectName(u"imgBtn_Exit"_s);
+    m_exit->setAutoDefault(false);
+    m_ok = footer()->addButton(QString(), "primary"_L1);
+    m_ok->setObjectName(u"imgBtn_OK"_s);
+    m_ok->setAutoDefault(false);
+    connect(m_ok, &QPushButton::clicked, this, &Form_Login::imgBtn_OK_Click);
+    connect(m_exit, &QPushButton::clicked, this, &Form_Login::reject);
+    Trapped("Form_Login - UpdatingLogo", [&] { UpdatingLogo(); });
+    ChangeLanguage();
+    resize(420, 0);
+    m_name->setFocus();
+}
+
+void Form_Login::UpdatingLogo()
+{
+    const QPixmap picture(StationPath(u"\\Images\\Yvx_icon.gif"));
+    m_logo->setPixmap(picture.isNull() ? ProgramIcon().pixmap(kLogo, kLogo)
+                                       : picture.scaled(kLogo, kLogo, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+}
+
+void Form_Login::ChangeLanguage()
+{
+    ApplyLanguage(this);
+    setWindowTitle(GetLangString(25).remove(u" ..."_s));
+    m_ok->setText(GetLangString(755));
+    m_exit->setText(GetLangString(51).trimmed());
+    m_name->setAccessibleName(GetLangString(40));
+    m_password->setAccessibleName(GetLangString(41));
+}
+
+QString Form_Login::userName() const
+{
+    return m_name->text();
+}
+
+bool Form_Login::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::FocusIn && (watched == m_name || watched == m_password)) {
+        auto* field = static_cast<QLineEdit*>(watched);
+        QMetaObject::invokeMethod(field, &QLineEdit::selectAll, Qt::QueuedConnection);
+    }
+    if (watched == m_password && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            imgBtn_OK_Click();
+            return true;
+        }
+    }
+    return DialogFrame::eventFilter(watched, event);
+}
+
+void Form_Login::keyPressEvent(QKeyEvent* event)
+{
+    // Return counts in the password only.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        if (auto* button = qobject_cast<QPushButton*>(focusWidget()))
+            button->click();
+        return;
+    }
+    DialogFrame::keyPressEvent(event);
+}
+
+void Form_Login::imgBtn_OK_Click()
+{
+    Trapped("Form_Login - imgBtn_OK_Click", [&] {
+        for (auto [field, message] : {std::pair{m_name, 42}, std::pair{m_password, 43}}) {
+            if (!field->text().isEmpty())
+                continue;
+            MsgBox(GetLangString(message), InfoBoxStyle(), GetLangString(570));
+            field->setFocus();
+            return;
+        }
+        if (bIsUser())
+            accept();
+    });
+}
+
+bool Form_Login::bIsUser()
+{
+    bool found = false;
+    Trapped("Form_Login - bIsUser", [&] {
+        const LoginResult result = CheckLogin(m_users, m_name->text(), m_password->text(), m_index);
+        found = result == LoginResult::Ok;
+        if (found)
+            return;
+        MsgBox(GetLangString(44), InfoBoxStyle(), GetLangString(570));
+        m_password->clear();
+        if (result == LoginResult::Unknown) {
+            m_name->clear();
+            m_name->setFocus();
+        } else {
+            m_password->setFocus();
+        }
+    });
+    return found;
+}
+
+DeviceAccount Form_UserPass(QWidget* parent)
+{
+    DialogFrame dialog(parent);
+    dialog.setObjectName(u"Form_UserPass"_s);
+    dialog.setWindowTitle(GetLangString(660));
+    dialog.setCloseText(GetLangString(881));
+    auto* user = new QLineEdit;
+    user->setObjectName(u"Text1"_s);
+    auto* password = new QLineEdit;
+    password->setObjectName(u"Text2"_s);
+    password->setEchoMode(QLineEdit::Password);
+    AddEye(password, GetLangString(887), GetLangString(899));
+    auto* form = new QFormLayout(dialog.content());
+    form->setVerticalSpacing(10);
+    form->addRow(Caption(465, user, u"lbUser"_s), user);
+    form->addRow(Caption(466, password, u"lbPassword"_s), password);
+    QPushButton* ok = dialog.footer()->addButton(GetLangString(755), "primary"_L1);
+    ok->setObjectName(u"lbOK"_s);
+    ok->setAutoDefault(false);
+    QObject::connect(ok, &QPushButton::clicked, &dialog, &QDialog::accept);
+    QObject::connect(password, &QLineEdit::returnPressed, &dialog, &QDialog::accept);
+    ApplyLanguage(&dialog);
+    dialog.resize(420, 0);
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return {user->text(), password->text(), true};
+}

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "look/DialogFrame.h"
+#include "users/UserStore.h"
+
+class QLabel;
+class QLineEdit;
+
+// The gate at the end of start-up: accepted when name and password match a user.
+class Form_Login : public DialogFrame
+{
+    Q_OBJECT
+public:
+    explicit Form_Login(const std::vector<UserRecord>& users, QWidget* parent = nullptr);
+
+    void ChangeLanguage();
+    // True when what is typed matches a user; else one box, and the field in question is emptied and focused.
+    bool bIsUser();
+    quint32 CurrentUserIndex() const { return m_index; }
+    QString userName() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void imgBtn_OK_Click();
+    void UpdatingLogo();
+
+    const std::vector<UserRecord>& m_users;
+    QLabel* m_logo;
+    QLineEdit* m_name;
+    QLineEdit* m_password;
+    QPushButton* m_ok;
+    QPushButton* m_exit;
+    quint32 m_index = 65535;
+};
+
+// What the dialog below hands back.
+struct DeviceAccount
+{
+    QString DeviceUser;
+    QString DevicePassword;
+    bool DeviceAccountGiven = false; // OK was pressed
+};
+// Asks for the account of a device; compares nothing.
+DeviceAccount Form_UserPass(QWidget* parent);

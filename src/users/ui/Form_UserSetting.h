@@ -1,0 +1,57 @@
+#pragma once
+
+#include "look/DialogFrame.h"
+#include "users/UserStore.h"
+
+#include <array>
+#include <functional>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+
+// Edits the user in UserSet::EditUserIndex, or makes a new one.
+class Form_UserSetting : public DialogFrame
+{
+    Q_OBJECT
+public:
+    // `save` writes everything that is marked. `groupFixed`: the last administrator keeps the group.
+    Form_UserSetting(UserSet& users, const QStringList& groups, bool groupFixed, std::function<void()> save,
+                     QWidget* parent);
+    ~Form_UserSetting() override;
+
+    void PSWD_Clear();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    enum TextField
+    {
+        Name,
+        Password,
+        Company,
+        Telephone,
+        Mail1,
+        Mail2,
+        Mobile,
+        PasswordAgain,
+        FieldCount
+    };
+    void build(const QStringList& groups);
+    void Form_Activate(bool groupFixed);
+    void lbUserApply_Click();
+    void lbUserCheck_Click();
+    void Image1_DblClick();
+    void showPhoto();
+    // One log line, a box, and the focus back to the field.
+    void refuse(const QString& logText, int message, QWidget* field);
+
+    UserSet& m_users;
+    std::function<void()> m_save;
+    std::array<QLineEdit*, FieldCount> txtUser{};
+    QComboBox* cmbUser;
+    QLabel* Image1;
+    QLabel* Text_Filename;
+    QPushButton* m_apply;
+};

@@ -1,0 +1,264 @@
+#include "users/ui/UserPage.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "look/ActionBar.h"
+#include "look/Card.h"
+#include "look/EmptyState.h"
+#include "look/Icons.h"
+#include "look/Tables.h"
+#include "platform/MsgBox.h"
+#include "support/Conversions.h"
+#include "users/ui/Form_AccountEdit.h"
+#include "users/ui/Form_GroupPrivilege.h"
+#include "users/ui/Form_UserSetting.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QStandardItemModel>
+#include <QStyledItemDelegate>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The pictures of the edit and delete columns; the model holds their words.
+class IconColumn : public QStyledItemDelegate
+{
+public:
+    IconColumn(QLatin1StringView name, QObject* parent)
+        : QStyledItemDelegate(parent)
+        , m_name(name)
+    {
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->icon = Icon(m_name);
+        option->decorationSize = QSize(kIconSize, kIconSize);
+    }
+
+private:
+    QLatin1StringView m_name;
+};
+
+QTableView* MakeGrid(const QString& name, QAbstractItemModel* model, const QList<int>& widths)
+{
+    auto* grid = new QTableView;
+    grid->setObjectName(name);
+    grid->setModel(model);
+    StyleTable(grid);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    for (qsizetype column = 0; column < widths.size(); ++column)
+        grid->setColumnWidth(static_cast<int>(column), widths[column]);
+    return grid;
+}
+
+} // namespace
+
+UserPage::UserPage(UserPageContext context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(std::move(context))
+    , m_users(new UserListModel(m_context.users, m_context.groups, this))
+    , m_groups(new GroupListModel(m_context.groups, this))
+    , m_userCard(new Card)
+    , m_groupCard(new Card)
+    , m_stack(new QStackedWidget)
+    , m_empty(new EmptyState)
+    , Grid_UsersList(MakeGrid(u"Grid_UsersList"_s, m_users, {340, 300, 56, 56}))
+    , Grid_GroupList(MakeGrid(u"Grid_GroupList"_s, m_groups, {280, 150, 130, 130, 100, 56}))
+    , lbUserAdd(new QPushButton)
+    , m_reach(new QPushButton)
+    , m_accountsButton(new QPushButton)
+{
+    Grid_UsersList->setItemDelegateForColumn(UserListModel::Edit, new IconColumn("edit"_L1, this));
+    Grid_UsersList->setItemDelegateForColumn(UserListModel::Delete, new IconColumn("delete"_L1, this));
+    Grid_GroupList->setItemDelegateForColumn(GroupListModel::Edit, new IconColumn("edit"_L1, this));
+    lbUserAdd->setObjectName(u"lbUserAdd"_s);
+    lbUserAdd->setProperty("kind", u"primary"_s);
+    lbUserAdd->setIcon(Icon("add"_L1));
+    m_reach->setObjectName(u"btnReach"_s);
+    m_accountsButton->setObjectName(u"btnAccounts"_s);
+
+    auto* tools = new QHBoxLayout;
+    tools->setSpacing(10);
+    tools->addStretch();
+    tools->addWidget(m_accountsButton);
+    tools->addWidget(m_reach);
+    tools->addWidget(lbUserAdd);
+    m_stack->addWidget(Grid_UsersList);
+    m_stack->addWidget(m_empty);
+    m_userCard->content()->addWidget(m_stack, 1);
+    m_groupCard->content()->addWidget(Grid_GroupList, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(24, 20, 24, 20);
+    column->setSpacing(16);
+    column->addLayout(tools);
+    column->addWidget(m_userCard, 1);
+    column->addWidget(m_groupCard, 1);
+    setTabOrder(m_accountsButton, m_reach);
+    setTabOrder(m_reach, lbUserAdd);
+    setTabOrder(lbUserAdd, Grid_UsersList);
+    setTabOrder(Grid_UsersList, Grid_GroupList);
+
+    connect(lbUserAdd, &QPushButton::clicked, this, &UserPage::lbUserAdd_Click);
+    connect(m_empty, &EmptyState::clicked, this, &UserPage::lbUserAdd_Click);
+    connect(m_reach, &QPushButton::clicked, this, &UserPage::showReach);
+    connect(m_accountsButton, &QPushButton::clicked, this,
+            [this] { OpenAccountEdit(m_context.databases, m_context.accounts, window()); });
+    connect(Grid_UsersList, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (index.column() == UserListModel::Edit)
+            editUser(currentSlot());
+        else if (index.column() == UserListModel::Delete)
+            deleteUser(currentSlot());
+    });
+    connect(Grid_GroupList, &QTableView::clicked, this, [this](const QModelIndex& index) {
+        if (index.column() == GroupListModel::Edit)
+            editGroup(index.row());
+    });
+    const auto key = [this](QTableView* grid, Qt::Key which, auto&& act) {
+        auto* shortcut = new QShortcut(which, grid, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, act);
+    };
+    key(Grid_UsersList, Qt::Key_Return, [this] { editUser(currentSlot()); });
+    key(Grid_UsersList, Qt::Key_Delete, [this] { deleteUser(currentSlot()); });
+    key(Grid_GroupList, Qt::Key_Return, [this] { editGroup(Grid_GroupList->currentIndex().row()); });
+}
+
+int UserPage::currentSlot() const
+{
+    const QModelIndex current = Grid_UsersList->currentIndex();
+    return current.isValid() ? current.data(UserListModel::kSlotRole).toInt() : -1;
+}
+
+void UserPage::User_Table_Set()
+{
+    m_users->User_Table_Set();
+    const bool none = m_users->rowCount() == 0;
+    m_stack->setCurrentWidget(none ? static_cast<QWidget*>(m_empty) : Grid_UsersList);
+    lbUserAdd->setVisible(!none);
+    m_reach->setVisible(!none);
+    if (!none && !Grid_UsersList->currentIndex().isValid())
+        Grid_UsersList->setCurrentIndex(m_users->index(0, 0));
+    emit usersChanged();
+}
+
+void UserPage::Group_Table_Set()
+{
+    m_groups->Group_Table_Set();
+    Grid_GroupList->setCurrentIndex(m_groups->index(0, 0));
+}
+
+void UserPage::changeLanguage()
+{
+    m_userCard->setTitle(GetLangString(786));
+    m_groupCard->setTitle(GetLangString(785));
+    Grid_UsersList->setAccessibleName(GetLangString(786));
+    Grid_GroupList->setAccessibleName(GetLangString(785));
+    lbUserAdd->setText(GetLangString(442));
+    m_reach->setText(GetLangString(904));
+    m_accountsButton->setText(GetLangString(831));
+    m_empty->setHeadline(GetLangString(903));
+    m_empty->setHint(GetLangString(900));
+    m_empty->setButton(GetLangString(901));
+    User_Table_Set();
+    Group_Table_Set();
+}
+
+void UserPage::lbUserAdd_Click()
+{
+    Trapped("Form_Initial - lbUserAdd_Click", [&] {
+        m_context.users.EditUserIndex = kNewUser;
+        Form_UserSetting(m_context.users, MyGroup_GetList(m_context.groups), false, m_context.save, window()).exec();
+        User_Table_Set();
+    });
+}
+
+void UserPage::editUser(int slot)
+{
+    if (slot < 0)
+        return;
+    Trapped("Form_Initial - Grid_UsersList_Click", [&] {
+        m_context.users.EditUserIndex = static_cast<quint16>(slot);
+        Form_UserSetting(m_context.users, MyGroup_GetList(m_context.groups), IsLastAdmin(m_context.users, slot),
+                         m_context.save, window())
+            .exec();
+        User_Table_Set();
+    });
+}
+
+void UserPage::deleteUser(int slot)
+{
+    if (slot < 0)
+        return;
+    Trapped("Form_Initial - Grid_UsersList_Click", [&] {
+        if (IsLastAdmin(m_context.users, slot) && SetUser_TotalNum(m_context.users) > 1) {
+            MsgBox(GetLangString(502), InfoBoxStyle(), GetLangString(570));
+            return;
+        }
+        if (MsgBox(GetLangString(501), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes)
+            SetUser_Delete(m_context.users, slot);
+        m_context.save();
+        User_Table_Set();
+    });
+}
+
+void UserPage::editGroup(int group)
+{
+    if (group < 0)
+        return;
+    Trapped("Form_Initial - Grid_GroupList_Click", [&] {
+        Form_GroupPrivilege dialog(m_context.groups, m_context.users, m_context.recorders, m_context.save, window());
+        dialog.SetGroupPrivilege(group);
+        dialog.LoadFrame(0);
+        dialog.exec();
+        Group_Table_Set();
+    });
+}
+
+void UserPage::showReach()
+{
+    Trapped("Form_Initial - btnReach_Click", [&] {
+        const UserRecord& user = At(m_context.users.edit, currentSlot());
+        DialogFrame dialog(window());
+        dialog.setObjectName(u"Form_Reach"_s);
+        dialog.setWindowTitle(GetLangString(904));
+        dialog.setSubtitle(user.sUser);
+        dialog.setCloseText(GetLangString(881));
+        QStandardItemModel model;
+        model.setHorizontalHeaderLabels({u"NVR"_s, GetLangString(366), GetLangString(367), GetLangString(784)});
+        for (const ReachedCamera& camera : CamerasOf(m_context.groups, user.iGroup, m_context.recorders.SVRWorkList)) {
+            const SVRRecord& recorder = At(m_context.recorders.SVRWorkList, camera.slot);
+            QStringList rights;
+            static constexpr std::array names{908, 431, 430, 150};
+            for (std::size_t i = 0; i < names.size(); ++i) {
+                if ((camera.mask & kRightBits[i]) != 0)
+                    rights << GetLangString(names[i]);
+            }
+            QList<QStandardItem*> row;
+            for (const QString& text :
+                 {QString(QString::number(camera.slot + 1) + u" · "_s + recorder.sSVR_Name),
+                  QString::number(camera.channel + 1), At(recorder.sSub_CH_Name, camera.channel), rights.join(u", "_s)})
+                row << new QStandardItem(text);
+            model.appendRow(row);
+        }
+        auto* column = new QVBoxLayout(dialog.content());
+        column->setContentsMargins(0, 0, 0, 0);
+        QTableView* grid = MakeGrid(u"Grid_Reach"_s, &model, {200, 60, 220});
+        grid->setAccessibleName(GetLangString(904));
+        grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        column->addWidget(grid);
+        QPushButton* close = dialog.footer()->addButton(GetLangString(881), "primary"_L1);
+        close->setObjectName(u"btnClose"_s);
+        connect(close, &QPushButton::clicked, &dialog, &QDialog::accept);
+        dialog.resize(760, 480);
+        dialog.exec();
+    });
+}

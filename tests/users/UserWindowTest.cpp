@@ -1,0 +1,276 @@
+#include "app/StartUp.h"
+#include "app/language/Languages.h"
+#include "app/ui/Form_Initial.h"
+#include "look/Theme.h"
+#include "platform/FileChooser.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "tests/store/StoreFixture.h"
+#include "tests/walkthrough/Driver.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    ApplyTheme(*application, InitialScheme());
+    return application;
+}
+const bool g_registered = (g_applicationFactory = MakeApplication, true);
+
+class UserWindowTest : public StoreFixture
+{
+protected:
+    UserWindowTest()
+    {
+        SetMsgBoxHandler([this](const QString& text, qint32, const QString&) {
+            boxes << text;
+            return answers.isEmpty() ? MsgResult::Ok : answers.takeFirst();
+        });
+        SetLanguage(qEnvironmentVariableIntValue("DESK_LANGUAGE") > 0 ? qEnvironmentVariableIntValue("DESK_LANGUAGE")
+                                                                      : 1);
+        open();
+        execute(u"UPDATE BasicDefault SET iLanguage=%1"_s.arg(Language()));
+    }
+    ~UserWindowTest() override
+    {
+        desk.reset();
+        SetMsgBoxHandler(nullptr);
+        SetFileChooserHandler(nullptr);
+        SetCurrentUser({});
+        SetClosing(false);
+        SetLanguage(1);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+    bool start()
+    {
+        CloseDatabases(databases);
+        station = std::make_unique<Station>();
+        desk = std::make_unique<Form_Initial>(*station);
+        if (!desk->Form_Load())
+            return false;
+        desk->resize(1280, 800);
+        desk->show();
+        return QTest::qWaitForWindowExposed(desk.get());
+    }
+    QVariant row(const QString& sql)
+    {
+        QSqlQuery query(station->databases.DBConn->database());
+        return query.exec(sql) && query.next() ? query.value(0) : QVariant();
+    }
+    static std::function<bool()> usable(const QString& name)
+    {
+        return [name] { return Driver::usable(name); };
+    }
+    void step(const QString& name, std::function<void()> act) { driver.add(name, usable(name), std::move(act)); }
+    // With DESK_SCREENSHOTS set, the window on show is left there as a picture.
+    static void picture(const QString& name)
+    {
+        const QString folder = qEnvironmentVariable("DESK_SCREENSHOTS");
+        QWidget* window =
+            QApplication::activeModalWidget() ? QApplication::activeModalWidget() : Driver::find(u"Form_Initial"_s);
+        if (!folder.isEmpty() && window)
+            window->grab().save(folder + u'/' + name + u".png"_s);
+    }
+    static void clickCell(const QString& grid, int row, int column)
+    {
+        auto* view = Driver::find<QTableView>(grid);
+        const QModelIndex cell = view->model()->index(row, column);
+        view->scrollTo(cell);
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
+    }
+    void waitClosed(const QString& dialog)
+    {
+        driver.add(
+            dialog + u" closed"_s, [dialog] { return !Driver::find(dialog); }, [] {});
+    }
+
+    std::unique_ptr<Station> station;
+    std::unique_ptr<Form_Initial> desk;
+    Driver driver;
+    QStringList boxes;
+    QList<MsgResult> answers;
+};
+
+TEST_F(UserWindowTest, AFreshStationMakesItsFirstAdministrator)
+{
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(CurrentUser().isEmpty());
+    QFile photo(path(u"\\photo.jpg"));
+    ASSERT_TRUE(photo.open(QIODevice::WriteOnly) && photo.resize(10000001));
+    SetFileChooserHandler([&](const FileQuestion&) { return photo.fileName(); });
+    step(u"btnFirstUser"_s, [] {
+        picture(u"fresh"_s);
+        Driver::click(u"btnFirstUser"_s);
+    });
+    step(u"txtUser_0"_s, [] {
+        EXPECT_FALSE(Driver::find(u"cmbUser"_s)->isEnabled());
+        EXPECT_FALSE(Driver::find(u"lbUserApply_0"_s)->isEnabled());
+        Driver::type(u"txtUser_0"_s, u"x"_s);
+        Driver::type(u"txtUser_0"_s, u""_s);
+        Driver::click(u"lbUserApply_0"_s); // no name
+        Driver::type(u"txtUser_0"_s, u"chief"_s);
+        Driver::click(u"lbUserApply_0"_s); // no password
+        Driver::type(u"txtUser_1"_s, u"secret"_s);
+        Driver::click(u"lbUserApply_0"_s); // not the same
+        Driver::click(u"btnPhoto"_s);      // too large
+        picture(u"user"_s);
+        Driver::type(u"txtUser_7"_s, u"secret"_s);
+        Driver::click(u"lbUserApply_0"_s);
+    });
+    waitClosed(u"Form_UserSetting"_s);
+    driver.run(10000);
+    EXPECT_EQ(boxes, QStringList({GetLangString(606), GetLangString(607), GetLangString(359), GetLangString(640)}));
+    EXPECT_EQ(row(u"SELECT sUser||'/'||sPSWD||'/'||iGroup||'/'||sPhoto FROM UserData"_s).toString(),
+              u"chief/secret/0/"_s);
+    EXPECT_EQ(allLogs().count("save user error: pswd is not same"), 1);
+    EXPECT_FALSE(Driver::find(u"firstUserNotice"_s));
+}
+
+TEST_F(UserWindowTest, LoginLeadsToWhatTheGroupMayDo)
+{
+    execute(u"INSERT INTO UserData (sUser,sPSWD,iGroup) VALUES ('chief','s',0),('night','n',3)"_s);
+    step(u"txtLogin_0"_s, [] {
+        picture(u"login"_s);
+        QTest::keyClick(Driver::find(u"txtLogin_0"_s), Qt::Key_Return); // does nothing
+        Driver::click(u"imgBtn_OK"_s);
+        Driver::type(u"txtLogin_0"_s, u"night"_s);
+        Driver::click(u"imgBtn_OK"_s);
+        Driver::type(u"txtLogin_1"_s, u"wrong"_s);
+        QTest::keyClick(Driver::find(u"txtLogin_1"_s), Qt::Key_Return);
+        EXPECT_EQ(Driver::find<QLineEdit>(u"txtLogin_0"_s)->text(), u"night"_s);
+        EXPECT_EQ(Driver::find<QLineEdit>(u"txtLogin_1"_s)->text(), QString());
+        Driver::type(u"txtLogin_0"_s, u"nobody"_s);
+        Driver::type(u"txtLogin_1"_s, u"n"_s);
+        QTest::keyClick(Driver::find(u"txtLogin_1"_s), Qt::Key_Return);
+        EXPECT_EQ(Driver::find<QLineEdit>(u"txtLogin_0"_s)->text(), QString());
+        Driver::type(u"txtLogin_0"_s, u"night"_s);
+        Driver::type(u"txtLogin_1"_s, u"n"_s);
+        QTest::keyClick(Driver::find(u"txtLogin_1"_s), Qt::Key_Return);
+    });
+    bool started = false;
+    driver.add(
+        u"menu by rights"_s,
+        [this] { return desk && desk->isVisible() && !Driver::find(u"lbMenu_3"_s) && Driver::find(u"lbMenu_8"_s); },
+        [] {});
+    QTimer::singleShot(0, &driver, [&] { started = start(); });
+    driver.run(10000);
+    EXPECT_TRUE(started);
+    EXPECT_EQ(boxes, QStringList({GetLangString(42), GetLangString(43), GetLangString(44), GetLangString(44)}));
+    EXPECT_EQ(CurrentUser(), u"night"_s);
+    EXPECT_EQ(station->CurrentGroupIndex, 3);
+    EXPECT_EQ(desk->m_PageIndex(), 8);
+}
+
+TEST_F(UserWindowTest, GivingUpTheLoginEndsTheProgram)
+{
+    execute(u"INSERT INTO UserData (sUser,sPSWD,iGroup) VALUES ('chief','s',0)"_s);
+    step(u"imgBtn_Exit"_s, [] { Driver::click(u"imgBtn_Exit"_s); });
+    driver.add(
+        u"gone"_s, [] { return !Driver::find(u"Form_Login"_s); }, [] {});
+    bool started = true;
+    QTimer::singleShot(0, &driver, [&] { started = start(); });
+    driver.run(10000);
+    EXPECT_FALSE(started);
+    EXPECT_FALSE(station->LoginOk);
+    EXPECT_TRUE(Closing());
+}
+
+TEST_F(UserWindowTest, TheLastAdministratorStaysAndOthersGo)
+{
+    execute(u"INSERT INTO UserData (sUser,sPSWD,iGroup,sPhoto) VALUES ('','',0,''),('chief','s',0,'gone.png'),"
+            "('night','n',3,'')"_s);
+    ASSERT_TRUE(start());
+    answers = {MsgResult::Ok, MsgResult::No, MsgResult::Yes};
+    step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
+    step(u"Grid_UsersList"_s, [] {
+        picture(u"page"_s);
+        clickCell(u"Grid_UsersList"_s, 0, UserListModel::Delete); // refused
+        clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // No
+        clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // Yes
+        clickCell(u"Grid_UsersList"_s, 0, UserListModel::Edit);
+    });
+    step(u"Form_UserSetting"_s, [] {
+        EXPECT_FALSE(Driver::find(u"cmbUser"_s)->isEnabled());
+        EXPECT_EQ(Driver::find<QLabel>(u"Text_Filename"_s)->text(), u"gone.png"_s);
+        Driver::click(u"lbUserApply_1"_s);
+    });
+    waitClosed(u"Form_UserSetting"_s);
+    driver.run(10000);
+    EXPECT_EQ(boxes, QStringList({GetLangString(502), GetLangString(501), GetLangString(501)}));
+    EXPECT_EQ(row(u"SELECT group_concat(sUser) FROM UserData"_s).toString(), u"chief"_s);
+    EXPECT_EQ(logLines("Form_UserSetting - Form_Activate"), 1); // the photo that is missing
+}
+
+TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
+{
+    ASSERT_TRUE(start());
+    SVRRecord& recorder = station->recorders.SVRWorkList[1];
+    recorder.sSVR_Name = u"Gatehouse"_s;
+    recorder.iSVR_Maxchannel = 64;
+    for (int channel = 0; channel < 64; ++channel) {
+        if (channel != 2)
+            recorder.sSub_CH_Name[static_cast<std::size_t>(channel)] = u"Camera %1"_s.arg(channel + 1);
+    }
+    step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
+    step(u"Grid_GroupList"_s, [] { clickCell(u"Grid_GroupList"_s, 4, GroupListModel::Edit); });
+    step(u"Grid_NVRList"_s, [] {
+        picture(u"group"_s);
+        clickCell(u"Grid_NVRList"_s, 0, 0);
+    });
+    step(u"Grid_ChannelPrivilege"_s, [] {
+        QWidget* grid = Driver::find(u"Grid_ChannelPrivilege"_s);
+        clickCell(u"Grid_ChannelPrivilege"_s, 0, ChannelRightsModel::PTZ); // brings live along
+        clickCell(u"Grid_ChannelPrivilege"_s, 1, ChannelRightsModel::Live);
+        QTest::keyClick(grid, Qt::Key_Down); // camera 4
+        QTest::keyClick(grid, Qt::Key_Space, Qt::ShiftModifier);
+        QTest::keyClick(grid, Qt::Key_Space); // the whole row
+        picture(u"channels"_s);
+        Driver::click(u"lbNVRPrivilege_0"_s);
+    });
+    step(u"lbGroupPrivilege_0"_s, [this] {
+        const QString text = row(u"SELECT CHPrivilege FROM NVRPrivilege WHERE GroupID=5 AND NVRID=2"_s).toString();
+        EXPECT_EQ(text, u"0:12,8,15,15,"_s + QStringList(60, u"0"_s).join(u','));
+        Driver::click(u"Chk_GroupPrivilege_1"_s);
+        Driver::click(u"lbGroupPrivilege_0"_s);
+    });
+    waitClosed(u"Form_GroupPrivilege"_s);
+    driver.run(10000);
+    EXPECT_EQ(row(u"SELECT Export||Live||Live_all||Setting FROM GroupPrivilege WHERE GroupID=5"_s).toString(),
+              u"1100"_s);
+}
+
+TEST_F(UserWindowTest, DeviceAccounts)
+{
+    ASSERT_TRUE(start());
+    step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
+    step(u"btnAccounts"_s, [] { Driver::click(u"btnAccounts"_s); });
+    step(u"Text_Account_0"_s, [] {
+        Driver::click(u"lbAccountApply"_s); // no user
+        for (const QString& password : {u"a"_s, u"b"_s, u"a"_s}) {
+            Driver::type(u"Text_Account_0"_s, u"root"_s);
+            Driver::type(u"Text_Account_1"_s, password);
+            Driver::click(u"lbAccountApply"_s);
+        }
+        picture(u"accounts"_s);
+        clickCell(u"Grid_Account"_s, 0, 1);
+        Driver::click(u"lbAccountClose"_s);
+    });
+    waitClosed(u"Form_AccountEdit"_s);
+    driver.run(10000);
+    EXPECT_EQ(boxes, QStringList({GetLangString(595), GetLangString(620)}));
+    EXPECT_EQ(row(u"SELECT group_concat(iIndex||sUser||sPass) FROM NVRAccount"_s).toString(), u"0rootb"_s);
+}
+
+} // namespace
