@@ -8,6 +8,8 @@
 #include "app/ui/PendingPage.h"
 #include "app/ui/RecordersPage.h"
 #include "app/ui/SystemPage.h"
+#include "app/ui/ToolingPage.h"
+#include "app/ui/UpdateWindow.h"
 #include "look/Icons.h"
 #include "look/NavRail.h"
 #include "look/PageHeader.h"
@@ -66,7 +68,8 @@ bool Form_Initial::Form_Load()
     SetBoxStyles(false);
     m_station.Loading = true;
     OpenDatabases(m_station);
-    ReadDefaults(m_station);
+    UpdateWindow updateWindow;
+    ReadDefaults(m_station, updateWindow);
     Trapped(kLoadSource, [&] { buildWindow(); });
 
     if (!m_instance.acquire()) {
@@ -140,6 +143,7 @@ void Form_Initial::buildPages()
 
     m_pages[0] = m_systemPage;
     m_pages[1] = recorders;
+    m_pages[kTooling] = new ToolingPage(m_station);
     for (int index = 0; index < kPages; ++index) {
         SettingsPage*& page = m_pages[static_cast<std::size_t>(index)];
         if (!page)
