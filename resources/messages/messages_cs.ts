@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Správci mají na všech kanálech všechna práva.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filtrovat nalezené řádky…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Filtru neodpovídá žádný řádek.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>Nalezeno řádků: %1</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Protokol nelze přečíst</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Kopírovat řádky</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Otevřít složku</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Export událostí není součástí této verze.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Zvolte období a vyhledejte.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Export se nezdařil. Nic existujícího se nezměnilo.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>První stránka</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Předchozí stránka</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Další stránka</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Poslední stránka</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Obnovit</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Důvod je v souborech protokolu.</translation>
+    </message>
 </context>
 </TS>

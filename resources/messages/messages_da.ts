@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Administratorer har alle rettigheder på alle kanaler.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filtrér de fundne rækker…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Ingen række passer til filteret.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 rækker fundet</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Loggen kunne ikke læses</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Kopiér rækker</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Åbn mappe</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Eksport af hændelser er ikke en del af denne version.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Vælg en periode, og søg.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Eksporten mislykkedes. Intet eksisterende blev ændret.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Første side</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Forrige side</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Næste side</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Sidste side</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Opdater</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Årsagen står i logfilerne.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Administratoren haben auf jedem Kanal jedes Recht.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Gefundene Zeilen filtern…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Keine Zeile entspricht dem Filter.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 Zeilen gefunden</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Das Protokoll konnte nicht gelesen werden</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Zeilen kopieren</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Der Ereignisexport ist nicht Teil dieser Version.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Wählen Sie einen Zeitraum und suchen Sie.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Der Export ist fehlgeschlagen. Vorhandenes wurde nicht verändert.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Erste Seite</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Vorherige Seite</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Nächste Seite</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Letzte Seite</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Der Grund steht in den Protokolldateien.</translation>
+    </message>
 </context>
 </TS>

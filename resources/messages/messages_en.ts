@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Administrators have every right on every channel.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filter the rows found…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>No row matches the filter.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 rows found</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>The log could not be read</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Copy rows</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Open folder</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Event export is not part of this version.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Choose a period and search.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>The export failed. Nothing that existed was changed.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>First page</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Previous page</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Next page</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Last page</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>The reason stands in the log files.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Los administradores tienen todos los derechos en todos los canales.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filtrar las filas encontradas…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Ninguna fila coincide con el filtro.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 filas encontradas</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>No se pudo leer el registro</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Copiar filas</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Abrir carpeta</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>La exportación de eventos no forma parte de esta versión.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Elija un período y busque.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>La exportación falló. No se modificó nada de lo existente.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Primera página</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Página anterior</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Página siguiente</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Última página</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Actualizar</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>El motivo está en los archivos de registro.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Les administrateurs ont tous les droits sur tous les canaux.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filtrer les lignes trouvées…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Aucune ligne ne correspond au filtre.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 lignes trouvées</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Le journal n'a pas pu être lu</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Copier les lignes</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>L'exportation des événements ne fait pas partie de cette version.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Choisissez une période et lancez la recherche.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>L'exportation a échoué. Rien d'existant n'a été modifié.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Première page</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Page précédente</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Page suivante</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Dernière page</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>La raison figure dans les fichiers journaux.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>למנהלים כל ההרשאות בכל הערוצים.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>סינון השורות שנמצאו…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>אין שורה התואמת למסנן.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>נמצאו %1 שורות</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>לא ניתן לקרוא את היומן</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>העתקת שורות</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>פתיחת תיקייה</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>ייצוא אירועים אינו חלק מגרסה זו.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>בחרו תקופה וחפשו.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>הייצוא נכשל. דבר מן הקיים לא השתנה.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>דף ראשון</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>דף קודם</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>דף הבא</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>דף אחרון</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>רענון</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>הסיבה רשומה בקובצי היומן.</translation>
+    </message>
 </context>
 </TS>

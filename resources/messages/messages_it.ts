@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Gli amministratori hanno tutti i diritti su tutti i canali.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filtra le righe trovate…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Nessuna riga corrisponde al filtro.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 righe trovate</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Impossibile leggere il registro</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Copia righe</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>L'esportazione degli eventi non fa parte di questa versione.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Scegliere un periodo e cercare.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Esportazione non riuscita. Nulla di esistente è stato modificato.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Prima pagina</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Pagina precedente</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Pagina successiva</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Ultima pagina</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Aggiorna</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Il motivo è nei file di registro.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>管理者は全チャンネルのすべての権限を持ちます。</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>見つかった行を絞り込み…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>絞り込みに一致する行はありません。</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 行が見つかりました</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>ログを読み込めませんでした</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>行をコピー</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>フォルダーを開く</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>このバージョンにはイベントのエクスポートはありません。</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>期間を選んで検索してください。</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>エクスポートに失敗しました。既存のデータは変更されていません。</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>最初のページ</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>前のページ</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>次のページ</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>最後のページ</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>理由はログファイルにあります。</translation>
+    </message>
 </context>
 </TS>

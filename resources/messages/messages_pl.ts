@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Administratorzy mają wszystkie prawa do wszystkich kanałów.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Filtruj znalezione wiersze…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Żaden wiersz nie pasuje do filtra.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>Znaleziono wierszy: %1</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Nie można odczytać dziennika</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Kopiuj wiersze</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Otwórz folder</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Eksport zdarzeń nie wchodzi w skład tej wersji.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Wybierz okres i wyszukaj.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Eksport nie powiódł się. Nic istniejącego nie zmieniono.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Pierwsza strona</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Poprzednia strona</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Następna strona</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Ostatnia strona</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Odśwież</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Przyczyna jest w plikach dziennika.</translation>
+    </message>
 </context>
 </TS>

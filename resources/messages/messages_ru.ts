@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Администраторы имеют все права на всех каналах.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Фильтр по найденным строкам…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Нет строк, соответствующих фильтру.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>Найдено строк: %1</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Не удалось прочитать журнал</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Копировать строки</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Открыть папку</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Экспорт событий не входит в эту версию.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Выберите период и выполните поиск.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Экспорт не удался. Существующие данные не изменены.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>Первая страница</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Предыдущая страница</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Следующая страница</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Последняя страница</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Причина указана в файлах журнала.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>Yöneticiler tüm kanallarda tüm haklara sahiptir.</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>Bulunan satırları süz…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>Süzgece uyan satır yok.</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>%1 satır bulundu</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>Günlük okunamadı</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>Satırları kopyala</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>Klasörü aç</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>Olay dışa aktarma bu sürümün parçası değil.</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>Bir dönem seçip arayın.</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>Dışa aktarma başarısız. Var olan hiçbir şey değişmedi.</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>İlk sayfa</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>Önceki sayfa</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>Sonraki sayfa</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>Son sayfa</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>Yenile</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>Nedeni günlük dosyalarında.</translation>
+    </message>
 </context>
 </TS>

@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>管理员对所有通道拥有全部权限。</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>筛选找到的记录…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>没有符合筛选条件的记录。</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>找到 %1 条记录</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>无法读取日志</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>复制记录</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>此版本不包含事件导出。</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>请选择时段后搜索。</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>导出失败。原有数据未被更改。</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>第一页</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>上一页</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>下一页</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>最后一页</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>原因请见日志文件。</translation>
+    </message>
 </context>
 </TS>

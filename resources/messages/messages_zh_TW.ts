@@ -3435,5 +3435,65 @@
         <source>Administrators have every right on every channel.</source>
         <translation>管理員對所有頻道擁有全部權限。</translation>
     </message>
+    <message id="930">
+        <source>Filter the rows found…</source>
+        <translation>篩選找到的記錄…</translation>
+    </message>
+    <message id="931">
+        <source>No row matches the filter.</source>
+        <translation>沒有符合篩選條件的記錄。</translation>
+    </message>
+    <message id="932">
+        <source>%1 rows found</source>
+        <translation>找到 %1 筆記錄</translation>
+    </message>
+    <message id="933">
+        <source>The log could not be read</source>
+        <translation>無法讀取記錄</translation>
+    </message>
+    <message id="934">
+        <source>Copy rows</source>
+        <translation>複製記錄</translation>
+    </message>
+    <message id="935">
+        <source>Open folder</source>
+        <translation>開啟資料夾</translation>
+    </message>
+    <message id="936">
+        <source>Event export is not part of this version.</source>
+        <translation>此版本不包含事件匯出。</translation>
+    </message>
+    <message id="937">
+        <source>Choose a period and search.</source>
+        <translation>請選擇時段後搜尋。</translation>
+    </message>
+    <message id="938">
+        <source>The export failed. Nothing that existed was changed.</source>
+        <translation>匯出失敗。原有資料未被變更。</translation>
+    </message>
+    <message id="939">
+        <source>First page</source>
+        <translation>第一頁</translation>
+    </message>
+    <message id="940">
+        <source>Previous page</source>
+        <translation>上一頁</translation>
+    </message>
+    <message id="941">
+        <source>Next page</source>
+        <translation>下一頁</translation>
+    </message>
+    <message id="942">
+        <source>Last page</source>
+        <translation>最後一頁</translation>
+    </message>
+    <message id="943">
+        <source>Refresh</source>
+        <translation>重新整理</translation>
+    </message>
+    <message id="946">
+        <source>The reason stands in the log files.</source>
+        <translation>原因請見記錄檔。</translation>
+    </message>
 </context>
 </TS>

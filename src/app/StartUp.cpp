@@ -46,17 +46,18 @@ void OpenDatabases(Station& station)
     InitialDB(station.databases);
 }
 
-void ReadDefaults(Station& station)
+void ReadDefaults(Station& station, UpdateWatcher& watcher)
 {
-    Trapped(kLoadSource, [&] { GetBasicDefault(station.databases, station.basicDefault); });
+    qint16 known = 0;
+    Trapped(kLoadSource, [&] { known = GetBasicDefault(station.databases, station.basicDefault); });
     WMIGet(station.basicDefault);
     NormaliseLanguage(station);
-    Trapped(kLoadSource, [&] {
-        const QString& version = station.basicDefault.stored.sDBVer;
-        if (version != kDatabaseVersion)
-            throw StoreError(
-                u"Database version '%1' is not '%2'; it is used as it is"_s.arg(version, kDatabaseVersion));
-    });
+    const QString version = station.basicDefault.stored.sDBVer;
+    // A database that cannot be read (locked, damaged) has no version to go by and is left alone.
+    if (known == 1 && version != kDatabaseVersion) {
+        SettleLanguage(station); // the progress window speaks it
+        UpdateDatabase(station.databases, station.basicDefault, QString(kDatabaseVersion) > version, watcher);
+    }
     NormaliseLanguage(station);
     SettleLanguage(station);
 }

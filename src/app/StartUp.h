@@ -1,13 +1,14 @@
 #pragma once
 
 #include "app/Station.h"
+#include "store/UpdateDatabase.h"
 
 // The steps of start-up and shut-down that need no window, each trapped on its own. Form_Initial calls them in order.
 
 // Opens the databases, with the repair from backups or the template when that fails.
 void OpenDatabases(Station& station);
-// Defaults, run-time facts, language and the version test.
-void ReadDefaults(Station& station);
+// Defaults, run-time facts, language and the version test; a database of another version is updated.
+void ReadDefaults(Station& station, UpdateWatcher& watcher);
 // A language that is not chosen yet (99, 0) from the system; the live language, its character set and the box styles.
 void NormaliseLanguage(Station& station);
 void SettleLanguage(Station& station);

@@ -67,6 +67,29 @@ void CopyDatabase(const QString& from, const QString& to)
     }
 }
 
+void CreateDatabase(const QString& file, const QString& statement)
+{
+    if (QFileInfo::exists(file))
+        throw StoreError(u"Cannot create '%1': it already exists"_s.arg(file));
+    RemoveCompanions(file);
+    const QString name = u"create "_s + file;
+    QString failure;
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, name);
+        database.setDatabaseName(file);
+        QSqlQuery query(database.open() ? QSqlQuery(database) : QSqlQuery());
+        if (!database.isOpen())
+            failure = database.lastError().text();
+        else if (!query.exec(statement))
+            failure = query.lastError().text();
+    }
+    QSqlDatabase::removeDatabase(name);
+    if (!failure.isEmpty()) {
+        QFile::remove(file);
+        throw StoreError(u"Cannot create '%1': %2"_s.arg(file, failure));
+    }
+}
+
 void RenameDatabase(const QString& from, const QString& to)
 {
     if (QFileInfo::exists(to))

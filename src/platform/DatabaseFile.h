@@ -7,6 +7,9 @@
 
 // Writes a consistent copy made by the database engine, whoever holds the source open; the target is replaced.
 void CopyDatabase(const QString& from, const QString& to);
+// Makes a new file with what one statement makes. Fails when the file exists; a file that cannot be made whole is
+// removed again.
+void CreateDatabase(const QString& file, const QString& statement);
 // Gives a file another name. Fails when the target exists, as a plain rename does.
 void RenameDatabase(const QString& from, const QString& to);
 void DeleteDatabase(const QString& file);

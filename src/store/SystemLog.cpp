@@ -2,6 +2,7 @@
 
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
+#include "platform/RowStream.h"
 #include "store/TableAccess.h"
 
 using namespace Qt::StringLiterals;
@@ -9,6 +10,48 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kSaveSource("Module_DB_Access - SaveSystemLog");
+
+constexpr QLatin1String kGetSource("Module_DB_Access - GetSystemLog");
+
+// Opens the log where it is closed and does some reading; 1 or 0.
+template <class Work>
+qint16 WithLog(Databases& databases, QLatin1String source, Work&& work)
+{
+    const bool ok = Trapped(source, [&] {
+        if (!databases.LogConn)
+            throw StoreError(u"Object variable not set"_s);
+        if (!databases.LogConn->isOpen())
+            databases.LogConn->open();
+        databases.LogRec->close();
+        work();
+    });
+    if (databases.LogRec)
+        databases.LogRec->close();
+    return ok ? 1 : 0;
+}
+
+struct Condition
+{
+    Condition(qint32 from, qint32 to, const QString& user)
+        : text(user.isEmpty() ? u"(TimeStamp >= ? And TimeStamp <= ?)"_s
+                              : u"(TimeStamp >= ? And TimeStamp <= ? And User = ?)"_s)
+        , values{from, to}
+    {
+        if (!user.isEmpty())
+            values << user;
+    }
+    QString text;
+    QVariantList values;
+};
+
+// A text as it stands, anywhere in a field.
+QString Pattern(const QString& text)
+{
+    QString pattern = text;
+    for (const QChar special : u"\\%_"_s)
+        pattern.replace(special, QString(u'\\') + special);
+    return u'%' + pattern + u'%';
+}
 
 void OpenLogTable(Databases& databases)
 {
@@ -64,30 +107,77 @@ qint16 SaveSystemLog(Databases& databases, qint32 timeStamp, const QString& user
 
 qint16 GetSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, std::vector<SystemLogRow>& rows)
 {
-    constexpr QLatin1String source("Module_DB_Access - GetSystemLog");
     rows.clear();
-    const bool ok = Trapped(source, [&] {
-        if (!databases.LogConn)
-            throw StoreError(u"Object variable not set"_s);
-        if (!databases.LogConn->isOpen())
-            databases.LogConn->open();
-        databases.LogRec->close();
-        QString condition = u"(TimeStamp >= ? And TimeStamp <= ?)"_s;
-        QVariantList values{from, to};
-        if (!user.isEmpty()) {
-            condition = u"(TimeStamp >= ? And TimeStamp <= ? And User = ?)"_s;
-            values << user;
-        }
-        databases.LogRec->open(u"Select * From SystemLog  WHERE "_s + condition + u" order by TimeStamp DESC"_s,
+    return WithLog(databases, kGetSource, [&] {
+        const Condition condition(from, to, user);
+        databases.LogRec->open(u"Select * From SystemLog  WHERE "_s + condition.text + u" order by TimeStamp DESC"_s,
                                *databases.LogConn, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Text,
-                               values);
-        TableAccess<SystemLogRow> access(*databases.LogRec, SystemLogColumns, source);
+                               condition.values);
+        TableAccess<SystemLogRow> access(*databases.LogRec, SystemLogColumns, kGetSource);
         for (; !databases.LogRec->eof(); databases.LogRec->moveNext())
             access.read(rows.emplace_back());
     });
-    if (databases.LogRec)
-        databases.LogRec->close();
-    return ok ? 1 : 0;
+}
+
+qint16 FindSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, const QString& filter,
+                     std::vector<SystemLogEntry>& entries)
+{
+    entries.clear();
+    return WithLog(databases, kGetSource, [&] {
+        Condition condition(from, to, user);
+        if (!filter.isEmpty()) {
+            condition.text += u" AND (User LIKE ? ESCAPE '\\' OR Description LIKE ? ESCAPE '\\')"_s;
+            condition.values << Pattern(filter) << Pattern(filter);
+        }
+        RowStream stream(*databases.LogConn,
+                         u"SELECT rowid, TimeStamp FROM SystemLog WHERE "_s + condition.text +
+                             u" ORDER BY TimeStamp DESC"_s,
+                         condition.values);
+        while (stream.next())
+            entries.push_back({stream.integer(0), Int32Field(stream.integer(1))});
+    });
+}
+
+qint16 FetchSystemLog(Databases& databases, std::span<const SystemLogEntry> entries, std::vector<SystemLogRow>& rows)
+{
+    rows.clear();
+    return WithLog(databases, kGetSource, [&] {
+        for (const SystemLogEntry& entry : entries) {
+            RowStream stream(*databases.LogConn,
+                             u"SELECT User, Description FROM SystemLog WHERE rowid = ? AND TimeStamp = ?"_s,
+                             {entry.rowId, entry.TimeStamp});
+            if (stream.next())
+                rows.push_back({entry.TimeStamp, QString::fromUtf8(stream.text(0)), QString::fromUtf8(stream.text(1))});
+        }
+    });
+}
+
+qint64 CountSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user)
+{
+    qint64 count = -1;
+    WithLog(databases, kGetSource, [&] {
+        const Condition condition(from, to, user);
+        RowStream stream(*databases.LogConn, u"SELECT COUNT(*) FROM SystemLog WHERE "_s + condition.text,
+                         condition.values);
+        if (stream.next())
+            count = stream.integer(0);
+    });
+    return count;
+}
+
+qint16 WalkSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, const SystemLogVisitor& visit)
+{
+    return WithLog(databases, kGetSource, [&] {
+        const Condition condition(from, to, user);
+        RowStream stream(*databases.LogConn,
+                         u"SELECT TimeStamp, User, Description FROM SystemLog WHERE "_s + condition.text +
+                             u" ORDER BY TimeStamp DESC"_s,
+                         condition.values);
+        while (stream.next()) {
+            if (!visit(Int32Field(stream.integer(0)), stream.text(1), stream.text(2)))
+                break;
+        }
+    });
 }
 
 qint16 GetSystemLogUser(Databases& databases, QStringList& users)

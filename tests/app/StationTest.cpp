@@ -62,7 +62,8 @@ protected:
     {
         fresh = std::make_unique<Station>();
         OpenDatabases(*fresh);
-        ReadDefaults(*fresh);
+        UpdateWatcher watcher;
+        ReadDefaults(*fresh, watcher);
         LoadRecords(*fresh);
         fresh->basicDefault.edit = fresh->basicDefault.stored;
         fresh->families.InitialSetValue();
@@ -344,7 +345,8 @@ TEST(SavingChild, Runs)
     SetAppPath(folder);
     auto station = std::make_unique<Station>();
     OpenDatabases(*station);
-    ReadDefaults(*station);
+    UpdateWatcher watcher;
+    ReadDefaults(*station, watcher);
     LoadRecords(*station);
     station->families.InitialSetValue();
     SVRRecord& work = station->recorders.SVRWorkList[0];

@@ -9,6 +9,8 @@
 #include "app/ui/RecordersPage.h"
 #include "app/ui/SystemPage.h"
 #include "app/ui/UsersPage.h"
+#include "app/ui/ToolingPage.h"
+#include "app/ui/UpdateWindow.h"
 #include "look/Icons.h"
 #include "look/NavRail.h"
 #include "look/PageHeader.h"
@@ -70,7 +72,8 @@ bool Form_Initial::Form_Load()
     SetBoxStyles(false);
     m_station.Loading = true;
     OpenDatabases(m_station);
-    ReadDefaults(m_station);
+    UpdateWindow updateWindow;
+    ReadDefaults(m_station, updateWindow);
     Trapped(kLoadSource, [&] { buildWindow(); });
 
     if (!m_instance.acquire()) {
@@ -202,6 +205,7 @@ void Form_Initial::buildPages()
                                  m_station.accounts, [this] { SaveCheck(m_station); }});
     connect(m_usersPage->lists(), &UserPage::usersChanged, this, &Form_Initial::showFirstUserNotice);
     m_pages[3] = m_usersPage;
+    m_pages[kTooling] = new ToolingPage(m_station);
     for (int index = 0; index < kPages; ++index) {
         SettingsPage*& page = m_pages[static_cast<std::size_t>(index)];
         if (!page)

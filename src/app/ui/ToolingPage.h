@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/Station.h"
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "app/ui/SettingsPage.h"
+#include "tooling/ui/Form_Tooling.h"
+
+#include <QVBoxLayout>
+
+inline constexpr int kSystemLogExportAction = 12;
+
+// Page 11 of the main window: hosts the viewers and exports.
+class ToolingPage : public SettingsPage
+{
+    Q_OBJECT
+
+public:
+    explicit ToolingPage(Station& station, QWidget* parent = nullptr)
+        : SettingsPage(parent)
+        , m_form(new Form_Tooling(station.databases, [&station] {
+            RunEventAction(station, kSystemLogExportAction, -1, {}, CurrentUser());
+        }))
+    {
+        auto* column = new QVBoxLayout(this);
+        column->setContentsMargins(0, 0, 0, 0);
+        column->addWidget(m_form);
+    }
+
+    void open() override { m_form->open(); }
+    void changeLanguage() override { m_form->changeLanguage(); }
+    QString subtitle() const override { return GetLangString(731); }
+
+private:
+    Form_Tooling* m_form;
+};

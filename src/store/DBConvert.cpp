@@ -1,0 +1,254 @@
+#include "store/DBConvert.h"
+
+#include "app/log/Module_Log.h"
+#include "support/Conversions.h"
+
+#include <QHash>
+#include <QSqlQuery>
+#include <QStringList>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String kConvertSource("clsDBConvert - ConvertDB");
+constexpr QLatin1String kMDROISource("clsDBConvert - ConvertMDROI");
+constexpr int kROILines = 24;
+constexpr int kROIWidth = 22; // shorter lines of an old bitmap are filled up to this
+
+QStringList TableNames(const Connection& connection)
+{
+    QSqlQuery query(connection.database());
+    query.setForwardOnly(true);
+    if (!query.exec(u"SELECT name FROM sqlite_master WHERE type='table' AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\'"_s))
+        throw StoreError(u"Cannot list the tables"_s, query.lastError());
+    QStringList names;
+    while (query.next())
+        names << query.value(0).toString();
+    return names;
+}
+
+// The column that numbers itself (lower case), empty without one: a whole-number primary key stands for the row id.
+QString NumberingColumn(const Connection& connection, const QString& table)
+{
+    QSqlQuery query(connection.database());
+    query.setForwardOnly(true);
+    query.prepare(u"SELECT lower(name), upper(type) FROM pragma_table_info(?) WHERE pk > 0"_s);
+    query.addBindValue(table);
+    if (!query.exec() || !query.next() || query.value(1).toString() != "INTEGER"_L1)
+        return {};
+    const QString name = query.value(0).toString();
+    return query.next() ? QString() : name; // a key of several columns numbers nothing
+}
+
+struct ChannelFacts
+{
+    QVariant lSub_CH_IntelligentID;
+    QVariant bSub_CH_MD_Enable;
+};
+
+using ChannelTable = QHash<std::pair<qint64, qint64>, ChannelFacts>;
+
+// Hands over each row's number, channel and the given field of the table SVR; nothing when the table lacks the field.
+template <class Take>
+void WalkSVR(Connection& connection, const QString& field, Take&& take)
+{
+    Recordset rows;
+    rows.open(u"SVR"_s, connection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+    if (!rows.fieldNames().contains(field, Qt::CaseInsensitive))
+        return;
+    rows.open(u"Select iSVR_Num,iSub_Channel,%1 From SVR"_s.arg(field), connection, CursorType::ForwardOnly,
+              LockType::ReadOnly, CommandType::Text);
+    for (; !rows.eof(); rows.moveNext())
+        take(std::pair(rows.value(0).toLongLong(), rows.value(1).toLongLong()), rows.value(2));
+}
+
+// The converted recorders by number and channel, the first row of each. The switch of motion detection is a field of
+// old layouts only.
+ChannelTable ReadChannels(Connection& source, Connection& target)
+{
+    ChannelTable table;
+    WalkSVR(target, u"lSub_CH_IntelligentID"_s, [&](const auto& key, const QVariant& value) {
+        if (!table.contains(key))
+            table.insert(key, {value, {}});
+    });
+    for (Connection* connection : {&target, &source}) {
+        Trapped(kMDROISource, [&] {
+            WalkSVR(*connection, u"bSub_CH_MD_Enable"_s, [&](const auto& key, const QVariant& value) {
+                const auto found = table.find(key);
+                if (found != table.end() && found->bSub_CH_MD_Enable.isNull())
+                    found->bSub_CH_MD_Enable = value;
+            });
+        });
+    }
+    return table;
+}
+
+QString ROILine(const QString& bitmap, int line, int rows, int columns)
+{
+    QString text;
+    if (line < rows && columns > 0)
+        text = bitmap.mid(qsizetype(columns) * line, columns);
+    return text.leftJustified(kROIWidth, u'0');
+}
+
+int NewSensitivity(qint32 old)
+{
+    switch (old) {
+    case 4000:
+        return 30;
+    case 2000:
+        return 50;
+    case 1000:
+        return 80;
+    default:
+        return -1;
+    }
+}
+
+} // namespace
+
+bool clsDBConvert::ConvertDB(const QString& source, const QString& target)
+{
+    bool complete = false;
+    Trapped(kConvertSource, [&] {
+        m_sourceConnection.setConnectionString(DatabaseConnectionString(source));
+        m_targetConnection.setConnectionString(DatabaseConnectionString(target));
+        m_sourceConnection.openAsIs();
+        m_targetConnection.openAsIs();
+
+        const QString targetList = TableNames(m_targetConnection).join(u';') + u';';
+        QStringList tables;
+        bool hasMDROI = false;
+        const QStringList sourceTables = TableNames(m_sourceConnection);
+        for (const QString& name : sourceTables) {
+            if (name == "MDROI"_L1)
+                hasMDROI = true;
+            else if (targetList.contains(name))
+                tables << name;
+        }
+        // The working file becomes the database only as a whole: one transaction spares a disk write for each row.
+        execute(u"BEGIN"_s);
+        for (const QString& table : std::as_const(tables))
+            Trapped(kConvertSource, [&] { copyTable(table); });
+        if (hasMDROI)
+            Trapped(kMDROISource, [&] { ConvertMDROI(); });
+        m_source.close();
+        m_target.close();
+        execute(u"COMMIT"_s);
+        complete = true;
+    });
+    m_source.close();
+    m_target.close();
+    m_sourceConnection.close();
+    m_targetConnection.close();
+    return complete;
+}
+
+void clsDBConvert::execute(const QString& sql)
+{
+    QSqlQuery query(m_targetConnection.database());
+    if (!query.exec(sql))
+        throw StoreError(sql, query.lastError());
+}
+
+void clsDBConvert::report(const QString& table, qint64 row, qint64 rows)
+{
+    if (m_progress)
+        m_progress(table, row, rows);
+}
+
+void clsDBConvert::placeTarget(qint64 index, qint64 targetRows)
+{
+    if (index + 1 > targetRows) {
+        m_target.addNew();
+        return;
+    }
+    m_target.moveFirst();
+    m_target.move(index);
+}
+
+void clsDBConvert::copyTable(const QString& table)
+{
+    m_source.close();
+    m_target.close();
+    m_source.open(table, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+    m_target.open(table, m_targetConnection, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
+    const qint64 rows = m_source.recordCount();
+    const qint64 targetRows = m_target.recordCount();
+
+    std::vector<std::pair<int, int>> fields; // source, target
+    const QString numbering = NumberingColumn(m_targetConnection, table);
+    QHash<QString, int> targetFields;
+    const QStringList targetNames = m_target.fieldNames();
+    for (int i = 0; i < static_cast<int>(targetNames.size()); ++i)
+        targetFields.insert(targetNames.at(i).toLower(), i);
+    const QStringList sourceNames = m_source.fieldNames();
+    for (int i = 0; i < static_cast<int>(sourceNames.size()); ++i) {
+        const QString name = sourceNames.at(i).toLower();
+        // The version stays the template's, or the next start would convert again.
+        if (targetFields.contains(name) && name != numbering && name != "sdbver"_L1)
+            fields.emplace_back(i, targetFields.value(name));
+    }
+
+    if (table == "EventTrigger"_L1)
+        m_source.open(u"Select * From EventTrigger ORDER BY SN"_s, m_sourceConnection, CursorType::ForwardOnly,
+                      LockType::ReadOnly, CommandType::Text);
+    else
+        m_source.open(table, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Table);
+    for (qint64 i = 0; !m_source.eof(); ++i) {
+        report(table, i + 1, rows);
+        Trapped(kConvertSource, [&] {
+            placeTarget(i, targetRows);
+            for (const auto& [from, to] : fields)
+                m_target.setValue(to, m_source.value(from));
+            m_target.update();
+        });
+        m_source.moveNext();
+    }
+}
+
+void clsDBConvert::ConvertMDROI()
+{
+    const ChannelTable channels = ReadChannels(m_sourceConnection, m_targetConnection);
+    const auto walk = [&](const QString& target, auto&& fill) {
+        m_source.close();
+        m_target.close();
+        m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+        const qint64 rows = m_source.recordCount();
+        m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Table);
+        m_target.open(target, m_targetConnection, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
+        const qint64 targetRows = m_target.recordCount();
+        for (qint64 i = 0; !m_source.eof(); ++i) {
+            report(u"MDROI"_s, i + 1, rows);
+            Trapped(kMDROISource, [&] {
+                placeTarget(i, targetRows);
+                const auto channel =
+                    channels.constFind({m_source.value(u"iSVR"_s).toLongLong(), m_source.value(u"iCH"_s).toLongLong()});
+                if (channel != channels.constEnd())
+                    m_target.setValue(u"Channel"_s, channel->lSub_CH_IntelligentID);
+                fill(channel == channels.constEnd() ? nullptr : &*channel);
+                m_target.update();
+            });
+            m_source.moveNext();
+        }
+    };
+
+    Trapped(kMDROISource, [&] {
+        walk(u"MotionROI"_s, [&](const ChannelFacts*) {
+            const int rows = Int16Field(m_source.value(u"iRow"_s));
+            const int columns = Int16Field(m_source.value(u"iCol"_s));
+            const QString bitmap = TextField(m_source.value(u"sROI"_s));
+            for (int line = 0; line < kROILines; ++line)
+                m_target.setValue(u"ROI_%1"_s.arg(line, 2, 10, QLatin1Char('0')), ROILine(bitmap, line, rows, columns));
+        });
+    });
+    walk(u"MotionSettings"_s, [&](const ChannelFacts* channel) {
+        if (channel && !channel->bSub_CH_MD_Enable.isNull())
+            m_target.setValue(u"Enable"_s, channel->bSub_CH_MD_Enable);
+        const int sensitivity = NewSensitivity(Int32Field(m_source.value(u"iMD_Sen"_s)));
+        if (sensitivity >= 0)
+            m_target.setValue(u"Sensitivity"_s, QVariant(sensitivity));
+    });
+}

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Connection.h"
+#include "platform/Recordset.h"
+
+#include <QString>
+#include <functional>
+
+// Told before each row: the table, the row's number from 1 and the number of rows. Lets the progress window paint.
+using ConvertProgress = std::function<void(const QString& table, qint64 row, qint64 rows)>;
+
+// Carries the data of an old configuration database over into a copy of the current template: every table and field
+// that both files have, by name. Rows of the template are overwritten in place, further rows are added.
+class clsDBConvert
+{
+public:
+    explicit clsDBConvert(ConvertProgress progress = {})
+        : m_progress(std::move(progress))
+    {
+    }
+
+    // Paths are platform paths. A row or table that fails costs one log line and the copy goes on. True when both
+    // files could be opened and the target holds all that was written; false leaves the target as it was.
+    bool ConvertDB(const QString& source, const QString& target);
+
+private:
+    void copyTable(const QString& table);
+    // Fills MotionROI and MotionSettings from the old table MDROI (region bitmap and sensitivity of a channel).
+    void ConvertMDROI();
+    void execute(const QString& sql);
+    // The target's row number `index` (from 0) becomes the one that is set, a new one behind the last.
+    void placeTarget(qint64 index, qint64 targetRows);
+    void report(const QString& table, qint64 row, qint64 rows);
+
+    ConvertProgress m_progress;
+    Connection m_sourceConnection;
+    Connection m_targetConnection;
+    Recordset m_source;
+    Recordset m_target;
+};

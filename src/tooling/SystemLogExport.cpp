@@ -1,0 +1,163 @@
+#include "tooling/SystemLogExport.h"
+
+#include "platform/Clock.h"
+#include "platform/DatabaseFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlQuery>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype kBlock = 1 << 16; // bytes gathered before they are written
+constexpr qint64 kReportEvery = 512;  // rows
+
+// Walks over the rows; throws what stopped the writing, or that the log could not be read.
+bool Walk(Databases& databases, const SystemLogQuery& query, const ExportProgress& progress,
+          const std::function<void(qint32, QByteArrayView, QByteArrayView)>& write)
+{
+    qint64 rows = 0;
+    bool stopped = false;
+    std::exception_ptr failure;
+    const qint16 read = WalkSystemLog(databases, query.from, query.to, query.user,
+                                      [&](qint32 time, QByteArrayView user, QByteArrayView description) {
+                                          try {
+                                              write(time, user, description);
+                                          } catch (...) {
+                                              failure = std::current_exception();
+                                              return false;
+                                          }
+                                          if (++rows % kReportEvery == 0 && progress && !progress(rows))
+                                              stopped = true;
+                                          return !stopped;
+                                      });
+    if (failure)
+        std::rethrow_exception(failure);
+    if (read != 1)
+        throw StoreError(u"The audit log could not be read"_s);
+    if (!stopped && progress)
+        progress(rows);
+    return !stopped;
+}
+
+// An export file that is taken back unless keep() was reached.
+class TextFile
+{
+public:
+    explicit TextFile(const QString& name)
+        : m_file(name)
+        , m_wasThere(m_file.exists())
+        , m_size(m_file.size())
+    {
+        if (!m_file.open(QIODevice::Append | QIODevice::Unbuffered))
+            fail();
+    }
+    ~TextFile()
+    {
+        if (m_kept || !m_file.isOpen())
+            return;
+        m_file.resize(m_size);
+        m_file.close();
+        if (!m_wasThere)
+            m_file.remove();
+    }
+    TextFile(const TextFile&) = delete;
+    TextFile& operator=(const TextFile&) = delete;
+
+    void write(const QByteArray& bytes)
+    {
+        if (m_file.write(bytes) != bytes.size())
+            fail();
+    }
+    void keep()
+    {
+        m_file.close();
+        if (m_file.error() != QFileDevice::NoError)
+            fail();
+        m_kept = true;
+    }
+
+private:
+    [[noreturn]] void fail()
+    {
+        throw StoreError(u"Cannot write '%1': %2"_s.arg(m_file.fileName(), m_file.errorString()));
+    }
+    QFile m_file;
+    bool m_wasThere;
+    qint64 m_size;
+    bool m_kept = false;
+};
+
+} // namespace
+
+QString SystemLogExportStem()
+{
+    return u"Systemlog_Export_"_s + Now().toString(u"yyyyMMddhhmmss"_s);
+}
+
+QString ExportSystemLogCsv(Databases& databases, const SystemLogQuery& query, const QString& folder,
+                           const QString& stem, const ExportProgress& progress)
+{
+    const QString name = QDir(folder).filePath(stem + u".csv"_s);
+    TextFile file(name);
+    LogTimes times;
+    QByteArray block = "Date,Time,User,Description\n";
+    block.reserve(kBlock + 1024);
+    const bool whole =
+        Walk(databases, query, progress, [&](qint32 time, QByteArrayView user, QByteArrayView description) {
+            times.append(block, time, ',');
+            block += ',';
+            block += user;
+            block += ',';
+            block += description;
+            block += '\n';
+            if (block.size() >= kBlock) {
+                file.write(block);
+                block.resize(0);
+            }
+        });
+    if (!whole)
+        return {};
+    file.write(block);
+    file.keep();
+    return name;
+}
+
+QString ExportSystemLogMdb(Databases& databases, const SystemLogQuery& query, const QString& folder,
+                           const QString& stem, const ExportProgress& progress)
+{
+    const QString name = QDir(folder).filePath(stem + u".mdb"_s);
+    CreateDatabase(name, u"CREATE TABLE SYSTEMLOG(LogTime CHAR(50),LoginUser CHAR(50),Description CHAR(255))"_s);
+    try {
+        Connection connection;
+        connection.setConnectionString(DatabaseConnectionString(name));
+        connection.openAsIs();
+        QSqlQuery insert(connection.database());
+        const auto execute = [&](const QString& sql) {
+            if (!insert.exec(sql))
+                throw StoreError(u"Cannot write '%1'"_s.arg(name), insert.lastError());
+        };
+        execute(u"BEGIN"_s);
+        insert.prepare(u"INSERT INTO SYSTEMLOG VALUES (?,?,?)"_s);
+        LogTimes times;
+        const bool whole =
+            Walk(databases, query, progress, [&](qint32 time, QByteArrayView user, QByteArrayView description) {
+                insert.bindValue(0, times.longText(time));
+                insert.bindValue(1, QString::fromUtf8(user));
+                insert.bindValue(2, QString::fromUtf8(description));
+                if (!insert.exec())
+                    throw StoreError(u"Cannot write '%1'"_s.arg(name), insert.lastError());
+            });
+        execute(whole ? u"COMMIT"_s : u"ROLLBACK"_s);
+        if (whole)
+            return name;
+    } catch (const StoreError&) {
+        DeleteDatabase(name); // it is this export's own
+        throw;
+    }
+    DeleteDatabase(name);
+    return {};
+}

@@ -1,0 +1,310 @@
+#include "tooling/ui/Form_Tooling.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "look/Icons.h"
+#include "look/Tables.h"
+#include "platform/Clock.h"
+#include "platform/FolderChooser.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "support/TimeSeconds.h"
+#include "tooling/SystemLogExport.h"
+#include "tooling/ui/ui_Form_Tooling.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QShortcut>
+#include <QTimer>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 kPaintEvery = 40;  // milliseconds
+constexpr int kFilterDelay = 200;   // milliseconds after the last key
+const QDate kFirstDate(1970, 1, 2); // what fits the stamps of audit rows in every zone
+const QDate kLastDate(2038, 1, 17);
+
+// Keeps a widget inactive for the life of the object; the keyboard returns to where it was.
+class Inactive
+{
+public:
+    explicit Inactive(std::initializer_list<QWidget*> widgets)
+        : m_widgets(widgets)
+        , m_focus(QApplication::focusWidget())
+    {
+        for (QWidget* widget : m_widgets)
+            widget->setEnabled(false);
+    }
+    ~Inactive()
+    {
+        for (QWidget* widget : m_widgets)
+            widget->setEnabled(true);
+        if (m_focus)
+            m_focus->setFocus();
+    }
+    Inactive(const Inactive&) = delete;
+    Inactive& operator=(const Inactive&) = delete;
+
+private:
+    QList<QWidget*> m_widgets;
+    QPointer<QWidget> m_focus;
+};
+
+} // namespace
+
+Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported, QWidget* parent)
+    : QWidget(parent)
+    , m_databases(databases)
+    , m_exported(std::move(exported))
+    , m_ui(std::make_unique<Ui::Form_Tooling>())
+    , m_model(new SystemLogModel(databases, this))
+    , m_filterDelay(new QTimer(this))
+{
+    m_ui->setupUi(this);
+    m_ui->lbSysSearch->setIcon(Icon("search"_L1));
+    m_ui->Cmd_SystemExport->setIcon(Icon("export"_L1));
+    m_ui->btnCopyRows->setIcon(Icon("copy"_L1));
+    m_ui->btnOpenFolder->setIcon(Icon("folder"_L1));
+    m_ui->btnOpenFolder->hide();
+    m_ui->ProgressBar_Export->hide();
+    m_ui->lbExportState->hide();
+    QTableView* grid = m_ui->Grid_SystemLog;
+    grid->setModel(m_model);
+    StyleTable(grid);
+    MonospaceColumn(grid, SystemLogModel::Time);
+    grid->setColumnWidth(SystemLogModel::Time, 150);
+    grid->setColumnWidth(SystemLogModel::User, 130);
+    grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
+
+    const std::array buttons{m_ui->lbSysPageControl_0, m_ui->lbSysPageControl_1, m_ui->lbSysPageControl_2,
+                             m_ui->lbSysPageControl_3, m_ui->lbSysPageControl_4};
+    const std::array icons{"first"_L1, "previous"_L1, "following"_L1, "last"_L1, "refresh"_L1};
+    for (std::size_t i = 0; i < buttons.size(); ++i) {
+        buttons[i]->setIcon(Icon(icons[i]));
+        connect(buttons[i], &QToolButton::clicked, this, [this, i] { lbSysPageControl_Click(static_cast<int>(i)); });
+    }
+    connect(m_ui->lbSysSearch, &QPushButton::clicked, this, &Form_Tooling::lbSysSearch_Click);
+    connect(m_ui->Cmd_SystemExport, &QPushButton::clicked, this, &Form_Tooling::Cmd_SystemExport_Click);
+    connect(m_ui->btnCopyRows, &QPushButton::clicked, this, &Form_Tooling::copyRows);
+    connect(m_ui->btnOpenFolder, &QPushButton::clicked, this,
+            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(m_folder)); });
+    connect(new QShortcut(QKeySequence::Copy, grid, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
+            &Form_Tooling::copyRows);
+    m_filterDelay->setSingleShot(true);
+    m_filterDelay->setInterval(kFilterDelay);
+    connect(m_ui->txtSysFilter, &QLineEdit::textChanged, m_filterDelay, qOverload<>(&QTimer::start));
+    connect(m_filterDelay, &QTimer::timeout, this, [this] {
+        Trapped("Form_Tooling - txtSysFilter_Change",
+                [&] { drawPage(m_model->setFilter(m_ui->txtSysFilter->text())); });
+    });
+    const auto followChecks = [this] {
+        m_ui->Cmb_SystemViewerUser->setEnabled(m_ui->Chk_SystemViewer->isChecked());
+        const QList<QWidget*> fields{m_ui->DTPicker_SystemExport_0, m_ui->DTPicker_SystemExport_1,
+                                     m_ui->DTPicker_SystemExport_2, m_ui->DTPicker_SystemExport_3,
+                                     m_ui->Cmb_SystemExportUser};
+        for (QWidget* field : fields)
+            field->setEnabled(m_ui->Chk_SystemExport->isChecked());
+    };
+    connect(m_ui->Chk_SystemViewer, &QCheckBox::toggled, this, followChecks);
+    connect(m_ui->Chk_SystemExport, &QCheckBox::toggled, this, followChecks);
+    followChecks();
+    setPickers();
+}
+
+Form_Tooling::~Form_Tooling() = default;
+
+// A day back from the present, until the end of it.
+void Form_Tooling::setPickers()
+{
+    const QDate today = Now().date();
+    for (const QLatin1String frame : {"DTPicker_SystemViewer_"_L1, "DTPicker_SystemExport_"_L1}) {
+        for (int i = 0; i < 4; ++i) {
+            const QString name = frame + QString::number(i);
+            if (auto* date = findChild<QDateEdit*>(name)) {
+                date->setDisplayFormat(u"yyyy/MM/dd"_s);
+                date->setDateRange(kFirstDate, kLastDate);
+                date->setCalendarPopup(true);
+                date->setDate(i == 0 ? today.addDays(-1) : today);
+            } else if (auto* time = findChild<QTimeEdit*>(name)) {
+                time->setDisplayFormat(u"HH:mm:ss"_s);
+                time->setTime(i == 1 ? QTime(0, 0) : QTime(23, 59, 59));
+            }
+        }
+    }
+}
+
+void Form_Tooling::open()
+{
+    QStringList users;
+    GetSystemLogUser(m_databases, users);
+    users.removeAll(QString());
+    users.sort();
+    fillUsers(m_ui->Cmb_SystemViewerUser, users);
+    fillUsers(m_ui->Cmb_SystemExportUser, QStringList(QString()) + users);
+}
+
+void Form_Tooling::fillUsers(QComboBox* box, const QStringList& users)
+{
+    const QString present = box->currentText();
+    box->clear();
+    box->addItems(users);
+    box->setCurrentIndex(qMax(0, static_cast<int>(users.indexOf(present))));
+}
+
+void Form_Tooling::changeLanguage()
+{
+    m_ui->lbSysSearch->setText(GetLangString(170));
+    m_ui->txtSysFilter->setPlaceholderText(GetLangString(930));
+    m_ui->txtSysFilter->setAccessibleName(GetLangString(930));
+    m_ui->Grid_SystemLog->setAccessibleName(GetLangString(731));
+    m_ui->Cmb_SystemViewerUser->setAccessibleName(GetLangString(465));
+    m_ui->ProgressBar_Export->setAccessibleName(GetLangString(730));
+    for (int i = 0; i < 5; ++i)
+        findChild<QToolButton*>(u"lbSysPageControl_%1"_s.arg(i))->setAccessibleName(GetLangString(939 + i));
+    for (const QLatin1String frame : {"DTPicker_SystemViewer_"_L1, "DTPicker_SystemExport_"_L1}) {
+        for (int i = 0; i < 4; ++i)
+            findChild<QWidget*>(frame + QString::number(i))->setAccessibleName(GetLangString(i < 2 ? 735 : 736));
+    }
+    m_model->retranslate();
+    drawPage(!m_failed);
+}
+
+bool Form_Tooling::readSpan(const QString& pickers, SystemLogQuery& query)
+{
+    const auto seconds = [&](int first) {
+        return TimeToUtcSeconds(QDateTime(findChild<QDateEdit*>(pickers + QString::number(first))->date(),
+                                          findChild<QTimeEdit*>(pickers + QString::number(first + 1))->time()));
+    };
+    query.from = seconds(0);
+    query.to = seconds(2);
+    if (query.from < query.to)
+        return true;
+    MsgBox(GetLangString(742), InfoBoxStyle(), GetLangString(570));
+    return false;
+}
+
+void Form_Tooling::lbSysSearch_Click()
+{
+    Trapped("Form_Tooling - lbSysSearch_Click", [&] {
+        SystemLogQuery query;
+        const Inactive inactive{m_ui->Grid_SystemLog, m_ui->Frame_SystemViewer};
+        if (!readSpan(u"DTPicker_SystemViewer_"_s, query))
+            return;
+        if (m_ui->Chk_SystemViewer->isChecked())
+            query.user = m_ui->Cmb_SystemViewerUser->currentText();
+        drawPage(m_model->search(query));
+    });
+}
+
+void Form_Tooling::lbSysPageControl_Click(int button)
+{
+    Trapped("Form_Tooling - lbSysPageControl_Click", [&] { drawPage(m_model->pageControl(button)); });
+}
+
+void Form_Tooling::drawPage(bool ok)
+{
+    m_failed = !ok;
+    const bool none = m_model->found() == 0;
+    const bool filtered = !m_ui->txtSysFilter->text().isEmpty();
+    if (!ok || !m_model->searched() || (none && !filtered)) {
+        m_ui->empty->setHeadline(GetLangString(!ok ? 933 : m_model->searched() ? 744 : 731));
+        m_ui->empty->setHint(GetLangString(!ok ? 946 : 937));
+        m_ui->stack->setCurrentWidget(m_ui->emptyPage);
+        return;
+    }
+    m_ui->stack->setCurrentWidget(m_ui->listPage);
+    m_ui->lbFound->setText(none ? GetLangString(931) : GetLangString(932).arg(m_model->found()));
+    m_ui->Lb_SystemViewer_2->setText(m_model->pageText());
+    m_ui->lbSysPageControl_0->setEnabled(m_model->canGoBack());
+    m_ui->lbSysPageControl_1->setEnabled(m_model->canGoBack());
+    m_ui->lbSysPageControl_2->setEnabled(m_model->canGoOn());
+    m_ui->lbSysPageControl_3->setEnabled(m_model->canGoOn());
+    m_ui->btnCopyRows->setEnabled(!none);
+}
+
+// The selected rows, without a selection the whole page.
+void Form_Tooling::copyRows()
+{
+    QList<int> rows;
+    const QModelIndexList selected = m_ui->Grid_SystemLog->selectionModel()->selectedRows();
+    for (const QModelIndex& index : selected)
+        rows << index.row();
+    std::sort(rows.begin(), rows.end());
+    for (int row = 0; selected.isEmpty() && row < m_model->rowCount(); ++row)
+        rows << row;
+    QGuiApplication::clipboard()->setText(m_model->copyText(rows));
+}
+
+void Form_Tooling::Cmd_SystemExport_Click()
+{
+    Trapped("Form_Tooling - Cmd_SystemExport_Click", [&] {
+        const Inactive inactive{m_ui->exportFields, m_ui->Frame_SystemViewer, m_ui->stack};
+        m_ui->btnOpenFolder->hide();
+        m_ui->lbExportState->hide();
+        const QString folder = OpenDirectoryTV(u"Test"_s);
+        if (!folder.isEmpty())
+            exportTo(folder);
+        m_ui->ProgressBar_Export->hide();
+    });
+}
+
+void Form_Tooling::exportTo(const QString& folder)
+{
+    SystemLogQuery query{0, TimeToUtcSeconds(Now()), {}};
+    if (m_ui->Chk_SystemExport->isChecked()) {
+        if (!readSpan(u"DTPicker_SystemExport_"_s, query))
+            return;
+        query.user = m_ui->Cmb_SystemExportUser->currentText();
+    }
+    const qint64 rows = CountSystemLog(m_databases, query.from, query.to, query.user);
+    if (rows <= 0) {
+        if (rows < 0) {
+            m_ui->lbExportState->setStatus(Status::Bad, GetLangString(933));
+            m_ui->lbExportState->show();
+        }
+        MsgBox(GetLangString(744), InfoBoxStyle(), GetLangString(570));
+        return;
+    }
+    QProgressBar* bar = m_ui->ProgressBar_Export;
+    bar->setRange(0, static_cast<int>(rows));
+    bar->setValue(0);
+    bar->show();
+    QElapsedTimer painted;
+    painted.start();
+    const auto progress = [&](qint64 done) {
+        if (painted.elapsed() >= kPaintEvery) {
+            bar->setValue(static_cast<int>(done));
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+            painted.restart();
+        }
+        return !Closing();
+    };
+    const bool database = m_ui->Opt_SysExport_1->isChecked();
+    const QString stem = SystemLogExportStem();
+    QString file;
+    QString reason;
+    Trapped("Form_Tooling - Cmd_SystemExport_Click", [&] {
+        try {
+            file = database ? ExportSystemLogMdb(m_databases, query, folder, stem, progress)
+                            : ExportSystemLogCsv(m_databases, query, folder, stem, progress);
+        } catch (const std::exception& error) {
+            reason = QString::fromUtf8(error.what());
+            throw;
+        }
+    });
+    if (Closing())
+        return;
+    bar->setValue(static_cast<int>(rows));
+    m_folder = folder;
+    m_ui->btnOpenFolder->setVisible(!file.isEmpty());
+    m_ui->lbExportState->setStatus(file.isEmpty() ? Status::Bad : Status::Ok,
+                                   file.isEmpty() ? GetLangString(938) : QFileInfo(file).fileName());
+    m_ui->lbExportState->setToolTip(file.isEmpty() ? reason : file);
+    m_ui->lbExportState->show();
+    MsgBox(GetLangString(database ? 746 : 745), InfoBoxStyle(), GetLangString(570));
+    m_exported();
+}

@@ -1,0 +1,270 @@
+#include "app/StartUp.h"
+#include "app/language/Languages.h"
+#include "platform/Clock.h"
+#include "platform/DatabaseFile.h"
+#include "store/DBConvert.h"
+#include "store/UpdateDatabase.h"
+#include "tests/store/StoreFixture.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QSqlRecord>
+
+#include <csignal>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Runs statements on a file, which is made when it is not there.
+void Make(const QString& file, const QStringList& statements)
+{
+    {
+        QSqlDatabase database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"old"_s);
+        database.setDatabaseName(file);
+        ASSERT_TRUE(database.open());
+        for (const QString& statement : statements) {
+            QSqlQuery query(database);
+            EXPECT_TRUE(query.exec(statement)) << statement.toStdString() << query.lastError().text().toStdString();
+        }
+        database.close();
+    }
+    QSqlDatabase::removeDatabase(u"old"_s);
+}
+
+QString Ask(const QString& file, const QString& statement)
+{
+    Connection connection;
+    connection.setConnectionString(DatabaseConnectionString(file));
+    connection.openAsIs();
+    QSqlQuery query(connection.database());
+    if (!query.exec(statement))
+        return u"error: "_s + query.lastError().text();
+    QStringList rows;
+    while (query.next()) {
+        QStringList cells;
+        for (int i = 0; i < query.record().count(); ++i)
+            cells << query.value(i).toString();
+        rows << cells.join(u'|');
+    }
+    return rows.join(u'\n');
+}
+
+QString Version(const QString& version, const QString& name)
+{
+    return u"INSERT INTO BasicDefault VALUES('%1','Omlu',7,'%2',1234)"_s.arg(version, name);
+}
+
+// A layout of long ago: fewer fields and tables, some that are gone, groups by name, the old region table.
+QStringList OldLayout(const QString& version, const QString& name)
+{
+    return {
+        u"CREATE TABLE BasicDefault(sDBVer TEXT, sBrand TEXT, iLanguage INTEGER, sSystemName TEXT, lGone INTEGER)"_s,
+        Version(version, name),
+        u"CREATE TABLE GroupPrivilege(GroupID INTEGER, Name TEXT)"_s,
+        u"INSERT INTO GroupPrivilege VALUES(1,'Chiefs'),(2,'Guards')"_s,
+        u"CREATE TABLE ListenServer(aID INTEGER)"_s,
+        u"INSERT INTO ListenServer VALUES(1),(2),(3),(4),(5)"_s,
+        u"CREATE TABLE SVR(iSVR_Num INTEGER, sSVR_Name TEXT, iSub_Channel INTEGER, lSub_CH_IntelligentID INTEGER, "
+        "bSub_CH_MD_Enable INTEGER)"_s,
+        u"INSERT INTO SVR VALUES(1,'O''Brien',1,11,1),(1,'O''Brien',2,12,0),(2,NULL,1,21,1)"_s,
+        u"CREATE TABLE Gone(x INTEGER)"_s,
+        u"CREATE TABLE SVD_P(x INTEGER)"_s,
+        u"CREATE TABLE MDROI(iSVR INTEGER, iCH INTEGER, iRow INTEGER, iCol INTEGER, sROI TEXT, iMD_Sen INTEGER)"_s,
+        u"INSERT INTO MDROI VALUES(1,1,2,4,'11110101',4000),(1,2,30,2,'%1',1000),(2,1,1,25,'%2',3000),"
+        "(9,9,1,4,'1',2000)"_s.arg(QString(60, u'1'), QString(25, u'1')),
+    };
+}
+
+class UpgradeTest : public StoreFixture
+{
+protected:
+    UpgradeTest() { SetLanguage(1); }
+    void start()
+    {
+        UpdateWatcher watcher;
+        auto fresh = std::make_unique<Station>();
+        OpenDatabases(*fresh);
+        ReadDefaults(*fresh, watcher);
+    }
+    QString now(const QString& statement) { return Ask(path(kDatabaseFile), statement); }
+    // Files under their seconds names.
+    QStringList aside() const
+    {
+        QStringList files;
+        const QStringList names = QDir(path(u"\\Database")).entryList({u"*.Database.mdb"_s}, QDir::Files);
+        for (const QString& name : names)
+            files << path(u"\\Database\\") + name;
+        return files;
+    }
+};
+
+TEST_F(UpgradeTest, OldDataIsCarriedOverByName)
+{
+    PinClock(QDateTime(QDate(2026, 11, 24), QTime(12, 0)));
+    Make(path(kDatabaseFile), OldLayout(u"1.0.1.9"_s, u"Harbour"_s));
+    start();
+    PinClock(QDateTime());
+
+    EXPECT_EQ(now(u"SELECT sDBVer,sBrand,sSystemName,iLanguage,iHttpPort,iSnapCount FROM BasicDefault"_s),
+              u"1.0.2.1|Omlu|Harbour|7|80|1"_s);
+    EXPECT_EQ(now(u"SELECT Name,Live FROM GroupPrivilege LIMIT 3"_s), u"Chiefs|1\nGuards|1\nUser|1"_s);
+    EXPECT_EQ(now(u"SELECT COUNT(*) FROM GroupPrivilege"_s), u"7"_s) << "the rest of the template's rows stays";
+    EXPECT_EQ(now(u"SELECT group_concat(aID) FROM ListenServer"_s), u"1,2,3,4,5"_s) << "further rows are added";
+    EXPECT_EQ(now(u"SELECT sSVR_Name,lSub_CH_IntelligentID FROM SVR"_s), u"O'Brien|11\nO'Brien|12\n|21"_s);
+    EXPECT_EQ(now(u"SELECT COUNT(*) FROM sqlite_master WHERE name IN ('Gone','SVD_P','MDROI')"_s), u"0"_s);
+    EXPECT_EQ(logLines("clsDBConvert - ConvertDB"), 1) << "only the table that is part of a longer name fails";
+    ASSERT_EQ(aside(), QStringList{path(u"\\Database\\1795521600.Database.mdb")});
+    EXPECT_EQ(Ask(aside().first(), u"SELECT x FROM Gone"_s), QString());
+    EXPECT_EQ(Ask(aside().first(), u"SELECT sDBVer FROM BasicDefault"_s), u"1.0.1.9"_s);
+    EXPECT_FALSE(QFile::exists(path(u"\\Database\\Database_Convert.mdb")));
+
+    start();
+    EXPECT_EQ(aside().size(), 1) << "the next start finds the present version";
+}
+
+TEST_F(UpgradeTest, RegionsBecomeMotionRows)
+{
+    Make(path(kDatabaseFile), OldLayout(u"1.0.1.9"_s, u"x"_s));
+    start();
+    const QString none(22, u'0');
+    EXPECT_EQ(now(u"SELECT Channel,ROI_00,ROI_01,ROI_02,ROI_23 FROM MotionROI"_s),
+              u"11|1111%1|0101%1|%2|%2\n12|11%3|11%3|11%3|11%3\n21|%4|%2|%2|%2\n0|1%5|%2|%2|%2"_s.arg(
+                  QString(18, u'0'), none, QString(20, u'0'), QString(25, u'1'), QString(21, u'0')));
+    EXPECT_EQ(now(u"SELECT Channel,Enable,Sensitivity FROM MotionSettings"_s), u"11|1|30\n12|0|80\n21|1|50\n0|0|50"_s);
+}
+
+TEST_F(UpgradeTest, VersionsCompareAsText)
+{
+    const struct
+    {
+        const char* version;
+        const char* name; // expected afterwards
+        int aside;
+    } cases[]{{"1.0.2.1", "Old", 0},      {"1.0.10.0", "Old", 1},     {"", "Old", 1},
+              {"0.9", "Old", 1},          {"1.0.3.0", "CMS_Core", 1}, {"2", "CMS_Core", 1},
+              {"1.0.2.1 ", "CMS_Core", 1}};
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.version);
+        QDir(path(u"\\Database")).removeRecursively();
+        CreateTemplate(path(kTemplateFile));
+        Make(path(kDatabaseFile), OldLayout(QString::fromLatin1(test.version), u"Old"_s));
+        start();
+        EXPECT_EQ(now(u"SELECT sSystemName FROM BasicDefault"_s), QString::fromLatin1(test.name));
+        EXPECT_EQ(aside().size(), test.aside);
+    }
+}
+
+TEST_F(UpgradeTest, NothingIsReplacedWhenTheNewFileCannotBeMade)
+{
+    Make(path(kDatabaseFile), OldLayout(u"1.0.1.9"_s, u"Harbour"_s));
+    ASSERT_TRUE(QFile::remove(path(kTemplateFile)));
+    Make(path(u"\\Database\\Database_Convert.mdb"), {u"CREATE TABLE Stale(x INTEGER)"_s});
+    start();
+    EXPECT_EQ(now(u"SELECT sSystemName,lGone FROM BasicDefault"_s), u"Harbour|1234"_s);
+    EXPECT_EQ(aside(), QStringList());
+    EXPECT_EQ(logLines("Module_DB_Access - UpdateDatabase"), 1);
+
+    CreateTemplate(path(kTemplateFile));
+    start();
+    EXPECT_EQ(now(u"SELECT sSystemName FROM BasicDefault"_s), u"Harbour"_s);
+    EXPECT_EQ(aside().size(), 1);
+}
+
+TEST_F(UpgradeTest, ABadValueCostsItsRowOnly)
+{
+    QStringList layout = OldLayout(u"1.0.1.9"_s, u"x"_s);
+    layout << u"UPDATE MDROI SET iRow=NULL WHERE iSVR=1 AND iCH=1"_s;
+    Make(path(kDatabaseFile), layout);
+    start();
+    EXPECT_EQ(now(u"SELECT COUNT(*) FROM MotionROI"_s), u"3"_s);
+    EXPECT_EQ(now(u"SELECT COUNT(*) FROM MotionSettings"_s), u"4"_s);
+    EXPECT_EQ(logLines("clsDBConvert - ConvertMDROI"), 1);
+}
+
+// Dies for good at the n-th thing it is told.
+class KillingWatcher final : public UpdateWatcher
+{
+public:
+    explicit KillingWatcher(int last)
+        : m_left(last)
+    {
+    }
+    void begin() override { count(); }
+    void row(const QString&, qint64, qint64) override { count(); }
+    void step() override { count(); }
+    void end() override { count(); }
+
+private:
+    void count()
+    {
+        if (--m_left == 0)
+            std::raise(SIGKILL);
+    }
+    int m_left;
+};
+
+TEST(UpgradeChild, Runs)
+{
+    const QString folder = qEnvironmentVariable("UPGRADE_CHILD_STATION");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "only as the child of another test";
+    SetAppPath(folder);
+    KillingWatcher watcher(qEnvironmentVariableIntValue("UPGRADE_CHILD_LAST"));
+    auto station = std::make_unique<Station>();
+    OpenDatabases(*station);
+    ReadDefaults(*station, watcher);
+}
+
+TEST_F(UpgradeTest, KilledAtAnyStepTheDataIsStillThere)
+{
+    bool killed = true;
+    int last = 1;
+    int converted = 0;
+    int fellBack = 0;
+    for (; killed; ++last) {
+        for (const bool backup : {true, false}) {
+            SCOPED_TRACE(u"killed at %1, backup %2"_s.arg(last).arg(backup).toStdString());
+            QDir(path(u"\\Database")).removeRecursively();
+            CreateTemplate(path(kTemplateFile));
+            Make(path(kDatabaseFile), OldLayout(u"1.0.1.9"_s, u"Harbour"_s));
+            if (backup)
+                Make(path(kBackup1File), OldLayout(u"1.0.1.9"_s, u"Saved"_s));
+
+            QProcess child;
+            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+            environment.insert(u"UPGRADE_CHILD_STATION"_s, AppPath());
+            environment.insert(u"UPGRADE_CHILD_LAST"_s, QString::number(last));
+            child.setProcessEnvironment(environment);
+            child.start(QCoreApplication::applicationFilePath(), {u"--gtest_filter=UpgradeChild.Runs"_s});
+            ASSERT_TRUE(child.waitForFinished(60000));
+            killed = child.exitStatus() == QProcess::CrashExit;
+            if (!killed) {
+                ASSERT_EQ(child.exitCode(), 0) << child.readAll().toStdString();
+            }
+
+            start();
+            EXPECT_EQ(now(u"SELECT sDBVer FROM BasicDefault"_s), u"1.0.2.1"_s);
+            EXPECT_EQ(now(u"PRAGMA integrity_check"_s), u"ok"_s);
+            int old = 0; // the user's file, whole, under its seconds name
+            const QStringList files = aside();
+            for (const QString& file : files)
+                old +=
+                    Ask(file, u"SELECT sSystemName,(SELECT COUNT(*) FROM MDROI) FROM BasicDefault"_s) == "Harbour|4"_L1;
+            EXPECT_EQ(old, 1);
+            const QString name = now(u"SELECT sSystemName FROM BasicDefault"_s);
+            if (name == "Harbour"_L1) {
+                EXPECT_EQ(now(u"SELECT COUNT(*) FROM MotionSettings"_s), u"4"_s);
+                ++converted;
+            } else {
+                EXPECT_EQ(name, backup ? u"Saved"_s : u"CMS_Core"_s);
+                ++fellBack;
+            }
+        }
+    }
+    EXPECT_GT(converted, 40) << "every row was a step";
+    EXPECT_EQ(fellBack, 2) << "only between the two renames";
+}
+
+} // namespace
