@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Důvod je v souborech protokolu.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Najít rekordéry v síti.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Zastavit</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Vybrat vše</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filtrovat nalezená zařízení</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Žádné zařízení neodpovědělo.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 z %2 rekordérů včetně vybraných</translation>
+    </message>
 </context>
 </TS>

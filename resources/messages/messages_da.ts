@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Årsagen står i logfilerne.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Find optagere på netværket.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Vælg alle</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filtrer fundne enheder</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Ingen enhed har svaret.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 af %2 optagere med de valgte</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Der Grund steht in den Protokolldateien.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Rekorder im Netzwerk suchen.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Gefundene Geräte filtern</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 von %2 Rekordern einschließlich der Auswahl</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>The reason stands in the log files.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Find recorders on the network.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filter found devices</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>No device has answered.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 of %2 recorders with those selected</translation>
+    </message>
 </context>
 </TS>

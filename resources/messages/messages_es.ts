@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>El motivo está en los archivos de registro.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Buscar grabadores en la red.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filtrar los dispositivos encontrados</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Ningún dispositivo ha respondido.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 de %2 grabadores con los seleccionados</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>La raison figure dans les fichiers journaux.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Rechercher les enregistreurs sur le réseau.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filtrer les appareils trouvés</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Aucun appareil n’a répondu.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 sur %2 enregistreurs avec la sélection</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>הסיבה רשומה בקובצי היומן.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>חיפוש מקליטים ברשת.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>עצירה</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>בחירת הכול</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>סינון ההתקנים שנמצאו</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>אף התקן לא השיב.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 מתוך %2 מקליטים כולל הנבחרים</translation>
+    </message>
 </context>
 </TS>

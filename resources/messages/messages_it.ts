@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Il motivo è nei file di registro.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Cerca i registratori in rete.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filtra i dispositivi trovati</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Nessun dispositivo ha risposto.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 di %2 registratori con quelli selezionati</translation>
+    </message>
 </context>
 </TS>

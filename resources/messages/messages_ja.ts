@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>理由はログファイルにあります。</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>ネットワーク上のレコーダーを検索します。</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>見つかった機器を絞り込む</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>応答した機器はありません。</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>選択分を含めレコーダー %2 台中 %1 台</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Przyczyna jest w plikach dziennika.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Wyszukaj rejestratory w sieci.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Zatrzymaj</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Filtruj znalezione urządzenia</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Żadne urządzenie nie odpowiedziało.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 z %2 rejestratorów razem z wybranymi</translation>
+    </message>
 </context>
 </TS>

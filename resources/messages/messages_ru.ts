@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Причина указана в файлах журнала.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Найти регистраторы в сети.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Остановить</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Фильтр найденных устройств</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Ни одно устройство не ответило.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>%1 из %2 регистраторов с учётом выбранных</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>Nedeni günlük dosyalarında.</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>Ağdaki kayıt cihazlarını bulun.</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>Tümünü seç</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>Bulunan cihazları filtrele</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>Hiçbir cihaz yanıt vermedi.</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>Seçilenlerle birlikte %1 / %2 kayıt cihazı</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>原因请见日志文件。</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>在网络中查找录像机。</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>筛选找到的设备</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>没有设备应答。</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>含所选共 %1 / %2 台录像机</translation>
+    </message>
 </context>
 </TS>

@@ -3495,5 +3495,29 @@
         <source>The reason stands in the log files.</source>
         <translation>原因請見記錄檔。</translation>
     </message>
+    <message id="950">
+        <source>Find recorders on the network.</source>
+        <translation>在網路中尋找錄影機。</translation>
+    </message>
+    <message id="951">
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message id="952">
+        <source>Select all</source>
+        <translation>全選</translation>
+    </message>
+    <message id="953">
+        <source>Filter found devices</source>
+        <translation>篩選找到的裝置</translation>
+    </message>
+    <message id="954">
+        <source>No device has answered.</source>
+        <translation>沒有裝置回應。</translation>
+    </message>
+    <message id="955">
+        <source>%1 of %2 recorders with those selected</source>
+        <translation>含所選共 %1 / %2 台錄影機</translation>
+    </message>
 </context>
 </TS>

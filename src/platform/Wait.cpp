@@ -16,18 +16,27 @@ QObject& Waker()
     return waker;
 }
 
-// Swallows user input while a wait is under way.
+// Swallows user input while a wait is under way. The pointer still reaches a widget that asks for it by the property
+// kStopsWork; a window takes pointer events only to hand them to its widgets.
 class InputGate : public QObject
 {
 public:
-    bool eventFilter(QObject*, QEvent* event) override
+    bool eventFilter(QObject* object, QEvent* event) override
     {
         switch (event->type()) {
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-        case QEvent::Shortcut:
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
+            if (object->isWindowType() || object->property(kStopsWork).toBool())
+                return false;
+            event->ignore();
+            return true;
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+            if (object->isWindowType() || (object->isWidgetType() && object->property(kStopsWork).toBool()))
+                return false;
+            event->ignore();
+            return true;
+        case QEvent::Shortcut:
         case QEvent::MouseButtonDblClick:
         case QEvent::Wheel:
         case QEvent::TouchBegin:

@@ -5,6 +5,7 @@
 #include "device/Module_XML.h"
 #include "device/ParameterText.h"
 #include "device/ReplyParsers.h"
+#include "platform/Wait.h"
 #include "support/Conversions.h"
 #include "support/HostNames.h"
 
@@ -13,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kSource("Form_NVRSetting - DetectNVR");
+constexpr qint16 kOnvifBrand = 55;
 constexpr qint32 kNewEventVersion = 30026804; // fourth piece of the firmware version
 
 enum Message
@@ -26,12 +28,14 @@ enum Message
     kGetCapability = 293,
     kGetChannels = 294,
     kGetInfo = 295,
+    kCancel = 475,
     kInitialValue = 296,
     kAddSuccess = 297,
     kAddressFault = 554,
     kNotSupported = 619,
     kTooManyChannels = 716,
-    kNoChannel = 719
+    kNoChannel = 719,
+    kDetectSuccess = 833
 };
 
 // Ends a detection with a message.
@@ -69,10 +73,11 @@ int MessageOfLogin(qint32 result)
 class Detection
 {
 public:
-    Detection(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report)
+    Detection(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report, DetectMode mode)
         : m_context(context)
         , m_item(item)
         , m_report(report)
+        , m_modify(mode == DetectMode::Modify)
         , m_web(context.com.web)
         , m_device{item.sIP, item.iPort, item.sUser, item.sPassword}
         , m_svr(std::make_unique<SVRRecord>())
@@ -91,7 +96,8 @@ public:
         readCapability();
         if (!LoginLevelPasses(loginReply, m_family))
             throw DetectFailure{kUnauthorised};
-        refuseRepeatedAdd();
+        if (!m_modify)
+            refuseRepeatedAdd();
         if (m_family == kFamilySVR)
             readFirmwareVersion();
         if (cameras > iChannelLimit)
@@ -108,7 +114,12 @@ public:
     }
 
 private:
-    void say(int message, int percent) { m_report({message, percent, DetectStatus::State::Running, {}}); }
+    void say(int message, int percent)
+    {
+        if (Closing() || (m_context.stopped && m_context.stopped()))
+            throw DetectFailure{kCancel};
+        m_report({message, percent, DetectStatus::State::Running, {}});
+    }
 
     qint32 tryLogin(const QString& user, const QString& password, QString& reply)
     {
@@ -122,7 +133,7 @@ private:
     {
         QString reply;
         qint32 result = -1;
-        if (!m_item.sUser.isEmpty() || !m_item.sPassword.isEmpty()) {
+        if (m_modify || !m_item.sUser.isEmpty() || !m_item.sPassword.isEmpty()) {
             const auto orAdmin = [](const QString& text) { return text.isEmpty() ? u"admin"_s : text; };
             result = tryLogin(orAdmin(m_item.sUser), orAdmin(m_item.sPassword), reply);
         } else {
@@ -170,9 +181,16 @@ private:
     {
         for (int channel = 0; channel < kMaxChannel; ++channel)
             ClearChannel(*m_svr, *m_pro, channel);
-        // The older recorders' channels come over the device bridge.
-        if (!IsProFamily(m_family))
-            throw DetectFailure{kNotSupported};
+        if (IsProFamily(m_family))
+            readProChannels();
+        else
+            readSvrChannels();
+        if (m_modify)
+            keepOwnSettings();
+    }
+
+    void readProChannels()
+    {
         const QString reply = SendCmdXml(m_web, m_device, BuildGetChannels(false, m_channels));
         if (!HasSuccess(reply))
             throw DetectFailure{kConnectionError};
@@ -184,7 +202,64 @@ private:
         }
     }
 
+    // The older family describes one channel at a time, its picture and movement in groups of their own.
+    void readSvrChannels()
+    {
+        for (qint16 channel = 0; channel < m_channels; ++channel) {
+            say(kGetChannels, 40 + 35 * channel / m_channels);
+            const auto number = static_cast<qint16>(channel + 1);
+            RecorderChannel read;
+            if (m_context.com.device.GetChannel(m_device, number, read) < 0)
+                throw DetectFailure{kConnectionError};
+            if (read.IP.isEmpty())
+                continue;
+            const auto c = static_cast<std::size_t>(channel);
+            m_svr->sSub_CH_Name[c] = Unescape(read.Name);
+            m_svr->sSub_CH_IP[c] = read.IP;
+            m_svr->iSub_CH_HttpPort[c] = read.HttpPort;
+            m_svr->sSub_CH_UserName[c] = read.UserName;
+            m_svr->sSub_CH_Password[c] = read.Password;
+            m_svr->sSub_CH_VideoFormat[c] = GetFMTNameFromCode(QString::number(read.Format), 0);
+            m_svr->sSub_CH_Resolution[c] = read.Resolution;
+            m_svr->iSub_CH_Brand[c] = read.Brand;
+            // A group that cannot be had or read costs its own values only.
+            Trapped(kSource, [&] { CHImageInfoPaser(*m_svr, CgiGetImageParam(m_web, m_device, number), channel); });
+            Trapped(kSource, [&] { CHPTZInfoPaser(*m_svr, CgiGetPtzParam(m_web, m_device, number), channel); });
+            if (read.Brand == kOnvifBrand)
+                Trapped(kSource, [&] { CHOnvifInfoPaser(*m_svr, CgiGetOnvifParam(m_web, m_device, number), channel); });
+        }
+    }
+
+    // What only the station knows of a camera survives a new detection as long as the channel has the same camera.
+    void keepOwnSettings()
+    {
+        const SVRRecord& before = m_context.recorders.SVREdit;
+        for (std::size_t c = 0; c < kMaxChannel; ++c) {
+            if (m_svr->sSub_CH_IP[c].isEmpty() || m_svr->sSub_CH_IP[c] != before.sSub_CH_IP[c])
+                continue;
+            m_svr->Presets[c] = before.Presets[c];
+            m_svr->lSub_CH_IntelligentID[c] = before.lSub_CH_IntelligentID[c];
+            m_svr->bEventSet[c] = before.bEventSet[c];
+            m_svr->bSub_CH_Cam_MD_Enabled[c] = before.bSub_CH_Cam_MD_Enabled[c];
+            m_svr->iPower[c] = before.iPower[c];
+        }
+    }
+
     void readSystem()
+    {
+        if (IsProFamily(m_family)) {
+            readProSystem();
+            return;
+        }
+        RecorderFacts facts;
+        if (m_context.com.device.GetSystemFacts(m_device, facts) < 0)
+            return;
+        m_svr->iSVR_VideoPort = facts.VideoPort;
+        m_svr->iSVR_TimeZoneNum = facts.TimeZone;
+        m_svr->iSVR_SummerTime = facts.SummerTime;
+    }
+
+    void readProSystem()
     {
         const QString system = SendCmdXml(m_web, m_device, BuildGetSystemInfo());
         if (!HasSuccess(system))
@@ -223,6 +298,11 @@ private:
         m_svr->sSVR_DisplayDeviceType = m_capability.ModelName;
         m_svr->bSVR_CEventSupport = m_capability.CustomEventSupport;
         m_svr->sSVR_Version = m_capability.FirmwareVersion;
+        if (m_modify) {
+            m_context.recorders.SVREdit = *m_svr;
+            m_context.recorders.SVRProEdit = *m_pro;
+            return;
+        }
         At(m_context.recorders.SVRWorkList, m_slot) = *m_svr;
         At(m_context.recorders.SVRProWorkList, m_slot) = *m_pro;
     }
@@ -230,6 +310,7 @@ private:
     const DetectContext& m_context;
     const NVRDetectItem& m_item;
     const DetectReport& m_report;
+    const bool m_modify;
     WebBridge& m_web;
     DeviceAddress m_device;
     SvrCapability m_capability;
@@ -269,13 +350,13 @@ bool LoginLevelPasses(const QString& loginReply, const QString& family)
     return group != u'7';
 }
 
-bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report)
+bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report, DetectMode mode)
 {
     int message = kConnectionError;
     QString suffix;
     try {
-        Detection(context, item, report).run();
-        report({kAddSuccess, 100, DetectStatus::State::Done, {}});
+        Detection(context, item, report, mode).run();
+        report({mode == DetectMode::Modify ? kDetectSuccess : kAddSuccess, 100, DetectStatus::State::Done, {}});
         return true;
     } catch (const DetectFailure& failure) {
         message = failure.message;

@@ -40,6 +40,13 @@ struct DetectContext
     Form_COM& com;
     RecorderSet& recorders;
     const std::vector<NVRAccountRecord>& accounts; // tried in order when no login is given; never empty
+    std::function<bool()> stopped = {};            // the operator wants no more: the run ends at its next step
+};
+
+enum class DetectMode
+{
+    Add,   // fills a free slot of the working generation
+    Modify // reads the recorder of the edit record anew, into the edit record; its slot must be given
 };
 
 enum class ManualField
@@ -60,10 +67,11 @@ struct ManualFault
 // Resolves a host name, so it may wait (at most 10 seconds).
 ManualFault ValidateManualNVR(const QString& name, const QString& address, const QString& port);
 
-// Logs in to a recorder, reads what it can do and its channels, and fills the slot of the working generation. True on
-// success; on failure the slot stays as it was and the report's last message says why. The last report of a success is
-// message 297. Waits on the device's replies (platform/Wait.h); ends early when Closing is set.
-bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report);
+// Logs in to a recorder, reads what it can do and its channels, and fills the slot or edit record. True on success; on
+// failure nothing is changed and the report's last message says why. The last report of a success is message 297, or
+// 833 for Modify. Waits on the device's replies (platform/Wait.h); ends early when Closing is set.
+bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report,
+               DetectMode mode = DetectMode::Add);
 
 // Whether the login reply's level and group allow this user for a family ("securitylevel=" and "group=" digits).
 bool LoginLevelPasses(const QString& loginReply, const QString& family);

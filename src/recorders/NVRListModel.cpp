@@ -49,6 +49,13 @@ QVariant NVRListModel::data(const QModelIndex& index, int role) const
     const SVRRecord& record = At(m_recorders.SVRList, slot);
     if (role == kSlotRole)
         return slot;
+    if (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole) {
+        if (index.column() == Edit)
+            return QString(GetLangString(387) + u' ' + record.sSVR_Name);
+        if (index.column() == Delete)
+            return QString(GetLangString(386) + u' ' + record.sSVR_Name);
+        return {};
+    }
     if (role == Qt::TextAlignmentRole && (index.column() == ValidChannels || index.column() == Number))
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
     if (role != Qt::DisplayRole && role != kSortRole)

@@ -19,6 +19,8 @@ public:
         Brand,
         Model,
         ValidChannels,
+        Edit,   // icon
+        Delete, // icon
         ColumnCount
     };
     static constexpr int kSlotRole = Qt::UserRole; // slot of the row, from 0

@@ -1,5 +1,6 @@
 #include "app/ui/Form_Initial.h"
 
+#include "app/RemoveSVR.h"
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
@@ -198,6 +199,11 @@ void Form_Initial::buildPages()
     auto* recorders = new RecordersPage(m_station.recorders);
     m_nvrPage = recorders->list();
     connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
+    connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
+        RemoveSVR(m_station, m_com.web, slot);
+        m_nvrPage->Grid_SVR_Set_withDB();
+        updateHeader();
+    });
 
     m_pages[0] = m_systemPage;
     m_pages[1] = recorders;

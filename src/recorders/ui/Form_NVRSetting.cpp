@@ -13,8 +13,10 @@
 #include "support/Conversions.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QIntValidator>
 #include <QPushButton>
+#include <QSortFilterProxyModel>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -22,34 +24,35 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kFrameChoose = 0;
+constexpr int kFrameSearch = 1;
 constexpr int kFrameStatus = 2;
 constexpr int kStatusRows = 11; // rows of the status grid on show at a time
 
-// The main window and the wizard, held back while devices are asked.
-class DisabledWindows
+// Windows and parts of the wizard, held back while devices are asked.
+class Disabled
 {
 public:
-    explicit DisabledWindows(QWidget* wizard)
+    explicit Disabled(std::initializer_list<QWidget*> widgets)
     {
-        for (QWidget* window : {wizard->parentWidget() ? wizard->parentWidget()->window() : nullptr, wizard}) {
-            if (window && window->isEnabled()) {
-                window->setEnabled(false);
-                m_windows << window;
+        for (QWidget* widget : widgets) {
+            if (widget && widget->isEnabled()) {
+                widget->setEnabled(false);
+                m_widgets << widget;
             }
         }
     }
-    ~DisabledWindows()
+    ~Disabled()
     {
-        for (const QPointer<QWidget>& window : m_windows) {
-            if (window)
-                window->setEnabled(true);
+        for (const QPointer<QWidget>& widget : m_widgets) {
+            if (widget)
+                widget->setEnabled(true);
         }
     }
-    DisabledWindows(const DisabledWindows&) = delete;
-    DisabledWindows& operator=(const DisabledWindows&) = delete;
+    Disabled(const Disabled&) = delete;
+    Disabled& operator=(const Disabled&) = delete;
 
 private:
-    QList<QPointer<QWidget>> m_windows;
+    QList<QPointer<QWidget>> m_widgets;
 };
 
 } // namespace
@@ -60,6 +63,8 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> fi
     , m_finish(std::move(finish))
     , m_ui(std::make_unique<Ui::Form_NVRSetting>())
     , m_status(new DetectStatusModel(this))
+    , m_found(new SearchListModel(context.recorders, this))
+    , m_foundProxy(new QSortFilterProxyModel(this))
     , Timer_StartDetect(new QTimer(this))
 {
     setObjectName(u"Form_NVRSetting"_s);
@@ -89,6 +94,30 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> fi
     for (int column = 0; column < static_cast<int>(widths.size()); ++column)
         grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
 
+    m_context.stopped = [this] { return m_stopped; };
+    m_foundProxy->setSourceModel(m_found);
+    m_foundProxy->setFilterKeyColumn(-1);
+    m_foundProxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_foundProxy->setSortLocaleAware(true);
+    QTableView* list = m_ui->Grid_SearchList;
+    list->setModel(m_foundProxy);
+    StyleTable(list);
+    MonospaceColumn(list, SearchListModel::Address);
+    list->setSortingEnabled(true);
+    list->sortByColumn(-1, Qt::AscendingOrder); // in order of arrival until a head is chosen
+    static constexpr std::array searchWidths{240, 150, 80, 130};
+    for (int column = 0; column < static_cast<int>(searchWidths.size()); ++column)
+        list->setColumnWidth(column, searchWidths[static_cast<std::size_t>(column)]);
+    connect(m_ui->txtSearchFilter, &QLineEdit::textChanged, m_foundProxy, &QSortFilterProxyModel::setFilterFixedString);
+    connect(m_ui->Chk_SelectAll, &QCheckBox::clicked, m_found, &SearchListModel::setAllChecked);
+    connect(m_ui->lbSearch, &QPushButton::clicked, this, &Form_NVRSetting::lbSearch_Click);
+    connect(m_found, &SearchListModel::dataChanged, this, &Form_NVRSetting::showChosen);
+    connect(&m_context.com.finder, &FinderBridge::DeviceFound, this, [this](const FoundDevice& device) {
+        if (m_frame == kFrameSearch)
+            m_found->add(device);
+    });
+    connect(&m_context.com.finder, &FinderBridge::Finished, this, &Form_NVRSetting::searchEnded);
+
     Timer_StartDetect->setSingleShot(true);
     connect(Timer_StartDetect, &QTimer::timeout, this, &Form_NVRSetting::detectAll);
     fillSlots();
@@ -97,7 +126,10 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> fi
     resize(820, 560);
 }
 
-Form_NVRSetting::~Form_NVRSetting() = default;
+Form_NVRSetting::~Form_NVRSetting()
+{
+    m_context.com.finder.Stop();
+}
 
 QLineEdit* Form_NVRSetting::field(ManualField which) const
 {
@@ -140,13 +172,19 @@ void Form_NVRSetting::ChangeLanguage()
         edit->setAccessibleName(label->text());
     m_ui->cmbSVRNo->setAccessibleName(GetLangString(892));
     m_ui->Grid_DetectStatus->setAccessibleName(GetLangString(289));
+    m_ui->Grid_SearchList->setAccessibleName(GetLangString(288));
+    m_ui->txtSearchFilter->setPlaceholderText(GetLangString(953));
+    m_ui->txtSearchFilter->setAccessibleName(GetLangString(953));
+    m_ui->lbSearch->setText(GetLangString(170));
     AddEye(m_ui->Text_Manual_4, GetLangString(887), GetLangString(899));
 }
 
 void Form_NVRSetting::LoadFrame(int index)
 {
     m_frame = index;
-    m_ui->frames->setCurrentWidget(index == kFrameStatus ? m_ui->Frame_2 : m_ui->Frame_0);
+    m_ui->frames->setCurrentWidget(index == kFrameStatus   ? m_ui->Frame_2
+                                   : index == kFrameSearch ? m_ui->Frame_1
+                                                           : m_ui->Frame_0);
     steps()->setCurrent(index);
     m_next->setObjectName(u"lbNext_"_s + QString::number(index));
     m_next->setText(GetLangString(index == kFrameStatus ? 873 : 277));
@@ -159,8 +197,13 @@ void Form_NVRSetting::lbNext_Click(int index)
     if (m_busy)
         return;
     Trapped("Form_NVRSetting - lbNext_Click", [&] {
-        if (index == kFrameChoose) {
+        if (index == kFrameChoose && m_ui->OptMode_0->isChecked()) {
+            LoadFrame(kFrameSearch);
+            lbSearch_Click();
+        } else if (index == kFrameChoose) {
             beginManual();
+        } else if (index == kFrameSearch) {
+            beginChosen();
         } else if (index == kFrameStatus) {
             m_finish();
             accept();
@@ -170,7 +213,48 @@ void Form_NVRSetting::lbNext_Click(int index)
 
 void Form_NVRSetting::lbCancel_Click()
 {
-    reject();
+    if (m_busy) {
+        m_stopped = true;
+        m_cancel->setEnabled(false);
+    } else {
+        reject();
+    }
+}
+
+void Form_NVRSetting::lbSearch_Click()
+{
+    m_ui->Chk_SelectAll->setChecked(false);
+    m_found->clear();
+    showChosen();
+    m_ui->lbSearch->setText(GetLangString(170) + u"..."_s);
+    m_ui->lbSearch->setEnabled(false);
+    if (!m_context.com.finder.Search())
+        searchEnded();
+}
+
+void Form_NVRSetting::searchEnded()
+{
+    m_ui->lbSearch->setText(GetLangString(170));
+    m_ui->lbSearch->setEnabled(true);
+    if (m_frame == kFrameSearch && m_found->rowCount() == 0)
+        footer()->setNote(GetLangString(954));
+}
+
+void Form_NVRSetting::showChosen()
+{
+    footer()->setNote(
+        GetLangString(955).arg(OccupiedSlots(m_context.recorders.SVRWorkList) + m_found->checkedRows()).arg(kMaxSVR));
+}
+
+void Form_NVRSetting::beginChosen()
+{
+    if (m_found->checkedRows() == 0) {
+        MsgBox(GetLangString(832), InfoBoxStyle(), u"Information"_s);
+        return;
+    }
+    m_context.com.finder.Stop();
+    searchEnded();
+    beginDetection(m_found->chosen());
 }
 
 void Form_NVRSetting::reject()
@@ -206,8 +290,14 @@ void Form_NVRSetting::beginManual()
     item.iPort = port;
     item.sUser = m_ui->Text_Manual_3->text();
     item.sPassword = m_ui->Text_Manual_4->text();
-    m_status->setItems({item});
+    beginDetection({item});
+}
+
+void Form_NVRSetting::beginDetection(std::vector<NVRDetectItem> items)
+{
+    m_status->setItems(std::move(items));
     LoadFrame(kFrameStatus);
+    footer()->setNote(GetLangString(874).arg(0).arg(m_status->rowCount()));
     setBusy(true);
     Timer_StartDetect->start(0);
 }
@@ -215,9 +305,9 @@ void Form_NVRSetting::beginManual()
 void Form_NVRSetting::detectAll()
 {
     {
-        const DisabledWindows disabled(this);
+        const Disabled disabled{parentWidget() ? parentWidget()->window() : nullptr, content()};
         const std::vector<NVRDetectItem> items = m_status->items();
-        for (int row = 0; row < static_cast<int>(items.size()) && !Closing(); ++row) {
+        for (int row = 0; row < static_cast<int>(items.size()) && !Closing() && !m_stopped; ++row) {
             NVRDetectItem item = At(items, row);
             if (item.sIP.isEmpty())
                 continue;
@@ -242,5 +332,9 @@ void Form_NVRSetting::setBusy(bool busy)
 {
     m_busy = busy;
     m_next->setEnabled(!busy);
-    m_cancel->setEnabled(!busy);
+    m_cancel->setEnabled(true);
+    m_cancel->setProperty(kStopsWork, busy);
+    m_cancel->setText(GetLangString(busy ? 951 : 475));
+    if (busy)
+        m_stopped = false;
 }

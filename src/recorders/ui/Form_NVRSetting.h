@@ -2,17 +2,19 @@
 
 #include "look/DialogFrame.h"
 #include "recorders/DetectStatusModel.h"
+#include "recorders/SearchListModel.h"
 
 #include <functional>
 #include <memory>
 
+class QSortFilterProxyModel;
 class QTimer;
 namespace Ui {
 class Form_NVRSetting;
 }
 
 // The wizard that brings recorders into the station, one frame at a time: 0 choice of the way and the typed recorder,
-// 2 the running status of each recorder being detected.
+// 1 the recorders that answered a search, 2 the running status of each recorder being detected.
 class Form_NVRSetting : public DialogFrame
 {
     Q_OBJECT
@@ -30,11 +32,16 @@ public:
 
 public slots:
     void lbNext_Click(int index);
-    void lbCancel_Click();
+    void lbCancel_Click(); // while recorders are detected: stops, and keeps what is done
+    void lbSearch_Click(); // searches anew
 
 private:
     void fillSlots();
     void beginManual();
+    void beginChosen();
+    void beginDetection(std::vector<NVRDetectItem> items);
+    void searchEnded();
+    void showChosen();
     void detectAll();
     void setBusy(bool busy);
     QLineEdit* field(ManualField which) const;
@@ -43,6 +50,9 @@ private:
     std::function<void()> m_finish;
     std::unique_ptr<Ui::Form_NVRSetting> m_ui;
     DetectStatusModel* m_status;
+    SearchListModel* m_found;
+    QSortFilterProxyModel* m_foundProxy;
+    bool m_stopped = false;
     QTimer* Timer_StartDetect;
     QPushButton* m_cancel;
     QPushButton* m_next;

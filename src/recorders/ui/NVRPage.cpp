@@ -8,16 +8,36 @@
 #include "recorders/ui/ui_NVRPage.h"
 
 #include <QHeaderView>
+#include <QShortcut>
 #include <QSortFilterProxyModel>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Sorts and filters the list, and gives its last two columns their icons.
+class ListProxy final : public QSortFilterProxyModel
+{
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+    QVariant data(const QModelIndex& index, int role) const override
+    {
+        if (role == Qt::DecorationRole && index.column() == NVRListModel::Edit)
+            return Icon("edit"_L1);
+        if (role == Qt::DecorationRole && index.column() == NVRListModel::Delete)
+            return Icon("delete"_L1);
+        return QSortFilterProxyModel::data(index, role);
+    }
+};
+
+} // namespace
 
 NVRPage::NVRPage(const RecorderSet& recorders, QWidget* parent)
     : QWidget(parent)
     , m_recorders(recorders)
     , m_ui(std::make_unique<Ui::NVRPage>())
     , m_model(new NVRListModel(recorders, this))
-    , m_proxy(new QSortFilterProxyModel(this))
+    , m_proxy(new ListProxy(this))
 {
     m_ui->setupUi(this);
     m_proxy->setSourceModel(m_model);
@@ -34,6 +54,14 @@ NVRPage::NVRPage(const RecorderSet& recorders, QWidget* parent)
         m_proxy->setFilterFixedString(text);
         showCounts();
     });
+    connect(m_ui->Grid_SVRsList, &QTableView::clicked, this, &NVRPage::Grid_SVRsList_Click);
+    auto* remove = new QShortcut(QKeySequence::Delete, m_ui->Grid_SVRsList);
+    remove->setContext(Qt::WidgetShortcut);
+    connect(remove, &QShortcut::activated, this, [this] {
+        const QModelIndex row = m_ui->Grid_SVRsList->currentIndex();
+        if (row.isValid())
+            Grid_SVRsList_Click(row.siblingAtColumn(NVRListModel::Delete));
+    });
     Grid_SVR_Draw();
 }
 
@@ -46,7 +74,7 @@ void NVRPage::Grid_SVR_Draw()
     MonospaceColumn(grid, NVRListModel::Address);
     grid->setSortingEnabled(true);
     grid->sortByColumn(NVRListModel::Number, Qt::AscendingOrder);
-    static constexpr std::array widths{72, 240, 220, 150, 170, 110};
+    static constexpr std::array widths{72, 230, 210, 140, 160, 110, 44, 44};
     for (int column = 0; column < NVRListModel::ColumnCount; ++column)
         grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
 }
@@ -85,6 +113,19 @@ void NVRPage::changeLanguage()
     m_ui->Grid_SVRsList->setAccessibleName(GetLangString(82));
     m_model->retranslate();
     showCounts();
+}
+
+void NVRPage::Grid_SVRsList_Click(const QModelIndex& cell)
+{
+    Trapped("Form_Initial - Grid_SVRsList_Click", [&] {
+        const int slot = cell.data(NVRListModel::kSlotRole).toInt();
+        if (cell.column() == NVRListModel::Edit) {
+            emit editWanted(slot);
+        } else if (cell.column() == NVRListModel::Delete &&
+                   MsgBox(GetLangString(483), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes) {
+            emit removeWanted(slot);
+        }
+    });
 }
 
 void NVRPage::lbAdd_Click()

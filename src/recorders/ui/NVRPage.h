@@ -27,9 +27,13 @@ public:
 public slots:
     // Opens the wizard, or says that the station is full.
     void lbAdd_Click();
+    // The edit icon opens the recorder, the delete icon asks and removes it; other columns do nothing.
+    void Grid_SVRsList_Click(const QModelIndex& cell);
 
 signals:
     void wizardWanted();
+    void editWanted(int slot); // from 0
+    void removeWanted(int slot);
 
 private:
     void showCounts();

@@ -1,0 +1,225 @@
+#include "recorders/NVRDetect.h"
+
+#include "recorders/SearchListModel.h"
+#include "simulators/SimulatorThread.h"
+
+#include <gmock/gmock.h>
+
+using namespace Qt::StringLiterals;
+using simulators::DeviceDescription;
+using simulators::Family;
+using simulators::Site;
+using simulators::SiteDescription;
+using State = DetectStatus::State;
+
+namespace {
+
+// A site of recorders in a thread, and the station's side that detects them.
+class Detecting : public ::testing::Test
+{
+protected:
+    Detecting()
+        : recorders(std::make_unique<RecorderSet>())
+    {
+    }
+
+    void start(std::vector<DeviceDescription> devices)
+    {
+        SiteDescription description;
+        description.port = 0;
+        description.discovery = false;
+        description.devices = std::move(devices);
+        site = std::make_unique<simulators::SimulatorThread>(description);
+        site->call([this](Site& running) {
+            for (int i = 0; i < running.count(); ++i)
+                where.push_back({running.device(i).address().toString(), running.device(i).port()});
+        });
+    }
+
+    NVRDetectItem item(std::size_t device, const QString& user = u"admin"_s, const QString& password = u"admin"_s)
+    {
+        NVRDetectItem made;
+        made.sName = u"Recorder"_s;
+        made.sIP = where.at(device).first;
+        made.iPort = where.at(device).second;
+        made.sUser = user;
+        made.sPassword = password;
+        return made;
+    }
+
+    // The number of the last message.
+    int detect(const NVRDetectItem& wanted, DetectMode mode = DetectMode::Add)
+    {
+        DetectStatus last;
+        const bool done = DetectNVR(
+            {com, *recorders, accounts, stopped}, wanted, [&](const DetectStatus& status) { last = status; }, mode);
+        EXPECT_EQ(done, last.state == State::Done);
+        return last.message;
+    }
+
+    Form_COM com;
+    std::unique_ptr<RecorderSet> recorders;
+    std::vector<NVRAccountRecord> accounts{{}};
+    std::function<bool()> stopped;
+    std::unique_ptr<simulators::SimulatorThread> site;
+    std::vector<std::pair<QString, int>> where;
+};
+
+DeviceDescription Recorder(Family family, int channels, int cameras)
+{
+    DeviceDescription device;
+    device.family = family;
+    device.channels = channels;
+    device.cameras = cameras;
+    return device;
+}
+
+TEST_F(Detecting, EveryFamilyIsAddedWithItsCamerasAndSystemFacts)
+{
+    start({Recorder(Family::Txr632, 16, 7), Recorder(Family::OmluPro, 9, 4), Recorder(Family::Svr, 16, 12)});
+    const QString families[] = {kFamilyTXR632, kFamilyOmluPro, kFamilySVR};
+    const int cameras[] = {7, 4, 12};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(detect(item(i)), 297);
+        const SVRRecord& record = recorders->SVRWorkList[i];
+        EXPECT_EQ(record.sSVR_DeviceType, families[i]);
+        EXPECT_EQ(record.iSVR_ValidCH, cameras[i]);
+        EXPECT_EQ(CameraCount(record), cameras[i]);
+        EXPECT_TRUE(record.bSVR_N_EventSupport);
+        EXPECT_GT(record.iSVR_VideoPort, 0);
+        EXPECT_EQ(record.iSVR_TimeZoneNum, 28);
+        for (qint16 c = 0; c < cameras[i]; ++c) {
+            const auto index = static_cast<std::size_t>(c);
+            const simulators::Camera camera = simulators::exampleCamera(c + 1, i == 2 ? Family::Svr : Family::Txr632);
+            EXPECT_EQ(record.sSub_CH_IP[index], camera.ip);
+            EXPECT_EQ(record.iSub_Channel[index], c + 1);
+        }
+    }
+}
+
+TEST_F(Detecting, OlderRecorderGivesPictureMovementAndOnvifValues)
+{
+    start({Recorder(Family::Svr, 16, 8)});
+    ASSERT_EQ(detect(item(0)), 297);
+    const SVRRecord& record = recorders->SVRWorkList[0];
+    EXPECT_EQ(record.sSub_CH_Name[3], u"正門"_s); // escaped on the wire
+    EXPECT_EQ(record.sSub_CH_VideoFormat[0], u"MJPEG"_s);
+    EXPECT_EQ(record.sSub_CH_VideoFormat[1], u"H.264"_s);
+    EXPECT_EQ(record.iCH_FPS[1], 4);
+    EXPECT_EQ(record.sCH_PTZ_Speed_Range[3], u"1,10,1"_s);
+    EXPECT_EQ(record.sCH_Onvif_JPEG_FPS[5], u"1,15"_s); // the sixth camera speaks Onvif
+    EXPECT_TRUE(record.sCH_Onvif_JPEG_FPS[4].isEmpty());
+    EXPECT_EQ(record.iCH_FPS[8], -1); // no camera
+}
+
+TEST_F(Detecting, EachFaultHasItsMessageAndLeavesTheSlotFree)
+{
+    DeviceDescription decoder = Recorder(Family::Svd, 16, 4);
+    DeviceDescription foreign = Recorder(Family::Txr632, 16, 4);
+    foreign.cmsSupport = false;
+    start({Recorder(Family::Txr632, 16, 4), Recorder(Family::Svr, 16, 4), decoder, foreign, Recorder(Family::Svr, 8, 0),
+           Recorder(Family::OmluPro, 8, 0)});
+    NVRDetectItem nowhere = item(0);
+    nowhere.sIP = u"127.0.0.250"_s;
+    nowhere.iPort = 9;
+    const std::pair<NVRDetectItem, int> cases[] = {
+        {nowhere, 221},
+        {item(0, u"admin"_s, u"wrong"_s), 44},
+        {item(0, u"viewer"_s, u"viewer"_s), 139}, // group 1 of a Pro recorder
+        {item(1, u"viewer"_s, u"viewer"_s), 139}, // group 7 of an older one
+        {item(1, u"guest"_s, u"guest"_s), 139},   // lower level
+        {item(2), 619},
+        {item(3), 619},
+        {item(4), 719},
+        {item(5), 719},
+    };
+    for (const auto& [wanted, message] : cases) {
+        EXPECT_EQ(detect(wanted), message) << qPrintable(wanted.sIP) << ' ' << qPrintable(wanted.sUser);
+        EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
+    }
+    EXPECT_EQ(detect(item(0)), 297); // the others go on
+    EXPECT_EQ(detect(item(0)), 78);
+    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 1);
+}
+
+TEST_F(Detecting, AccountsAreTriedInOrderWhenNoLoginIsGiven)
+{
+    start({Recorder(Family::Svr, 8, 2)});
+    accounts = {{0, u"other"_s, u"x"_s}, {1, u"admin"_s, u"admin"_s}, {2, u"viewer"_s, u"viewer"_s}};
+    EXPECT_EQ(detect(item(0, {}, {})), 297);
+    EXPECT_EQ(recorders->SVRWorkList[0].sSVR_UserName, u"admin"_s);
+}
+
+TEST_F(Detecting, ChannelLimitCountsWhatTheStationHasAlready)
+{
+    start({Recorder(Family::Svr, 8, 8)});
+    for (std::size_t slot = 0; slot < 4; ++slot) {
+        recorders->SVRWorkList[slot].sSVR_IP = u"10.0.0.%1"_s.arg(slot);
+        recorders->SVRWorkList[slot].sSub_CH_IP.fill(u"10.1.1.1"_s);
+    }
+    EXPECT_EQ(detect(item(0)), 716); // 256 cameras
+    recorders->SVRWorkList[0].sSub_CH_IP[0].clear();
+    EXPECT_EQ(detect(item(0)), 297); // 255 do not refuse yet
+}
+
+TEST_F(Detecting, NewDetectionKeepsWhatOnlyTheStationKnows)
+{
+    start({Recorder(Family::Svr, 8, 3)});
+    ASSERT_EQ(detect(item(0)), 297);
+    recorders->SVREdit = recorders->SVRWorkList[0];
+    recorders->SVRProEdit = recorders->SVRProWorkList[0];
+    recorders->SVREdit.lSub_CH_IntelligentID[0] = 5;
+    recorders->SVREdit.lSub_CH_IntelligentID[1] = 6;
+    recorders->SVREdit.sSub_CH_IP[1] = u"10.9.9.9"_s; // another camera since
+    NVRDetectItem again = item(0);
+    again.iSlot = 0;
+    EXPECT_EQ(detect(again, DetectMode::Modify), 833);
+    EXPECT_EQ(recorders->SVREdit.lSub_CH_IntelligentID[0], 5);
+    EXPECT_EQ(recorders->SVREdit.lSub_CH_IntelligentID[1], -1);
+    EXPECT_NE(recorders->SVREdit.sSub_CH_IP[1], u"10.9.9.9"_s);
+}
+
+TEST_F(Detecting, StopEndsTheRunAtItsNextStepAndChangesNothing)
+{
+    start({Recorder(Family::Svr, 64, 4)});
+    int asked = 0;
+    stopped = [&] { return ++asked > 10; };
+    EXPECT_EQ(detect(item(0)), 475);
+    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
+}
+
+FoundDevice Found(int n)
+{
+    return {u"Device %1"_s.arg(n), u"10.0.0.%1"_s.arg(n), 80, u"Brand"_s, u"Model"_s, false};
+}
+
+TEST(SearchList, KnownDevicesAreFixedAndChecksEndWhereTheStationIsFull)
+{
+    auto recorders = std::make_unique<RecorderSet>();
+    for (int slot = 0; slot < 13; ++slot) {
+        recorders->SVRWorkList[static_cast<std::size_t>(slot)].sSVR_IP = u"10.0.0.%1"_s.arg(slot + 1);
+        recorders->SVRWorkList[static_cast<std::size_t>(slot)].iSVR_HttpPort = slot == 1 ? 8080 : 80;
+    }
+    SearchListModel model(*recorders);
+    FoundDevice decoder = Found(90);
+    decoder.IsSvd = true;
+    model.add(decoder);
+    for (const int n : {1, 2, 20, 21, 22, 23})
+        model.add(Found(n));
+    ASSERT_EQ(model.rowCount(), 6);
+    EXPECT_TRUE(model.known(0));
+    EXPECT_FALSE(model.known(1)); // same address on another port
+    EXPECT_FALSE(model.setData(model.index(0, 0), Qt::Unchecked, Qt::CheckStateRole));
+
+    model.setAllChecked(true);
+    EXPECT_EQ(model.checkedRows(), 3);
+    EXPECT_FALSE(model.setData(model.index(5, 0), Qt::Checked, Qt::CheckStateRole));
+    EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Unchecked, Qt::CheckStateRole));
+    EXPECT_TRUE(model.setData(model.index(5, 0), Qt::Checked, Qt::CheckStateRole));
+    const std::vector<NVRDetectItem> chosen = model.chosen();
+    ASSERT_EQ(chosen.size(), 3U);
+    EXPECT_EQ(chosen.back().sIP, u"10.0.0.23"_s);
+    EXPECT_EQ(chosen.back().iSlot, -1);
+}
+
+} // namespace
