@@ -7,6 +7,7 @@
 #include "platform/Wait.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/walkthrough/Driver.h"
+#include "users/UserModels.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -242,7 +243,7 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     step(u"lbGroupPrivilege_0"_s, [this] {
         const QString text = row(u"SELECT CHPrivilege FROM NVRPrivilege WHERE GroupID=5 AND NVRID=2"_s).toString();
         EXPECT_EQ(text, u"0:12,8,15,15,"_s + QStringList(60, u"0"_s).join(u','));
-        Driver::click(u"Chk_GroupPrivilege_1"_s);
+        QTest::keyClick(Driver::find(u"Chk_GroupPrivilege_1"_s), Qt::Key_Space);
         Driver::click(u"lbGroupPrivilege_0"_s);
     });
     waitClosed(u"Form_GroupPrivilege"_s);

@@ -92,6 +92,7 @@ void Form_UserSetting::build(const QStringList& groups)
         check->setAutoDefault(false);
         connect(check, &QPushButton::clicked, this, &Form_UserSetting::lbUserCheck_Click);
         auto* pair = new QHBoxLayout;
+        pair->setSpacing(10);
         pair->addWidget(field, 1);
         pair->addWidget(check);
         form->addRow(caption(captions[which], field), pair);
