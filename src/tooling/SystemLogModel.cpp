@@ -10,8 +10,9 @@ SystemLogModel::SystemLogModel(Databases& databases, QObject* parent)
 {
 }
 
-bool SystemLogModel::search(const SystemLogQuery& query)
+bool SystemLogModel::search(const SystemLogQuery& query, const QString& filter)
 {
+    m_filter = filter;
     m_query = query;
     m_searched = true;
     m_page = 0;

@@ -38,8 +38,9 @@ public:
 
     explicit SystemLogModel(Databases& databases, QObject* parent = nullptr);
 
-    // Finds and shows the first page; false when the log could not be read (the grid is empty then).
-    bool search(const SystemLogQuery& query);
+    // Finds the rows that hold the filter's text and shows the first page; false when the log could not be read (the
+    // grid is empty then).
+    bool search(const SystemLogQuery& query, const QString& filter = {});
     // Narrows the found rows to those that hold the text; back to the first page.
     bool setFilter(const QString& text);
     // lbSysPageControl: Refresh finds anew and stays on the page as far as there is one. False as search().

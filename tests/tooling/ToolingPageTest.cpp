@@ -56,6 +56,7 @@ protected:
         ApplyLanguage(page.get());
         page->changeLanguage();
         page->show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(page.get()));
     }
     ~ToolingPageTest() override
     {
@@ -93,6 +94,7 @@ TEST_F(ToolingPageTest, SearchesAndTurnsPages)
     press(u"lbSysPageControl_3"_s);
     EXPECT_EQ(label->text(), u"4/4"_s);
     EXPECT_EQ(grid->model()->rowCount(), 7);
+    grid->setFocus();
     grid->selectRow(0);
     QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(u"\tbob\tline 6\n"_s));

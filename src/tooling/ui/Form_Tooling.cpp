@@ -196,7 +196,8 @@ void Form_Tooling::lbSysSearch_Click()
             return;
         if (m_ui->Chk_SystemViewer->isChecked())
             query.user = m_ui->Cmb_SystemViewerUser->currentText();
-        drawPage(m_model->search(query));
+        m_filterDelay->stop();
+        drawPage(m_model->search(query, m_ui->txtSysFilter->text()));
     });
 }
 
