@@ -1,0 +1,138 @@
+#include "app/language/Languages.h"
+#include "app/language/ui/ChangeLanguage.h"
+#include "look/Theme.h"
+#include "platform/FolderChooser.h"
+#include "platform/MsgBox.h"
+#include "tests/store/StoreFixture.h"
+#include "tooling/ui/Form_Tooling.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateEdit>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    ApplyTheme(*application, Scheme::Dark);
+    return application;
+}
+const bool g_registered = (g_applicationFactory = MakeApplication, true);
+
+// The page over an audit log of 40 rows of today, driven by the keyboard.
+class ToolingPageTest : public StoreFixture
+{
+protected:
+    ToolingPageTest()
+    {
+        SetLanguage(1);
+        SetMsgBoxHandler([this](const QString& text, qint32, const QString&) {
+            boxes << text;
+            return MsgResult::Ok;
+        });
+        SetFolderHandler([this](const QString& title) {
+            EXPECT_EQ(title, u"Test"_s);
+            return folder;
+        });
+        open();
+        for (int i = 0; i < 40; ++i) {
+            EXPECT_TRUE(QSqlQuery(databases.LogConn->database())
+                            .exec(u"INSERT INTO SystemLog VALUES(%1,'%2','line %3')"_s
+                                      .arg(QDate::currentDate().startOfDay().toSecsSinceEpoch() + i)
+                                      .arg(i % 4 == 0 ? u"amy"_s : u"bob"_s)
+                                      .arg(i)));
+        }
+        page = std::make_unique<Form_Tooling>(databases, [this] { ++exports; });
+        page->resize(1060, 640);
+        page->open();
+        ApplyLanguage(page.get());
+        page->changeLanguage();
+        page->show();
+    }
+    ~ToolingPageTest() override
+    {
+        SetMsgBoxHandler(nullptr);
+        SetFolderHandler(nullptr);
+    }
+    template <class Widget = QWidget>
+    Widget* find(const QString& name)
+    {
+        return page->findChild<Widget*>(name);
+    }
+    void press(const QString& name, Qt::Key key = Qt::Key_Space)
+    {
+        ASSERT_TRUE(find(name)->isEnabled()) << name.toStdString();
+        QTest::keyClick(find(name), key);
+    }
+    QStringList files() { return QDir(folder).entryList({u"Systemlog_Export_*"_s}); }
+
+    QString folder = AppPath();
+    QStringList boxes;
+    int exports = 0;
+    std::unique_ptr<Form_Tooling> page;
+};
+
+TEST_F(ToolingPageTest, SearchesAndTurnsPages)
+{
+    press(u"lbSysSearch"_s);
+    auto* grid = find<QTableView>(u"Grid_SystemLog"_s);
+    auto* label = find<QLabel>(u"Lb_SystemViewer_2"_s);
+    EXPECT_EQ(grid->model()->rowCount(), 11);
+    EXPECT_EQ(label->text(), u"1/4"_s);
+    EXPECT_FALSE(find(u"lbSysPageControl_1"_s)->isEnabled());
+    press(u"lbSysPageControl_2"_s);
+    EXPECT_EQ(label->text(), u"2/4"_s);
+    press(u"lbSysPageControl_3"_s);
+    EXPECT_EQ(label->text(), u"4/4"_s);
+    EXPECT_EQ(grid->model()->rowCount(), 7);
+    grid->selectRow(0);
+    QTest::keyClick(grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().endsWith(u"\tbob\tline 6\n"_s));
+
+    find<QLineEdit>(u"txtSysFilter"_s)->setText(u"LINE 39"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return grid->model()->rowCount() == 1; }, 3000));
+    find<QLineEdit>(u"txtSysFilter"_s)->clear();
+    press(u"Chk_SystemViewer"_s); // amy is the first of the list
+    press(u"lbSysSearch"_s);
+    EXPECT_EQ(label->text(), u"1/1"_s);
+
+    find<QDateEdit>(u"DTPicker_SystemViewer_2"_s)->setDate(QDate::currentDate().addDays(-3));
+    press(u"lbSysSearch"_s);
+    EXPECT_EQ(boxes, QStringList{GetLangString(742)});
+    EXPECT_EQ(label->text(), u"1/1"_s) << "nothing was searched";
+    EXPECT_TRUE(find(u"Frame_SystemViewer"_s)->isEnabled());
+}
+
+TEST_F(ToolingPageTest, ExportsAndSaysHowItEnded)
+{
+    press(u"Cmd_SystemExport"_s);
+    EXPECT_EQ(boxes, QStringList{GetLangString(745)});
+    ASSERT_EQ(files().size(), 1);
+    QFile file(QDir(folder).filePath(files().first()));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().count('\n'), 41);
+    EXPECT_TRUE(find(u"btnOpenFolder"_s)->isVisible());
+    EXPECT_EQ(exports, 1);
+
+    folder = AppPath() + u"/none"_s;
+    press(u"Opt_SysExport_1"_s);
+    press(u"Cmd_SystemExport"_s);
+    EXPECT_FALSE(find(u"btnOpenFolder"_s)->isVisible());
+    EXPECT_EQ(logLines("Form_Tooling - Cmd_SystemExport_Click"), 1);
+
+    folder.clear();
+    boxes.clear();
+    press(u"Cmd_SystemExport"_s);
+    EXPECT_EQ(boxes, QStringList()) << "no folder, no export";
+    EXPECT_TRUE(find(u"exportFields"_s)->isEnabled());
+}
+
+} // namespace
