@@ -26,7 +26,8 @@ void SetCaption(QWidget* control, const QString& text)
 
 constexpr int kBoxMargins = 32; // pixels beside the title of a box
 
-// Cuts a control's caption anew whenever its width changes.
+// Keeps a control's whole caption. Layouts give way to it; it is cut only where they cannot: in a control of fixed or
+// limited width, or one whose width does not follow its text.
 class CaptionKeeper : public QObject
 {
 public:
@@ -52,8 +53,7 @@ public:
         // What the control needs beside its text: margins, an icon, an indicator.
         // A box is as wide as its content, which says nothing of its title.
         m_extra = qobject_cast<QGroupBox*>(m_control) ? kBoxMargins : m_control->sizeHint().width() - width(text);
-        if (m_control->isVisible())
-            fit();
+        fit();
     }
 
 protected:
@@ -66,13 +66,22 @@ protected:
 
 private:
     int width(const QString& text) const { return m_control->fontMetrics().horizontalAdvance(text); }
+    // The width the control will not grow beyond, -1 when the layout decides.
+    int limit() const
+    {
+        if (m_control->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored ||
+            m_control->minimumWidth() == m_control->maximumWidth())
+            return m_control->width();
+        return m_control->maximumWidth() < QWIDGETSIZE_MAX ? m_control->maximumWidth() : -1;
+    }
     void fit()
     {
-        if (const auto* label = qobject_cast<QLabel*>(m_control); label && label->wordWrap())
+        const auto* label = qobject_cast<QLabel*>(m_control);
+        const int most = limit();
+        if (most < 0 || (label && label->wordWrap()))
             return;
-        const int available = m_control->width() - qMax(0, m_extra);
-        SetCaption(m_control,
-                   CutText(m_text, available, m_rightToLeft, [this](const QString& text) { return width(text); }));
+        SetCaption(m_control, CutText(m_text, most - qMax(0, m_extra), m_rightToLeft,
+                                      [this](const QString& text) { return width(text); }));
     }
 
     QWidget* m_control;
