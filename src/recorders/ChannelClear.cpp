@@ -1,0 +1,44 @@
+#include "recorders/ChannelClear.h"
+
+#include "app/log/Module_Log.h"
+#include "device/Module_XML.h"
+#include "device/WebBridge.h"
+#include "recorders/CameraWrite.h"
+#include "support/Conversions.h"
+
+namespace {
+
+enum Message
+{
+    kNoServer = 76,
+    kSettingFault = 722
+};
+
+RecorderOutcome ClearOnDevice(Form_COM& com, const SVRRecord& svr, qint16 channel)
+{
+    if (!IsProFamily(svr.sSVR_DeviceType)) {
+        ChannelParameters nothing; // an empty address takes the camera off
+        return WriteSvrChannel(com, svr, channel, nothing);
+    }
+    const DeviceAddress recorder = AddressOf(svr);
+    if (!Accepted(SendCmdXml(com.web, recorder, BuildClearChannel(static_cast<qint16>(channel + 1)))))
+        return RecorderOutcome::Failed(kNoServer);
+    if (!Accepted(SendCmdXml(com.web, recorder, BuildSaveConfig(kSaveChannels))))
+        return RecorderOutcome::Failed(kSettingFault);
+    return RecorderOutcome::Done();
+}
+
+} // namespace
+
+RecorderOutcome ClearRecorderChannel(Form_COM& com, RecorderSet& recorders, int channel)
+{
+    SVRRecord& svr = recorders.SVREdit;
+    if (At(svr.sSub_CH_IP, channel).isEmpty())
+        return RecorderOutcome::Done();
+    const RecorderOutcome outcome = ClearOnDevice(com, svr, static_cast<qint16>(channel));
+    if (!outcome.ok)
+        return outcome;
+    ClearChannel(svr, recorders.SVRProEdit, channel);
+    At(svr.bSub_CH_Modified, channel) = true;
+    return outcome;
+}
