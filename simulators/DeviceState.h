@@ -112,6 +112,7 @@ struct Camera
     int rtspPort = 554;
     int videoSources = 1;
     int videoNumber = 1;
+    bool multiStream = false; // a probe tells of MJPEG and H.264 streams under "multi."
     StreamSettings live;
     QString audioFormat;
     bool audioIn = false;

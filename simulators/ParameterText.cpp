@@ -25,33 +25,39 @@ int formatIndex(const QString& format)
     return 0;
 }
 
-QString sizesOf(const Camera& camera, const char* format)
+// Only the first source of a camera has its largest size.
+std::vector<SupportedSize> sizesOfSource(const SupportedFormat& format, int source)
+{
+    return {format.sizes.begin() + (source > 1 && format.sizes.size() > 1 ? 1 : 0), format.sizes.end()};
+}
+
+QString sizesOf(const Camera& camera, const char* format, int source = 1)
 {
     QStringList sizes;
     for (const SupportedFormat& supported : camera.formats)
         if (supported.name == QLatin1String(format))
-            for (const SupportedSize& size : supported.sizes)
+            for (const SupportedSize& size : sizesOfSource(supported, source))
                 sizes += size.size;
     return sizes.join(u',');
 }
 
-QString sizeLists(const Camera& camera)
+QString sizeLists(const Camera& camera, int source = 1)
 {
     QStringList lists;
     for (const char* format : kFormats)
-        lists += sizesOf(camera, format);
+        lists += sizesOf(camera, format, source);
     return lists.join(u';');
 }
 
 // {size<frame-rate codes><bit-rate codes>,…} for each format; "{}" where nothing binds them.
-QString relativeFormat(const Camera& camera)
+QString relativeFormat(const Camera& camera, int source)
 {
     QString text;
     for (const char* name : kFormats) {
         QStringList entries;
         for (const SupportedFormat& format : camera.formats)
             if (format.name == QLatin1String(name))
-                for (const SupportedSize& size : format.sizes)
+                for (const SupportedSize& size : sizesOfSource(format, source))
                     entries += size.size + (size.fpsUpper < 30 ? u"<1|2|3>"_s : u"<0|1|2|3|4|5>"_s) +
                                (size.bpsUpper > 4000 ? u"<6|7|8>"_s : u"<2|3|4|5|6>"_s);
         text += u"{"_s + entries.join(u',') + u"}"_s;
@@ -178,13 +184,54 @@ HttpReply read(const CommandContext& context, const QByteArray& group)
     return textReply(context, u"camera_c%1.%2"_s.arg(number).arg(QString::fromLatin1(name)), pairs);
 }
 
+// What a probe tells of one video source.
+std::vector<Pair> probeLines(const Camera& camera, int source)
+{
+    QStringList sizes; // each format at the present size where it has it, at its largest otherwise
+    for (const char* format : kFormats) {
+        const QStringList offered = sizesOf(camera, format, source).split(u',');
+        sizes += offered.contains(camera.live.size) ? camera.live.size : offered.first();
+    }
+    std::vector<Pair> pairs{{u"videoformatstate"_s, u"1,1,1"_s},
+                            {u"brand"_s, camera.manufacturer},
+                            {u"resolutionlist"_s, sizeLists(camera, source)},
+                            {u"resolutionstate"_s, sizes.join(u';')},
+                            {u"qualityrange"_s, kQualityRange},
+                            {u"qualitystate"_s, u"5;5;5"_s},
+                            {u"fpsrange"_s, kFpsRange},
+                            {u"fpsstate"_s, u"4;4;4"_s},
+                            {u"bitraterange"_s, kBitrateRange},
+                            {u"bitratestate"_s, u"-1;6;6"_s},
+                            {u"ratectrlrange"_s, kRateRange},
+                            {u"ratectrlstate"_s, u"-1;0;0"_s},
+                            {u"relativeformat"_s, camera.usable ? relativeFormat(camera, source) : u";;"_s}};
+    if (camera.multiStream)
+        pairs.push_back({u"videoformatlist"_s, u"256;1024"_s});
+    for (const Pair& pair : ptzCaps(camera.ptz))
+        pairs.push_back(pair);
+    if (camera.brandCode == 55)
+        for (const Pair& pair : onvifRanges(camera))
+            pairs.push_back({u"onvif"_s + pair.first, pair.second});
+    return pairs;
+}
+
+// "v2." of a camera with several sources, and "multi." before what a camera with several streams says of them.
+QString probePrefix(const Camera& camera, const QString& key, int source)
+{
+    const bool ofStream = key.contains(u"range"_s) || key.contains(u"state"_s) || key.contains(u"list"_s);
+    return (camera.videoSources > 1 ? u"v%1."_s.arg(source) : QString()) +
+           (camera.multiStream && ofStream && !key.startsWith(u"onvif"_s) ? u"multi."_s : QString());
+}
+
 // One value of ".device."; false when the device does not take it.
 bool writeDevice(const CommandContext& context, Camera& camera, const QByteArray& key, const QString& value)
 {
     bool ok = true;
-    const auto number = [&](int& target) {
+    // A number between the bounds; an empty one, as of a channel that loses its camera, changes nothing.
+    const auto number = [&](int& target, int lower = 0, int upper = 65535) {
         const int n = value.toInt(&ok);
-        if (ok)
+        ok = value.isEmpty() || (ok && n >= lower && n <= upper);
+        if (ok && !value.isEmpty())
             target = n;
     };
     if (key == "ip") {
@@ -203,18 +250,21 @@ bool writeDevice(const CommandContext& context, Camera& camera, const QByteArray
         camera.password = value;
     else if (key == "httpport")
         number(camera.httpPort);
-    else if (key == "brand")
-        number(camera.brandCode);
-    else if (key == "videoid")
-        number(camera.videoNumber);
+    else if (key == "brand") {
+        int brand = 0;
+        number(brand);
+        if (brand != 0) // 0: the recorder knows better
+            camera.brandCode = brand;
+    } else if (key == "videoid")
+        number(camera.videoNumber, 1, camera.videoSources);
     else if (key == "fps")
-        number(camera.live.fps);
+        number(camera.live.fps, 0, 5);
     else if (key == "ratectrl")
-        number(camera.live.rateControl);
+        number(camera.live.rateControl, 0, 1);
     else if (key == "bitrate")
-        number(camera.live.bitrate);
+        number(camera.live.bitrate, 0, 8);
     else if (key == "quality")
-        number(camera.live.quality);
+        number(camera.live.quality, 1, 10);
     else if (key == "format") {
         const auto code = std::find(kFormatCodes.begin(), kFormatCodes.end(), value.toInt());
         if (code == kFormatCodes.end())
@@ -274,7 +324,7 @@ int write(CommandContext& context, const Query& query)
     for (Channel& channel : channels) {
         const Camera& camera = channel.camera;
         if (!camera.ip.isEmpty() && !camera.formats.empty() &&
-            !sizesOf(camera, kFormats[static_cast<size_t>(formatIndex(camera.live.format))])
+            !sizesOf(camera, kFormats[static_cast<size_t>(formatIndex(camera.live.format))], camera.videoNumber)
                  .split(u',')
                  .contains(camera.live.size))
             return kRetBadValue;
@@ -315,40 +365,18 @@ HttpReply probeCamera(CommandContext& context, const Query& query)
         return failure("-3 login");
     if (!found->supported)
         return failure("-5 brand");
-    const Camera& camera = *found;
-    const bool several = camera.videoSources > 1;
-    QStringList sizes; // each format at the present size where it has it, at its largest otherwise
-    for (const char* format : kFormats) {
-        const QStringList offered = sizesOf(camera, format).split(u',');
-        sizes += offered.contains(camera.live.size) ? camera.live.size : offered.first();
-    }
-    std::vector<Pair> pairs{{u"videoformatstate"_s, u"1,1,1"_s},
-                            {u"videoformatlist"_s, u"256;768;1024"_s},
-                            {u"brand"_s, camera.manufacturer},
-                            {u"resolutionlist"_s, sizeLists(camera)},
-                            {u"resolutionstate"_s, sizes.join(u';')},
-                            {u"qualityrange"_s, kQualityRange},
-                            {u"qualitystate"_s, u"5;5;5"_s},
-                            {u"fpsrange"_s, kFpsRange},
-                            {u"fpsstate"_s, u"4;4;4"_s},
-                            {u"bitraterange"_s, kBitrateRange},
-                            {u"bitratestate"_s, u"-1;6;6"_s},
-                            {u"ratectrlrange"_s, kRateRange},
-                            {u"ratectrlstate"_s, u"-1;0;0"_s},
-                            {u"relativeformat"_s, camera.usable ? relativeFormat(camera) : u";;"_s}};
-    for (const Pair& pair : ptzCaps(camera.ptz))
-        pairs.push_back(pair);
-    if (camera.brandCode == 55)
-        for (const Pair& pair : onvifRanges(camera))
-            pairs.push_back({u"onvif"_s + pair.first, pair.second});
+    const int only = query.number("camera"); // one source of a camera that has several
+    if (only > found->videoSources || only < 0)
+        return failure("-6 source");
     HttpReply reply;
     reply.body = "OK" + context.profile.lineEnd;
-    if (several)
-        reply.body += "maxvideochan=" + QByteArray::number(camera.videoSources) + context.profile.lineEnd;
-    for (int source = 1; source <= camera.videoSources; ++source)
-        for (const auto& [key, value] : pairs)
-            reply.body +=
-                ((several ? u"v%1."_s.arg(source) : QString()) + key + u'=' + value).toUtf8() + context.profile.lineEnd;
+    if (found->videoSources > 1)
+        reply.body += "maxvideochan=" + QByteArray::number(found->videoSources) + context.profile.lineEnd;
+    for (int source = 1; source <= found->videoSources; ++source)
+        if (only == 0 || source == only)
+            for (const auto& [key, value] : probeLines(*found, source))
+                reply.body +=
+                    (probePrefix(*found, key, source) + key + u'=' + value).toUtf8() + context.profile.lineEnd;
     return reply;
 }
 

@@ -24,6 +24,7 @@ QJsonObject channelJson(int number, const Channel& channel)
             {u"user"_s, camera.user},
             {u"password"_s, camera.password},
             {u"brand"_s, camera.brandCode},
+            {u"videoNumber"_s, camera.videoNumber},
             {u"model"_s, camera.model},
             {u"format"_s, camera.live.format},
             {u"size"_s, camera.live.size},

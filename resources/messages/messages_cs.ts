@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 z %2 rekordérů včetně vybraných</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Název kamery nesmí obsahovat uvozovky (").</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 af %2 optagere med de valgte</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Kameranavnet må ikke indeholde anførselstegn (").</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 von %2 Rekordern einschließlich der Auswahl</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Der Kameraname darf kein Anführungszeichen (") enthalten.</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 de %2 grabadores con los seleccionados</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>El nombre de cámara no puede contener comillas (").</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 sur %2 enregistreurs avec la sélection</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Le nom de la caméra ne peut pas contenir de guillemet (").</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 מתוך %2 מקליטים כולל הנבחרים</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>שם המצלמה אינו יכול להכיל מירכאות (").</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 di %2 registratori con quelli selezionati</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Il nome della telecamera non può contenere virgolette (").</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>選択分を含めレコーダー %2 台中 %1 台</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>カメラ名に二重引用符（"）は使用できません。</translation>
+    </message>
 </context>
 </TS>

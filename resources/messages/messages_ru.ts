@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 из %2 регистраторов с учётом выбранных</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Имя камеры не может содержать кавычек (").</translation>
+    </message>
 </context>
 </TS>

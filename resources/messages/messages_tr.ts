@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>Seçilenlerle birlikte %1 / %2 kayıt cihazı</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>Kamera adı çift tırnak (") içeremez.</translation>
+    </message>
 </context>
 </TS>

@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>含所选共 %1 / %2 台录像机</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>摄像机名称不能包含双引号（"）！</translation>
+    </message>
 </context>
 </TS>

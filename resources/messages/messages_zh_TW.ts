@@ -3519,5 +3519,9 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>含所選共 %1 / %2 台錄影機</translation>
     </message>
+    <message id="980">
+        <source>The camera name must not contain a double quote (").</source>
+        <translation>攝影機名稱不可包含雙引號（"）！</translation>
+    </message>
 </context>
 </TS>

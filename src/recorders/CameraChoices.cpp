@@ -1,3 +1,4 @@
+#include "app/log/Module_Log.h"
 #include "device/ParameterText.h"
 #include "device/RelativeFormat.h"
 #include "recorders/CameraEdit.h"
@@ -209,8 +210,11 @@ void CameraEdit::fillModes()
     fillFrom(Control::LensMode, pro.sCH_Pro_LensModeList[index()], pro.sCH_Pro_LensMode[index()]);
     fillFrom(Control::LeftMode, pro.sCH_Pro_LeftDisplayModeList[index()], pro.sCH_Pro_LeftDisplayMode[index()]);
     fillFrom(Control::RightMode, pro.sCH_Pro_RightDisplayModeList[index()], pro.sCH_Pro_RightDisplayMode[index()]);
+    std::vector<FishEyeMode> modes;
+    Trapped("Form_CameraSetting - CamDetailFill",
+            [&] { FishEyeModeListPaser(modes, svr.sSub_CH_MD_FishEyeModeList[index()]); });
     QStringList views;
-    for (const FishEyeMode& mode : svr.FishEyeModes[index()])
+    for (const FishEyeMode& mode : modes)
         views += mode.sModeName;
     setEntries(at(Control::FishEyeMode), lists().isPro() ? views : QStringList(), {svr.sSub_CH_Mode4FishEye[index()]});
 }
@@ -235,8 +239,7 @@ void CameraEdit::choose(Control control, int entry)
         break;
     case Control::Resolution:
         svr.sSub_CH_Resolution[index()] = text;
-        if (svr.sSVR_DeviceType == kFamilyTXR632 && format() >= 0)
-            FitStreams(pro.Streams[index()], static_cast<std::size_t>(format()));
+        fitOtherStreams();
         CameraDetailVauleAssign();
         break;
     case Control::FrameRate:
@@ -266,6 +269,19 @@ void CameraEdit::choose(Control control, int entry)
         break;
     }
     emit choicesChanged();
+}
+
+// A newer recorder tells of all streams of a camera: those beside the chosen one come within what their lists offer.
+void CameraEdit::fitOtherStreams()
+{
+    if (m_draft.svr->sSVR_DeviceType != kFamilyTXR632 || format() < 0)
+        return;
+    const auto chosen = static_cast<std::size_t>(format());
+    ProChannelStreams& streams = m_draft.pro->Streams[index()];
+    FitStreams(streams, chosen);
+    const FormatState present = m_draft.states[chosen];
+    m_draft.states = StatesOfStreams(streams);
+    m_draft.states[chosen] = present;
 }
 
 // The lists of another video source, as far as the recorder's answer tells of it.

@@ -31,7 +31,8 @@ enum Message
     kNoCamera = 609,
     kDetectAgain = 616,
     kTooManyChannels = 716,
-    kDetectSuccess = 833
+    kDetectSuccess = 833,
+    kNameQuote = 980
 };
 
 enum Field
@@ -139,6 +140,8 @@ CameraEdit::Outcome CameraEdit::checkFields() const
     const QString address = m_fields.address.trimmed();
     if (!CheckIP(address) && GetIpByName(address).isEmpty())
         return Outcome::Failed(kAddressFault, {}, kAddress);
+    if (m_fields.name.contains(u'"'))
+        return Outcome::Failed(kNameQuote, {}, kName);
     if (!PortFits(m_fields.port))
         return Outcome::Failed(kPortFault, {}, kPort);
     return Outcome::Done();
@@ -157,7 +160,7 @@ CameraEdit::Outcome CameraEdit::detect()
     }
     if (!CgiGetGid(m_com.web, AddressOf(*m_draft.svr)))
         return Outcome::Failed(kNoCamera);
-    return pro ? detectPro() : detectSvr();
+    return pro ? ChannelDetectPro() : detectSvr();
 }
 
 CameraEdit::Draft CameraEdit::copyOfDraft() const
@@ -165,37 +168,57 @@ CameraEdit::Draft CameraEdit::copyOfDraft() const
     return {std::make_unique<SVRRecord>(*m_draft.svr), std::make_unique<SVRProRecord>(*m_draft.pro), m_draft.states};
 }
 
+bool CameraEdit::sameCamera() const
+{
+    return m_fields.address.trimmed() == m_detectedFields.address.trimmed() &&
+           m_fields.port.trimmed() == m_detectedFields.port.trimmed();
+}
+
+// What an earlier camera has left would pass for what the asked one says.
+CameraEdit::Draft CameraEdit::draftForDetection() const
+{
+    Draft draft = copyOfDraft();
+    ForgetCamera(*draft.svr, *draft.pro, m_channel);
+    if (sameCamera())
+        return draft;
+    draft.svr->iSub_CH_Brand[index()] = 0;
+    draft.svr->iSub_CH_VideoID[index()] = 1;
+    draft.pro->sCH_Pro_Model[index()].clear();
+    draft.pro->sCH_Pro_Mac[index()].clear();
+    draft.pro->lCH_Pro_RTPSPort[index()] = 0;
+    return draft;
+}
+
 CameraEdit::Outcome CameraEdit::detectSvr()
 {
-    const DeviceAddress recorder = AddressOf(*m_draft.svr);
+    Draft draft = draftForDetection();
+    const DeviceAddress recorder = AddressOf(*draft.svr);
     const QString password = m_fields.password.trimmed().isEmpty() ? u"0"_s : m_fields.password;
     const QString address = m_fields.address.trimmed();
     const QString port = m_fields.port.trimmed();
-    const auto source = static_cast<qint16>(choice(Control::VideoSource).current + 1);
+    const QString brand = sameCamera() ? this->brand() : QString();
+    const auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
     const QString reply =
-        source > 0 ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand())
-                   : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand());
-    const qint16 asked = std::max<qint16>(source, 1);
-    const std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, asked);
+        choice(Control::VideoSource).shown
+            ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand)
+            : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand);
+    const std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, source);
     if (!camera)
         return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
-    Draft draft = copyOfDraft();
-    ForgetCamera(*draft.svr, *draft.pro, m_channel);
     if (!TakeDetectedText(*camera, *draft.svr, m_channel, draft.states))
         return refuse(Outcome::FailedPlain(kUnusable));
-    draft.svr->iSub_CH_VideoID[index()] = asked;
+    draft.svr->iSub_CH_VideoID[index()] = source;
     m_probeReply = reply.size() <= kMaxReplySize ? reply : QString();
     return takeDetected(std::move(draft));
 }
 
-CameraEdit::Outcome CameraEdit::detectPro()
+CameraEdit::Outcome CameraEdit::ChannelDetectPro()
 {
-    const auto source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
-    const QString reply = SendCmdXml(m_com.web, AddressOf(*m_draft.svr),
+    Draft draft = draftForDetection();
+    const auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
+    const QString reply = SendCmdXml(m_com.web, AddressOf(*draft.svr),
                                      BuildDetectCamera(m_fields.address.trimmed(), m_fields.port.trimmed().toInt(),
                                                        m_fields.user, m_fields.password, source));
-    Draft draft = copyOfDraft();
-    ForgetCamera(*draft.svr, *draft.pro, m_channel);
     qint16 result = -100;
     const bool read = Trapped(kDetectSource, [&] {
         result = ParseDetectedCamera(reply, *draft.svr, *draft.pro, static_cast<qint16>(m_channel));
@@ -206,10 +229,14 @@ CameraEdit::Outcome CameraEdit::detectPro()
     draft.svr->sCH_ResolutionList[index()] =
         QStringList(streams.sResolutionList.begin(), streams.sResolutionList.end()).join(u';');
     draft.states = StatesOfStreams(streams);
-    Trapped(kDetectSource, [&] {
-        FishEyeModeListPaser(draft.svr->FishEyeModes[index()], draft.svr->sSub_CH_MD_FishEyeModeList[index()]);
-    });
+    readFishEyeModes(*draft.svr);
     return takeDetected(std::move(draft));
+}
+
+void CameraEdit::readFishEyeModes(SVRRecord& svr) const
+{
+    Trapped(kDetectSource,
+            [&] { FishEyeModeListPaser(svr.FishEyeModes[index()], svr.sSub_CH_MD_FishEyeModeList[index()]); });
 }
 
 CameraEdit::Outcome CameraEdit::takeDetected(Draft draft)
@@ -290,7 +317,7 @@ ChannelSettings CameraEdit::settings(const Draft& draft) const
 CameraEdit::Outcome CameraEdit::write(Draft& draft) const
 {
     const auto number = static_cast<qint16>(m_channel);
-    if (draft.svr->sSVR_DeviceType == kFamilySVR || !lists().isPro())
+    if (!lists().isPro())
         return WriteSvrChannel(m_com, *draft.svr, number, parameters());
     return WriteProChannel(m_com, *draft.svr, *draft.pro, number, settings(draft));
 }
@@ -303,6 +330,8 @@ CameraEdit::Outcome CameraEdit::writeBack()
             open(m_channel);
         return outcome;
     }
+    if (m_fields.name.contains(u'"')) // no device can be told
+        return Outcome::Failed(kNameQuote, {}, kName);
     gather();
     Draft draft = copyOfDraft();
     putFields(*draft.svr);
@@ -317,6 +346,7 @@ CameraEdit::Outcome CameraEdit::writeBack()
             refuse(outcome);
         return outcome;
     }
+    readFishEyeModes(*draft.svr);
     draft.svr->bSub_CH_Modified[index()] = true;
     m_recorders.SVREdit = *draft.svr;
     m_recorders.SVRProEdit = *draft.pro;

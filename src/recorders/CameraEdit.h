@@ -104,7 +104,10 @@ private:
     void putFields(SVRRecord& svr) const;
     Outcome checkFields() const;
     Outcome detectSvr();
-    Outcome detectPro();
+    Outcome ChannelDetectPro();
+    bool sameCamera() const; // the lists are those of the address on the page
+    Draft draftForDetection() const;
+    void readFishEyeModes(SVRRecord& svr) const;
     Outcome takeDetected(Draft draft);
     Outcome refuse(Outcome outcome);
     Outcome write(Draft& draft) const;
@@ -118,6 +121,7 @@ private:
     void CameraDetailVauleAssign(); // the rows of cmbCameraDetail
     void CheckRelativeformat(RelativeList list);
     void showRateRows();
+    void fitOtherStreams();
     void fillModes(); // lenses and fish-eye views
     void chooseSource(qint16 source);
     void gather(); // the choices into the draft

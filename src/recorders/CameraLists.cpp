@@ -30,8 +30,10 @@ QStringList ListOf(const QString& text)
     QStringList list;
     for (const QString& part : text.split(u',', Qt::SkipEmptyParts)) {
         const QString entry = part.trimmed();
-        if (!entry.isEmpty() && !list.contains(entry) && list.size() < kMaxListEntries)
+        if (!entry.isEmpty() && !list.contains(entry))
             list += entry;
+        if (list.size() == kMaxListEntries)
+            break;
     }
     return list;
 }
@@ -136,13 +138,10 @@ QStringList CameraLists::formats() const
         if (!list.contains(shown))
             list += shown;
     }
-    for (int format = 0; list.isEmpty() && format < kMaxStream; ++format) {
-        if (resolutions(format).isEmpty())
-            continue;
-        for (int each = format; each < kMaxStream; ++each) {
-            if (!resolutions(each).isEmpty())
-                list += (isPro() ? kProFormatNames : kFormatNames)[static_cast<std::size_t>(each)];
-        }
+    const bool told = !list.isEmpty();
+    for (int format = 0; !told && format < kMaxStream; ++format) {
+        if (!resolutions(format).isEmpty())
+            list += (isPro() ? kProFormatNames : kFormatNames)[static_cast<std::size_t>(format)];
     }
     return list;
 }

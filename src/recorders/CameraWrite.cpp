@@ -10,6 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QLatin1String kSource("Form_CameraSetting - cmbeditCam_Click");
 constexpr qsizetype kLoggedReply = 200; // characters
 
 enum Message
@@ -19,12 +20,6 @@ enum Message
     kFormatFault = 615,
     kSettingFault = 722
 };
-
-RecorderOutcome Refused(const QString& reply)
-{
-    LogTrap(kCameraWriteSource, u"Recorder answered '%1'"_s.arg(reply.left(kLoggedReply).simplified()));
-    return RecorderOutcome::Failed(kDetectFault);
-}
 
 // The number of RET="n" in a reply; 0 when there is none.
 int ResultOf(const QString& reply)
@@ -36,12 +31,18 @@ int ResultOf(const QString& reply)
 
 } // namespace
 
+RecorderOutcome RefusedWrite(const QString& reply)
+{
+    LogTrap(kSource, u"Recorder answered '%1'"_s.arg(reply.left(kLoggedReply).simplified()));
+    return RecorderOutcome::Failed(kDetectFault);
+}
+
 RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 channel,
                                 const ChannelParameters& parameters)
 {
     const bool both = !parameters.Format.isEmpty() && !parameters.Resolution.isEmpty();
     QString reply;
-    Trapped(kCameraWriteSource, [&] {
+    Trapped(kSource, [&] {
         reply = com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), parameters,
                                       both ? ChannelForm::Both : ChannelForm::Simple);
     });
@@ -49,7 +50,7 @@ RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 chan
         return RecorderOutcome::Done();
     if (!both && ResultOf(reply) < 0)
         return RecorderOutcome::Failed(kFormatFault);
-    return Refused(reply);
+    return RefusedWrite(reply);
 }
 
 RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro, qint16 channel,
@@ -60,13 +61,13 @@ RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro
     if (written.isEmpty())
         return RecorderOutcome::Failed(kConnectionError);
     if (!Accepted(written))
-        return Refused(written);
+        return RefusedWrite(written);
     if (!Accepted(SendCmdXml(com.web, recorder, BuildSaveConfig(kSaveChannels))))
         return RecorderOutcome::Failed(kSettingFault);
     const QString read = SendCmdXml(com.web, recorder, BuildGetChannels(true, static_cast<qint16>(channel + 1)));
     if (read.isEmpty())
         return RecorderOutcome::Failed(kConnectionError);
     qint16 result = 0;
-    Trapped(kCameraWriteSource, [&] { result = ParseChannelList(read, svr, pro); });
-    return result == 1 ? RecorderOutcome::Done() : Refused(read);
+    Trapped(kSource, [&] { result = ParseChannelList(read, svr, pro); });
+    return result == 1 ? RecorderOutcome::Done() : RefusedWrite(read);
 }

@@ -4,9 +4,10 @@
 #include "device/Module_XML.h"
 #include "recorders/RecorderCall.h"
 
-// Writes of one channel to its recorder. All wait on the replies and change nothing but what they say.
+// Writes of one channel (from 0) to its recorder. All wait on the replies and change nothing but what they say.
 
-inline constexpr QLatin1String kCameraWriteSource("Form_CameraSetting - cmbeditCam_Click"); // of their log lines
+// The outcome of a write that the recorder did not take, with its line in the log.
+RecorderOutcome RefusedWrite(const QString& reply);
 
 // Older family: the channel's parameters in the full form, or without a format in the short one.
 RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 channel,

@@ -17,8 +17,11 @@ enum Message
 RecorderOutcome ClearOnDevice(Form_COM& com, const SVRRecord& svr, qint16 channel)
 {
     if (!IsProFamily(svr.sSVR_DeviceType)) {
-        ChannelParameters nothing; // an empty address takes the camera off
-        return WriteSvrChannel(com, svr, channel, nothing);
+        const QString reply = com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), {},
+                                                    ChannelForm::Simple); // an empty address takes the camera off
+        if (reply.isEmpty())
+            return RecorderOutcome::Failed(kNoServer);
+        return DeviceBridge::DeviceTook(reply) ? RecorderOutcome::Done() : RefusedWrite(reply);
     }
     const DeviceAddress recorder = AddressOf(svr);
     if (!Accepted(SendCmdXml(com.web, recorder, BuildClearChannel(static_cast<qint16>(channel + 1)))))

@@ -1,8 +1,12 @@
+#include "device/CameraText.h"
 #include "device/ParameterText.h"
+#include "device/RelativeFormat.h"
 #include "support/Conversions.h"
 
 #include <cstdlib>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
 {
@@ -16,6 +20,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
         }
     }
     CheckIP(text);
+    const auto camera = ReadDetectedCamera(text, 2);
+    for (int format = 0; camera && format < kMaxStream; ++format) {
+        for (const RelativeList list : {RelativeList::FrameRate, RelativeList::BitRate})
+            RelativeFormatValues(camera->RelativeFormat, format, u"640x480"_s, list);
+    }
+    ReadCameraSearch(text);
+    if (const auto bits = ReadCameraEvents(text)) {
+        if (ReadCameraEvents(u"OK\n"_s + CameraEventParameters(*bits, {0, 63}).replace(u'&', u'\n'))->at(63) !=
+            bits->at(63))
+            std::abort();
+    }
+    RefusedChannels(text);
     if (!text.contains(u'"')) { // a quote is refused, with a line in the log
         const QString escaped = Escape(text);
         if (escaped.contains(u' ') || escaped.contains(u'<') || Unescape(escaped) != text)

@@ -1,0 +1,474 @@
+#include "tests/recorders/CameraFixture.h"
+
+using namespace Qt::StringLiterals;
+using simulators::Family;
+using simulators::FaultKind;
+
+namespace {
+
+constexpr Family kFamilies[] = {Family::Svr, Family::OmluPro, Family::Txr632};
+
+class CameraPage : public CameraStation
+{
+protected:
+    // What a page on a record made by hand shows; no recorder is asked.
+    void show(const std::function<void(SVRRecord&, SVRProRecord&)>& make)
+    {
+        recorders = std::make_unique<RecorderSet>();
+        for (int channel = 0; channel < kMaxChannel; ++channel)
+            ClearChannel(recorders->SVREdit, recorders->SVRProEdit, channel);
+        SVRRecord& svr = recorders->SVREdit;
+        svr.sSVR_DeviceType = kFamilySVR;
+        svr.sSub_CH_IP[0] = u"10.0.0.1"_s;
+        svr.sSub_CH_VideoFormat[0] = u"H.264"_s;
+        svr.sSub_CH_Resolution[0] = u"640x480"_s;
+        svr.sCH_FMTList[0] = u"MJPEG,H.264"_s;
+        svr.sCH_ResolutionList[0] = u"320x240;;1280x720,640x480"_s;
+        svr.sCH_FPS_Range[0] = u"0,1,2;;0,1,2,3,4,5"_s;
+        svr.sCH_BitRate_Range[0] = u"-1;;1,2,3"_s;
+        svr.sCH_RateCtrl_Range[0] = u"-1;;0,1"_s;
+        svr.sCH_Quality_Range[0] = u"0,1,2;;1,2"_s;
+        svr.iCH_FPS[0] = 3;
+        svr.iCH_BitRate[0] = 2;
+        svr.iCH_RateCtrl[0] = 1;
+        make(svr, recorders->SVRProEdit);
+        page = std::make_unique<CameraEdit>(com, *recorders);
+        page->open(0);
+    }
+};
+
+TEST_F(CameraPage, FieldsAreCheckedInOrderBeforeAnythingIsAsked)
+{
+    start(Family::Svr);
+    page->open(10);
+    const CameraEdit::Fields good = fieldsOf(101);
+    const std::pair<CameraEdit::Fields, std::pair<int, int>> cases[] = {
+        {{}, {603, 0}},
+        {{good.name, {}, {}, {}, {}}, {604, 1}},
+        {{good.name, u"1.2.3"_s, {}, {}, {}}, {605, 2}},
+        {{good.name, u"1.2.3"_s, u"80"_s, {}, {}}, {606, 3}},
+        {{good.name, u"1.2.3"_s, u"80"_s, good.user, {}}, {607, 4}},
+        {{good.name, u"no such host.invalid"_s, u"80"_s, good.user, u"x"_s}, {554, 1}},
+        {{good.name, good.address, u"65536"_s, good.user, u"x"_s}, {556, 2}},
+    };
+    for (const auto& [fields, fault] : cases) {
+        page->setFields(fields);
+        const CameraEdit::Outcome outcome = page->detect();
+        EXPECT_FALSE(outcome.ok);
+        EXPECT_EQ(outcome.message, fault.first);
+        EXPECT_EQ(outcome.field, fault.second);
+        EXPECT_EQ(outcome.title, u"Notice"_s);
+        EXPECT_FALSE(page->detected());
+    }
+    EXPECT_TRUE(requests().empty());
+}
+
+TEST_F(CameraPage, KnownCameraWithUnchangedFieldsAsksNothing)
+{
+    start(Family::Svr);
+    page->open(1);
+    EXPECT_EQ(entries(Control::Format), (QStringList{u"MJPEG"_s, u"MPEG4"_s, u"H.264"_s}));
+    EXPECT_EQ(chosen(Control::Format), u"H.264"_s);
+    EXPECT_EQ(chosen(Control::Resolution), u"1280x720"_s);
+    EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
+    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_TRUE(page->detected());
+    EXPECT_TRUE(requests().empty());
+
+    CameraEdit::Fields renamed = page->fields();
+    renamed.name += u" 2"_s;
+    page->setFields(renamed);
+    EXPECT_FALSE(page->detected());
+    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(requests().size(), 2U); // reachable, probe
+}
+
+TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
+{
+    for (const Family family : kFamilies) {
+        SCOPED_TRACE(qPrintable(simulators::familyName(family)));
+        const bool pro = family != Family::Svr;
+        start(family);
+        page->open(11);
+        CameraEdit::Fields fields = fieldsOf(101);
+        fields.name = u"Zufahrt 南"_s;
+        page->setFields(fields);
+        EXPECT_EQ(page->checkApply().message, 616);
+        EXPECT_EQ(page->detect().message, 833);
+        EXPECT_TRUE(recorders->SVREdit.sSub_CH_IP[11].isEmpty()); // the edit record waits for the write
+
+        EXPECT_TRUE(choose(Control::Format, pro ? u"h264"_s : u"H.264"_s));
+        EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
+        EXPECT_TRUE(choose(Control::FrameRate, u"10"_s));
+        EXPECT_TRUE(choose(Control::RateControl, u"CBR"_s));
+        EXPECT_FALSE(page->choice(Control::Quality).shown);
+        EXPECT_TRUE(choose(Control::BitRate, u"512K"_s));
+        EXPECT_TRUE(page->checkApply().ok);
+        requests();
+        EXPECT_TRUE(page->writeBack().ok);
+
+        const simulators::Camera camera = deviceCamera(12);
+        EXPECT_EQ(camera.name, fields.name);
+        EXPECT_EQ(camera.ip, fields.address);
+        EXPECT_EQ(camera.password, fields.password);
+        EXPECT_EQ(camera.live.format, u"h264"_s);
+        EXPECT_EQ(camera.live.size, u"640x480"_s);
+        EXPECT_EQ(camera.live.fps, pro ? 10 : 3); // the older family counts in steps
+        EXPECT_EQ(camera.live.rateControl, 1);
+        EXPECT_EQ(camera.live.bitrate, pro ? 512 : 4);
+        const std::vector<simulators::LoggedRequest> sent = requests();
+        ASSERT_EQ(sent.size(), pro ? 3U : 1U);
+        if (pro) {
+            EXPECT_EQ(sent[0].cmd, CMD_SET_CHANNEL);
+            EXPECT_TRUE(sent[0].body.contains("<Name>Zufahrt%20%u5357</Name>"));
+            EXPECT_TRUE(sent[0].body.contains("<CH>12</CH>"));
+            EXPECT_EQ(sent[1].cmd, CMD_SAVE_CONFIG);
+            EXPECT_EQ(sent[2].cmd, CMD_GET_CHANNELS);
+        } else {
+            EXPECT_FALSE(sent[0].target.contains(".quality=")); // its row is hidden
+        }
+        onDevice([](simulators::Device& device) { device.reboot(); });
+        EXPECT_EQ(deviceCamera(12).ip, fields.address);
+
+        const SVRRecord& edit = recorders->SVREdit;
+        EXPECT_TRUE(edit.bSub_CH_Modified[11]);
+        EXPECT_EQ(edit.sSub_CH_Name[11], fields.name);
+        EXPECT_EQ(edit.sSub_CH_Resolution[11], u"640x480"_s);
+        EXPECT_EQ(edit.iCH_FPS[11], pro ? 10 : 3);
+        EXPECT_EQ(edit.sCH_FPS_Customer[11], u"10"_s);
+        EXPECT_EQ(edit.iSub_Channel[11], 12);
+        EXPECT_FALSE(edit.bSub_CH_Modified[0]);
+        EXPECT_FALSE(page->changed());
+        EXPECT_EQ(chosen(Control::FrameRate), u"10"_s);
+    }
+}
+
+TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
+{
+    const QByteArray probe = "/system/detectcam.cgi";
+    struct Case
+    {
+        Family family;
+        int camera; // 103 cannot be used, 104 is of an unknown make
+        bool wrongPassword;
+        simulators::Fault fault;
+        int message;
+        QString suffix;
+        QString title;
+    };
+    const simulators::Fault none{FaultKind::Delay, 0};
+    const Case cases[] = {
+        {Family::Svr, 101, false, {FaultKind::Status, 404, "/getgid.cgi"}, 609, {}, u"Notice"_s},
+        {Family::Svr, 101, true, none, 608, u" : Error -3 login"_s, u"Notice"_s},
+        {Family::Svr, 200, false, none, 608, u" : Error -2 no camera"_s, u"Notice"_s},
+        {Family::Svr, 101, false, {FaultKind::Reset, 0, probe}, 608, u" : "_s, u"Notice"_s},
+        {Family::Svr, 101, false, {FaultKind::CutOff, 120, probe}, 608, u" : "_s, u"Notice"_s},
+        {Family::Svr, 103, false, none, 73, {}, u"Information"_s},
+        {Family::Svr,
+         101,
+         false,
+         {FaultKind::Body, 0, probe, 0, "OK\nrelativeformat=0,0,0;0,0,0;0,0,0\n"},
+         73,
+         {},
+         u"Information"_s},
+        {Family::Svr, 101, false, {FaultKind::Body, 0, probe, 0, "OK\nresolutionlist=;;\n"}, 73, {}, u"Information"_s},
+        {Family::Txr632, 101, false, {FaultKind::Reset, 0, "/getgid.cgi"}, 609, {}, u"Notice"_s},
+        {Family::Txr632, 200, false, none, 74, {}, u"Information"_s},
+        {Family::Txr632, 101, true, none, 71, {}, u"Information"_s},
+        {Family::Txr632, 104, false, none, 72, {}, u"Information"_s},
+        {Family::OmluPro, 103, false, none, 73, {}, u"Information"_s},
+        {Family::OmluPro, 101, false, {FaultKind::GarbageBody, 900, "/cmd.cgi"}, 75, {}, u"Information"_s},
+        {Family::OmluPro, 101, false, {FaultKind::Reset, 0, "/cmd.cgi"}, 75, {}, u"Information"_s},
+        {Family::OmluPro,
+         101,
+         false,
+         {FaultKind::Body, 0, "/cmd.cgi", 0,
+          "<RESPONSE RET=\"0\"><System><NumberVideo>many</NumberVideo></System></RESPONSE>"},
+         75,
+         {},
+         u"Information"_s},
+    };
+    std::optional<Family> running;
+    for (const Case& row : cases) {
+        if (running != row.family)
+            start(row.family);
+        running = row.family;
+        fault(row.fault);
+        page->open(1);
+        const QString stored = recorders->SVREdit.sCH_ResolutionList[1];
+        CameraEdit::Fields fields = fieldsOf(row.camera);
+        if (row.wrongPassword)
+            fields.password = u"wrong"_s;
+        page->setFields(fields);
+        const CameraEdit::Outcome outcome = page->detect();
+        EXPECT_FALSE(outcome.ok);
+        EXPECT_EQ(outcome.message, row.message) << row.camera << ' ' << row.fault.path.constData();
+        EXPECT_EQ(outcome.suffix, row.suffix);
+        EXPECT_EQ(outcome.title, row.title);
+        EXPECT_EQ(recorders->SVREdit.sCH_ResolutionList[1], stored);
+        EXPECT_EQ(page->checkApply().message, 616);
+        EXPECT_EQ(page->fields(), fields); // what was typed can be corrected
+        if (row.message != 609) {
+            EXPECT_TRUE(entries(Control::Format).isEmpty());
+        }
+    }
+}
+
+TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
+{
+    struct Case
+    {
+        QString rule;
+        QStringList rates;
+        QString rate;
+        qint16 code; // that is written
+        QStringList bits;
+    };
+    const QStringList plainRates{u"Full"_s, u"1"_s, u"5"_s, u"10"_s, u"15"_s, u"20"_s};
+    const QStringList plainBits{u"64K"_s, u"128K"_s, u"256K"_s};
+    const Case cases[] = {
+        {{}, plainRates, u"10"_s, 3, plainBits},
+        {u"{}{}{}"_s, plainRates, u"10"_s, 3, plainBits},
+        {u"{}{}{640x480<1|3|9|x><8>}"_s, {u"1"_s, u"10"_s}, u"10"_s, 3, {u"2048K"_s}},
+        {u"{}{}{640x480<2|1><1|2>}"_s, {u"5"_s, u"1"_s}, u"5"_s, 2, {u"64K"_s, u"128K"_s}},
+        {u"{640x480<1><1>}{}{1280x720<1><1>}"_s, plainRates, u"10"_s, 3, plainBits},
+        {u"{}{}{640x480<-1|1><-1>}"_s, {u"N/A"_s, u"1"_s}, u"N/A"_s, 3, {u"N/A"_s}},
+    };
+    for (const Case& row : cases) {
+        show([&](SVRRecord& svr, SVRProRecord&) { svr.sCH_Relativeformat[0] = row.rule; });
+        EXPECT_EQ(entries(Control::FrameRate), row.rates) << qPrintable(row.rule);
+        EXPECT_EQ(chosen(Control::FrameRate), row.rate) << qPrintable(row.rule);
+        EXPECT_EQ(entries(Control::BitRate), row.bits) << qPrintable(row.rule);
+        EXPECT_EQ(page->choice(Control::BitRate).shown, row.bits != QStringList{u"N/A"_s});
+        // Another size and back: the stored rate is the one that the list left.
+        EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
+        EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
+        EXPECT_EQ(recorders->SVREdit.iCH_FPS[0], 3);
+    }
+    show([](SVRRecord& svr, SVRProRecord&) { svr.sCH_Relativeformat[0] = u"{}{}{640x480<1><1>,1280x720<2|1><1>}"_s; });
+    EXPECT_EQ(chosen(Control::FrameRate), u"1"_s); // has taken the place of 10
+    EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
+    EXPECT_EQ(chosen(Control::FrameRate), u"1"_s);
+}
+
+TEST_F(CameraPage, RowsFollowFormatAndRateControl)
+{
+    show([](SVRRecord&, SVRProRecord&) {});
+    const auto shown = [this](Control control) { return page->choice(control).shown; };
+    EXPECT_TRUE(shown(Control::RateControl) && shown(Control::BitRate) && !shown(Control::Quality)); // CBR
+    choose(Control::RateControl, u"VBR"_s);
+    EXPECT_TRUE(!shown(Control::BitRate) && shown(Control::Quality));
+    choose(Control::Format, u"MJPEG"_s);
+    EXPECT_TRUE(shown(Control::FrameRate) && !shown(Control::RateControl) && !shown(Control::BitRate));
+    EXPECT_EQ(entries(Control::Quality), (QStringList{u"FULL"_s, u"1"_s, u"2"_s}));
+    EXPECT_EQ(chosen(Control::Resolution), u"320x240"_s);
+    choose(Control::Format, u"H.264"_s);
+    EXPECT_EQ(chosen(Control::Resolution), u"640x480"_s); // as it was left
+    EXPECT_EQ(chosen(Control::RateControl), u"VBR"_s);
+    EXPECT_TRUE(page->changed());
+    page->choose(Control::Format, 99);
+    EXPECT_EQ(chosen(Control::Format), u"H.264"_s);
+    EXPECT_FALSE(shown(Control::VideoSource) || shown(Control::LensMode));
+}
+
+TEST_F(CameraPage, OnvifCameraGoesByItsOwnRanges)
+{
+    const auto onvif = [](qint16 brand) {
+        return [brand](SVRRecord& svr, SVRProRecord&) {
+            svr.iSub_CH_Brand[0] = brand;
+            svr.sCH_Onvif_JPEG_Resolution[0] = u"352x288"_s;
+            svr.sCH_Onvif_H264_Resolution[0] = u"640x480,1920x1080"_s;
+            svr.sCH_Onvif_H264_FPS[0] = u"2,12"_s;
+            svr.sCH_Onvif_Quality[0] = u"3,5"_s;
+            svr.iCH_RateCtrl[0] = 0;
+        };
+    };
+    show(onvif(55));
+    EXPECT_EQ(entries(Control::Resolution), (QStringList{u"640x480"_s, u"1920x1080"_s}));
+    EXPECT_EQ(entries(Control::FrameRate), (QStringList{u"Full"_s, u"5"_s, u"10"_s}));
+    EXPECT_EQ(entries(Control::Quality), (QStringList{u"3"_s, u"4"_s, u"5"_s}));
+    choose(Control::Format, u"MJPEG"_s);
+    EXPECT_EQ(entries(Control::Resolution), (QStringList{u"352x288"_s}));
+    EXPECT_EQ(page->brand(), u"55"_s);
+    show(onvif(7));
+    EXPECT_EQ(entries(Control::Resolution), (QStringList{u"1280x720"_s, u"640x480"_s}));
+    EXPECT_EQ(entries(Control::FrameRate).size(), 6);
+}
+
+TEST_F(CameraPage, SourcesOfOneCameraHaveListsOfTheirOwn)
+{
+    start(Family::Svr);
+    onDevice([](simulators::Device& device) {
+        for (simulators::Camera& camera : device.state().network)
+            camera.multiStream = camera.ip == u"192.168.10.25"_s;
+    });
+    page->open(11);
+    page->setFields(fieldsOf(5));
+    EXPECT_EQ(page->detect().message, 833);
+    ASSERT_EQ(entries(Control::VideoSource), (QStringList{u"1"_s, u"2"_s}));
+    EXPECT_EQ(entries(Control::Format), (QStringList{u"MJPEG"_s, u"H.264"_s})); // of its streams
+    EXPECT_TRUE(choose(Control::Format, u"H.264"_s));
+    EXPECT_TRUE(entries(Control::Resolution).contains(u"1280x720"_s));
+    requests();
+    EXPECT_TRUE(choose(Control::VideoSource, u"2"_s));
+    EXPECT_FALSE(entries(Control::Resolution).contains(u"1280x720"_s));
+    EXPECT_TRUE(requests().empty());
+    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_TRUE(requests().back().target.contains("&camera=2&brand="));
+    EXPECT_EQ(chosen(Control::VideoSource), u"2"_s);
+    EXPECT_TRUE(page->writeBack().ok);
+    EXPECT_EQ(deviceCamera(12).videoNumber, 2);
+    EXPECT_EQ(recorders->SVREdit.iSub_CH_VideoID[11], 2);
+    page->setFields(fieldsOf(101)); // another camera: its sources are not known yet
+    EXPECT_FALSE(page->choice(Control::VideoSource).shown);
+}
+
+TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
+{
+    start(Family::Txr632, 16, 5);
+    page->open(11);
+    page->setFields(fieldsOf(5)); // two lenses, 1280x720 and below
+    ASSERT_EQ(page->detect().message, 833);
+    EXPECT_TRUE(choose(Control::Format, u"h264"_s));
+    EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
+    EXPECT_EQ(entries(Control::FrameRate).last(), u"30"_s);
+    EXPECT_TRUE(choose(Control::FrameRate, u"29"_s));
+    EXPECT_TRUE(choose(Control::Format, u"jpeg"_s));
+    EXPECT_FALSE(page->choice(Control::BitRate).shown);
+    EXPECT_TRUE(choose(Control::Resolution, u"320x240"_s));
+    EXPECT_TRUE(choose(Control::Format, u"h264"_s));
+    EXPECT_EQ(chosen(Control::Resolution), u"1280x720"_s);
+    EXPECT_EQ(chosen(Control::FrameRate), u"29"_s);
+    EXPECT_TRUE(choose(Control::LensMode, u"both"_s));
+    EXPECT_TRUE(choose(Control::RightMode, u"normal"_s));
+    EXPECT_TRUE(page->writeBack().ok);
+    const simulators::Camera camera = deviceCamera(12);
+    EXPECT_EQ(camera.live.fps, 29);
+    EXPECT_EQ(camera.lensMode, u"both"_s);
+    EXPECT_EQ(camera.rightDisplayMode, u"normal"_s);
+    EXPECT_EQ(recorders->SVRProEdit.Streams[11].sResolution[0], u"320x240"_s);
+    EXPECT_EQ(recorders->SVRProEdit.Streams[11].iFrameRate[2], 29);
+
+    // A size that allows less brings the rate down to what it allows; the other streams come within theirs.
+    recorders->SVRProEdit.Streams[11].iFPSUpper[2] = {15, 20, 30};
+    recorders->SVRProEdit.Streams[11].sResolution[0] = u"9x9"_s;
+    page->open(11);
+    EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
+    EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
+    EXPECT_EQ(entries(Control::FrameRate).last(), u"20"_s);
+    EXPECT_TRUE(choose(Control::Format, u"jpeg"_s));
+    EXPECT_EQ(chosen(Control::Resolution), u"1280x720"_s);
+}
+
+TEST_F(CameraPage, FishEyeViewsComeFromTheProbe)
+{
+    start(Family::OmluPro);
+    page->open(12);
+    page->setFields(fieldsOf(7));
+    ASSERT_EQ(page->detect().message, 833);
+    EXPECT_EQ(entries(Control::FishEyeMode), (QStringList{u"Original"_s, u"Panorama"_s, u"Quad"_s}));
+    EXPECT_EQ(chosen(Control::FishEyeMode), u"Panorama"_s);
+    EXPECT_TRUE(choose(Control::FishEyeMode, u"Quad"_s));
+}
+
+TEST_F(CameraPage, StationHoldsNoMoreThanItsCameras)
+{
+    start(Family::Svr);
+    for (std::size_t slot = 1; slot < 5; ++slot) {
+        recorders->SVRWorkList[slot].sSVR_IP = u"10.0.0.%1"_s.arg(slot);
+        recorders->SVRWorkList[slot].sSub_CH_IP.fill(u"10.1.1.1"_s);
+    }
+    SVRRecord& last = recorders->SVRWorkList[4]; // 7 of this recorder, 192 of three others
+    std::fill(last.sSub_CH_IP.begin() + 57, last.sSub_CH_IP.end(), QString()); // and 57: 256
+    page->open(11);
+    page->setFields(fieldsOf(101));
+    EXPECT_EQ(page->checkApply().message, 716);
+    EXPECT_EQ(page->checkApply().suffix, u"(256)"_s);
+    last.sSub_CH_IP[56].clear();
+    EXPECT_EQ(page->checkApply().message, 616);        // there is room; the camera is not detected yet
+    recorders->SVREdit.sSub_CH_IP[10] = u"10.1.1.1"_s; // added on this page and not applied yet
+    EXPECT_EQ(page->checkApply().message, 716);
+    page->open(1);
+    EXPECT_TRUE(page->checkApply().ok); // a camera that is there already may be tuned
+}
+
+TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
+{
+    struct Case
+    {
+        Family family;
+        simulators::Fault fault;
+        int message;
+        bool logged;
+    };
+    const Case cases[] = {
+        {Family::Svr, {FaultKind::Refuse, -3, "/param.cgi"}, 608, true},
+        {Family::Svr, {FaultKind::Reset, 0, "/param.cgi"}, 608, true},
+        {Family::Txr632, {FaultKind::Refuse, -3, "/cmd.cgi", CMD_SET_CHANNEL}, 608, true},
+        {Family::Txr632, {FaultKind::Reset, 0, "/cmd.cgi", CMD_SET_CHANNEL}, 7, false},
+        {Family::Txr632, {FaultKind::Refuse, -1, "/cmd.cgi", CMD_SAVE_CONFIG}, 722, false},
+        {Family::OmluPro, {FaultKind::Reset, 0, "/cmd.cgi", CMD_GET_CHANNELS}, 7, false},
+        {Family::OmluPro, {FaultKind::Body, 0, "/cmd.cgi", CMD_GET_CHANNELS, "<RESPONSE RET=\"-6\"/>"}, 608, true},
+        {Family::OmluPro,
+         {FaultKind::Body, 0, "/cmd.cgi", CMD_GET_CHANNELS,
+          "<RESPONSE RET=\"0\"><CHList><CH ID=\"2\"><HTTPPort>x</HTTPPort></CH></CHList></RESPONSE>"},
+         608,
+         true},
+    };
+    std::optional<Family> running;
+    for (const Case& row : cases) {
+        if (running != row.family)
+            start(row.family);
+        running = row.family;
+        const qsizetype before = log().count("Form_CameraSetting - cmbeditCam_Click");
+        page->open(1);
+        const QString size = recorders->SVREdit.sSub_CH_Resolution[1];
+        EXPECT_TRUE(choose(Control::Resolution, u"320x240"_s));
+        fault(row.fault);
+        const CameraEdit::Outcome outcome = page->writeBack();
+        EXPECT_FALSE(outcome.ok);
+        EXPECT_EQ(outcome.message, row.message) << row.fault.cmd;
+        EXPECT_EQ(outcome.title, u"Notice"_s);
+        EXPECT_EQ(log().count("Form_CameraSetting - cmbeditCam_Click") > before, row.logged) << row.fault.cmd;
+        EXPECT_EQ(recorders->SVREdit.sSub_CH_Resolution[1], size);
+        EXPECT_FALSE(recorders->SVREdit.bSub_CH_Modified[1]);
+        EXPECT_EQ(entries(Control::Format).isEmpty(), row.family == Family::Svr); // emptied
+    }
+
+    // Without a format the short form goes out; a name that cannot be written is not sent at all.
+    start(Family::Svr);
+    recorders->SVREdit.sCH_FMTList[1].clear();
+    recorders->SVREdit.sCH_ResolutionList[1].clear();
+    page->open(1);
+    fault({FaultKind::Refuse, -3, "/param.cgi"});
+    EXPECT_EQ(page->writeBack().message, 615);
+    EXPECT_FALSE(requests().back().target.contains(".format="));
+    page->open(2);
+    CameraEdit::Fields fields = page->fields();
+    fields.name = u"a \" b"_s;
+    page->setFields(fields);
+    EXPECT_EQ(page->writeBack().message, 980);
+    EXPECT_TRUE(requests().empty());
+}
+
+TEST_F(CameraPage, SearchListsWhatTheRecorderSees)
+{
+    for (const Family family : kFamilies) {
+        start(family, 8, 3);
+        CameraEdit::Outcome outcome;
+        const std::vector<FoundCamera> found = page->searchCameras(outcome);
+        EXPECT_TRUE(outcome.ok);
+        ASSERT_EQ(found.size(), 7U); // three in use and four others
+        EXPECT_EQ(found[2].IP, fieldsOf(3).address);
+        EXPECT_EQ(found[2].HTTPPort, 8081);
+        EXPECT_EQ(found[2].Manufacturer, u"Veltrano"_s);
+        EXPECT_EQ(found[2].Model, simulators::exampleCamera(3, family).model);
+        for (const FaultKind kind : {FaultKind::Reset, FaultKind::GarbageBody, FaultKind::Unauthorized}) {
+            fault({kind, 100});
+            EXPECT_TRUE(page->searchCameras(outcome).empty());
+            EXPECT_EQ(outcome.message, 609);
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,148 @@
+#include "recorders/CameraEvents.h"
+#include "recorders/ChannelClear.h"
+#include "tests/recorders/CameraFixture.h"
+
+using namespace Qt::StringLiterals;
+using simulators::Family;
+using simulators::FaultKind;
+
+namespace {
+
+using ChannelWrite = CameraStation;
+
+constexpr Family kFamilies[] = {Family::Svr, Family::OmluPro, Family::Txr632};
+
+TEST_F(ChannelWrite, ClearedChannelIsEmptyOnTheRecorderAndOnThePage)
+{
+    for (const Family family : kFamilies) {
+        SCOPED_TRACE(qPrintable(simulators::familyName(family)));
+        start(family);
+        RecorderOutcome outcome = ClearRecorderChannel(com, *recorders, 2);
+        EXPECT_TRUE(outcome.ok);
+        // The same by emptied fields.
+        page->open(3);
+        page->setFields({{}, {}, u"80"_s, u"root"_s, {}});
+        EXPECT_TRUE(page->checkApply().ok);
+        EXPECT_TRUE(page->writeBack().ok);
+        onDevice([](simulators::Device& device) { device.reboot(); });
+        for (const std::size_t channel : {2U, 3U}) {
+            EXPECT_TRUE(deviceCamera(static_cast<int>(channel) + 1).ip.isEmpty());
+            EXPECT_TRUE(recorders->SVREdit.sSub_CH_IP[channel].isEmpty());
+            EXPECT_EQ(recorders->SVREdit.iSub_Channel[channel], channel + 1);
+            EXPECT_TRUE(recorders->SVREdit.bSub_CH_Modified[channel]);
+        }
+        EXPECT_FALSE(deviceCamera(2).ip.isEmpty());
+        const std::vector<simulators::LoggedRequest> sent = requests();
+        if (family != Family::Svr) {
+            ASSERT_EQ(sent.size(), 4U);
+            EXPECT_TRUE(sent[0].body.contains("<UserData>CONFIG_AP</UserData><Param><CH>3</CH></Param>"));
+        }
+        EXPECT_TRUE(ClearRecorderChannel(com, *recorders, 2).ok); // nothing is left to clear
+        EXPECT_TRUE(requests().empty());
+        EXPECT_ANY_THROW(ClearRecorderChannel(com, *recorders, 64));
+    }
+}
+
+TEST_F(ChannelWrite, FailedClearingLeavesTheChannel)
+{
+    const std::tuple<Family, simulators::Fault, int> cases[] = {
+        {Family::Txr632, {FaultKind::Reset, 0, "/cmd.cgi"}, 76},
+        {Family::Txr632, {FaultKind::Refuse, -4, "/cmd.cgi", CMD_SET_CHANNEL}, 76},
+        {Family::OmluPro, {FaultKind::Refuse, -1, "/cmd.cgi", CMD_SAVE_CONFIG}, 722},
+        {Family::Svr, {FaultKind::Reset, 0, "/param.cgi"}, 76},
+        {Family::Svr, {FaultKind::Refuse, -4, "/param.cgi"}, 608},
+    };
+    for (const auto& [family, trouble, message] : cases) {
+        start(family);
+        fault(trouble);
+        const RecorderOutcome outcome = ClearRecorderChannel(com, *recorders, 1);
+        EXPECT_FALSE(outcome.ok);
+        EXPECT_EQ(outcome.message, message);
+        EXPECT_EQ(outcome.title, u"Notice"_s);
+        EXPECT_FALSE(recorders->SVREdit.sSub_CH_IP[1].isEmpty());
+        EXPECT_FALSE(recorders->SVREdit.bSub_CH_Modified[1]);
+    }
+}
+
+TEST_F(ChannelWrite, CameraEventsAreReadBackAsWritten)
+{
+    for (const Family family : kFamilies) {
+        SCOPED_TRACE(qPrintable(simulators::familyName(family)));
+        const bool pro = family != Family::Svr;
+        start(family, 16, 5);
+        if (pro) // what else the device does on events stays
+            onDevice([](simulators::Device& device) {
+                device.state().actions = {{4, 2001, 0, 0, 0, 0, 0, 0, 0, 0, 1}, {4, 7, 0, 0, 0, 0, 0, 0, 0, 0, 1}};
+            });
+        SVRRecord& svr = recorders->SVREdit;
+        const CameraEventBits bits{3, 2, 1, 0, 0, 1}; // channel 6 has no camera
+        EXPECT_TRUE(WriteRecorderCameraEvents(com, svr, bits).ok);
+        EXPECT_TRUE(svr.bSub_CH_Cam_MD_Enabled[0] && svr.bSub_CH_Cam_MD_Enabled[2]);
+        EXPECT_FALSE(svr.bSub_CH_Cam_MD_Enabled[3] || svr.bSub_CH_Cam_MD_Enabled[5]);
+        CameraEventBits read;
+        read.fill(9);
+        EXPECT_TRUE(ReadRecorderCameraEvents(com, svr, read).ok);
+        CameraEventBits expected{};
+        for (std::size_t channel = 0; channel < 3; ++channel)
+            expected[channel] = pro ? qint16(1) : bits[channel];
+        EXPECT_EQ(read, expected);
+        onDevice([&](simulators::Device& device) {
+            if (pro) {
+                EXPECT_TRUE(device.channel(2).motionEnabled);
+                EXPECT_FALSE(device.channel(4).motionEnabled);
+                EXPECT_EQ(device.state().actions.size(), 5U);
+                EXPECT_EQ(device.state().actions[1].enable, 1);
+            } else {
+                EXPECT_EQ(device.channel(1).cameraEvents, 3);
+                EXPECT_EQ(device.state().eventSlot, 1);
+                EXPECT_TRUE(device.state().eventHttp);
+            }
+        });
+    }
+}
+
+TEST_F(ChannelWrite, RefusedCameraEventsAreNamed)
+{
+    for (const Family family : kFamilies) {
+        start(family, 16, 5);
+        onDevice([](simulators::Device& device) { device.state().refusedEventChannels = {2, 4}; });
+        SVRRecord& svr = recorders->SVREdit;
+        const RecorderOutcome outcome = WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 1, 1, 1, 0});
+        EXPECT_FALSE(outcome.ok);
+        EXPECT_EQ(outcome.message, 834);
+        EXPECT_EQ(outcome.suffix, u" SVR:1 CH: 2,4"_s);
+        EXPECT_TRUE(svr.bSub_CH_Cam_MD_Enabled[0] && svr.bSub_CH_Cam_MD_Enabled[2]);
+        EXPECT_FALSE(svr.bSub_CH_Cam_MD_Enabled[1] || svr.bSub_CH_Cam_MD_Enabled[3]);
+    }
+}
+
+TEST_F(ChannelWrite, EachAnswerToCameraEventsHasItsMessage)
+{
+    const std::pair<QByteArray, int> answers[] = {
+        {"OK", 0}, {"Error -5341", 35}, {"-5341", 35}, {"Error -2", 9}, {"", 9}, {"channel 3 has no camera", 34},
+    };
+    start(Family::Svr, 8, 3);
+    SVRRecord& svr = recorders->SVREdit;
+    for (const auto& [answer, message] : answers) {
+        svr.bSub_CH_Cam_MD_Enabled.fill(false);
+        fault({FaultKind::Body, 0, "/event/basicevent.cgi", 0, answer});
+        const RecorderOutcome outcome = WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 0, 2});
+        EXPECT_EQ(outcome.message, message) << answer.constData();
+        EXPECT_EQ(outcome.ok, message == 0);
+        EXPECT_EQ(svr.bSub_CH_Cam_MD_Enabled[0], message == 0);
+        EXPECT_EQ(requests().back().target,
+                  "/event/basicevent.cgi?action=set&svr=1&camera_c1=1&camera_c2=&camera_c3=2&httpenabled=1");
+    }
+    CameraEventBits bits{};
+    fault({FaultKind::Body, 0, "/event/basicevent.cgi", 0, "Error"});
+    EXPECT_EQ(ReadRecorderCameraEvents(com, svr, bits).message, 9);
+
+    for (const int cmd : {CMD_GET_ACTION_LIST, CMD_SET_MOTION_DETECT, CMD_SET_ACTION_LIST, CMD_SAVE_CONFIG}) {
+        start(Family::OmluPro, 8, 3);
+        fault({FaultKind::Reset, 0, "/cmd.cgi", cmd});
+        EXPECT_EQ(WriteRecorderCameraEvents(com, recorders->SVREdit, CameraEventBits{1}).message, 9) << cmd;
+        EXPECT_FALSE(recorders->SVREdit.bSub_CH_Cam_MD_Enabled[0]);
+    }
+}
+
+} // namespace
