@@ -92,7 +92,7 @@ void CameraEdit::gather()
 void CameraEdit::CamClear()
 {
     m_choices.fill({});
-    m_cleared = true;
+    m_stale = true;
     emit choicesChanged();
 }
 
@@ -288,9 +288,13 @@ void CameraEdit::fitOtherStreams()
 void CameraEdit::chooseSource(qint16 source)
 {
     m_draft.svr->iSub_CH_VideoID[index()] = source;
-    if (m_probeReply.isEmpty() || !DescribesSource(m_probeReply, source))
+    if (m_probeReply.isEmpty() || !DescribesSource(m_probeReply, source)) {
+        m_stale = source != m_source;
         return;
-    const std::optional<DetectedCameraText> camera = ReadDetectedCamera(m_probeReply, source);
+    }
+    std::optional<DetectedCameraText> camera = ReadDetectedCamera(m_probeReply, source);
+    if (camera)
+        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr->iSub_CH_VideoIDCount[index()]);
     Draft draft = copyOfDraft();
     ForgetCamera(*draft.svr, *draft.pro, m_channel);
     if (!camera || !TakeDetectedText(*camera, *draft.svr, m_channel, draft.states)) {
@@ -298,5 +302,7 @@ void CameraEdit::chooseSource(qint16 source)
         return;
     }
     m_draft = std::move(draft);
+    m_source = source;
+    m_stale = false;
     CamDetailFill();
 }

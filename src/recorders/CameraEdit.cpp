@@ -80,7 +80,8 @@ void CameraEdit::open(int channel)
     m_draft.svr->iSub_Channel[index()] = static_cast<qint16>(channel + 1);
     m_fields = storedFields();
     m_detectedFields = m_fields;
-    m_detected = m_changed = m_cleared = false;
+    m_detected = m_changed = m_stale = false;
+    m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
     m_probeReply.clear();
     m_draft.states = lists().isPro() ? StatesOfStreams(m_draft.pro->Streams[index()]) : FormatStates();
     if (const int present = FormatIndex(m_draft.svr->sSub_CH_VideoFormat[index()]); present >= 0)
@@ -152,7 +153,8 @@ CameraEdit::Outcome CameraEdit::detect()
     if (const Outcome fault = checkFields(); !fault.ok)
         return fault;
     const bool pro = lists().isPro();
-    if (!pro && m_fields == storedFields() &&
+    const bool ownSource = m_draft.svr->iSub_CH_VideoID[index()] == m_recorders.SVREdit.iSub_CH_VideoID[index()];
+    if (!pro && ownSource && m_fields == storedFields() &&
         HasStoredDetection(m_recorders.SVREdit, m_recorders.SVRProEdit, m_channel)) {
         open(m_channel);
         m_detected = true;
@@ -197,12 +199,18 @@ CameraEdit::Outcome CameraEdit::detectSvr()
     const QString address = m_fields.address.trimmed();
     const QString port = m_fields.port.trimmed();
     const QString brand = sameCamera() ? this->brand() : QString();
-    const auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
+    auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
+    const bool oneSource = choice(Control::VideoSource).shown;
     const QString reply =
-        choice(Control::VideoSource).shown
-            ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand)
-            : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand);
-    const std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, source);
+        oneSource ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand)
+                  : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand);
+    std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, source);
+    if (camera && oneSource) { // the answer need not repeat how many there are
+        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr->iSub_CH_VideoIDCount[index()]);
+    } else if (camera && source > camera->VideoSources) {
+        source = 1;
+        camera = ReadDetectedCamera(reply, source);
+    }
     if (!camera)
         return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
     if (!TakeDetectedText(*camera, *draft.svr, m_channel, draft.states))
@@ -246,7 +254,8 @@ CameraEdit::Outcome CameraEdit::takeDetected(Draft draft)
     m_detectedFields = m_fields;
     m_detected = true;
     m_changed = true;
-    m_cleared = false;
+    m_stale = false;
+    m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
     CamDetailFill();
     return Outcome::Done(kDetectSuccess);
 }
@@ -273,7 +282,7 @@ CameraEdit::Outcome CameraEdit::checkApply() const
         if (std::max(known, edited) + 1 > iChannelLimit + 1)
             return Outcome::FailedPlain(kTooManyChannels, u"(256)"_s);
     }
-    if (m_cleared || (m_fields != m_detectedFields && !m_detected))
+    if (m_stale || (m_fields != m_detectedFields && !m_detected))
         return Outcome::FailedPlain(kDetectAgain);
     return Outcome::Done();
 }

@@ -136,7 +136,8 @@ private:
     Fields m_detectedFields; // those that the lists belong to
     bool m_detected = false;
     bool m_changed = false;
-    bool m_cleared = false; // a failure has emptied the lists: there is nothing to write
-    QString m_probeReply;   // older family: the answer that tells of the video sources
+    bool m_stale = false; // the lists are empty or those of another source: only a detection helps
+    qint16 m_source = 0;  // video source that the lists belong to
+    QString m_probeReply; // older family: the answer that tells of the video sources
     std::array<Choice, kControls> m_choices;
 };

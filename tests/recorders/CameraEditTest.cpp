@@ -319,6 +319,14 @@ TEST_F(CameraPage, SourcesOfOneCameraHaveListsOfTheirOwn)
     EXPECT_TRUE(page->writeBack().ok);
     EXPECT_EQ(deviceCamera(12).videoNumber, 2);
     EXPECT_EQ(recorders->SVREdit.iSub_CH_VideoID[11], 2);
+
+    // The lists of a source that no answer tells of want a detection, though no field has changed.
+    EXPECT_TRUE(choose(Control::VideoSource, u"1"_s));
+    EXPECT_EQ(page->checkApply().message, 616);
+    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_TRUE(requests().back().target.contains("&camera=1&brand="));
+    EXPECT_TRUE(page->checkApply().ok);
+    EXPECT_EQ(entries(Control::VideoSource).size(), 2);
     page->setFields(fieldsOf(101)); // another camera: its sources are not known yet
     EXPECT_FALSE(page->choice(Control::VideoSource).shown);
 }
