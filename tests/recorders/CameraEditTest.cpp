@@ -1,4 +1,7 @@
+#include "platform/Wait.h"
 #include "tests/recorders/CameraFixture.h"
+
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 using simulators::Family;
@@ -477,6 +480,28 @@ TEST_F(CameraPage, SearchListsWhatTheRecorderSees)
             EXPECT_EQ(outcome.message, 609);
         }
     }
+}
+
+TEST_F(CameraPage, WaitingKeepsTheLoopTurningAndEndsWithTheProgram)
+{
+    start(Family::Svr);
+    page->open(11);
+    page->setFields(fieldsOf(101));
+    fault({FaultKind::Delay, 400, "/system/detectcam.cgi"});
+    int turns = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] { ++turns; });
+    timer.start(10);
+    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_GT(turns, 10);
+
+    page->setFields(fieldsOf(102));
+    fault({FaultKind::Silent, 0, "/system/detectcam.cgi"});
+    QTimer::singleShot(50, &timer, [] { SetClosing(true); });
+    const CameraEdit::Outcome outcome = page->detect();
+    SetClosing(false);
+    EXPECT_FALSE(outcome.ok);
+    EXPECT_EQ(outcome.message, 0); // no box in a program that is leaving
 }
 
 } // namespace
