@@ -165,8 +165,7 @@ std::optional<std::vector<FoundCamera>> ReadCameraSearch(const QString& reply)
 
 std::optional<CameraEventBits> ReadCameraEvents(const QString& reply)
 {
-    if (!BeginsWithOk(reply))
-        return std::nullopt;
+    bool told = BeginsWithOk(reply);
     CameraEventBits bits{};
     for (const QStringView line : QStringTokenizer(reply, u'\n')) {
         for (const QStringView part : QStringTokenizer(line, u';')) {
@@ -174,6 +173,7 @@ std::optional<CameraEventBits> ReadCameraEvents(const QString& reply)
             const int number = ChannelOf(key);
             if (number == 0)
                 continue;
+            told = true;
             qint16& target = bits[static_cast<std::size_t>(number - 1)];
             target = 0;
             for (const QStringView bit : QStringTokenizer(value, u',')) {
@@ -184,7 +184,7 @@ std::optional<CameraEventBits> ReadCameraEvents(const QString& reply)
             }
         }
     }
-    return bits;
+    return told ? std::optional(bits) : std::nullopt;
 }
 
 QString CameraEventParameters(const CameraEventBits& bits, const std::vector<int>& channels)

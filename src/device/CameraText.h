@@ -63,8 +63,8 @@ std::optional<std::vector<FoundCamera>> ReadCameraSearch(const QString& reply);
 // Detection switches of the cameras by channel (index 0 for channel 1), two bits each: 1 and 2.
 using CameraEventBits = std::array<qint16, kMaxChannel>;
 
-// Of "camera_c<n>=" with the values "", "1", "2", "1,2"; channels that are not told are 0. No value when the reply does
-// not begin with "OK".
+// Of "camera_c<n>=" with the values "", "1", "2", "1,2"; channels that are not told are 0. No value when the reply
+// neither begins with "OK" nor tells of a channel.
 std::optional<CameraEventBits> ReadCameraEvents(const QString& reply);
 
 // "camera_c<n>=<value>" of each channel listed (from 0), "&" between.

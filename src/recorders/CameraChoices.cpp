@@ -247,7 +247,10 @@ void CameraEdit::choose(Control control, int entry)
         break;
     case Control::RateControl:
         svr.iCH_RateCtrl[index()] = CameraLists::rateControlOf(text);
-        showRateRows();
+        if (fitOtherStreams())
+            CameraDetailVauleAssign();
+        else
+            showRateRows();
         break;
     case Control::Quality:
         svr.iCH_Quality[index()] = CameraLists::qualityOf(text);
@@ -272,16 +275,17 @@ void CameraEdit::choose(Control control, int entry)
 }
 
 // A newer recorder tells of all streams of a camera: those beside the chosen one come within what their lists offer.
-void CameraEdit::fitOtherStreams()
+bool CameraEdit::fitOtherStreams()
 {
     if (m_draft.svr->sSVR_DeviceType != kFamilyTXR632 || format() < 0)
-        return;
+        return false;
     const auto chosen = static_cast<std::size_t>(format());
     ProChannelStreams& streams = m_draft.pro->Streams[index()];
     FitStreams(streams, chosen);
     const FormatState present = m_draft.states[chosen];
     m_draft.states = StatesOfStreams(streams);
     m_draft.states[chosen] = present;
+    return true;
 }
 
 // The lists of another video source, as far as the recorder's answer tells of it.

@@ -121,8 +121,8 @@ private:
     void CameraDetailVauleAssign(); // the rows of cmbCameraDetail
     void CheckRelativeformat(RelativeList list);
     void showRateRows();
-    void fitOtherStreams();
-    void fillModes(); // lenses and fish-eye views
+    bool fitOtherStreams(); // false: not a recorder that tells of several
+    void fillModes();       // lenses and fish-eye views
     void chooseSource(qint16 source);
     void gather(); // the choices into the draft
     int format() const;

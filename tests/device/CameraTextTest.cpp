@@ -100,6 +100,7 @@ TEST(CameraEventText, TwoBitsAChannelBothWays)
     EXPECT_EQ(bits->back(), 1);
     EXPECT_EQ(std::count(bits->begin(), bits->end(), 0), 60);
     EXPECT_FALSE(ReadCameraEvents(u"Error"_s));
+    EXPECT_EQ(ReadCameraEvents(u"camera_c2=2"_s)->at(1), 2);
 
     EXPECT_EQ(CameraEventParameters(*bits, {0, 1, 2, 3}), u"camera_c1=1,2&camera_c2=2&camera_c3=1&camera_c4="_s);
     EXPECT_EQ(CameraEventParameters(*bits, {}), QString());

@@ -217,6 +217,48 @@ TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
     }
 }
 
+TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
+{
+    start(Family::Svr);
+    page->open(11);
+    page->setFields(fieldsOf(101));
+    fault({FaultKind::Body, 0, "/system/detectcam.cgi", 0,
+           "OK\r\nbrand=12\r\nvideoformatstate=1,0,1\r\nresolutionlist=640x480;800x600;1280x720,640x480\r\n"
+           "resolutionstate=640x480;800x600;640x480\r\nfpsrange=1,2;1;0,4\r\nfpsstate=2;1;4\r\n"
+           "qualityrange=1,2;1;3,4\r\nqualitystate=2;1;4\r\nratectrlrange=-1;0;0,1\r\nratectrlstate=-1;0;1\r\n"
+           "bitraterange=-1;1;5,6\r\nbitratestate=-1;1;6\r\nrelativeformat={}{}{}\r\nspeedrange=1,9,1\r\n"
+           "moverange=8\r\nzoomcontcap=1\r\nmovecontcap=x\r\n"});
+    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(page->brand(), u"12"_s);
+    EXPECT_EQ(entries(Control::Format), (QStringList{u"MJPEG"_s, u"H.264"_s})); // MPEG4 is off
+    EXPECT_EQ(chosen(Control::FrameRate), u"5"_s);
+    EXPECT_TRUE(choose(Control::Format, u"H.264"_s)); // as the camera has it set
+    EXPECT_EQ(chosen(Control::Resolution), u"640x480"_s);
+    EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
+    EXPECT_EQ(chosen(Control::RateControl), u"CBR"_s);
+    EXPECT_EQ(chosen(Control::BitRate), u"1024K"_s);
+    EXPECT_TRUE(page->writeBack().ok);
+    const SVRRecord& edit = recorders->SVREdit;
+    EXPECT_EQ(edit.iSub_CH_Brand[11], 12);
+    EXPECT_EQ(edit.sCH_FMTList[11], u"MJPEG,H.264"_s);
+    EXPECT_EQ(edit.sCH_Relativeformat[11], u"{}{}{}"_s);
+    EXPECT_EQ(edit.sCH_PTZ_Speed_Range[11], u"1,9,1"_s);
+    EXPECT_EQ(edit.sCH_FPS_List_Customer[11], u"Full,15"_s);
+    EXPECT_EQ(edit.iCH_PTZ_ZoomContCap[11], 1);
+    EXPECT_EQ(edit.iCH_PTZ_MoveContCap[11], 0);
+    EXPECT_EQ(edit.iCH_BitRate[11], 6);
+    EXPECT_EQ(deviceCamera(12).brandCode, 12);
+
+    // "N/A" is not sent, and the stored rate stays.
+    recorders->SVREdit.sCH_Relativeformat[11] = u"{}{}{640x480<-1|1><6>}"_s;
+    page->open(11);
+    EXPECT_EQ(chosen(Control::FrameRate), u"N/A"_s);
+    requests();
+    EXPECT_TRUE(page->writeBack().ok);
+    EXPECT_FALSE(requests().back().target.contains(".fps="));
+    EXPECT_EQ(edit.iCH_FPS[11], 4);
+}
+
 TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
 {
     struct Case
