@@ -18,6 +18,18 @@ bool Offers(const QStringList& entries)
     return std::any_of(entries.begin(), entries.end(), [](const QString& entry) { return entry != kAbsent; });
 }
 
+// The last entry of an ascending list whose number does not go beyond `value`; the first when all do.
+template <class ToNumber>
+QString HighestUpTo(const QStringList& entries, qint16 value, ToNumber&& toNumber)
+{
+    QString best = entries.value(0);
+    for (const QString& entry : entries) {
+        if (toNumber(entry) <= value)
+            best = entry;
+    }
+    return best;
+}
+
 } // namespace
 
 int CameraEdit::format() const
@@ -143,13 +155,10 @@ void CameraEdit::CameraDetailVauleAssign()
     const QStringList bitRates = lists.bitRates(format(), resolution);
     QStringList frameRate{lists.frameRateText(svr.iCH_FPS[index()])};
     QStringList bitRate{lists.bitRateText(svr.iCH_BitRate[index()])};
-    if (lists.isPro()) { // numbers that the size does not allow come to the nearest one that it does
-        if (!frameRates.isEmpty())
-            frameRate +=
-                svr.iCH_FPS[index()] > lists.frameRateOf(frameRates.first()) ? frameRates.last() : frameRates.first();
-        if (!bitRates.isEmpty())
-            bitRate +=
-                svr.iCH_BitRate[index()] > lists.bitRateOf(bitRates.first()) ? bitRates.last() : bitRates.first();
+    if (lists.isPro()) {
+        frameRate +=
+            HighestUpTo(frameRates, svr.iCH_FPS[index()], [&](auto& entry) { return lists.frameRateOf(entry); });
+        bitRate += HighestUpTo(bitRates, svr.iCH_BitRate[index()], [&](auto& entry) { return lists.bitRateOf(entry); });
     }
     setEntries(at(Control::FrameRate), frameRates, frameRate);
     setEntries(at(Control::RateControl), lists.rateControls(format()),

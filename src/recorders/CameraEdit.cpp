@@ -84,8 +84,11 @@ void CameraEdit::open(int channel)
     m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
     m_probeReply.clear();
     m_draft.states = lists().isPro() ? StatesOfStreams(m_draft.pro->Streams[index()]) : FormatStates();
-    if (const int present = FormatIndex(m_draft.svr->sSub_CH_VideoFormat[index()]); present >= 0)
-        m_draft.states[static_cast<std::size_t>(present)] = presentState();
+    if (const int present = FormatIndex(m_draft.svr->sSub_CH_VideoFormat[index()]); present >= 0) {
+        const auto slot = static_cast<std::size_t>(present);
+        m_draft.states[slot] = presentState();
+        PutState(m_draft.pro->Streams[index()], slot, m_draft.states[slot]);
+    }
     CamDetailFill();
 }
 

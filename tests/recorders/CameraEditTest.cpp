@@ -413,6 +413,32 @@ TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
     EXPECT_EQ(chosen(Control::Resolution), u"1280x720"_s);
 }
 
+TEST_F(CameraPage, SettingsOfANewerRecorderStayUnlessTheSizeForbidsThem)
+{
+    const std::tuple<qint16, QString, qint16, QString> cases[] = {
+        {500, u"500K"_s, 7, u"7"_s},     // between two steps
+        {6000, u"4000K"_s, 40, u"25"_s}, // beyond the bounds
+        {1, u"64K"_s, 0, u"5"_s},
+    };
+    for (const auto& [bits, shownBits, rate, shownRate] : cases) {
+        show([&](SVRRecord& svr, SVRProRecord& pro) {
+            svr.sSVR_DeviceType = kFamilyOmluPro;
+            svr.sCH_FMTList[0] = u"jpeg,h264"_s;
+            svr.sSub_CH_VideoFormat[0] = u"h264"_s;
+            svr.iCH_BitRate[0] = bits;
+            svr.iCH_FPS[0] = rate;
+            ProChannelStreams& streams = pro.Streams[0];
+            streams.sResolutionList[2] = u"1280x720,640x480"_s;
+            streams.iFPSLower[2] = streams.iFPSUpper[2] = {30, 5};
+            streams.iFPSUpper[2][1] = 25;
+            streams.iBPSLower[2] = {64, 64};
+            streams.iBPSUpper[2] = {8192, 4000};
+        });
+        EXPECT_EQ(chosen(Control::BitRate), shownBits);
+        EXPECT_EQ(chosen(Control::FrameRate), shownRate);
+    }
+}
+
 TEST_F(CameraPage, FishEyeViewsComeFromTheProbe)
 {
     start(Family::OmluPro);
@@ -535,7 +561,7 @@ TEST_F(CameraPage, WaitingKeepsTheLoopTurningAndEndsWithTheProgram)
     QObject::connect(&timer, &QTimer::timeout, &timer, [&] { ++turns; });
     timer.start(10);
     EXPECT_EQ(page->detect().message, 833);
-    EXPECT_GT(turns, 10);
+    EXPECT_GT(turns, 3);
 
     page->setFields(fieldsOf(102));
     fault({FaultKind::Silent, 0, "/system/detectcam.cgi"});
