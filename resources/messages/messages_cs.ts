@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 z %2 rekordérů včetně vybraných</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Upozornění</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Žádná kamera</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Změněno v rekordéru</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Detekováno</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Jak je uloženo</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Odebrat z rekordéru kameru kanálu %1?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filtrovat nalezené kamery</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Nebyla nalezena žádná kamera.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Rekordér ve své síti nevidí žádnou kameru. Hledejte znovu nebo zadejte adresu.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>Nalezené kamery: %1</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Dotazování kamery…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Zápis do rekordéru…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Zdroj videa</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Detekujte kameru, abyste viděli její nastavení videa.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Pohled rybího oka</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Název kamery nesmí obsahovat uvozovky (").</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 af %2 optagere med de valgte</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Meddelelse</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Intet kamera</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Ændret i optageren</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Detekteret</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Som gemt</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Fjern kameraet på kanal %1 fra optageren?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filtrer fundne kameraer</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Intet kamera blev fundet.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Optageren kan ikke se noget kamera på sit netværk. Søg igen, eller indtast en adresse.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 kameraer fundet</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Spørger kameraet …</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Skriver til optageren …</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Videokilde</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Detekter kameraet for at se dets videoindstillinger.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Fiskeøjevisning</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Kameranavnet må ikke indeholde anførselstegn (").</translation>

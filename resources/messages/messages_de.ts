@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 von %2 Rekordern einschließlich der Auswahl</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Hinweis</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Keine Kamera</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Im Rekorder geändert</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Erkannt</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Wie gespeichert</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Kamera von Kanal %1 aus dem Rekorder entfernen?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Gefundene Kameras filtern</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Keine Kamera gefunden.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Der Rekorder sieht keine Kamera in seinem Netz. Erneut suchen oder eine Adresse eingeben.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 Kameras gefunden</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Kamera wird abgefragt …</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Wird in den Rekorder geschrieben …</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Videoquelle</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Kamera erkennen, um ihre Videoeinstellungen zu sehen.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Fischaugenansicht</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Der Kameraname darf kein Anführungszeichen (") enthalten.</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 of %2 recorders with those selected</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Notice</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>No camera</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Changed in the recorder</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Detected</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>As stored</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Remove the camera of channel %1 from the recorder?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filter found cameras</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>No camera was found.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>The recorder sees no camera on its network. Search again, or type the address of one.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 cameras found</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Asking the camera…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Writing to the recorder…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Video source</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Detect the camera to see its video settings.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Fish-eye view</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>The camera name must not contain a double quote (").</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 de %2 grabadores con los seleccionados</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Aviso</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Sin cámara</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Cambiado en el grabador</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Detectado</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Como está guardado</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>¿Quitar del grabador la cámara del canal %1?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filtrar las cámaras encontradas</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>No se ha encontrado ninguna cámara.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>El grabador no ve ninguna cámara en su red. Busque de nuevo o escriba una dirección.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 cámaras encontradas</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Consultando la cámara…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Escribiendo en el grabador…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Fuente de vídeo</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Detecte la cámara para ver sus ajustes de vídeo.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Vista de ojo de pez</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>El nombre de cámara no puede contener comillas (").</translation>

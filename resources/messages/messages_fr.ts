@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 sur %2 enregistreurs avec la sélection</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Avis</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Aucune caméra</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Modifié dans l’enregistreur</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Détecté</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Comme enregistré</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Retirer la caméra du canal %1 de l’enregistreur ?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filtrer les caméras trouvées</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Aucune caméra trouvée.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>L’enregistreur ne voit aucune caméra sur son réseau. Relancez la recherche ou saisissez une adresse.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 caméras trouvées</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Interrogation de la caméra…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Écriture dans l’enregistreur…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Source vidéo</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Détectez la caméra pour voir ses paramètres vidéo.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Vue fisheye</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Le nom de la caméra ne peut pas contenir de guillemet (").</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 מתוך %2 מקליטים כולל הנבחרים</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>הודעה</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>אין מצלמה</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>שונה במקליט</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>זוהה</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>כפי שנשמר</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>להסיר מהמקליט את המצלמה של ערוץ %1?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>סינון המצלמות שנמצאו</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>לא נמצאה מצלמה.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>המקליט אינו רואה מצלמות ברשת שלו. יש לחפש שוב או להקליד כתובת.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>נמצאו %1 מצלמות</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>המצלמה נשאלת…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>מתבצעת כתיבה למקליט…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>מקור וידאו</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>יש לזהות את המצלמה כדי לראות את הגדרות הווידאו שלה.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>תצוגת עין הדג</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>שם המצלמה אינו יכול להכיל מירכאות (").</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 di %2 registratori con quelli selezionati</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Avviso</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Nessuna telecamera</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Modificato nel registratore</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Rilevato</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Come memorizzato</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Rimuovere dal registratore la telecamera del canale %1?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filtra le telecamere trovate</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Nessuna telecamera trovata.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Il registratore non vede telecamere nella sua rete. Ripetere la ricerca o digitare un indirizzo.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 telecamere trovate</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Interrogazione della telecamera…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Scrittura nel registratore…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Sorgente video</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Rilevare la telecamera per vederne le impostazioni video.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Vista fisheye</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Il nome della telecamera non può contenere virgolette (").</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>選択分を含めレコーダー %2 台中 %1 台</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>お知らせ</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>カメラなし</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>レコーダーで変更済み</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>検出済み</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>保存時のまま</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>チャンネル %1 のカメラをレコーダーから削除しますか？</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>見つかったカメラを絞り込む</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>カメラが見つかりませんでした。</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>レコーダーのネットワークにカメラが見つかりません。もう一度検索するか、アドレスを入力してください。</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>カメラ %1 台が見つかりました</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>カメラに問い合わせています…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>レコーダーに書き込んでいます…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>映像ソース</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>カメラを検出すると映像設定が表示されます。</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>魚眼表示</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>カメラ名に二重引用符（"）は使用できません。</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 z %2 rejestratorów razem z wybranymi</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Uwaga</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Brak kamery</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Zmieniono w rejestratorze</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Wykryto</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Jak zapisano</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Usunąć kamerę kanału %1 z rejestratora?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Filtruj znalezione kamery</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Nie znaleziono żadnej kamery.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Rejestrator nie widzi w swojej sieci żadnej kamery. Wyszukaj ponownie lub wpisz adres.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>Znalezione kamery: %1</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Odpytywanie kamery…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Zapisywanie w rejestratorze…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Źródło wideo</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Wykryj kamerę, aby zobaczyć jej ustawienia wideo.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Widok z rybiego oka</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Nazwa kamery nie może zawierać cudzysłowu (").</translation>

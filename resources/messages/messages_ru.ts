@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 из %2 регистраторов с учётом выбранных</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Внимание</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Нет камеры</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Изменено в регистраторе</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Обнаружено</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Как сохранено</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Убрать камеру канала %1 из регистратора?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Фильтр найденных камер</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Камеры не найдены.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Регистратор не видит камер в своей сети. Повторите поиск или введите адрес.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>Найдено камер: %1</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Опрос камеры…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Запись в регистратор…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Источник видео</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Обнаружьте камеру, чтобы увидеть её настройки видео.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Вид «рыбий глаз»</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Имя камеры не может содержать кавычек (").</translation>

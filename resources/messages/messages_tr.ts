@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>Seçilenlerle birlikte %1 / %2 kayıt cihazı</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>Uyarı</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>Kamera yok</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>Kayıt cihazında değiştirildi</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>Algılandı</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>Kaydedildiği gibi</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>Kanal %1 kamerası kayıt cihazından kaldırılsın mı?</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>Bulunan kameraları süz</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>Hiç kamera bulunamadı.</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>Kayıt cihazı ağında kamera görmüyor. Yeniden arayın veya bir adres yazın.</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>%1 kamera bulundu</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>Kamera sorgulanıyor…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>Kayıt cihazına yazılıyor…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>Video kaynağı</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>Video ayarlarını görmek için kamerayı algılayın.</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>Balık gözü görünümü</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Kamera adı çift tırnak (") içeremez.</translation>

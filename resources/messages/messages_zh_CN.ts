@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>含所选共 %1 / %2 台录像机</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>注意</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>无摄像机</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>已在录像机中更改</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>已检测</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>与保存的一致</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>是否从录像机中移除通道 %1 的摄像机？</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>筛选找到的摄像机</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>未找到摄像机。</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>录像机在其网络中未发现摄像机。请重新搜索或输入地址。</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>找到 %1 台摄像机</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>正在查询摄像机…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>正在写入录像机…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>视频源</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>检测摄像机后可查看其视频设置。</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>鱼眼视图</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>摄像机名称不能包含双引号（"）！</translation>

@@ -3519,6 +3519,66 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>含所選共 %1 / %2 台錄影機</translation>
     </message>
+    <message id="965">
+        <source>Notice</source>
+        <translation>注意</translation>
+    </message>
+    <message id="966">
+        <source>No camera</source>
+        <translation>無攝影機</translation>
+    </message>
+    <message id="967">
+        <source>Changed in the recorder</source>
+        <translation>已在錄影主機中變更</translation>
+    </message>
+    <message id="968">
+        <source>Detected</source>
+        <translation>已偵測</translation>
+    </message>
+    <message id="969">
+        <source>As stored</source>
+        <translation>與儲存的一致</translation>
+    </message>
+    <message id="970">
+        <source>Remove the camera of channel %1 from the recorder?</source>
+        <translation>是否從錄影主機中移除頻道 %1 的攝影機？</translation>
+    </message>
+    <message id="971">
+        <source>Filter found cameras</source>
+        <translation>篩選找到的攝影機</translation>
+    </message>
+    <message id="972">
+        <source>No camera was found.</source>
+        <translation>找不到攝影機。</translation>
+    </message>
+    <message id="973">
+        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <translation>錄影主機在其網路中未發現攝影機。請重新搜尋或輸入位址。</translation>
+    </message>
+    <message id="974">
+        <source>%1 cameras found</source>
+        <translation>找到 %1 台攝影機</translation>
+    </message>
+    <message id="975">
+        <source>Asking the camera…</source>
+        <translation>正在查詢攝影機…</translation>
+    </message>
+    <message id="976">
+        <source>Writing to the recorder…</source>
+        <translation>正在寫入錄影主機…</translation>
+    </message>
+    <message id="977">
+        <source>Video source</source>
+        <translation>視訊來源</translation>
+    </message>
+    <message id="978">
+        <source>Detect the camera to see its video settings.</source>
+        <translation>偵測攝影機後即可檢視其視訊設定。</translation>
+    </message>
+    <message id="979">
+        <source>Fish-eye view</source>
+        <translation>魚眼檢視</translation>
+    </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>攝影機名稱不可包含雙引號（"）！</translation>

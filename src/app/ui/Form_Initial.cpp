@@ -199,6 +199,7 @@ void Form_Initial::buildPages()
     auto* recorders = new RecordersPage(m_station.recorders);
     m_nvrPage = recorders->list();
     connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
+    connect(m_nvrPage, &NVRPage::editWanted, this, &Form_Initial::showRecorder);
     connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
         RemoveSVR(m_station, m_com.web, slot);
         m_nvrPage->Grid_SVR_Set_withDB();
@@ -336,6 +337,21 @@ void Form_Initial::showWizard()
     Form_NVRSetting wizard(
         {m_com, m_station.recorders, m_station.accounts}, [this] { finishNewRecorders(); }, this);
     wizard.exec();
+    m_nvrPage->Grid_SVR_Set_withDB();
+    updateHeader();
+}
+
+void Form_Initial::showRecorder(int slot)
+{
+    ModifyHooks hooks;
+    hooks.RemoveSVR = [this](int removed) { RemoveSVR(m_station, m_com.web, removed); };
+    hooks.SaveCheck = [this] {
+        SaveCheck(m_station);
+        m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
+    };
+    Form_NVRSetting form({m_com, m_station.recorders, m_station.accounts}, {}, this);
+    form.SetNVR(slot, hooks);
+    form.exec();
     m_nvrPage->Grid_SVR_Set_withDB();
     updateHeader();
 }

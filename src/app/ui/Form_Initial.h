@@ -60,6 +60,7 @@ private:
     void Timer_PrivilegeCheck();
     void askExit();
     void showWizard();
+    void showRecorder(int slot); // opens a stored recorder (slot from 0), modally
     void finishNewRecorders();
     bool login();
     void showFirstUserNotice();

@@ -4,17 +4,18 @@
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
 #include "look/ActionBar.h"
-#include "look/Fields.h"
 #include "look/StepStrip.h"
 #include "look/Tables.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
+#include "recorders/ui/HeldBack.h"
+#include "recorders/ui/NVRDetailFrame.h"
 #include "recorders/ui/ui_Form_NVRSetting.h"
 #include "support/Conversions.h"
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QIntValidator>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QSortFilterProxyModel>
 #include <QTimer>
@@ -26,34 +27,22 @@ namespace {
 constexpr int kFrameChoose = 0;
 constexpr int kFrameSearch = 1;
 constexpr int kFrameStatus = 2;
+constexpr int kFrameDetail = 3;
 constexpr int kStatusRows = 11; // rows of the status grid on show at a time
 
-// Windows and parts of the wizard, held back while devices are asked.
-class Disabled
+// The buttons and the title of a frame: object names and message numbers.
+struct FrameFace
 {
-public:
-    explicit Disabled(std::initializer_list<QWidget*> widgets)
-    {
-        for (QWidget* widget : widgets) {
-            if (widget && widget->isEnabled()) {
-                widget->setEnabled(false);
-                m_widgets << widget;
-            }
-        }
-    }
-    ~Disabled()
-    {
-        for (const QPointer<QWidget>& widget : m_widgets) {
-            if (widget)
-                widget->setEnabled(true);
-        }
-    }
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-
-private:
-    QList<QPointer<QWidget>> m_widgets;
+    const char* next;
+    int nextText;
+    const char* cancel;
+    int cancelText;
+    int title;
 };
+constexpr std::array<FrameFace, 4> kFaces{{{"lbNext_0", 277, "lbCancel", 475, 287},
+                                           {"lbNext_1", 277, "lbCancel", 475, 287},
+                                           {"lbNext_2", 873, "lbCancel", 475, 287},
+                                           {"lbModifyApply_0", 591, "lbModifyApply_1", 475, 290}}};
 
 } // namespace
 
@@ -72,18 +61,12 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> fi
     m_cancel = footer()->addButton(QString());
     m_next = footer()->addButton(QString(), "primary"_L1);
     m_next->setDefault(true);
-    m_cancel->setObjectName(u"lbCancel"_s);
-    connect(m_cancel, &QPushButton::clicked, this, &Form_NVRSetting::lbCancel_Click);
-    connect(m_next, &QPushButton::clicked, this, [this] { lbNext_Click(m_frame); });
+    connect(m_cancel, &QPushButton::clicked, this, &Form_NVRSetting::pressCancel);
+    connect(m_next, &QPushButton::clicked, this, &Form_NVRSetting::pressNext);
 
-    static constexpr std::array lengths{31, 255, 5, 31, 31};
-    for (int i = 0; i < static_cast<int>(lengths.size()); ++i)
-        field(static_cast<ManualField>(i))->setMaxLength(lengths[static_cast<std::size_t>(i)]);
-    m_ui->Text_Manual_2->setValidator(new QIntValidator(0, 99999, this));
+    m_manual = std::make_unique<RecorderFields>(std::array<QLineEdit*, RecorderFields::kCount>{
+        m_ui->Text_Manual_0, m_ui->Text_Manual_1, m_ui->Text_Manual_2, m_ui->Text_Manual_3, m_ui->Text_Manual_4});
     m_ui->Text_Manual_2->setText(u"80"_s);
-    // Addresses and ports read from the left in every language.
-    m_ui->Text_Manual_1->setLayoutDirection(Qt::LeftToRight);
-    m_ui->Text_Manual_2->setLayoutDirection(Qt::LeftToRight);
 
     QTableView* grid = m_ui->Grid_DetectStatus;
     grid->setModel(m_status);
@@ -131,23 +114,6 @@ Form_NVRSetting::~Form_NVRSetting()
     m_context.com.finder.Stop();
 }
 
-QLineEdit* Form_NVRSetting::field(ManualField which) const
-{
-    switch (which) {
-    case ManualField::Name:
-        return m_ui->Text_Manual_0;
-    case ManualField::Address:
-        return m_ui->Text_Manual_1;
-    case ManualField::Port:
-        return m_ui->Text_Manual_2;
-    case ManualField::User:
-        return m_ui->Text_Manual_3;
-    case ManualField::Password:
-        return m_ui->Text_Manual_4;
-    }
-    return m_ui->Text_Manual_0;
-}
-
 void Form_NVRSetting::fillSlots()
 {
     m_ui->cmbSVRNo->clear();
@@ -161,35 +127,99 @@ void Form_NVRSetting::fillSlots()
 void Form_NVRSetting::ChangeLanguage()
 {
     ApplyLanguage(this);
-    setWindowTitle(GetLangString(287).trimmed());
+    setCloseText(GetLangString(881));
     steps()->setSteps({GetLangString(875), GetLangString(170), GetLangString(576)});
-    m_cancel->setText(GetLangString(475));
-    for (auto [label, edit] : {std::pair<QLabel*, QLineEdit*>{m_ui->lbManual_0, m_ui->Text_Manual_0},
-                               {m_ui->lbManual_1, m_ui->Text_Manual_1},
-                               {m_ui->lbManual_2, m_ui->Text_Manual_2},
-                               {m_ui->lbManual_3, m_ui->Text_Manual_3},
-                               {m_ui->lbManual_4, m_ui->Text_Manual_4}})
-        edit->setAccessibleName(label->text());
+    m_manual->nameByLabels();
     m_ui->cmbSVRNo->setAccessibleName(GetLangString(892));
     m_ui->Grid_DetectStatus->setAccessibleName(GetLangString(289));
     m_ui->Grid_SearchList->setAccessibleName(GetLangString(288));
     m_ui->txtSearchFilter->setPlaceholderText(GetLangString(953));
     m_ui->txtSearchFilter->setAccessibleName(GetLangString(953));
     m_ui->lbSearch->setText(GetLangString(170));
-    AddEye(m_ui->Text_Manual_4, GetLangString(887), GetLangString(899));
+}
+
+void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
+{
+    m_hooks = std::move(hooks);
+    m_detail = new NVRDetailFrame(m_context, m_ui->frames);
+    m_ui->frames->addWidget(m_detail);
+    connect(m_detail, &NVRDetailFrame::busyChanged, this, &Form_NVRSetting::setBusy);
+    connect(m_detail, &NVRDetailFrame::changesChanged, this, &Form_NVRSetting::showChanges);
+    ApplyLanguage(this);
+    m_detail->changeLanguage();
+    m_detail->SetNVR(slot);
+    resize(1060, 680);
+    LoadFrame(kFrameDetail);
 }
 
 void Form_NVRSetting::LoadFrame(int index)
 {
     m_frame = index;
-    m_ui->frames->setCurrentWidget(index == kFrameStatus   ? m_ui->Frame_2
-                                   : index == kFrameSearch ? m_ui->Frame_1
-                                                           : m_ui->Frame_0);
-    steps()->setCurrent(index);
-    m_next->setObjectName(u"lbNext_"_s + QString::number(index));
-    m_next->setText(GetLangString(index == kFrameStatus ? 873 : 277));
+    QWidget* const frames[] = {m_ui->Frame_0, m_ui->Frame_1, m_ui->Frame_2, m_detail};
+    m_ui->frames->setCurrentWidget(frames[index]);
+    steps()->setVisible(index <= kFrameStatus);
+    if (index <= kFrameStatus)
+        steps()->setCurrent(index);
+    const FrameFace& face = At(kFaces, index);
+    setWindowTitle(GetLangString(face.title).trimmed());
+    m_next->setObjectName(QString::fromLatin1(face.next));
+    m_next->setText(GetLangString(face.nextText));
+    m_cancel->setObjectName(QString::fromLatin1(face.cancel));
+    m_cancel->setText(GetLangString(face.cancelText));
+    footer()->setNote(QString());
     if (index == kFrameChoose)
         m_ui->Text_Manual_0->setFocus();
+    if (index == kFrameDetail) {
+        const SVRRecord& record = m_context.recorders.SVREdit;
+        setSubtitle(u"NVR %1  ·  "_s.arg(m_detail->slot() + 1) + record.sSVR_Name);
+        m_detail->takeFocus();
+        showChanges();
+    }
+}
+
+void Form_NVRSetting::pressNext()
+{
+    if (m_frame == kFrameDetail)
+        lbModifyApply_Click(0);
+    else
+        lbNext_Click(m_frame);
+}
+
+void Form_NVRSetting::pressCancel()
+{
+    if (m_frame == kFrameDetail && !m_busy)
+        lbModifyApply_Click(1);
+    else
+        lbCancel_Click();
+}
+
+void Form_NVRSetting::showChanges()
+{
+    if (m_frame == kFrameDetail)
+        footer()->setNote(m_detail->changed() ? GetLangString(868) : QString());
+}
+
+void Form_NVRSetting::lbModifyApply_Click(int index)
+{
+    if (m_busy)
+        return;
+    Trapped("Form_NVRSetting - lbModifyApply_Click", [&] {
+        if (index != 0) {
+            reject();
+        } else if (m_detail->apply(m_hooks)) {
+            if (m_hooks.SaveCheck)
+                m_hooks.SaveCheck();
+            accept();
+        }
+    });
+}
+
+void Form_NVRSetting::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape && m_frame > kFrameDetail)
+        pressCancel();
+    else
+        DialogFrame::keyPressEvent(event);
 }
 
 void Form_NVRSetting::lbNext_Click(int index)
@@ -249,7 +279,7 @@ void Form_NVRSetting::showChosen()
 void Form_NVRSetting::beginChosen()
 {
     if (m_found->checkedRows() == 0) {
-        MsgBox(GetLangString(832), InfoBoxStyle(), u"Information"_s);
+        MsgBox(GetLangString(832), InfoBoxStyle(), GetLangString(570));
         return;
     }
     m_context.com.finder.Stop();
@@ -259,37 +289,23 @@ void Form_NVRSetting::beginChosen()
 
 void Form_NVRSetting::reject()
 {
-    if (!m_busy)
-        DialogFrame::reject();
+    if (m_busy)
+        return;
+    if (m_detail)
+        Trapped("Form_NVRSetting - lbModifyApply_Click",
+                [&] { LeaveUnapplied(m_context.recorders, m_detail->slot(), m_hooks); });
+    DialogFrame::reject();
 }
 
 void Form_NVRSetting::beginManual()
 {
-    const QString title = u"Information"_s;
-    ManualFault fault;
-    {
-        // A name look-up may wait.
-        m_busy = true;
-        fault =
-            ValidateManualNVR(m_ui->Text_Manual_0->text(), m_ui->Text_Manual_1->text(), m_ui->Text_Manual_2->text());
-        m_busy = false;
-    }
-    const int port = m_ui->Text_Manual_2->text().trimmed().toInt();
-    if (fault.message == 0 && (port < 1 || port > 65535))
-        fault = {556, ManualField::Port};
-    if (fault.message != 0) {
-        MsgBox(GetLangString(fault.message), InfoBoxStyle(), title);
-        field(fault.field)->setFocus();
-        field(fault.field)->selectAll();
+    m_busy = true; // a name look-up may wait
+    const bool complete = m_manual->check();
+    m_busy = false;
+    if (!complete)
         return;
-    }
-    NVRDetectItem item;
+    NVRDetectItem item = m_manual->item();
     item.iSlot = static_cast<qint16>(m_ui->cmbSVRNo->currentData().toInt());
-    item.sName = m_ui->Text_Manual_0->text();
-    item.sIP = m_ui->Text_Manual_1->text();
-    item.iPort = port;
-    item.sUser = m_ui->Text_Manual_3->text();
-    item.sPassword = m_ui->Text_Manual_4->text();
     beginDetection({item});
 }
 
@@ -305,7 +321,7 @@ void Form_NVRSetting::beginDetection(std::vector<NVRDetectItem> items)
 void Form_NVRSetting::detectAll()
 {
     {
-        const Disabled disabled{parentWidget() ? parentWidget()->window() : nullptr, content()};
+        const HeldBack held{parentWidget() ? parentWidget()->window() : nullptr, content()};
         const std::vector<NVRDetectItem> items = m_status->items();
         for (int row = 0; row < static_cast<int>(items.size()) && !Closing() && !m_stopped; ++row) {
             NVRDetectItem item = At(items, row);
@@ -328,13 +344,14 @@ void Form_NVRSetting::detectAll()
     m_next->setFocus();
 }
 
-void Form_NVRSetting::setBusy(bool busy)
+void Form_NVRSetting::setBusy(bool busy, bool stoppable)
 {
     m_busy = busy;
+    const bool stop = busy && stoppable;
     m_next->setEnabled(!busy);
-    m_cancel->setEnabled(true);
-    m_cancel->setProperty(kStopsWork, busy);
-    m_cancel->setText(GetLangString(busy ? 951 : 475));
+    m_cancel->setEnabled(!busy || stoppable);
+    m_cancel->setProperty(kStopsWork, stop);
+    m_cancel->setText(GetLangString(stop ? 951 : At(kFaces, m_frame).cancelText));
     if (busy)
         m_stopped = false;
 }

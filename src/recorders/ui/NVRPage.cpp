@@ -74,8 +74,6 @@ void NVRPage::Grid_SVR_Draw()
     MonospaceColumn(grid, NVRListModel::Address);
     grid->setSortingEnabled(true);
     grid->sortByColumn(NVRListModel::Number, Qt::AscendingOrder);
-    // Nothing opens a stored recorder yet: an icon that does nothing is not shown.
-    grid->hideColumn(NVRListModel::Edit);
     static constexpr std::array widths{72, 230, 210, 140, 160, 110, 44, 44};
     for (int column = 0; column < NVRListModel::ColumnCount; ++column)
         grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);

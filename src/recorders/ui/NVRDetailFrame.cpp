@@ -1,0 +1,258 @@
+#include "recorders/ui/NVRDetailFrame.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "look/Tables.h"
+#include "look/Theme.h"
+#include "platform/MsgBox.h"
+#include "recorders/NVRListModel.h"
+#include "recorders/ui/HeldBack.h"
+#include "recorders/ui/IconProxy.h"
+#include "recorders/ui/ui_NVRDetailFrame.h"
+#include "support/Conversions.h"
+
+#include <QHeaderView>
+#include <QShortcut>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kShortList = 6; // fewer channels than this draw a short grid
+constexpr int kStopped = 475; // the last message of a detection that the operator has stopped
+constexpr int kReDetect = 703;
+
+NVRDetectItem ItemOf(const SVRRecord& record)
+{
+    NVRDetectItem item;
+    item.sName = record.sSVR_Name;
+    item.sIP = record.sSVR_IP;
+    item.iPort = record.iSVR_HttpPort;
+    item.sUser = record.sSVR_UserName;
+    item.sPassword = record.sSVR_Password;
+    return item;
+}
+
+} // namespace
+
+NVRDetailFrame::NVRDetailFrame(DetectContext context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(std::move(context))
+    , m_ui([this] {
+        auto ui = std::make_unique<Ui::NVRDetailFrame>();
+        ui->setupUi(this);
+        return ui;
+    }())
+    , m_fields({m_ui->TextNVRDetail_0, m_ui->TextNVRDetail_1, m_ui->TextNVRDetail_2, m_ui->TextNVRDetail_3,
+                m_ui->TextNVRDetail_4})
+    , m_channels(new ChannelListModel(m_context.recorders, this))
+    , m_proxy(new IconProxy(m_channels, ChannelListModel::kSortRole, ChannelListModel::kIconRole, this))
+{
+    prepareGrid();
+    connect(m_ui->lbNVRDetect, &QPushButton::clicked, this, &NVRDetailFrame::lbNVRDetect_Click);
+    connect(m_ui->txtChannelFilter, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_proxy->setFilterFixedString(text);
+        showCounts();
+    });
+    connect(m_ui->TextNVRDetail_0, &QLineEdit::textChanged, this, &NVRDetailFrame::changesChanged);
+    connect(m_channels, &ChannelListModel::dataChanged, this, &NVRDetailFrame::changesChanged);
+}
+
+NVRDetailFrame::~NVRDetailFrame() = default;
+
+void NVRDetailFrame::prepareGrid()
+{
+    QTableView* grid = m_ui->Grid_ChannelList;
+    grid->setModel(m_proxy);
+    StyleTable(grid);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    MonospaceColumn(grid, ChannelListModel::Address);
+    StatusColumn(grid, ChannelListModel::State);
+    grid->setSortingEnabled(true);
+    grid->sortByColumn(ChannelListModel::Number, Qt::AscendingOrder);
+    static constexpr std::array widths{64, 150, 80, 230, 210, 120, 44, 44};
+    for (int column = 0; column < ChannelListModel::ColumnCount; ++column)
+        grid->setColumnWidth(column, At(widths, column));
+    QHeaderView* head = grid->horizontalHeader();
+    head->setStretchLastSection(false);
+    head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
+    connect(grid, &QTableView::clicked, this, &NVRDetailFrame::Grid_ChannelList_Click);
+    const auto key = [this, grid](const QKeySequence& keys, auto&& does) {
+        auto* shortcut = new QShortcut(keys, grid, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, does);
+    };
+    key(Qt::Key_Return, [this] { act(ChannelListModel::Edit); });
+    key(Qt::Key_Enter, [this] { act(ChannelListModel::Edit); });
+    key(Qt::Key_Delete, [this] { act(ChannelListModel::Delete); });
+    key(Qt::Key_Space, [this] {
+        const QModelIndex cell = m_ui->Grid_ChannelList->currentIndex().siblingAtColumn(ChannelListModel::CameraEvent);
+        const bool on = cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        m_proxy->setData(cell, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    });
+}
+
+void NVRDetailFrame::changeLanguage()
+{
+    m_fields.nameByLabels();
+    m_ui->txtChannelFilter->setPlaceholderText(GetLangString(906));
+    m_ui->txtChannelFilter->setAccessibleName(GetLangString(906));
+    m_ui->Grid_ChannelList->setAccessibleName(GetLangString(298));
+}
+
+void NVRDetailFrame::SetNVR(int slot)
+{
+    m_slot = slot;
+    OpenEditPair(m_context.recorders, slot);
+    m_detected = false;
+    m_channels->setDetected(false);
+    m_fields.set(ItemOf(m_context.recorders.SVREdit));
+    GridChannelList();
+    showChannel(0);
+}
+
+void NVRDetailFrame::GridChannelList()
+{
+    m_channels->refill();
+    m_ui->Grid_ChannelList->setColumnHidden(ChannelListModel::CameraEvent, !m_channels->cameraEvents());
+    showFacts();
+    showCounts();
+    fitGrid();
+}
+
+// A recorder of a few channels shows them without a large empty table.
+void NVRDetailFrame::fitGrid()
+{
+    QTableView* grid = m_ui->Grid_ChannelList;
+    const int rows = m_channels->rowCount();
+    const bool isShort = rows < kShortList;
+    const int fitting = grid->horizontalHeader()->height() + rows * TableRowHeight() + 2 * grid->frameWidth() + 2;
+    grid->setMaximumHeight(isShort ? fitting : QWIDGETSIZE_MAX);
+    grid->setMinimumHeight(isShort ? fitting : 0);
+    layout()->invalidate();
+    m_ui->shortSpace->changeSize(0, 0, QSizePolicy::Minimum, isShort ? QSizePolicy::Expanding : QSizePolicy::Minimum);
+}
+
+void NVRDetailFrame::showChannel(int channel)
+{
+    const QModelIndex cell = m_proxy->mapFromSource(m_channels->index(channel, ChannelListModel::Name));
+    m_ui->Grid_ChannelList->setCurrentIndex(cell.isValid() ? cell : m_proxy->index(0, ChannelListModel::Name));
+    m_ui->Grid_ChannelList->scrollTo(m_ui->Grid_ChannelList->currentIndex());
+}
+
+void NVRDetailFrame::takeFocus()
+{
+    m_ui->Grid_ChannelList->setFocus();
+}
+
+void NVRDetailFrame::showFacts()
+{
+    const SVRRecord& record = m_context.recorders.SVREdit;
+    QStringList facts{record.sSVR_Brand, ShownModel(record), record.sSVR_Version};
+    facts.removeAll(QString());
+    m_ui->lbFacts->setText(facts.join(u"  ·  "_s));
+    m_ui->progressStack->setCurrentWidget(m_ui->factsPage);
+}
+
+void NVRDetailFrame::showCounts()
+{
+    m_ui->lbChannelCount->setText(GetLangString(866).arg(m_channels->cameras()).arg(m_channels->rowCount()));
+    m_ui->lbNoChannel->setVisible(m_proxy->rowCount() == 0 && m_channels->rowCount() > 0);
+}
+
+void NVRDetailFrame::showStep(const QString& words, int percent)
+{
+    m_ui->lbStep->setText(words);
+    m_ui->barDetect->setMaximum(percent < 0 ? 0 : 100);
+    m_ui->barDetect->setValue(qMax(percent, 0));
+    m_ui->progressStack->setCurrentWidget(m_ui->progressPage);
+}
+
+bool NVRDetailFrame::changed() const
+{
+    return m_detected || m_fields.item().sName != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name;
+}
+
+void NVRDetailFrame::lbNVRDetect_Click()
+{
+    Trapped("Form_NVRSetting - lbNVRDetect_Click", [&] {
+        emit busyChanged(true, false);
+        const bool complete = m_fields.check();
+        if (!complete) {
+            emit busyChanged(false, false);
+            return;
+        }
+        NVRDetectItem item = m_fields.item();
+        item.iSlot = static_cast<qint16>(m_slot);
+        DetectStatus last;
+        bool detected = false;
+        emit busyChanged(true, true);
+        {
+            const HeldBack held{this, window()->parentWidget() ? window()->parentWidget()->window() : nullptr};
+            const auto report = [&](const DetectStatus& status) {
+                last = status;
+                showStep(GetLangString(status.message), status.percent);
+            };
+            detected = DetectNVR(m_context, item, report, DetectMode::Modify);
+        }
+        emit busyChanged(false, false);
+        if (detected) {
+            m_detected = true;
+            m_channels->setDetected(true);
+            m_fields.set(ItemOf(m_context.recorders.SVREdit));
+            GridChannelList();
+            showChannel(0);
+            emit changesChanged();
+        }
+        showFacts();
+        if (last.message != kStopped)
+            MsgBox(GetLangString(last.message) + last.suffix, InfoBoxStyle(), GetLangString(570));
+    });
+}
+
+void NVRDetailFrame::act(int column)
+{
+    const QModelIndex current = m_ui->Grid_ChannelList->currentIndex();
+    if (current.isValid())
+        Grid_ChannelList_Click(current.siblingAtColumn(column));
+}
+
+void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
+{
+    Trapped("Form_NVRSetting - Grid_ChannelList_Click", [&] {
+        const int channel = cell.data(ChannelListModel::kChannelRole).toInt();
+        if (cell.column() == ChannelListModel::Delete)
+            clearChannel(channel);
+        else if (cell.column() != ChannelListModel::CameraEvent)
+            emit channelWanted(channel);
+    });
+}
+
+void NVRDetailFrame::clearChannel(int channel)
+{
+    if (At(m_context.recorders.SVREdit.sSub_CH_IP, channel).isEmpty())
+        return;
+}
+
+bool NVRDetailFrame::apply(const ModifyHooks& hooks)
+{
+    const NVRDetectItem typed = m_fields.item();
+    const NVRDetectItem known = ItemOf(m_context.recorders.SVREdit);
+    ManualFault fault;
+    if (typed.sName.isEmpty())
+        fault = {553, ManualField::Name};
+    else if (typed.sIP != known.sIP)
+        fault = {kReDetect, ManualField::Address};
+    else if (typed.iPort != known.iPort)
+        fault = {kReDetect, ManualField::Port};
+    else if (typed.sUser != known.sUser)
+        fault = {kReDetect, ManualField::User};
+    else if (typed.sPassword != known.sPassword)
+        fault = {kReDetect, ManualField::Password};
+    if (fault.message != 0) {
+        MsgBox(GetLangString(fault.message), InfoBoxStyle(), GetLangString(570));
+        m_fields.go(fault.field);
+        return false;
+    }
+    return ModifyApply(m_context.recorders, m_slot, typed.sName, hooks);
+}

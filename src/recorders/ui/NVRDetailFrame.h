@@ -1,0 +1,61 @@
+#pragma once
+
+#include "recorders/ChannelListModel.h"
+#include "recorders/ModifyApply.h"
+#include "recorders/ui/RecorderFields.h"
+
+#include <QWidget>
+#include <memory>
+
+class IconProxy;
+namespace Ui {
+class NVRDetailFrame;
+}
+
+// Frame 3: a stored recorder, its login and its channels. Works on the edit pair.
+class NVRDetailFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // `context.stopped` ends a detection at its next step.
+    NVRDetailFrame(DetectContext context, QWidget* parent);
+    ~NVRDetailFrame() override;
+
+    void SetNVR(int slot); // opens the recorder of a working slot (from 0)
+    int slot() const { return m_slot; }
+    void GridChannelList();        // fills the list from the edit pair
+    void showChannel(int channel); // makes it the current row
+    void takeFocus();              // to the list
+    // Takes everything over into the station, see ModifyApply; false: something is missing or was declined.
+    bool apply(const ModifyHooks& hooks);
+    bool changed() const; // something would be lost without apply
+    void changeLanguage();
+
+public slots:
+    void lbNVRDetect_Click();
+    void Grid_ChannelList_Click(const QModelIndex& cell);
+
+signals:
+    void channelWanted(int channel); // from 0
+    // A device is being asked; `stoppable` while the context's `stopped` is looked at.
+    void busyChanged(bool busy, bool stoppable);
+    void changesChanged();
+
+private:
+    void prepareGrid();
+    void act(int column); // of the current row
+    void clearChannel(int channel);
+    void showFacts();
+    void showCounts();
+    void showStep(const QString& words, int percent);
+    void fitGrid();
+
+    DetectContext m_context;
+    std::unique_ptr<Ui::NVRDetailFrame> m_ui;
+    RecorderFields m_fields;
+    ChannelListModel* m_channels;
+    IconProxy* m_proxy;
+    int m_slot = 0;
+    bool m_detected = false; // the edit pair is no longer the working slot's
+};

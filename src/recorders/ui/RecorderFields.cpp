@@ -1,0 +1,81 @@
+#include "recorders/ui/RecorderFields.h"
+
+#include "app/language/Languages.h"
+#include "look/Fields.h"
+#include "platform/MsgBox.h"
+#include "support/Conversions.h"
+
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+RecorderFields::RecorderFields(const std::array<QLineEdit*, kCount>& fields)
+    : m_fields(fields)
+{
+    static constexpr std::array<int, kCount> lengths{31, 255, 5, 31, 31};
+    for (std::size_t i = 0; i < m_fields.size(); ++i)
+        m_fields[i]->setMaxLength(lengths[i]);
+    QLineEdit* port = field(ManualField::Port);
+    port->setValidator(new QIntValidator(0, 99999, port));
+    // Addresses and ports read from the left in every language.
+    field(ManualField::Address)->setLayoutDirection(Qt::LeftToRight);
+    port->setLayoutDirection(Qt::LeftToRight);
+    AddEye(field(ManualField::Password), GetLangString(887), GetLangString(899));
+}
+
+QLineEdit* RecorderFields::field(ManualField which) const
+{
+    return At(m_fields, static_cast<int>(which));
+}
+
+void RecorderFields::go(ManualField which) const
+{
+    field(which)->setFocus();
+    field(which)->selectAll();
+}
+
+bool RecorderFields::check() const
+{
+    const NVRDetectItem typed = item();
+    ManualFault fault = ValidateManualNVR(typed.sName, typed.sIP, field(ManualField::Port)->text());
+    if (fault.message == 0 && (typed.iPort < 1 || typed.iPort > 65535))
+        fault = {556, ManualField::Port};
+    if (fault.message == 0)
+        return true;
+    MsgBox(GetLangString(fault.message), InfoBoxStyle(), GetLangString(570));
+    go(fault.field);
+    return false;
+}
+
+NVRDetectItem RecorderFields::item() const
+{
+    NVRDetectItem item;
+    item.sName = field(ManualField::Name)->text();
+    item.sIP = field(ManualField::Address)->text();
+    item.iPort = field(ManualField::Port)->text().trimmed().toInt();
+    item.sUser = field(ManualField::User)->text();
+    item.sPassword = field(ManualField::Password)->text();
+    return item;
+}
+
+void RecorderFields::set(const NVRDetectItem& item)
+{
+    field(ManualField::Name)->setText(item.sName);
+    field(ManualField::Address)->setText(item.sIP);
+    field(ManualField::Port)->setText(QString::number(item.iPort));
+    field(ManualField::User)->setText(item.sUser);
+    field(ManualField::Password)->setText(item.sPassword);
+}
+
+void RecorderFields::nameByLabels() const
+{
+    for (QLineEdit* edit : m_fields) {
+        const QList<QLabel*> labels = edit->parentWidget()->findChildren<QLabel*>();
+        for (const QLabel* label : labels) {
+            if (label->buddy() == edit)
+                edit->setAccessibleName(label->text());
+        }
+    }
+}
