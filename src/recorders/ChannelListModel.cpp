@@ -34,8 +34,11 @@ void ChannelListModel::refill()
 
 void ChannelListModel::refreshChannel(int channel)
 {
-    if (channel >= 0 && channel < rowCount())
-        emit dataChanged(index(channel, 0), index(channel, ColumnCount - 1));
+    if (channel < 0 || channel >= rowCount())
+        return;
+    if (m_events && !occupied(channel))
+        At(*m_events, channel) = false;
+    emit dataChanged(index(channel, 0), index(channel, ColumnCount - 1));
 }
 
 void ChannelListModel::setDetected(bool detected)
@@ -45,11 +48,41 @@ void ChannelListModel::setDetected(bool detected)
         emit dataChanged(index(0, State), index(rowCount() - 1, State));
 }
 
-void ChannelListModel::setCameraEvents(const std::optional<PerChannel<bool>>& switches)
+void ChannelListModel::setCameraEvents(bool supported)
 {
-    m_events = switches;
+    m_events.reset();
+    if (supported)
+        m_events = m_recorders.SVREdit.bSub_CH_Cam_MD_Enabled;
     if (rowCount() > 0)
         emit dataChanged(index(0, CameraEvent), index(rowCount() - 1, CameraEvent));
+}
+
+std::vector<std::pair<int, bool>> ChannelListModel::switched() const
+{
+    std::vector<std::pair<int, bool>> changes;
+    for (int channel = 0; m_events && channel < rowCount(); ++channel) {
+        const bool on = At(*m_events, channel);
+        if (occupied(channel) && on != At(m_recorders.SVREdit.bSub_CH_Cam_MD_Enabled, channel))
+            changes.emplace_back(channel, on);
+    }
+    return changes;
+}
+
+int ChannelListModel::cameraEventsOn() const
+{
+    const auto count = [](const SVRRecord& record, const PerChannel<bool>& switches) {
+        int on = 0;
+        for (int channel = 0; channel < kMaxChannel; ++channel)
+            on += At(switches, channel) && !At(record.sSub_CH_IP, channel).isEmpty() ? 1 : 0;
+        return on;
+    };
+    int total = count(m_recorders.SVREdit, *m_events);
+    for (int slot = 0; slot < kMaxSVR; ++slot) {
+        const SVRRecord& other = At(m_recorders.SVRWorkList, slot);
+        if (slot + 1 != m_recorders.SVREdit.iSVR_Num && !other.sSVR_IP.isEmpty())
+            total += count(other, other.bSub_CH_Cam_MD_Enabled);
+    }
+    return total;
 }
 
 int ChannelListModel::cameras() const
@@ -93,9 +126,8 @@ QString ChannelListModel::iconName(int channel, int column) const
 
 int ChannelListModel::stateOf(int channel) const
 {
-    if (At(m_recorders.SVREdit.bSub_CH_Modified, channel))
-        return static_cast<int>(Status::Warning);
-    return static_cast<int>(occupied(channel) && m_detected ? Status::Ok : Status::None);
+    const bool fresh = At(m_recorders.SVREdit.bSub_CH_Modified, channel) || (occupied(channel) && m_detected);
+    return static_cast<int>(fresh ? Status::Ok : Status::None);
 }
 
 QString ChannelListModel::stateText(int channel) const
@@ -180,7 +212,12 @@ bool ChannelListModel::setData(const QModelIndex& index, const QVariant& value, 
     if (role != Qt::CheckStateRole || !index.isValid() || index.column() != CameraEvent || !m_events ||
         !occupied(index.row()))
         return false;
-    At(*m_events, index.row()) = value.toInt() == Qt::Checked;
+    const bool on = value.toInt() == Qt::Checked;
+    if (on && !At(*m_events, index.row()) && cameraEventsOn() >= kCameraEventLimit) {
+        emit limitReached();
+        return false;
+    }
+    At(*m_events, index.row()) = on;
     emit dataChanged(index, index);
     return true;
 }

@@ -12,6 +12,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
@@ -114,8 +115,11 @@ protected:
 
     void step(const QString& name, std::function<void()> act)
     {
-        driver.add(
-            name, [name] { return Driver::usable(name); }, std::move(act));
+        const auto ready = [name] {
+            QWidget* modal = QApplication::activeModalWidget();
+            return Driver::usable(name) && (!modal || modal == QApplication::activeWindow());
+        };
+        driver.add(name, ready, std::move(act));
     }
     void waitClosed()
     {
@@ -142,6 +146,25 @@ protected:
     {
         return Driver::find<QTableView>(grid)->model()->index(row, column).data(role);
     }
+    static int rows(const QString& grid) { return Driver::find<QTableView>(grid)->model()->rowCount(); }
+    static QString text(const QString& name) { return Driver::find<QLineEdit>(name)->text(); }
+    static QString buttonText(const QString& name)
+    {
+        const auto* button = Driver::find<QAbstractButton>(name);
+        return button ? button->text() : QString();
+    }
+    // Picks an entry of a box with the keys of a user.
+    static void choose(const QString& name, const QString& entry)
+    {
+        auto* box = Driver::find<QComboBox>(name);
+        ASSERT_TRUE(box) << qPrintable(name);
+        const int wanted = box->findText(entry);
+        ASSERT_GE(wanted, 0) << qPrintable(name + u": "_s + entry);
+        QTest::keyClick(box, Qt::Key_Home);
+        for (int i = 0; i < wanted; ++i)
+            QTest::keyClick(box, Qt::Key_Down);
+        EXPECT_EQ(box->currentText(), entry);
+    }
     static void press(const QString& name, Qt::Key key) { QTest::keyClick(Driver::find(name), key); }
 
     std::unique_ptr<Station> station = std::make_unique<Station>();
@@ -159,29 +182,257 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
     openRecorder(0);
     step(u"lbModifyApply_0"_s, [this] {
         picture(u"detail"_s);
-        EXPECT_EQ(Driver::find<QTableView>(u"Grid_ChannelList"_s)->model()->rowCount(), 64);
-        site->call(
-            [](Site& running) { running.device(0).channel(41).camera = simulators::exampleCamera(1, Family::Svr); });
+        EXPECT_EQ(rows(u"Grid_ChannelList"_s), 64);
+        site->call([](Site& running) {
+            running.device(0).channel(41).camera = simulators::exampleCamera(1, Family::Svr);
+            running.device(0).channel(2).cameraEvents = 2;
+        });
         Driver::type(u"TextNVRDetail_0"_s, u"Harbour"_s);
         Driver::type(u"TextNVRDetail_3"_s, u"nobody"_s);
-        Driver::click(u"lbModifyApply_0"_s); // 703: another login, not tried
-        Driver::click(u"lbNVRDetect"_s);     // 44
+        Driver::click(u"lbModifyApply_0"_s); // another login, not tried yet
+        Driver::click(u"lbNVRDetect"_s);
         Driver::type(u"TextNVRDetail_3"_s, u"admin"_s);
         Driver::click(u"lbNVRDetect"_s);
         picture(u"detected"_s);
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 40, ChannelListModel::State).toString(), GetLangString(968));
+        EXPECT_EQ(cell(u"Grid_ChannelList"_s, 1, ChannelListModel::CameraEvent, Qt::CheckStateRole), Qt::Checked);
         Driver::click(u"lbModifyApply_0"_s);
     });
     waitClosed();
     openRecorder(1);
     step(u"lbModifyApply_1"_s, [] {
         picture(u"short"_s);
+        Driver::type(u"TextNVRDetail_0"_s, u"Nobody's"_s);
         Driver::click(u"lbModifyApply_1"_s);
     });
     waitClosed();
     driver.run(20000);
     EXPECT_EQ(boxes, QStringList({GetLangString(703), GetLangString(44), GetLangString(833)}));
     EXPECT_EQ(row(u"SELECT COUNT(*)||sSVR_Name FROM SVR WHERE iSVR_Num=1"_s).toString(), u"41Harbour"_s);
+    EXPECT_EQ(row(u"SELECT bSub_CH_Cam_MD_Enabled FROM SVR WHERE iSVR_Num=1 AND iSub_Channel=2"_s).toInt(), 1);
+    EXPECT_EQ(row(u"SELECT sSVR_Name FROM SVR WHERE iSVR_Num=2"_s).toString(), u"Recorder 2"_s);
+}
+
+TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 64, 3)}));
+    openRecorder(0);
+    step(u"lbNVRDetect"_s, [this] {
+        site->call([](Site& running) {
+            running.device(0).channel(3).camera.ip = u"10.9.9.9"_s;
+            simulators::Fault slow;
+            slow.amount = 60;
+            slow.path = "/param.cgi";
+            running.device(0).addFault(slow);
+        });
+        Driver::click(u"lbNVRDetect"_s);
+        EXPECT_EQ(recorders().SVREdit.sSub_CH_IP[2], u"192.168.10.23"_s);
+        Driver::click(u"lbModifyApply_0"_s);
+    });
+    driver.add(
+        u"stop"_s, [] { return Waiting() && buttonText(u"lbModifyApply_1"_s) == GetLangString(951); },
+        [] {
+            picture(u"detecting"_s);
+            EXPECT_FALSE(Driver::find(u"lbModifyApply_0"_s)->isEnabled());
+            Driver::click(u"lbModifyApply_1"_s);
+        });
+    waitClosed();
+    driver.run(20000);
+    EXPECT_EQ(boxes, QStringList());
+    EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR WHERE sSub_CH_IP='10.9.9.9'"_s).toInt(), 0);
+}
+
+// By keyboard: an empty channel takes a camera that the search has found, and keeps it although the page of the
+// recorder is then left by Esc.
+TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 4, 3)}));
+    answers = {MsgResult::Ok, MsgResult::Ok, MsgResult::No, MsgResult::Yes};
+    openRecorder(0);
+    step(u"Grid_ChannelList"_s, [] {
+        auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
+        grid->setCurrentIndex(grid->model()->index(3, 0));
+        press(u"Grid_ChannelList"_s, Qt::Key_Return);
+    });
+    step(u"lbCamSearch"_s, [] {
+        picture(u"camera-empty"_s);
+        Driver::type(u"txtCam_0"_s, u"South & gate"_s);
+        Driver::click(u"lbCamSearch"_s);
+    });
+    step(u"Grid_CamSearchList"_s, [this] {
+        picture(u"camera-search"_s);
+        site->call(
+            [](Site& running) { running.device(0).state().network.erase(running.device(0).state().network.begin()); });
+        EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 7);
+        press(u"Grid_CamSearchList"_s, Qt::Key_F5);
+        EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 6);
+        Driver::type(u"txtCamSearchFilter"_s, u"10.121"_s);
+        EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 1);
+        auto* grid = Driver::find<QTableView>(u"Grid_CamSearchList"_s);
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(0, 0));
+        press(u"Grid_CamSearchList"_s, Qt::Key_Return);
+    });
+    step(u"txtCam_4"_s, [] {
+        EXPECT_EQ(text(u"txtCam_1"_s), u"192.168.10.121"_s);
+        EXPECT_EQ(text(u"txtCam_2"_s), u"80"_s);
+        Driver::type(u"txtCam_3"_s, u"root"_s);
+        press(u"txtCam_3"_s, Qt::Key_Return); // Return detects what is not detected yet: 607
+        Driver::type(u"txtCam_4"_s, u"pass101"_s);
+        press(u"txtCam_4"_s, Qt::Key_Return);
+        picture(u"camera"_s);
+        choose(u"cmbFormat"_s, u"H.264"_s);
+        choose(u"cmbResolution"_s, u"1280x720"_s);
+        choose(u"cmbCameraDetail_0"_s, u"10"_s);
+        press(u"txtCam_4"_s, Qt::Key_Return); // and writes what is: 611, No
+        EXPECT_TRUE(Driver::usable(u"txtCam_4"_s));
+        press(u"txtCam_4"_s, Qt::Key_Return); // Yes
+    });
+    step(u"Grid_ChannelList"_s, [] {
+        picture(u"written"_s);
+        EXPECT_EQ(cell(u"Grid_ChannelList"_s, 3, ChannelListModel::State).toString(), GetLangString(967));
+        press(u"Grid_ChannelList"_s, Qt::Key_Escape);
+    });
+    waitClosed();
+    driver.run(20000);
+    EXPECT_EQ(boxes, QStringList({GetLangString(607), GetLangString(833), GetLangString(611), GetLangString(611)}));
+    EXPECT_EQ(camera(0, 4).ip, u"192.168.10.121"_s);
+    EXPECT_EQ(camera(0, 4).name, u"South & gate"_s);
+    EXPECT_EQ(row(u"SELECT sSub_CH_Name||sSub_CH_IP||sSub_CH_VideoFormat||sSub_CH_Resolution FROM SVR"
+                  " WHERE iSub_Channel=4"_s)
+                  .toString(),
+              u"South & gate192.168.10.121H.2641280x720"_s);
+}
+
+TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGoes)
+{
+    for (const Family family : {Family::OmluPro, Family::Txr632}) {
+        ASSERT_NO_FATAL_FAILURE(start({Recorder(family, 16, 2)}));
+        boxes.clear();
+        titles.clear();
+        answers = {MsgResult::Yes, MsgResult::No, MsgResult::Yes, MsgResult::Yes,
+                   MsgResult::No,  MsgResult::Ok, MsgResult::Yes};
+        openRecorder(0);
+        step(u"Grid_ChannelList"_s, [] { clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name); });
+        step(u"cmbFormat"_s, [this] {
+            picture(u"pro"_s);
+            choose(u"cmbFormat"_s, u"jpeg"_s);
+            EXPECT_TRUE(Driver::find(u"cmbCameraDetail_2"_s));
+            choose(u"cmbFormat"_s, u"h264"_s);
+            choose(u"cmbResolution"_s, u"640x480"_s);
+            choose(u"cmbCameraDetail_0"_s, u"7"_s);
+            Driver::click(u"lbCamModifyApply_0"_s);
+        });
+        step(u"Grid_ChannelList"_s, [this] {
+            EXPECT_EQ(camera(0, 2).live.size, u"640x480"_s);
+            EXPECT_EQ(camera(0, 2).live.fps, 7);
+            clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // No
+            clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // Yes
+            press(u"Grid_ChannelList"_s, Qt::Key_Delete);                  // no camera any more: nothing
+            clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Delete); // Yes, the last one
+            picture(u"cleared"_s);
+            EXPECT_TRUE(camera(0, 2).ip.isEmpty());
+            Driver::click(u"lbModifyApply_0"_s); // No
+            EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR"_s).toInt(), 2);
+            Driver::click(u"lbModifyApply_0"_s); // Yes
+        });
+        waitClosed();
+        driver.run(20000);
+        const auto clear = [](int channel) { return GetLangString(970).arg(channel); };
+        EXPECT_EQ(boxes, QStringList({GetLangString(611), clear(1), clear(1), clear(2), GetLangString(721),
+                                      GetLangString(720), GetLangString(721)}));
+        EXPECT_EQ(titles.mid(4), QStringList({u"Delete"_s, u"Notice"_s, u"Delete"_s}));
+        EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR"_s).toInt(), 0);
+        EXPECT_EQ(OccupiedSlots(recorders().SVRList), 0);
+        desk.reset();
+        station = std::make_unique<Station>();
+    }
+}
+
+TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 8, 2)}));
+    openRecorder(0);
+    step(u"Grid_ChannelList"_s, [] { clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Edit); });
+    step(u"txtCam_1"_s, [this] {
+        Driver::type(u"txtCam_1"_s, u"192.168.10.124"_s); // of a make the recorder does not know
+        Driver::click(u"lbCamModifyApply_0"_s);           // 616
+        Driver::click(u"lbCamDetect"_s);                  // 608
+        EXPECT_FALSE(Driver::find(u"cmbFormat"_s)) << "a failed detection leaves nothing to choose";
+        picture(u"camera-refused"_s);
+        Driver::type(u"txtCam_0"_s, {});
+        Driver::click(u"lbCamDetect"_s); // 603
+        EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
+        site->call([](Site& running) { running.device(0).state().network.clear(); });
+        Driver::click(u"lbCamSearch"_s);
+    });
+    step(u"btnEmptyState"_s, [] {
+        picture(u"camera-none"_s);
+        EXPECT_FALSE(Driver::find(u"lbCamChoose"_s)->isEnabled());
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        EXPECT_TRUE(Driver::find(u"txtCam_0"_s));
+        Driver::click(u"lbCamModifyApply_1"_s);
+        Driver::click(u"lbModifyApply_1"_s);
+    });
+    waitClosed();
+    driver.run(20000);
+    ASSERT_GE(boxes.size(), 3);
+    EXPECT_EQ(boxes[0], GetLangString(616));
+    EXPECT_TRUE(boxes[1].startsWith(GetLangString(608) + u" : Error"_s)) << qPrintable(boxes[1]);
+    EXPECT_EQ(boxes[2], GetLangString(603));
+    EXPECT_EQ(row(u"SELECT sSub_CH_IP FROM SVR WHERE iSub_Channel=2"_s).toString(), camera(0, 2).ip);
+}
+
+TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 64, 40), Recorder(Family::Txr632, 8, 3)}));
+    site->call([](Site& running) {
+        running.device(0).channel(1).cameraEvents = 1;
+        running.device(0).state().refusedEventChannels = {3};
+    });
+    recorders().SVRWorkList[0].bSub_CH_Cam_MD_Enabled[0] = true;
+    const auto toggle = [](int row) {
+        auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(row, ChannelListModel::Name));
+        press(u"Grid_ChannelList"_s, Qt::Key_Space);
+    };
+    openRecorder(0);
+    step(u"Grid_ChannelList"_s, [this, toggle] {
+        for (int row = 1; row <= 32; ++row)
+            toggle(row); // 32 are the most, with the first one: the last is refused
+        toggle(40);      // no camera
+        picture(u"events"_s);
+    });
+    driver.add(
+        u"limit"_s, [this] { return !boxes.isEmpty(); },
+        [this, toggle] {
+            EXPECT_EQ(boxes, QStringList({GetLangString(91)}));
+            for (int row = 4; row <= 31; ++row)
+                toggle(row);
+            Driver::click(u"lbModifyApply_0"_s); // channel 3 refused
+            EXPECT_EQ(cell(u"Grid_ChannelList"_s, 2, ChannelListModel::CameraEvent, Qt::CheckStateRole), Qt::Unchecked);
+            Driver::click(u"lbModifyApply_0"_s);
+        });
+    waitClosed();
+    openRecorder(1);
+    step(u"Grid_ChannelList"_s, [toggle] {
+        toggle(2);
+        Driver::click(u"lbModifyApply_0"_s);
+    });
+    waitClosed();
+    driver.run(20000);
+    ASSERT_EQ(boxes.size(), 2);
+    EXPECT_EQ(boxes[1], GetLangString(834) + u" SVR:1 CH: 3"_s);
+    QList<int> events;
+    site->call([&](Site& running) {
+        for (int n = 1; n <= 5; ++n)
+            events << running.device(0).channel(n).cameraEvents;
+    });
+    EXPECT_EQ(events, (QList<int>{1, 3, 0, 3, 0}));
+    EXPECT_EQ(
+        row(u"SELECT group_concat(iSVR_Num||'.'||iSub_Channel) FROM SVR WHERE bSub_CH_Cam_MD_Enabled<>0"_s).toString(),
+        u"1.1,1.2,1.4,2.3"_s);
 }
 
 } // namespace

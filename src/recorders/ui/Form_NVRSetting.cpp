@@ -8,6 +8,8 @@
 #include "look/Tables.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
+#include "recorders/ui/CameraFrame.h"
+#include "recorders/ui/CameraSearchFrame.h"
 #include "recorders/ui/HeldBack.h"
 #include "recorders/ui/NVRDetailFrame.h"
 #include "recorders/ui/ui_Form_NVRSetting.h"
@@ -28,6 +30,8 @@ constexpr int kFrameChoose = 0;
 constexpr int kFrameSearch = 1;
 constexpr int kFrameStatus = 2;
 constexpr int kFrameDetail = 3;
+constexpr int kFrameCamera = 4;
+constexpr int kFrameCamSearch = 5;
 constexpr int kStatusRows = 11; // rows of the status grid on show at a time
 
 // The buttons and the title of a frame: object names and message numbers.
@@ -39,10 +43,12 @@ struct FrameFace
     int cancelText;
     int title;
 };
-constexpr std::array<FrameFace, 4> kFaces{{{"lbNext_0", 277, "lbCancel", 475, 287},
+constexpr std::array<FrameFace, 6> kFaces{{{"lbNext_0", 277, "lbCancel", 475, 287},
                                            {"lbNext_1", 277, "lbCancel", 475, 287},
                                            {"lbNext_2", 873, "lbCancel", 475, 287},
-                                           {"lbModifyApply_0", 591, "lbModifyApply_1", 475, 290}}};
+                                           {"lbModifyApply_0", 591, "lbModifyApply_1", 475, 290},
+                                           {"lbCamModifyApply_0", 591, "lbCamModifyApply_1", 475, 585},
+                                           {"lbCamChoose", 875, "lbCamBack", 880, 612}}};
 
 } // namespace
 
@@ -143,10 +149,32 @@ void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
     m_hooks = std::move(hooks);
     m_detail = new NVRDetailFrame(m_context, m_ui->frames);
     m_ui->frames->addWidget(m_detail);
+    m_camera = new CameraFrame(m_context.com, m_context.recorders, m_ui->frames);
+    m_ui->frames->addWidget(m_camera);
+    m_camSearch = new CameraSearchFrame(m_camera->edit(), m_ui->frames);
+    m_ui->frames->addWidget(m_camSearch);
     connect(m_detail, &NVRDetailFrame::busyChanged, this, &Form_NVRSetting::setBusy);
+    connect(m_camera, &CameraFrame::busyChanged, this, &Form_NVRSetting::setBusy);
+    connect(m_camSearch, &CameraSearchFrame::busyChanged, this, &Form_NVRSetting::setBusy);
     connect(m_detail, &NVRDetailFrame::changesChanged, this, &Form_NVRSetting::showChanges);
+    connect(m_camera, &CameraFrame::stateChanged, this, &Form_NVRSetting::showChanges);
+    connect(m_camSearch, &CameraSearchFrame::choiceChanged, this, &Form_NVRSetting::showChanges);
+    connect(m_detail, &NVRDetailFrame::channelWanted, this, [this](int channel) {
+        m_camera->openChannel(channel);
+        LoadFrame(kFrameCamera);
+    });
+    connect(m_camera, &CameraFrame::searchWanted, this, [this] {
+        LoadFrame(kFrameCamSearch);
+        m_camSearch->open();
+    });
+    connect(m_camSearch, &CameraSearchFrame::chosen, this, [this](const QString& address, int port) {
+        m_camera->takeFound(address, port);
+        LoadFrame(kFrameCamera);
+    });
     ApplyLanguage(this);
     m_detail->changeLanguage();
+    m_camera->changeLanguage();
+    m_camSearch->changeLanguage();
     m_detail->SetNVR(slot);
     resize(1060, 680);
     LoadFrame(kFrameDetail);
@@ -155,8 +183,9 @@ void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
 void Form_NVRSetting::LoadFrame(int index)
 {
     m_frame = index;
-    QWidget* const frames[] = {m_ui->Frame_0, m_ui->Frame_1, m_ui->Frame_2, m_detail};
-    m_ui->frames->setCurrentWidget(frames[index]);
+    const std::array<QWidget*, kFaces.size()> frames{m_ui->Frame_0, m_ui->Frame_1, m_ui->Frame_2,
+                                                     m_detail,      m_camera,      m_camSearch};
+    m_ui->frames->setCurrentWidget(At(frames, index));
     steps()->setVisible(index <= kFrameStatus);
     if (index <= kFrameStatus)
         steps()->setCurrent(index);
@@ -173,30 +202,62 @@ void Form_NVRSetting::LoadFrame(int index)
         const SVRRecord& record = m_context.recorders.SVREdit;
         setSubtitle(u"NVR %1  ·  "_s.arg(m_detail->slot() + 1) + record.sSVR_Name);
         m_detail->takeFocus();
-        showChanges();
+    } else if (index == kFrameCamera) {
+        m_camera->takeFocus();
     }
+    showChanges();
 }
 
 void Form_NVRSetting::pressNext()
 {
     if (m_frame == kFrameDetail)
         lbModifyApply_Click(0);
+    else if (m_frame == kFrameCamera)
+        lbCamModifyApply_Click(0);
+    else if (m_frame == kFrameCamSearch)
+        m_camSearch->chooseCurrent();
     else
         lbNext_Click(m_frame);
 }
 
 void Form_NVRSetting::pressCancel()
 {
-    if (m_frame == kFrameDetail && !m_busy)
-        lbModifyApply_Click(1);
-    else
+    if (m_busy || m_frame < kFrameDetail)
         lbCancel_Click();
+    else if (m_frame == kFrameDetail)
+        lbModifyApply_Click(1);
+    else if (m_frame == kFrameCamera)
+        lbCamModifyApply_Click(1);
+    else
+        LoadFrame(kFrameCamera);
 }
 
+// What the frame on show has to say about changes, and which button Return presses.
 void Form_NVRSetting::showChanges()
 {
-    if (m_frame == kFrameDetail)
-        footer()->setNote(m_detail->changed() ? GetLangString(868) : QString());
+    if (!m_detail)
+        return;
+    const bool detectFirst = m_frame == kFrameCamera && m_camera->needsDetection();
+    m_camera->detectButton()->setDefault(detectFirst);
+    m_next->setDefault(!detectFirst);
+    m_next->setEnabled(!m_busy && (m_frame != kFrameCamSearch || m_camSearch->hasChoice()));
+    const bool changes =
+        (m_frame == kFrameDetail && m_detail->changed()) || (m_frame == kFrameCamera && m_camera->edit().changed());
+    footer()->setNote(changes ? GetLangString(868) : QString());
+}
+
+void Form_NVRSetting::lbCamModifyApply_Click(int index)
+{
+    if (m_busy)
+        return;
+    Trapped("Form_NVRSetting - lbCamModifyApply_Click", [&] {
+        if (index == 0) {
+            if (!m_camera->apply())
+                return;
+            m_detail->channelWritten(m_camera->channel());
+        }
+        LoadFrame(kFrameDetail);
+    });
 }
 
 void Form_NVRSetting::lbModifyApply_Click(int index)
@@ -321,7 +382,7 @@ void Form_NVRSetting::beginDetection(std::vector<NVRDetectItem> items)
 void Form_NVRSetting::detectAll()
 {
     {
-        const HeldBack held{parentWidget() ? parentWidget()->window() : nullptr, content()};
+        const HeldBack held{content()};
         const std::vector<NVRDetectItem> items = m_status->items();
         for (int row = 0; row < static_cast<int>(items.size()) && !Closing() && !m_stopped; ++row) {
             NVRDetectItem item = At(items, row);
@@ -354,4 +415,6 @@ void Form_NVRSetting::setBusy(bool busy, bool stoppable)
     m_cancel->setText(GetLangString(stop ? 951 : At(kFaces, m_frame).cancelText));
     if (busy)
         m_stopped = false;
+    else
+        showChanges();
 }

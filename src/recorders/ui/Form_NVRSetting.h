@@ -9,6 +9,8 @@
 #include <functional>
 #include <memory>
 
+class CameraFrame;
+class CameraSearchFrame;
 class NVRDetailFrame;
 class QSortFilterProxyModel;
 class QTimer;
@@ -39,9 +41,10 @@ public:
 
 public slots:
     void lbNext_Click(int index);
-    void lbCancel_Click();               // while recorders are detected: stops, and keeps what is done
-    void lbSearch_Click();               // searches anew
-    void lbModifyApply_Click(int index); // 0 applies and closes, 1 closes
+    void lbCancel_Click();                  // while recorders are detected: stops, and keeps what is done
+    void lbSearch_Click();                  // searches anew
+    void lbModifyApply_Click(int index);    // 0 applies and closes, 1 closes
+    void lbCamModifyApply_Click(int index); // 0 writes the camera, 1 does not; both go back to frame 3
 
 protected:
     void keyPressEvent(QKeyEvent* event) override; // Esc leads back a frame before it closes
@@ -71,6 +74,8 @@ private:
     QPushButton* m_cancel;
     QPushButton* m_next;
     NVRDetailFrame* m_detail = nullptr; // only with a stored recorder, as the frames behind it
+    CameraFrame* m_camera = nullptr;
+    CameraSearchFrame* m_camSearch = nullptr;
     ModifyHooks m_hooks;
     int m_frame = 0;
     bool m_busy = false;

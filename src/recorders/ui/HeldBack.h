@@ -4,29 +4,24 @@
 #include <QPointer>
 #include <QWidget>
 
-// Windows and parts of a window that take no input while a device is asked, under a busy pointer. Afterwards they are
-// as before, and the keyboard is where it was.
+// A part of a window that takes no input while a device is asked, under a busy pointer. Afterwards it is as before, and
+// the keyboard is where it was. Not for a window with dialogs: they would be disabled with it, their Stop button too
+// (what lies behind a modal dialog takes no input anyway).
 class HeldBack
 {
 public:
-    explicit HeldBack(std::initializer_list<QWidget*> widgets)
-        : m_focus(QApplication::focusWidget())
+    explicit HeldBack(QWidget* part)
+        : m_part(part)
+        , m_focus(QApplication::focusWidget())
     {
-        for (QWidget* widget : widgets) {
-            if (widget && widget->isEnabled()) {
-                widget->setEnabled(false);
-                m_widgets << widget;
-            }
-        }
+        part->setEnabled(false);
         QGuiApplication::setOverrideCursor(Qt::BusyCursor);
     }
     ~HeldBack()
     {
         QGuiApplication::restoreOverrideCursor();
-        for (const QPointer<QWidget>& widget : m_widgets) {
-            if (widget)
-                widget->setEnabled(true);
-        }
+        if (m_part)
+            m_part->setEnabled(true);
         if (m_focus && m_focus->isVisible() && m_focus->isEnabled())
             m_focus->setFocus();
     }
@@ -34,6 +29,6 @@ public:
     HeldBack& operator=(const HeldBack&) = delete;
 
 private:
-    QList<QPointer<QWidget>> m_widgets;
+    QPointer<QWidget> m_part;
     QPointer<QWidget> m_focus;
 };

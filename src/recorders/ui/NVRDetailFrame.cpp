@@ -5,6 +5,8 @@
 #include "look/Tables.h"
 #include "look/Theme.h"
 #include "platform/MsgBox.h"
+#include "recorders/CameraEvents.h"
+#include "recorders/ChannelClear.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/ui/HeldBack.h"
 #include "recorders/ui/IconProxy.h"
@@ -21,6 +23,11 @@ namespace {
 constexpr int kShortList = 6; // fewer channels than this draw a short grid
 constexpr int kStopped = 475; // the last message of a detection that the operator has stopped
 constexpr int kReDetect = 703;
+constexpr int kTooManyEvents = 91;
+constexpr int kAskClear = 970;
+constexpr int kWriting = 976;
+constexpr qint16 kBothEvents = 3; // the two bits of an older recorder's switch
+constexpr qint16 kEvent = 1;      // the one of a Pro recorder
 
 NVRDetectItem ItemOf(const SVRRecord& record)
 {
@@ -54,6 +61,10 @@ NVRDetailFrame::NVRDetailFrame(DetectContext context, QWidget* parent)
         m_proxy->setFilterFixedString(text);
         showCounts();
     });
+    // The box waits until the click that met the limit is over.
+    connect(
+        m_channels, &ChannelListModel::limitReached, this,
+        [] { MsgBox(GetLangString(kTooManyEvents), InfoBoxStyle(), GetLangString(570)); }, Qt::QueuedConnection);
     connect(m_ui->TextNVRDetail_0, &QLineEdit::textChanged, this, &NVRDetailFrame::changesChanged);
     connect(m_channels, &ChannelListModel::dataChanged, this, &NVRDetailFrame::changesChanged);
 }
@@ -65,6 +76,7 @@ void NVRDetailFrame::prepareGrid()
     QTableView* grid = m_ui->Grid_ChannelList;
     grid->setModel(m_proxy);
     StyleTable(grid);
+    grid->setIconSize(QSize(kIconSize, kIconSize));
     grid->setSelectionMode(QAbstractItemView::SingleSelection);
     grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     MonospaceColumn(grid, ChannelListModel::Address);
@@ -106,6 +118,7 @@ void NVRDetailFrame::SetNVR(int slot)
     OpenEditPair(m_context.recorders, slot);
     m_detected = false;
     m_channels->setDetected(false);
+    m_channels->setCameraEvents(m_context.recorders.SVREdit.bSVR_N_EventSupport);
     m_fields.set(ItemOf(m_context.recorders.SVREdit));
     GridChannelList();
     showChannel(0);
@@ -114,7 +127,7 @@ void NVRDetailFrame::SetNVR(int slot)
 void NVRDetailFrame::GridChannelList()
 {
     m_channels->refill();
-    m_ui->Grid_ChannelList->setColumnHidden(ChannelListModel::CameraEvent, !m_channels->cameraEvents());
+    m_ui->Grid_ChannelList->setColumnHidden(ChannelListModel::CameraEvent, !m_channels->hasCameraEvents());
     showFacts();
     showCounts();
     fitGrid();
@@ -170,7 +183,8 @@ void NVRDetailFrame::showStep(const QString& words, int percent)
 
 bool NVRDetailFrame::changed() const
 {
-    return m_detected || m_fields.item().sName != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name;
+    return m_detected || !m_channels->switched().empty() ||
+           m_fields.item().sName != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name;
 }
 
 void NVRDetailFrame::lbNVRDetect_Click()
@@ -188,12 +202,14 @@ void NVRDetailFrame::lbNVRDetect_Click()
         bool detected = false;
         emit busyChanged(true, true);
         {
-            const HeldBack held{this, window()->parentWidget() ? window()->parentWidget()->window() : nullptr};
+            const HeldBack held{this};
             const auto report = [&](const DetectStatus& status) {
                 last = status;
                 showStep(GetLangString(status.message), status.percent);
             };
             detected = DetectNVR(m_context, item, report, DetectMode::Modify);
+            if (detected)
+                readCameraEvents();
         }
         emit busyChanged(false, false);
         if (detected) {
@@ -228,10 +244,78 @@ void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
     });
 }
 
+// Runs a call that waits for the recorder, the page held back and saying what goes on, and shows its box.
+RecorderOutcome NVRDetailFrame::ask(int words, const std::function<RecorderOutcome()>& call)
+{
+    emit busyChanged(true, false);
+    showStep(GetLangString(words), -1);
+    RecorderOutcome outcome;
+    {
+        const HeldBack held{this};
+        Trapped("Form_NVRSetting - Grid_ChannelList_Click", [&] { outcome = call(); });
+    }
+    showFacts();
+    emit busyChanged(false, false);
+    if (outcome.message != 0)
+        MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
+    return outcome;
+}
+
 void NVRDetailFrame::clearChannel(int channel)
 {
     if (At(m_context.recorders.SVREdit.sSub_CH_IP, channel).isEmpty())
         return;
+    if (MsgBox(GetLangString(kAskClear).arg(channel + 1), AskBoxStyle(), GetLangString(877)) != MsgResult::Yes)
+        return;
+    const RecorderOutcome cleared =
+        ask(kWriting, [&] { return ClearRecorderChannel(m_context.com, m_context.recorders, channel); });
+    if (cleared.ok)
+        channelWritten(channel);
+}
+
+void NVRDetailFrame::channelWritten(int channel)
+{
+    TakeOverWritten(m_context.recorders, m_slot);
+    m_channels->refreshChannel(channel);
+    showCounts();
+    emit changesChanged();
+}
+
+// The recorder's own switches after a detection; where it cannot tell them the station's stay.
+void NVRDetailFrame::readCameraEvents()
+{
+    SVRRecord& record = m_context.recorders.SVREdit;
+    CameraEventBits bits{};
+    if (record.bSVR_N_EventSupport && ReadRecorderCameraEvents(m_context.com, record, bits).ok) {
+        for (int channel = 0; channel < kMaxChannel; ++channel)
+            At(record.bSub_CH_Cam_MD_Enabled, channel) = At(bits, channel) != 0;
+    }
+    m_channels->setCameraEvents(record.bSVR_N_EventSupport);
+}
+
+// Writes the switches that differ; the others stay as the recorder has them.
+bool NVRDetailFrame::writeCameraEvents()
+{
+    const std::vector<std::pair<int, bool>> changes = m_channels->switched();
+    if (changes.empty())
+        return true;
+    SVRRecord& record = m_context.recorders.SVREdit;
+    const RecorderOutcome written = ask(kWriting, [&] {
+        CameraEventBits bits{};
+        RecorderOutcome outcome = ReadRecorderCameraEvents(m_context.com, record, bits);
+        if (!outcome.ok)
+            return outcome;
+        for (const auto& [channel, on] : changes) {
+            qint16& bit = At(bits, channel);
+            const qint16 switchedOn = IsProFamily(record.sSVR_DeviceType) ? kEvent : kBothEvents;
+            bit = !on ? qint16(0) : bit != 0 ? bit : switchedOn;
+        }
+        outcome = WriteRecorderCameraEvents(m_context.com, record, bits);
+        TakeOverWritten(m_context.recorders, m_slot);
+        return outcome;
+    });
+    m_channels->setCameraEvents(record.bSVR_N_EventSupport);
+    return written.ok;
 }
 
 bool NVRDetailFrame::apply(const ModifyHooks& hooks)
@@ -254,5 +338,5 @@ bool NVRDetailFrame::apply(const ModifyHooks& hooks)
         m_fields.go(fault.field);
         return false;
     }
-    return ModifyApply(m_context.recorders, m_slot, typed.sName, hooks);
+    return writeCameraEvents() && ModifyApply(m_context.recorders, m_slot, typed.sName, hooks);
 }

@@ -2,6 +2,7 @@
 
 #include "recorders/ChannelListModel.h"
 #include "recorders/ModifyApply.h"
+#include "recorders/RecorderCall.h"
 #include "recorders/ui/RecorderFields.h"
 
 #include <QWidget>
@@ -26,7 +27,9 @@ public:
     int slot() const { return m_slot; }
     void GridChannelList();        // fills the list from the edit pair
     void showChannel(int channel); // makes it the current row
-    void takeFocus();              // to the list
+    // The recorder has taken a change of a channel: the working slot follows, see TakeOverWritten.
+    void channelWritten(int channel);
+    void takeFocus(); // to the list
     // Takes everything over into the station, see ModifyApply; false: something is missing or was declined.
     bool apply(const ModifyHooks& hooks);
     bool changed() const; // something would be lost without apply
@@ -46,6 +49,9 @@ private:
     void prepareGrid();
     void act(int column); // of the current row
     void clearChannel(int channel);
+    bool writeCameraEvents();
+    void readCameraEvents();
+    RecorderOutcome ask(int words, const std::function<RecorderOutcome()>& call);
     void showFacts();
     void showCounts();
     void showStep(const QString& words, int percent);

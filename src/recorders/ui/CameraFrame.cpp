@@ -1,0 +1,191 @@
+#include "recorders/ui/CameraFrame.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "look/Fields.h"
+#include "platform/MsgBox.h"
+#include "recorders/ui/HeldBack.h"
+#include "recorders/ui/ui_CameraFrame.h"
+#include "support/Conversions.h"
+
+#include <QIntValidator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Control = CameraEdit::Control;
+
+enum Message
+{
+    kAskWrite = 611,
+    kDetectAgain = 616,
+    kNotice = 965,
+    kAsking = 975,
+    kWriting = 976
+};
+
+} // namespace
+
+CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
+    : QWidget(parent)
+    , m_edit(com, recorders)
+    , m_ui(std::make_unique<Ui::CameraFrame>())
+{
+    m_ui->setupUi(this);
+    m_ui->camProgress->hide();
+    txtCam = {m_ui->txtCam_0, m_ui->txtCam_1, m_ui->txtCam_2, m_ui->txtCam_3, m_ui->txtCam_4};
+    m_rows = {{{Control::VideoSource, m_ui->Cmb_VideoID},
+               {Control::Format, m_ui->cmbFormat},
+               {Control::Resolution, m_ui->cmbResolution},
+               {Control::FrameRate, m_ui->cmbCameraDetail_0},
+               {Control::RateControl, m_ui->cmbCameraDetail_1},
+               {Control::Quality, m_ui->cmbCameraDetail_2},
+               {Control::BitRate, m_ui->cmbCameraDetail_3},
+               {Control::LensMode, m_ui->Cmb_LensMode},
+               {Control::LeftMode, m_ui->cmbLeftMode},
+               {Control::RightMode, m_ui->cmbRightMode},
+               {Control::FishEyeMode, m_ui->cmbVideoID}}};
+    static constexpr std::array lengths{31, 255, 5, 31, 31};
+    for (std::size_t i = 0; i < txtCam.size(); ++i) {
+        txtCam[i]->setMaxLength(lengths[i]);
+        connect(txtCam[i], &QLineEdit::textEdited, this, &CameraFrame::takeFields);
+    }
+    m_ui->txtCam_2->setValidator(new QIntValidator(0, 99999, this));
+    // Addresses and ports read from the left in every language.
+    m_ui->txtCam_1->setLayoutDirection(Qt::LeftToRight);
+    m_ui->txtCam_2->setLayoutDirection(Qt::LeftToRight);
+    AddEye(m_ui->txtCam_4, GetLangString(887), GetLangString(899));
+    for (const Row& row : m_rows) {
+        connect(row.box, &QComboBox::activated, this, [this, control = row.control](int index) {
+            Trapped("Form_NVRSetting - cmbCameraDetail_Click", [&] { m_edit.choose(control, index); });
+            render();
+        });
+    }
+    connect(&m_edit, &CameraEdit::choicesChanged, this, &CameraFrame::render);
+    connect(m_ui->lbCamDetect, &QPushButton::clicked, this, &CameraFrame::lbCamDetect_Click);
+    connect(m_ui->lbCamSearch, &QPushButton::clicked, this, &CameraFrame::searchWanted);
+}
+
+CameraFrame::~CameraFrame() = default;
+
+void CameraFrame::changeLanguage()
+{
+    for (QWidget* field : findChildren<QWidget*>()) {
+        const auto* label = qobject_cast<QLabel*>(field);
+        if (label && label->buddy())
+            label->buddy()->setAccessibleName(label->text());
+    }
+}
+
+void CameraFrame::openChannel(int channel)
+{
+    m_edit.open(channel);
+    m_ui->lbCamNo->setText(GetLangString(586) + u' ' + QString::number(channel + 1));
+    showFields();
+    render();
+}
+
+QPushButton* CameraFrame::detectButton() const
+{
+    return m_ui->lbCamDetect;
+}
+
+bool CameraFrame::needsDetection() const
+{
+    return m_edit.changed() && m_edit.checkApply().message == kDetectAgain;
+}
+
+void CameraFrame::takeFocus()
+{
+    txtCam.front()->setFocus();
+    txtCam.front()->selectAll();
+}
+
+void CameraFrame::showFields()
+{
+    const CameraEdit::Fields& fields = m_edit.fields();
+    const std::array texts{&fields.name, &fields.address, &fields.port, &fields.user, &fields.password};
+    for (std::size_t i = 0; i < txtCam.size(); ++i) {
+        if (txtCam[i]->text() != *texts[i])
+            txtCam[i]->setText(*texts[i]);
+    }
+}
+
+void CameraFrame::takeFields()
+{
+    m_edit.setFields({txtCam[0]->text(), txtCam[1]->text(), txtCam[2]->text(), txtCam[3]->text(), txtCam[4]->text()});
+    render();
+}
+
+void CameraFrame::takeFound(const QString& address, int port)
+{
+    CameraEdit::Fields fields = m_edit.fields();
+    fields.address = address;
+    fields.port = QString::number(port);
+    m_edit.setFields(fields);
+    showFields();
+    render();
+}
+
+void CameraFrame::render()
+{
+    bool anything = false;
+    for (const Row& row : m_rows) {
+        const CameraEdit::Choice& choice = m_edit.choice(row.control);
+        row.box->clear();
+        row.box->addItems(choice.entries);
+        row.box->setCurrentIndex(choice.current);
+        m_ui->cameraChoices->setRowVisible(row.box, choice.shown);
+        anything = anything || choice.shown;
+    }
+    m_ui->lbNothingKnown->setVisible(!anything);
+    m_ui->CamBrandID->setText(m_edit.brand());
+    emit stateChanged();
+}
+
+void CameraFrame::report(const RecorderOutcome& outcome)
+{
+    if (outcome.message != 0)
+        MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
+    if (outcome.field >= 0) {
+        At(txtCam, outcome.field)->setFocus();
+        At(txtCam, outcome.field)->selectAll();
+    }
+}
+
+// Runs a call that waits for the recorder, the page held back and saying what goes on.
+RecorderOutcome CameraFrame::ask(int words, const std::function<RecorderOutcome()>& call)
+{
+    emit busyChanged(true, false);
+    m_ui->lbCamStep->setText(GetLangString(words));
+    m_ui->camProgress->show();
+    RecorderOutcome outcome;
+    {
+        const HeldBack held{this};
+        Trapped("Form_NVRSetting - lbCamDetect_Click", [&] { outcome = call(); });
+    }
+    m_ui->camProgress->hide();
+    emit busyChanged(false, false);
+    render();
+    return outcome;
+}
+
+void CameraFrame::lbCamDetect_Click()
+{
+    Trapped("Form_NVRSetting - lbCamDetect_Click", [&] { report(ask(kAsking, [this] { return m_edit.detect(); })); });
+}
+
+bool CameraFrame::apply()
+{
+    const RecorderOutcome allowed = m_edit.checkApply();
+    if (!allowed.ok) {
+        report(allowed);
+        return false;
+    }
+    if (MsgBox(GetLangString(kAskWrite), AskBoxStyle(), GetLangString(kNotice)) != MsgResult::Yes)
+        return false;
+    const RecorderOutcome written = ask(kWriting, [this] { return m_edit.writeBack(); });
+    report(written);
+    return written.ok;
+}

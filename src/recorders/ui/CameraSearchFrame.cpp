@@ -1,0 +1,145 @@
+#include "recorders/ui/CameraSearchFrame.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "look/Icons.h"
+#include "look/Tables.h"
+#include "platform/MsgBox.h"
+#include "recorders/CameraEdit.h"
+#include "recorders/ui/HeldBack.h"
+#include "recorders/ui/ui_CameraSearchFrame.h"
+
+#include <QHeaderView>
+#include <QShortcut>
+#include <QSortFilterProxyModel>
+
+using namespace Qt::StringLiterals;
+
+CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, QWidget* parent)
+    : QWidget(parent)
+    , m_edit(edit)
+    , m_ui(std::make_unique<Ui::CameraSearchFrame>())
+    , m_found(new CameraSearchModel(this))
+    , m_proxy(new QSortFilterProxyModel(this))
+{
+    m_ui->setupUi(this);
+    m_proxy->setSourceModel(m_found);
+    m_proxy->setFilterKeyColumn(-1);
+    m_proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_proxy->setSortRole(CameraSearchModel::kSortRole);
+    m_proxy->setSortLocaleAware(true);
+    QTableView* grid = m_ui->Grid_CamSearchList;
+    grid->setModel(m_proxy);
+    StyleTable(grid);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    MonospaceColumn(grid, CameraSearchModel::Address);
+    grid->setSortingEnabled(true);
+    grid->sortByColumn(CameraSearchModel::Address, Qt::AscendingOrder);
+    static constexpr std::array widths{220, 240, 300};
+    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
+        grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    connect(grid, &QTableView::clicked, this, &CameraSearchFrame::choose);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+        auto* shortcut = new QShortcut(key, grid, nullptr, nullptr, Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, &CameraSearchFrame::chooseCurrent);
+    }
+    auto* again = new QShortcut(QKeySequence(Qt::Key_F5), this);
+    again->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(again, &QShortcut::activated, this, &CameraSearchFrame::lb_CamReSearch_Click);
+    connect(m_ui->txtCamSearchFilter, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_proxy->setFilterFixedString(text);
+        showFound();
+    });
+    m_ui->lb_CamReSearch->setIcon(Icon("refresh"_L1));
+    m_ui->camSearchEmpty->setIllustration("empty-recorder"_L1);
+    connect(m_ui->lb_CamReSearch, &QPushButton::clicked, this, &CameraSearchFrame::lb_CamReSearch_Click);
+    connect(m_ui->camSearchEmpty, &EmptyState::clicked, this, &CameraSearchFrame::lb_CamReSearch_Click);
+    setSearching(false);
+}
+
+CameraSearchFrame::~CameraSearchFrame() = default;
+
+void CameraSearchFrame::changeLanguage()
+{
+    m_ui->txtCamSearchFilter->setPlaceholderText(GetLangString(971));
+    m_ui->txtCamSearchFilter->setAccessibleName(GetLangString(971));
+    m_ui->Grid_CamSearchList->setAccessibleName(GetLangString(612));
+    m_ui->lb_CamReSearch->setToolTip(GetLangString(170) + u" (F5)"_s);
+    m_ui->camSearchEmpty->setHeadline(GetLangString(972));
+    m_ui->camSearchEmpty->setHint(GetLangString(973));
+    m_ui->camSearchEmpty->setButton(GetLangString(170));
+    showFound();
+}
+
+void CameraSearchFrame::open()
+{
+    if (m_found->rowCount() == 0)
+        lb_CamReSearch_Click();
+    else
+        m_ui->Grid_CamSearchList->setFocus();
+}
+
+void CameraSearchFrame::setSearching(bool searching)
+{
+    m_ui->barCamSearch->setVisible(searching);
+    m_ui->lb_CamReSearch->setEnabled(!searching);
+    if (searching) {
+        m_ui->lbCamFound->setText(GetLangString(888));
+        m_ui->camSearchStack->setCurrentWidget(m_ui->camListPage);
+        m_ui->lbNoCamera->hide();
+    } else {
+        showFound();
+    }
+}
+
+void CameraSearchFrame::showFound()
+{
+    const bool none = m_found->rowCount() == 0;
+    m_ui->lbCamFound->setText(none ? QString() : GetLangString(974).arg(m_found->rowCount()));
+    m_ui->camSearchStack->setCurrentWidget(none ? static_cast<QWidget*>(m_ui->camSearchEmpty) : m_ui->camListPage);
+    m_ui->txtCamSearchFilter->setVisible(!none);
+    m_ui->lb_CamReSearch->setVisible(!none);
+    m_ui->lbNoCamera->setVisible(!none && m_proxy->rowCount() == 0);
+    if (!m_ui->Grid_CamSearchList->currentIndex().isValid())
+        m_ui->Grid_CamSearchList->setCurrentIndex(m_proxy->index(0, 0));
+    emit choiceChanged();
+}
+
+void CameraSearchFrame::lb_CamReSearch_Click()
+{
+    Trapped("Form_NVRSetting - lb_CamReSearch_Click", [&] {
+        m_found->setCameras({});
+        RecorderOutcome outcome;
+        emit busyChanged(true, false);
+        setSearching(true);
+        {
+            const HeldBack held{this};
+            Trapped("Form_NVRSetting - GetSVRCameraSearch",
+                    [&] { m_found->setCameras(m_edit.searchCameras(outcome)); });
+        }
+        emit busyChanged(false, false);
+        setSearching(false);
+        if (hasChoice())
+            m_ui->Grid_CamSearchList->setFocus();
+        if (outcome.message != 0)
+            MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
+    });
+}
+
+bool CameraSearchFrame::hasChoice() const
+{
+    return m_ui->Grid_CamSearchList->currentIndex().isValid();
+}
+
+void CameraSearchFrame::chooseCurrent()
+{
+    choose(m_ui->Grid_CamSearchList->currentIndex());
+}
+
+void CameraSearchFrame::choose(const QModelIndex& row)
+{
+    if (!row.isValid())
+        return;
+    const FoundCamera& found = m_found->camera(m_proxy->mapToSource(row).row());
+    emit chosen(found.IP, found.HTTPPort);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "recorders/CameraSearchModel.h"
+
+#include <QWidget>
+#include <memory>
+
+class CameraEdit;
+class QSortFilterProxyModel;
+namespace Ui {
+class CameraSearchFrame;
+}
+
+// Frame 5: the cameras that the recorder sees on its network.
+class CameraSearchFrame : public QWidget
+{
+    Q_OBJECT
+
+public:
+    CameraSearchFrame(CameraEdit& edit, QWidget* parent);
+    ~CameraSearchFrame() override;
+
+    void open(); // searches only when nothing has been found yet
+    bool hasChoice() const;
+    void chooseCurrent();
+    void changeLanguage();
+
+public slots:
+    void lb_CamReSearch_Click();
+
+signals:
+    void chosen(const QString& address, int port);
+    void busyChanged(bool busy, bool stoppable);
+    void choiceChanged();
+
+private:
+    void choose(const QModelIndex& row);
+    void showFound();
+    void setSearching(bool searching);
+
+    CameraEdit& m_edit;
+    std::unique_ptr<Ui::CameraSearchFrame> m_ui;
+    CameraSearchModel* m_found;
+    QSortFilterProxyModel* m_proxy;
+};
