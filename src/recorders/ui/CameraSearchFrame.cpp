@@ -100,8 +100,8 @@ void CameraSearchFrame::showFound()
     m_ui->txtCamSearchFilter->setVisible(!none);
     m_ui->lb_CamReSearch->setVisible(!none);
     m_ui->lbNoCamera->setVisible(!none && m_proxy->rowCount() == 0);
-    if (!m_ui->Grid_CamSearchList->currentIndex().isValid())
-        m_ui->Grid_CamSearchList->setCurrentIndex(m_proxy->index(0, 0));
+    if (!m_ui->Grid_CamSearchList->selectionModel()->hasSelection())
+        m_ui->Grid_CamSearchList->selectRow(0);
     emit choiceChanged();
 }
 
@@ -128,7 +128,7 @@ void CameraSearchFrame::lb_CamReSearch_Click()
 
 bool CameraSearchFrame::hasChoice() const
 {
-    return m_ui->Grid_CamSearchList->currentIndex().isValid();
+    return m_ui->Grid_CamSearchList->selectionModel()->hasSelection();
 }
 
 void CameraSearchFrame::chooseCurrent()
