@@ -8,6 +8,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kInformation = 570;
+constexpr int kNotice = 965;
 
 // A program that is leaving shows no box any more.
 RecorderOutcome Failure(int message, const QString& suffix, const QString& title, int field)
@@ -26,7 +27,7 @@ QString RecorderOutcome::text() const
 
 RecorderOutcome RecorderOutcome::Failed(int message, const QString& suffix, int field)
 {
-    return Failure(message, suffix, u"Notice"_s, field);
+    return Failure(message, suffix, GetLangString(kNotice), field);
 }
 
 RecorderOutcome RecorderOutcome::FailedPlain(int message, const QString& suffix)

@@ -83,9 +83,6 @@ void NVRDetailFrame::prepareGrid()
     StatusColumn(grid, ChannelListModel::State);
     grid->setSortingEnabled(true);
     grid->sortByColumn(ChannelListModel::Number, Qt::AscendingOrder);
-    static constexpr std::array widths{64, 150, 80, 230, 210, 120, 44, 44};
-    for (int column = 0; column < ChannelListModel::ColumnCount; ++column)
-        grid->setColumnWidth(column, At(widths, column));
     QHeaderView* head = grid->horizontalHeader();
     head->setStretchLastSection(false);
     head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
@@ -110,6 +107,11 @@ void NVRDetailFrame::changeLanguage()
     m_ui->txtChannelFilter->setPlaceholderText(GetLangString(906));
     m_ui->txtChannelFilter->setAccessibleName(GetLangString(906));
     m_ui->Grid_ChannelList->setAccessibleName(GetLangString(298));
+    // Columns are as wide as their contents want, and wider where a language has a long head.
+    static constexpr std::array widths{64, 150, 80, 230, 210, 120, 44, 44};
+    const QHeaderView* head = m_ui->Grid_ChannelList->horizontalHeader();
+    for (int column = 0; column < ChannelListModel::ColumnCount; ++column)
+        m_ui->Grid_ChannelList->setColumnWidth(column, qMax(At(widths, column), head->sectionSizeHint(column)));
 }
 
 void NVRDetailFrame::SetNVR(int slot)

@@ -1,0 +1,144 @@
+#include "recorders/ModifyApply.h"
+
+#include "platform/MsgBox.h"
+#include "recorders/ChannelListModel.h"
+
+#include <QSortFilterProxyModel>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Slot 3 holds a recorder of eight channels with cameras on the first two, open in the edit pair.
+class Applying : public ::testing::Test
+{
+protected:
+    Applying()
+    {
+        SVRRecord& work = set->SVRWorkList[3];
+        work.iSVR_Num = 4;
+        work.sSVR_Name = u"Yard"_s;
+        work.sSVR_IP = u"10.0.0.4"_s;
+        work.iSVR_HttpPort = 80;
+        work.sSVR_UserName = u"admin"_s;
+        work.iSVR_Maxchannel = 8;
+        for (std::size_t c = 0; c < 2; ++c)
+            work.sSub_CH_IP[c] = u"10.1.0.%1"_s.arg(c + 1);
+        OpenEditPair(*set, 3);
+        hooks.RemoveSVR = [this](int slot) { called << u"remove %1"_s.arg(slot); };
+        hooks.recorderRenamed = [this](int slot) { called << u"renamed %1"_s.arg(slot); };
+        hooks.CheckPatternAfterSVRChange = [this] { called << u"patterns"_s; };
+        hooks.CheckDefaultStartAfterSVRChange = [this] { called << u"starts"_s; };
+        hooks.SaveCheck = [this] { called << u"save"_s; };
+        SetMsgBoxHandler([this](const QString&, qint32, const QString&) { return answer; });
+    }
+    ~Applying() override { SetMsgBoxHandler(nullptr); }
+
+    SVRRecord& work() { return set->SVRWorkList[3]; }
+    SVRRecord& edit() { return set->SVREdit; }
+
+    std::unique_ptr<RecorderSet> set = std::make_unique<RecorderSet>();
+    ModifyHooks hooks;
+    QStringList called;
+    MsgResult answer = MsgResult::Yes;
+};
+
+TEST_F(Applying, TakesTheEditPairOverAndTellsOfARename)
+{
+    edit().sSub_CH_IP[4] = u"10.1.0.5"_s;
+    edit().bSub_CH_Modified[4] = true;
+    set->SVRProEdit.sCH_Pro_Model[4] = u"M"_s;
+    ASSERT_TRUE(ModifyApply(*set, 3, u"Yard"_s, hooks));
+    EXPECT_EQ(called, QStringList({u"patterns"_s, u"starts"_s}));
+    EXPECT_EQ(CameraCount(work()), 3);
+    EXPECT_EQ(work().iSVR_ValidCH, 3);
+    EXPECT_TRUE(work().bSVR_Changed);
+    EXPECT_FALSE(work().bSVR_ConnChanged);
+    EXPECT_FALSE(work().bSub_CH_Modified[4]);
+    EXPECT_EQ(set->SVRProWorkList[3].sCH_Pro_Model[4], u"M"_s);
+
+    called.clear();
+    ASSERT_TRUE(ModifyApply(*set, 3, u"Depot"_s, hooks));
+    EXPECT_EQ(called, QStringList({u"renamed 3"_s, u"patterns"_s, u"starts"_s}));
+    EXPECT_EQ(work().sSVR_Name, u"Depot"_s);
+    EXPECT_TRUE(work().bSVR_ConnChanged);
+    EXPECT_TRUE(ModifyApply(*set, 3, u"Yard"_s, {})) << "hooks may be missing";
+}
+
+TEST_F(Applying, RecorderWithoutCamerasIsRemovedOrKeptButNeverSavedEmpty)
+{
+    edit().sSub_CH_IP.fill(QString());
+    edit().sSub_CH_IP[8] = u"10.1.0.9"_s; // beyond the recorder's channels
+    answer = MsgResult::No;
+    EXPECT_FALSE(ModifyApply(*set, 3, u"Depot"_s, hooks));
+    EXPECT_EQ(called, QStringList());
+    EXPECT_EQ(work().sSVR_Name, u"Yard"_s);
+    EXPECT_EQ(CameraCount(work()), 2);
+    EXPECT_FALSE(TakeOverWritten(*set, 3));
+    LeaveUnapplied(*set, 3, hooks);
+    EXPECT_EQ(called, QStringList());
+    answer = MsgResult::Yes;
+    EXPECT_TRUE(ModifyApply(*set, 3, u"Depot"_s, hooks));
+    EXPECT_EQ(called, QStringList({u"remove 3"_s}));
+}
+
+TEST_F(Applying, WrittenChannelsFollowAtOnceButNotTheLoginOrAnotherDevice)
+{
+    edit().sSVR_Name = u"Depot"_s;
+    edit().sSVR_UserName = u"operator"_s;
+    edit().sSub_CH_IP[1].clear();
+    ASSERT_TRUE(TakeOverWritten(*set, 3));
+    EXPECT_EQ(work().sSVR_Name, u"Yard"_s);
+    EXPECT_EQ(work().sSVR_UserName, u"admin"_s);
+    EXPECT_EQ(CameraCount(work()), 1);
+    LeaveUnapplied(*set, 3, hooks);
+    EXPECT_EQ(called, QStringList({u"patterns"_s, u"starts"_s, u"save"_s}));
+
+    edit().iSVR_HttpPort = 8080; // detected anew elsewhere
+    edit().sSub_CH_IP[1] = u"10.1.0.2"_s;
+    EXPECT_FALSE(TakeOverWritten(*set, 3));
+    EXPECT_EQ(CameraCount(work()), 1);
+}
+
+TEST_F(Applying, ChannelListSortsAddressesByNumberAndCountsSwitchesOverTheStation)
+{
+    edit().sSub_CH_IP[0] = u"10.1.0.20"_s;
+    edit().sSub_CH_IP[2] = u"10.1.0.100"_s;
+    edit().sSub_CH_IP[3] = u"lobby.lan"_s;
+    for (std::size_t c = 0; c < 31; ++c) {
+        set->SVRWorkList[5].sSub_CH_IP[c] = u"x"_s;
+        set->SVRWorkList[5].bSub_CH_Cam_MD_Enabled[c] = true;
+    }
+    set->SVRWorkList[5].bSub_CH_Cam_MD_Enabled[40] = true; // without a camera
+    set->SVRWorkList[5].sSVR_IP = u"10.0.0.6"_s;
+    ChannelListModel model(*set);
+    model.setCameraEvents(true);
+    QSortFilterProxyModel sorted;
+    sorted.setSourceModel(&model);
+    sorted.setSortRole(ChannelListModel::kSortRole);
+    sorted.sort(ChannelListModel::Address, Qt::DescendingOrder);
+    QStringList addresses;
+    for (int row = 0; row < 4; ++row)
+        addresses << sorted.index(row, ChannelListModel::Address).data().toString();
+    EXPECT_EQ(addresses, QStringList({u"lobby.lan"_s, u"10.1.0.100"_s, u"10.1.0.20"_s, u"10.1.0.2"_s}));
+
+    const auto set1 = [&](int channel, Qt::CheckState state) {
+        return model.setData(model.index(channel, ChannelListModel::CameraEvent), state, Qt::CheckStateRole);
+    };
+    int refused = 0;
+    QObject::connect(&model, &ChannelListModel::limitReached, &model, [&] { ++refused; });
+    EXPECT_FALSE(set1(7, Qt::Checked)) << "no camera";
+    EXPECT_TRUE(set1(0, Qt::Checked)); // the 32nd
+    EXPECT_FALSE(set1(1, Qt::Checked));
+    EXPECT_EQ(refused, 1);
+    EXPECT_TRUE(set1(0, Qt::Unchecked));
+    EXPECT_TRUE(set1(1, Qt::Checked));
+    EXPECT_EQ(model.switched(), (std::vector<std::pair<int, bool>>{{1, true}}));
+    edit().sSub_CH_IP[1].clear(); // cleared meanwhile: its switch goes with it
+    model.refreshChannel(1);
+    edit().sSub_CH_IP[1] = u"10.1.0.2"_s;
+    EXPECT_TRUE(model.switched().empty());
+}
+
+} // namespace
