@@ -11,6 +11,7 @@
 #include "tests/walkthrough/Driver.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
@@ -357,7 +358,13 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
     step(u"txtCam_1"_s, [this] {
         Driver::type(u"txtCam_1"_s, u"192.168.10.124"_s); // of a make the recorder does not know
         Driver::click(u"lbCamModifyApply_0"_s);           // 616
-        Driver::click(u"lbCamDetect"_s);                  // 608
+        site->call([](Site& running) {
+            simulators::Fault slow;
+            slow.amount = 200;
+            slow.path = "/system/detectcam.cgi";
+            running.device(0).addFault(slow);
+        });
+        Driver::click(u"lbCamDetect"_s); // 608
         EXPECT_FALSE(Driver::find(u"cmbFormat"_s)) << "a failed detection leaves nothing to choose";
         picture(u"camera-refused"_s);
         Driver::type(u"txtCam_0"_s, {});
@@ -366,8 +373,16 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
         site->call([](Site& running) { running.device(0).state().network.clear(); });
         Driver::click(u"lbCamSearch"_s);
     });
+    driver.add(
+        u"asking"_s, [] { return Waiting() && Driver::find(u"barCam"_s); },
+        [] {
+            picture(u"camera-asking"_s);
+            EXPECT_FALSE(Driver::find(u"lbCamModifyApply_0"_s)->isEnabled());
+            EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BusyCursor);
+        });
     step(u"btnEmptyState"_s, [] {
         picture(u"camera-none"_s);
+        EXPECT_FALSE(QApplication::overrideCursor());
         EXPECT_FALSE(Driver::find(u"lbCamChoose"_s)->isEnabled());
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
         EXPECT_TRUE(Driver::find(u"txtCam_0"_s));
@@ -381,6 +396,77 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
     EXPECT_TRUE(boxes[1].startsWith(GetLangString(608) + u" : Error"_s)) << qPrintable(boxes[1]);
     EXPECT_EQ(boxes[2], GetLangString(603));
     EXPECT_EQ(row(u"SELECT sSub_CH_IP FROM SVR WHERE iSub_Channel=2"_s).toString(), camera(0, 2).ip);
+}
+
+// What assistive technology calls each control on show.
+QStringList Unnamed(QWidget* window)
+{
+    QStringList unnamed;
+    const QList<QWidget*> widgets = window->findChildren<QWidget*>();
+    for (QWidget* widget : widgets) {
+        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
+            continue;
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(widget);
+        if (!spoken || spoken->text(QAccessible::Name).isEmpty())
+            unnamed << widget->objectName();
+    }
+    return unnamed;
+}
+
+TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Txr632, 8, 7)}));
+    const auto inspect = [](const QString& shown, const QString& name) {
+        picture(name);
+        EXPECT_EQ(Unnamed(QApplication::activeModalWidget()).join(u' '), QString());
+        QStringList onShow;
+        QList<int> tops;
+        const QList<QComboBox*> all = Driver::find(u"Frame_4"_s)->findChildren<QComboBox*>();
+        for (const QComboBox* box : all) {
+            if (!box->isVisible())
+                continue;
+            onShow << box->objectName();
+            tops << box->y();
+        }
+        EXPECT_EQ(onShow.join(u' ').toStdString(), shown.toStdString());
+        for (qsizetype i = 2; i < tops.size(); ++i)
+            EXPECT_EQ(tops[i] - tops[i - 1], tops[1] - tops[0]) << "rows are stacked without gaps";
+    };
+    const auto openChannel = [this](int row) {
+        step(u"Grid_ChannelList"_s, [row] {
+            EXPECT_EQ(Unnamed(QApplication::activeModalWidget()).join(u' '), QString());
+            clickCell(u"Grid_ChannelList"_s, row, ChannelListModel::Edit);
+        });
+    };
+    openRecorder(0);
+    openChannel(7);
+    step(u"lbCamSearch"_s, [inspect] {
+        inspect({}, u"nothing"_s);
+        Driver::click(u"lbCamModifyApply_1"_s);
+    });
+    openChannel(4);
+    step(u"Cmb_LensMode"_s, [inspect] {
+        Driver::click(u"lbCamDetect"_s);
+        choose(u"cmbCameraDetail_1"_s, u"CBR"_s);
+        inspect(
+            u"Cmb_VideoID cmbFormat cmbResolution cmbCameraDetail_0 cmbCameraDetail_1 cmbCameraDetail_3 Cmb_LensMode"
+            " cmbLeftMode cmbRightMode"_s,
+            u"lenses"_s);
+        choose(u"cmbCameraDetail_1"_s, u"VBR"_s);
+        EXPECT_TRUE(Driver::find(u"cmbCameraDetail_2"_s));
+        EXPECT_FALSE(Driver::find(u"cmbCameraDetail_3"_s));
+        Driver::click(u"lbCamModifyApply_1"_s);
+    });
+    openChannel(6);
+    step(u"cmbVideoID"_s, [inspect] {
+        inspect(u"cmbFormat cmbResolution cmbCameraDetail_0 cmbCameraDetail_2 cmbCameraDetail_3 cmbVideoID"_s,
+                u"fish-eye"_s);
+        Driver::click(u"lbCamModifyApply_1"_s);
+    });
+    step(u"Grid_ChannelList"_s, [] { press(u"Grid_ChannelList"_s, Qt::Key_Escape); });
+    waitClosed();
+    driver.run(20000);
+    EXPECT_EQ(boxes, QStringList(GetLangString(833)));
 }
 
 TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
