@@ -67,6 +67,9 @@ void SearchField::keyPressEvent(QKeyEvent* event)
         return;
     }
     QLineEdit::keyPressEvent(event);
+    // Return belongs to the list that is filtered, not to the default button of the window.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        event->accept();
 }
 
 void AddEye(QLineEdit* field, const QString& showText, const QString& hideText)

@@ -4,7 +4,8 @@
 
 class QDateTimeEdit;
 
-// A line edit that filters something: search icon in front, clear button behind, Esc clears.
+// A line edit that filters something: search icon in front, clear button behind, Esc clears. Return emits returnPressed
+// and no more.
 class SearchField : public QLineEdit
 {
     Q_OBJECT

@@ -194,6 +194,9 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
         Driver::click(u"lbNVRDetect"_s);
         Driver::type(u"TextNVRDetail_3"_s, u"admin"_s);
         Driver::click(u"lbNVRDetect"_s);
+        Driver::type(u"TextNVRDetail_4"_s, u"wrong"_s);
+        press(u"TextNVRDetail_4"_s, Qt::Key_Return); // detects first
+        Driver::type(u"TextNVRDetail_4"_s, u"admin"_s);
         picture(u"detected"_s);
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 40, ChannelListModel::State).toString(), GetLangString(968));
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 1, ChannelListModel::CameraEvent, Qt::CheckStateRole), Qt::Checked);
@@ -208,7 +211,7 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
     });
     waitClosed();
     driver.run(20000);
-    EXPECT_EQ(boxes, QStringList({GetLangString(703), GetLangString(44), GetLangString(833)}));
+    EXPECT_EQ(boxes, QStringList({GetLangString(703), GetLangString(44), GetLangString(833), GetLangString(44)}));
     EXPECT_EQ(row(u"SELECT COUNT(*)||sSVR_Name FROM SVR WHERE iSVR_Num=1"_s).toString(), u"41Harbour"_s);
     EXPECT_EQ(row(u"SELECT bSub_CH_Cam_MD_Enabled FROM SVR WHERE iSVR_Num=1 AND iSub_Channel=2"_s).toInt(), 1);
     EXPECT_EQ(row(u"SELECT sSVR_Name FROM SVR WHERE iSVR_Num=2"_s).toString(), u"Recorder 2"_s);
@@ -269,9 +272,8 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 6);
         Driver::type(u"txtCamSearchFilter"_s, u"10.121"_s);
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 1);
-        auto* grid = Driver::find<QTableView>(u"Grid_CamSearchList"_s);
-        grid->setFocus();
-        grid->setCurrentIndex(grid->model()->index(0, 0));
+        press(u"txtCamSearchFilter"_s, Qt::Key_Return); // goes to the list
+        EXPECT_TRUE(Driver::find(u"Grid_CamSearchList"_s)->hasFocus());
         press(u"Grid_CamSearchList"_s, Qt::Key_Return);
     });
     step(u"txtCam_4"_s, [] {
@@ -502,8 +504,14 @@ TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
         });
     waitClosed();
     openRecorder(1);
-    step(u"Grid_ChannelList"_s, [toggle] {
-        toggle(2);
+    step(u"Grid_ChannelList"_s, [] {
+        auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
+        QStyleOptionViewItem cell;
+        cell.rect = grid->visualRect(grid->model()->index(2, ChannelListModel::CameraEvent));
+        cell.features = QStyleOptionViewItem::HasCheckIndicator;
+        cell.widget = grid;
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+                          grid->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, grid).center());
         Driver::click(u"lbModifyApply_0"_s);
     });
     waitClosed();

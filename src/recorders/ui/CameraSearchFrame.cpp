@@ -50,6 +50,7 @@ CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, QWidget* parent)
         m_proxy->setFilterFixedString(text);
         showFound();
     });
+    connect(m_ui->txtCamSearchFilter, &QLineEdit::returnPressed, grid, qOverload<>(&QWidget::setFocus));
     m_ui->lb_CamReSearch->setIcon(Icon("refresh"_L1));
     m_ui->camSearchEmpty->setIllustration("empty-recorder"_L1);
     connect(m_ui->lb_CamReSearch, &QPushButton::clicked, this, &CameraSearchFrame::lb_CamReSearch_Click);

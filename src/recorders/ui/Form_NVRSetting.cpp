@@ -237,9 +237,11 @@ void Form_NVRSetting::showChanges()
 {
     if (!m_detail)
         return;
-    const bool detectFirst = m_frame == kFrameCamera && m_camera->needsDetection();
-    m_camera->detectButton()->setDefault(detectFirst);
-    m_next->setDefault(!detectFirst);
+    const bool recorderFirst = m_frame == kFrameDetail && m_detail->needsDetection();
+    const bool cameraFirst = m_frame == kFrameCamera && m_camera->needsDetection();
+    m_detail->detectButton()->setDefault(recorderFirst);
+    m_camera->detectButton()->setDefault(cameraFirst);
+    m_next->setDefault(!recorderFirst && !cameraFirst);
     m_next->setEnabled(!m_busy && (m_frame != kFrameCamSearch || m_camSearch->hasChoice()));
     const bool changes =
         (m_frame == kFrameDetail && m_detail->changed()) || (m_frame == kFrameCamera && m_camera->edit().changed());

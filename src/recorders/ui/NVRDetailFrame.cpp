@@ -61,11 +61,14 @@ NVRDetailFrame::NVRDetailFrame(DetectContext context, QWidget* parent)
         m_proxy->setFilterFixedString(text);
         showCounts();
     });
+    connect(m_ui->txtChannelFilter, &QLineEdit::returnPressed, this, &NVRDetailFrame::takeFocus);
     // The box waits until the click that met the limit is over.
     connect(
         m_channels, &ChannelListModel::limitReached, this,
         [] { MsgBox(GetLangString(kTooManyEvents), InfoBoxStyle(), GetLangString(570)); }, Qt::QueuedConnection);
-    connect(m_ui->TextNVRDetail_0, &QLineEdit::textChanged, this, &NVRDetailFrame::changesChanged);
+    for (int i = 0; i < RecorderFields::kCount; ++i)
+        connect(m_fields.field(static_cast<ManualField>(i)), &QLineEdit::textChanged, this,
+                &NVRDetailFrame::changesChanged);
     connect(m_channels, &ChannelListModel::dataChanged, this, &NVRDetailFrame::changesChanged);
 }
 
@@ -155,6 +158,11 @@ void NVRDetailFrame::showChannel(int channel)
     m_ui->Grid_ChannelList->scrollTo(m_ui->Grid_ChannelList->currentIndex());
 }
 
+QPushButton* NVRDetailFrame::detectButton() const
+{
+    return m_ui->lbNVRDetect;
+}
+
 void NVRDetailFrame::takeFocus()
 {
     m_ui->Grid_ChannelList->setFocus();
@@ -185,7 +193,7 @@ void NVRDetailFrame::showStep(const QString& words, int percent)
 
 bool NVRDetailFrame::changed() const
 {
-    return m_detected || !m_channels->switched().empty() ||
+    return m_detected || needsDetection() || !m_channels->switched().empty() ||
            m_fields.item().sName != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name;
 }
 
@@ -320,25 +328,29 @@ bool NVRDetailFrame::writeCameraEvents()
     return written.ok;
 }
 
-bool NVRDetailFrame::apply(const ModifyHooks& hooks)
+ManualFault NVRDetailFrame::differing() const
 {
     const NVRDetectItem typed = m_fields.item();
     const NVRDetectItem known = ItemOf(m_context.recorders.SVREdit);
-    ManualFault fault;
-    if (typed.sName.isEmpty())
-        fault = {553, ManualField::Name};
-    else if (typed.sIP != known.sIP)
-        fault = {kReDetect, ManualField::Address};
-    else if (typed.iPort != known.iPort)
-        fault = {kReDetect, ManualField::Port};
-    else if (typed.sUser != known.sUser)
-        fault = {kReDetect, ManualField::User};
-    else if (typed.sPassword != known.sPassword)
-        fault = {kReDetect, ManualField::Password};
+    if (typed.sIP != known.sIP)
+        return {kReDetect, ManualField::Address};
+    if (typed.iPort != known.iPort)
+        return {kReDetect, ManualField::Port};
+    if (typed.sUser != known.sUser)
+        return {kReDetect, ManualField::User};
+    if (typed.sPassword != known.sPassword)
+        return {kReDetect, ManualField::Password};
+    return {};
+}
+
+bool NVRDetailFrame::apply(const ModifyHooks& hooks)
+{
+    const QString name = m_fields.item().sName;
+    const ManualFault fault = name.isEmpty() ? ManualFault{553, ManualField::Name} : differing();
     if (fault.message != 0) {
         MsgBox(GetLangString(fault.message), InfoBoxStyle(), GetLangString(570));
         m_fields.go(fault.field);
         return false;
     }
-    return writeCameraEvents() && ModifyApply(m_context.recorders, m_slot, typed.sName, hooks);
+    return writeCameraEvents() && ModifyApply(m_context.recorders, m_slot, name, hooks);
 }

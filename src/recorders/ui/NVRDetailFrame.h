@@ -9,6 +9,7 @@
 #include <memory>
 
 class IconProxy;
+class QPushButton;
 namespace Ui {
 class NVRDetailFrame;
 }
@@ -33,6 +34,9 @@ public:
     // Takes everything over into the station, see ModifyApply; false: something is missing or was declined.
     bool apply(const ModifyHooks& hooks);
     bool changed() const; // something would be lost without apply
+    // Whether another address or login is typed than the edit pair's: then Detect is what Return presses.
+    bool needsDetection() const { return differing().message != 0; }
+    QPushButton* detectButton() const;
     void changeLanguage();
 
 public slots:
@@ -46,6 +50,7 @@ signals:
     void changesChanged();
 
 private:
+    ManualFault differing() const; // message 703 and the first field that is not as detected
     void prepareGrid();
     void act(int column); // of the current row
     void clearChannel(int channel);
