@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kHeadRoom = 44; // px of a head beside its text: margins and the arrow of sorting
 constexpr int kShortList = 6; // fewer channels than this draw a short grid
 constexpr int kStopped = 475; // the last message of a detection that the operator has stopped
 constexpr int kReDetect = 703;
@@ -111,10 +112,13 @@ void NVRDetailFrame::changeLanguage()
     m_ui->txtChannelFilter->setAccessibleName(GetLangString(906));
     m_ui->Grid_ChannelList->setAccessibleName(GetLangString(298));
     // Columns are as wide as their contents want, and wider where a language has a long head.
-    static constexpr std::array widths{64, 150, 80, 230, 210, 120, 44, 44};
-    const QHeaderView* head = m_ui->Grid_ChannelList->horizontalHeader();
-    for (int column = 0; column < ChannelListModel::ColumnCount; ++column)
-        m_ui->Grid_ChannelList->setColumnWidth(column, qMax(At(widths, column), head->sectionSizeHint(column)));
+    static constexpr std::array widths{64, 140, 76, 230, 224, 110, 44, 44};
+    const QFontMetrics metrics(m_ui->Grid_ChannelList->horizontalHeader()->font());
+    for (int column = 0; column < ChannelListModel::ColumnCount; ++column) {
+        const QString text = m_channels->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int head = text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + kHeadRoom;
+        m_ui->Grid_ChannelList->setColumnWidth(column, qMax(At(widths, column), head));
+    }
 }
 
 void NVRDetailFrame::SetNVR(int slot)
