@@ -76,6 +76,7 @@ void AddEye(QLineEdit* field, const QString& showText, const QString& hideText)
 {
     field->setEchoMode(QLineEdit::Password);
     auto* eye = new FieldButton(field);
+    QWidget::setTabOrder(field, eye);
     eye->setCheckable(true);
     const auto tell = [field, eye, showText, hideText](bool shown) {
         field->setEchoMode(shown ? QLineEdit::Normal : QLineEdit::Password);

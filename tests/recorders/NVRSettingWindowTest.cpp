@@ -415,6 +415,48 @@ QStringList Unnamed(QWidget* window)
     return unnamed;
 }
 
+// The controls that Tab reaches, from one of them until it comes round; those without a name as "-".
+QString TabOrder(const QString& first)
+{
+    QStringList names;
+    Driver::find(first)->setFocus();
+    for (int i = 0; i < 40 && (names.isEmpty() || QApplication::focusWidget()->objectName() != first); ++i) {
+        const QString name = QApplication::focusWidget()->objectName();
+        names << (name.isEmpty() ? u"-"_s : name);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    return names.join(u' ');
+}
+
+TEST_F(NVRSettingWindow, TabLeadsThroughEveryControlInItsOrder)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 8, 2)}));
+    openRecorder(0);
+    step(u"Grid_ChannelList"_s, [] {
+        EXPECT_EQ(TabOrder(u"TextNVRDetail_0"_s).toStdString(),
+                  "TextNVRDetail_0 TextNVRDetail_1 TextNVRDetail_2 TextNVRDetail_3 TextNVRDetail_4 - lbNVRDetect"
+                  " txtChannelFilter Grid_ChannelList lbModifyApply_1 lbModifyApply_0");
+        clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name);
+    });
+    step(u"txtCam_0"_s, [] {
+        EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
+        EXPECT_EQ(TabOrder(u"txtCam_0"_s).toStdString(),
+                  "txtCam_0 txtCam_1 txtCam_2 txtCam_3 txtCam_4 - lbCamSearch lbCamDetect cmbFormat cmbResolution"
+                  " cmbCameraDetail_0 cmbCameraDetail_1 cmbCameraDetail_2 lbCamModifyApply_1 lbCamModifyApply_0");
+        Driver::click(u"lbCamSearch"_s);
+    });
+    step(u"Grid_CamSearchList"_s, [] {
+        EXPECT_EQ(TabOrder(u"txtCamSearchFilter"_s).toStdString(),
+                  "txtCamSearchFilter lb_CamReSearch Grid_CamSearchList lbCamBack lbCamChoose");
+        Driver::click(u"lbCamBack"_s);
+        Driver::click(u"lbCamModifyApply_1"_s);
+        EXPECT_TRUE(Driver::find(u"Grid_ChannelList"_s)->hasFocus());
+        Driver::click(u"lbModifyApply_1"_s);
+    });
+    waitClosed();
+    driver.run(20000);
+}
+
 TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed)
 {
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Txr632, 8, 7)}));
