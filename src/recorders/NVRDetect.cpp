@@ -301,10 +301,12 @@ private:
         if (m_modify) {
             m_context.recorders.SVREdit = *m_svr;
             m_context.recorders.SVRProEdit = *m_pro;
-            return;
+        } else {
+            At(m_context.recorders.SVRWorkList, m_slot) = *m_svr;
+            At(m_context.recorders.SVRProWorkList, m_slot) = *m_pro;
         }
-        At(m_context.recorders.SVRWorkList, m_slot) = *m_svr;
-        At(m_context.recorders.SVRProWorkList, m_slot) = *m_pro;
+        if (m_context.filled)
+            m_context.filled(m_slot, *m_svr, m_modify ? DetectMode::Modify : DetectMode::Add);
     }
 
     const DetectContext& m_context;

@@ -1,5 +1,6 @@
 #include "app/ui/Form_Initial.h"
 
+#include "app/AddedRecorder.h"
 #include "app/RemoveSVR.h"
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
@@ -201,6 +202,7 @@ void Form_Initial::buildPages()
     connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
     connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
         RemoveSVR(m_station, m_com.web, slot);
+        m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
         m_nvrPage->Grid_SVR_Set_withDB();
         updateHeader();
     });
@@ -333,8 +335,12 @@ void Form_Initial::Timer_PrivilegeCheck()
 
 void Form_Initial::showWizard()
 {
+    DetectContext context{m_com, m_station.recorders, m_station.accounts};
+    context.filled = [this](int slot, const SVRRecord& record, DetectMode mode) {
+        RecorderDetected(m_station, slot, record, mode);
+    };
     Form_NVRSetting wizard(
-        {m_com, m_station.recorders, m_station.accounts}, [this] { finishNewRecorders(); }, this);
+        context, [this] { finishNewRecorders(); }, this);
     wizard.exec();
     m_nvrPage->Grid_SVR_Set_withDB();
     updateHeader();
