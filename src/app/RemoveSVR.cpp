@@ -1,6 +1,7 @@
 #include "app/RemoveSVR.h"
 
 #include "app/log/Module_Log.h"
+#include "device/Form_COM.h"
 #include "device/ModuleCGI.h"
 #include "support/Conversions.h"
 
@@ -38,12 +39,12 @@ void ClearChannels(RecorderSet& recorders, int slot)
 
 } // namespace
 
-void RemoveSVR(Station& station, WebBridge& web, int slot)
+void RemoveSVR(Station& station, Form_COM& com, int slot)
 {
     Trapped("Form_Initial - RemoveSVR", [&] {
         SVRRecord& record = At(station.recorders.SVRWorkList, slot);
         if (record.bSVR_CEventSupport)
-            SwitchOffCustomEvents(web, record);
+            SwitchOffCustomEvents(com.web, record);
         ResetDetection(station.channelEvents, slot, record);
         ClearRecorder(station.recorders, slot);
         GrantNewRecorder(station.groups, slot);
@@ -52,6 +53,7 @@ void RemoveSVR(Station& station, WebBridge& web, int slot)
         RemoveRecorderMaps(station.emap, slot);
         record.bSVR_Changed = true;
         SaveCheck(station);
+        com.SetProToDeviceBridge(station.recorders.SVRList);
         SaveNVRPrivilege(station.databases, station.groups, [&](int other) {
             return other == slot || !At(station.recorders.SVRWorkList, other).sSVR_Name.isEmpty();
         });

@@ -71,7 +71,8 @@ ManualFault ValidateManualNVR(const QString& name, const QString& address, const
 
 // Logs in to a recorder, reads what it can do and its channels, and fills the slot or edit record. True on success; on
 // failure nothing is changed and the report's last message says why. The last report of a success is message 297, or
-// 833 for Modify. Waits on the device's replies (platform/Wait.h); ends early when Closing is set.
+// 833 for Modify. Waits on the device's replies (platform/Wait.h); ends early when Closing is set or
+// the operator stops it.
 bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report,
                DetectMode mode = DetectMode::Add);
 

@@ -218,7 +218,7 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     description.port = 0;
     description.discovery = false;
     description.devices.resize(1);
-    description.devices[0].family = Family::Svr;
+    description.devices[0].family = Family::Txr632;
     simulators::SimulatorThread site(description);
 
     start();
@@ -231,6 +231,7 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
         running.device(0).channel(3).customEvents = 3;
     });
     work.sSVR_UserName = work.sSVR_Password = u"admin"_s;
+    work.sSVR_DeviceType = kFamilyTXR632;
     work.bSVR_CEventSupport = true;
     work.lSub_CH_IntelligentID[2] = 4;
     work.bSVR_Changed = true;
@@ -248,7 +249,10 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     QSqlQuery(desk->databases.LogConn->database()).exec(u"DELETE FROM SystemLog"_s);
 
     Form_COM com;
-    RemoveSVR(*desk, com.web, 0);
+    com.SetProToDeviceBridge(desk->recorders.SVRList);
+    EXPECT_EQ(com.FindServiceSlot(0), 0);
+    RemoveSVR(*desk, com, 0);
+    EXPECT_EQ(com.FindServiceSlot(0), -1) << "nobody polls it any more";
     site.call([](Site& running) {
         EXPECT_EQ(running.device(0).channel(3).customEvents, 0);
         EXPECT_EQ(running.device(0).requestCount("/event/basicevent.cgi?action=set&customevent_c1=0"), 1);
@@ -269,10 +273,10 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     EXPECT_FALSE(desk->families.ExitCheck());
 
     // One that takes no custom events is not asked; one that is gone does not hold its removal up.
-    RemoveSVR(*desk, com.web, 5);
+    RemoveSVR(*desk, com, 5);
     addRecorder(1, u"unreachable"_s, 1);
     desk->recorders.SVRWorkList[1].bSVR_CEventSupport = true;
-    RemoveSVR(*desk, com.web, 1);
+    RemoveSVR(*desk, com, 1);
     EXPECT_EQ(rows(u"SELECT * FROM SVR"_s), QString());
     EXPECT_EQ(OccupiedSlots(desk->recorders.SVRList), 0);
     EXPECT_EQ(logLines("Form_Initial - RemoveSVR"), 0) << allLogs().toStdString();

@@ -67,7 +67,10 @@ Form_Initial::Form_Initial(Station& station, QWidget* parent)
             [this] { m_header->setClock(Now().toString(u"yyyy/MM/dd hh:mm:ss")); });
 }
 
-Form_Initial::~Form_Initial() = default;
+Form_Initial::~Form_Initial()
+{
+    delete m_frames; // pages use the bridges
+}
 
 bool Form_Initial::Form_Load()
 {
@@ -197,12 +200,11 @@ void Form_Initial::buildPages()
 {
     m_systemPage = new SystemPage(m_station);
     connect(m_systemPage, &SystemPage::languageChanged, this, &Form_Initial::ChangeLanguage);
-    auto* recorders = new RecordersPage(m_station.recorders);
+    auto* recorders = new RecordersPage(m_station.recorders, m_com.http);
     m_nvrPage = recorders->list();
     connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
     connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
-        RemoveSVR(m_station, m_com.web, slot);
-        m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
+        RemoveSVR(m_station, m_com, slot);
         m_nvrPage->Grid_SVR_Set_withDB();
         updateHeader();
     });

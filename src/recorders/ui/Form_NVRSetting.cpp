@@ -109,7 +109,11 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> fi
     for (int column = 0; column < static_cast<int>(searchWidths.size()); ++column)
         list->setColumnWidth(column, searchWidths[static_cast<std::size_t>(column)]);
     connect(m_ui->txtSearchFilter, &QLineEdit::textChanged, m_foundProxy, &QSortFilterProxyModel::setFilterFixedString);
-    connect(m_ui->Chk_SelectAll, &QCheckBox::clicked, m_found, &SearchListModel::setAllChecked);
+    connect(m_ui->Chk_SelectAll, &QCheckBox::clicked, this, [this](bool checked) { // the rows on show, from the top
+        for (int row = 0; row < m_foundProxy->rowCount(); ++row)
+            m_foundProxy->setData(m_foundProxy->index(row, SearchListModel::DeviceName),
+                                  checked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    });
     connect(m_ui->lbSearch, &QPushButton::clicked, this, &Form_NVRSetting::lbSearch_Click);
     connect(m_found, &SearchListModel::dataChanged, this, &Form_NVRSetting::showChosen);
     connect(&m_context.com.finder, &FinderBridge::DeviceFound, this, [this](const FoundDevice& device) {
@@ -216,6 +220,7 @@ void Form_NVRSetting::lbCancel_Click()
     if (m_busy) {
         m_stopped = true;
         m_cancel->setEnabled(false);
+        m_context.com.web.AbortWaited();
     } else {
         reject();
     }
@@ -261,6 +266,8 @@ void Form_NVRSetting::reject()
 {
     if (!m_busy)
         DialogFrame::reject();
+    else if (m_cancel->isEnabled() && m_cancel->property(kStopsWork).toBool())
+        lbCancel_Click();
 }
 
 void Form_NVRSetting::beginManual()
@@ -334,7 +341,10 @@ void Form_NVRSetting::setBusy(bool busy)
     m_next->setEnabled(!busy);
     m_cancel->setEnabled(true);
     m_cancel->setProperty(kStopsWork, busy);
+    setProperty(kStopsWork, busy); // Esc
     m_cancel->setText(GetLangString(busy ? 951 : 475));
-    if (busy)
+    if (busy) {
         m_stopped = false;
+        m_cancel->setFocus();
+    }
 }

@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class QLineEdit;
+class QPushButton;
 class QSortFilterProxyModel;
 class QTimer;
 namespace Ui {
