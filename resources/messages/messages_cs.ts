@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 z %2 rekordérů včetně vybraných</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Spojení</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Ověřuje se…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Přihlášení odmítnuto</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Neodpovídá</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Název hostitele nenalezen</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Spojení odmítnuto</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Neočekávaná odpověď</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Zastaveno</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Upozornění</translation>

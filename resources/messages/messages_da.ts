@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 af %2 optagere med de valgte</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Forbindelse</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Kontrolleres …</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Login afvist</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Intet svar</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Værtsnavn ikke fundet</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Forbindelse afvist</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Uventet svar</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Standset</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Meddelelse</translation>

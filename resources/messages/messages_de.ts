@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 von %2 Rekordern einschließlich der Auswahl</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Anmeldung abgelehnt</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Hostname nicht gefunden</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Verbindung abgelehnt</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Unerwartete Antwort</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Angehalten</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Hinweis</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 of %2 recorders with those selected</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Connection</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Checking…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Login refused</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>No answer</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Host name not found</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Connection refused</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Unexpected answer</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Stopped</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Notice</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 de %2 grabadores con los seleccionados</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Conexión</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Comprobando…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Inicio de sesión rechazado</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Nombre de host no encontrado</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Conexión rechazada</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Respuesta inesperada</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Detenido</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Aviso</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 sur %2 enregistreurs avec la sélection</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Vérification…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Identification refusée</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Nom d’hôte introuvable</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Connexion refusée</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Réponse inattendue</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Arrêté</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Avis</translation>

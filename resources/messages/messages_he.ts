@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 מתוך %2 מקליטים כולל הנבחרים</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>חיבור</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>בבדיקה…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>הכניסה נדחתה</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>אין מענה</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>שם המארח לא נמצא</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>החיבור נדחה</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>מענה לא צפוי</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>נעצר</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>הודעה</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 di %2 registratori con quelli selezionati</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Connessione</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Verifica in corso…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Accesso rifiutato</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Nessuna risposta</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Nome host non trovato</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Connessione rifiutata</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Risposta inattesa</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Interrotto</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Avviso</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>選択分を含めレコーダー %2 台中 %1 台</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>確認中…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>ログイン拒否</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>ホスト名が見つかりません</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>接続拒否</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>想定外の応答</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>停止しました</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>お知らせ</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 z %2 rejestratorów razem z wybranymi</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Połączenie</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Sprawdzanie…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Odmowa logowania</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Brak odpowiedzi</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Nie znaleziono nazwy hosta</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Odmowa połączenia</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Nieoczekiwana odpowiedź</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Zatrzymano</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Uwaga</translation>

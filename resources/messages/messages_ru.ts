@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>%1 из %2 регистраторов с учётом выбранных</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Связь</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Проверка…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Вход отклонён</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Нет ответа</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Имя хоста не найдено</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Соединение отклонено</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Неожиданный ответ</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Остановлено</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Внимание</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>Seçilenlerle birlikte %1 / %2 kayıt cihazı</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>Denetleniyor…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>Oturum Açma Reddedildi</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>Yanıt Yok</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>Ana Bilgisayar Adı Bulunamadı</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>Bağlantı Reddedildi</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>Beklenmeyen Yanıt</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>Durduruldu</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>Uyarı</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>含所选共 %1 / %2 台录像机</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>连接</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>正在检查…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>登录被拒绝</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>无应答</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>找不到主机名</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>连接被拒绝</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>应答异常</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>注意</translation>

@@ -3519,6 +3519,38 @@
         <source>%1 of %2 recorders with those selected</source>
         <translation>含所選共 %1 / %2 台錄影機</translation>
     </message>
+    <message id="956">
+        <source>Connection</source>
+        <translation>連線</translation>
+    </message>
+    <message id="957">
+        <source>Checking…</source>
+        <translation>檢查中…</translation>
+    </message>
+    <message id="958">
+        <source>Login refused</source>
+        <translation>登入遭拒</translation>
+    </message>
+    <message id="959">
+        <source>No answer</source>
+        <translation>沒有回應</translation>
+    </message>
+    <message id="960">
+        <source>Host name not found</source>
+        <translation>找不到主機名稱</translation>
+    </message>
+    <message id="961">
+        <source>Connection refused</source>
+        <translation>連線遭拒</translation>
+    </message>
+    <message id="962">
+        <source>Unexpected answer</source>
+        <translation>回應異常</translation>
+    </message>
+    <message id="963">
+        <source>Stopped</source>
+        <translation>已停止</translation>
+    </message>
     <message id="965">
         <source>Notice</source>
         <translation>注意</translation>

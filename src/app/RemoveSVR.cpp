@@ -1,6 +1,7 @@
 #include "app/RemoveSVR.h"
 
 #include "app/log/Module_Log.h"
+#include "device/Form_COM.h"
 #include "device/ModuleCGI.h"
 #include "support/Conversions.h"
 
@@ -17,32 +18,42 @@ void SwitchOffCustomEvents(WebBridge& web, const SVRRecord& record)
                      kCgiSynchronous);
 }
 
-} // namespace
-
+// What concerns the recorder as a whole. Its channels follow by themselves.
 void ClearRecorder(RecorderSet& recorders, int slot)
 {
     SVRRecord& record = At(recorders.SVRWorkList, slot);
-    SVRProRecord& pro = At(recorders.SVRProWorkList, slot);
     record = SVRRecord();
-    record.bSVR_Changed = true;
     record.bSVR_ConnChanged = true;
     record.iSVR_HttpPort = 80;
     record.iSVR_VideoPort = 554;
+}
+
+void ClearChannels(RecorderSet& recorders, int slot)
+{
+    SVRRecord& record = At(recorders.SVRWorkList, slot);
     for (int channel = 0; channel < kMaxChannel; ++channel) {
-        ClearChannel(record, pro, channel);
+        ClearChannel(record, At(recorders.SVRProWorkList, slot), channel);
         At(record.iPower, channel) = 1;
     }
 }
 
-void RemoveSVR(Station& station, WebBridge& web, int slot)
+} // namespace
+
+void RemoveSVR(Station& station, Form_COM& com, int slot)
 {
     Trapped("Form_Initial - RemoveSVR", [&] {
-        const SVRRecord& record = At(station.recorders.SVRWorkList, slot);
+        SVRRecord& record = At(station.recorders.SVRWorkList, slot);
         if (record.bSVR_CEventSupport)
-            SwitchOffCustomEvents(web, record);
+            SwitchOffCustomEvents(com.web, record);
+        ResetDetection(station.channelEvents, slot, record);
         ClearRecorder(station.recorders, slot);
         GrantNewRecorder(station.groups, slot);
+        ClearChannels(station.recorders, slot);
+        NameChannelEvents(station.channelEvents, slot, record);
+        RemoveRecorderMaps(station.emap, slot);
+        record.bSVR_Changed = true;
         SaveCheck(station);
+        com.SetProToDeviceBridge(station.recorders.SVRList);
         SaveNVRPrivilege(station.databases, station.groups, [&](int other) {
             return other == slot || !At(station.recorders.SVRWorkList, other).sSVR_Name.isEmpty();
         });

@@ -2,6 +2,7 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "emap/EMapStore.h"
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
 #include "platform/MsgBox.h"
@@ -79,6 +80,9 @@ void LoadRecords(Station& station)
 {
     GetSVREx(station.databases, station.recorders);
     GetUser(station.databases, station.users);
+    GetEMapGroup(station.databases, station.emap);
+    GetEMapIconEx(station.databases, station.emap);
+    GetEventInfo(station.databases, station.channelEvents, station.recorders);
     GetMyAccount(station.databases, station.accounts);
     GetGroupPrivilege(station.databases, station.groups);
     GetNVRPrivilege(station.databases, station.groups);

@@ -1,6 +1,7 @@
 #include "app/Station.h"
 
 #include "app/log/Module_Log.h"
+#include "emap/EMapStore.h"
 #include "platform/Clock.h"
 #include "platform/clsOSInfo.h"
 #include "recorders/SVRStore.h"
@@ -53,6 +54,9 @@ Station::Station()
     families.add(SVRFamily(databases, recorders));
     families.add(GroupFamily(databases, groups,
                              [this](int slot) { return !At(recorders.SVRWorkList, slot).sSVR_Name.isEmpty(); }));
+    families.add(EventSettingsFamily(databases, channelEvents, recorders));
+    families.add(EMapGroupFamily(databases, emap));
+    families.add(EMapIconFamily(databases, emap, recorders));
     families.add(UserFamily(databases, users, [] { return int(clsOSInfo().GetScreenCount()); }));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "emap/EMapSet.h"
+#include "events/ChannelEvents.h"
 #include "recorders/RecorderSet.h"
 #include "store/BasicDefault.h"
 #include "store/Databases.h"
@@ -49,6 +51,8 @@ struct Station
     RecorderSet recorders;
     GroupSet groups;
     UserSet users;
+    EMapSet emap;
+    ChannelEventSet channelEvents;
     std::vector<NVRAccountRecord> accounts{{}}; // tried on devices; one empty element when there is none
     EventHandlingRecord eventHandling;          // stored copy; all off until the event settings are read
     FamilyRegister families;

@@ -95,10 +95,19 @@ void Form_COM::SetProToDeviceBridge(std::span<const SVRRecord> list)
 {
     device.SetServiceTimeout(60);
     const std::size_t count = std::min<std::size_t>(list.size(), kMaxSVR);
+    const auto served = [&](std::size_t index) {
+        return index < count && !list[index].sSVR_IP.isEmpty() && list[index].sSVR_DeviceType == kFamilyTXR632;
+    };
+    for (std::size_t row = 0; row < Services.size(); ++row) {
+        if (Services[row].SvrIndex >= 0 && !served(static_cast<std::size_t>(Services[row].SvrIndex))) {
+            device.RemoveService(static_cast<qint16>(row));
+            Services[row] = ServiceSlot();
+        }
+    }
     for (std::size_t index = 0; index < count; ++index) {
-        const SVRRecord& svr = list[index];
-        if (svr.sSVR_IP.isEmpty() || svr.sSVR_DeviceType != kFamilyTXR632)
+        if (!served(index))
             continue;
+        const SVRRecord& svr = list[index];
         const auto svrIndex = static_cast<qint16>(index);
         const qint16 row = FindServiceSlot(svrIndex);
         if (row >= 0) {

@@ -214,6 +214,18 @@ void WebBridge::ReleaseRequest(qint32, qint32 request)
     m_requests.erase(found);
 }
 
+void WebBridge::AbortWaited()
+{
+    std::erase_if(m_requests, [this](const auto& entry) {
+        const Request& request = entry.second;
+        if (!request.waited || request.finished)
+            return false;
+        m_http.cancel(request.transfer);
+        return true;
+    });
+    WakeWaits();
+}
+
 qint32 WebBridge::nextNumber()
 {
     dropOldest();

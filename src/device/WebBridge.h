@@ -68,6 +68,9 @@ public:
     // Frees a number. One still under way ends without an event.
     void ReleaseRequest(qint32 kind, qint32 request);
 
+    // Ends every request that is being waited for: its caller gets a negative number at once.
+    void AbortWaited();
+
     // Numbers not released yet.
     qsizetype Outstanding() const { return static_cast<qsizetype>(m_requests.size()); }
 

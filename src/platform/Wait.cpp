@@ -16,8 +16,8 @@ QObject& Waker()
     return waker;
 }
 
-// Swallows user input while a wait is under way. The pointer still reaches a widget that asks for it by the property
-// kStopsWork; a window takes pointer events only to hand them to its widgets.
+// Swallows user input while a wait is under way. Press, release and keys still reach a widget that asks for them by the
+// property kStopsWork; a native window takes them only to hand them on to its widgets.
 class InputGate : public QObject
 {
 public:
@@ -26,18 +26,17 @@ public:
         switch (event->type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonRelease:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
             if (object->isWindowType() || object->property(kStopsWork).toBool())
                 return false;
             event->ignore();
             return true;
-        case QEvent::KeyPress:
-        case QEvent::KeyRelease:
-            if (object->isWindowType() || (object->isWidgetType() && object->property(kStopsWork).toBool()))
-                return false;
-            event->ignore();
-            return true;
-        case QEvent::Shortcut:
         case QEvent::MouseButtonDblClick:
+        case QEvent::ContextMenu:
+        case QEvent::InputMethod:
+        case QEvent::Drop:
         case QEvent::Wheel:
         case QEvent::TouchBegin:
         case QEvent::TouchUpdate:
@@ -49,6 +48,15 @@ public:
             return false;
         }
     }
+};
+
+// Counts the waits under way, also past an exception of what is waited for.
+struct Depth
+{
+    Depth() { ++g_depth; }
+    ~Depth() { --g_depth; }
+    Depth(const Depth&) = delete;
+    Depth& operator=(const Depth&) = delete;
 };
 
 } // namespace
@@ -84,7 +92,7 @@ WaitResult WaitUntil(const std::function<bool()>& done, double seconds)
         return WaitResult::Closing;
 
     InputGate gate;
-    ++g_depth;
+    const Depth depth;
     if (g_depth == 1)
         QCoreApplication::instance()->installEventFilter(&gate);
     QTimer tick; // bounds the time between two tests of `done`
@@ -103,6 +111,5 @@ WaitResult WaitUntil(const std::function<bool()>& done, double seconds)
             break;
         }
     }
-    --g_depth;
     return result;
 }

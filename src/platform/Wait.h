@@ -19,10 +19,9 @@ enum class WaitResult
 inline constexpr char kStopsWork[] = "stopsWork";
 
 // Runs a nested event loop until `done` is true, `seconds` have passed, or Closing is set. Painting, timers and sockets
-// go on; key, mouse, wheel and touch input to every widget but those marked above is held
-// back meanwhile, so nothing is started twice. `done`
-// is tested first and after every call of WakeWaits(), and at least every 100 ms. Never blocks when `done` is true
-// already.
+// go on; key, mouse, wheel, touch and drop input to every widget but those marked above is held back meanwhile, so
+// nothing is started twice. `done` is tested first and after every call of WakeWaits(), and at least every 100 ms.
+// Never blocks when `done` is true already.
 WaitResult WaitUntil(const std::function<bool()>& done, double seconds);
 
 // Called by whoever completes something that may be waited for.

@@ -82,6 +82,8 @@ QVariant DetectStatusModel::data(const QModelIndex& index, int role) const
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
     if (index.column() != Status || !row.started)
         return {};
+    if (role == Qt::ToolTipRole) // the words, should the column be too narrow for them
+        return text(index.row(), Status);
     const DetectStatus::State state = row.status.state;
     if (role == kStatusRole) {
         if (state == DetectStatus::State::Running)

@@ -28,14 +28,14 @@ enum Message
     kGetCapability = 293,
     kGetChannels = 294,
     kGetInfo = 295,
-    kCancel = 475,
     kInitialValue = 296,
     kAddSuccess = 297,
     kAddressFault = 554,
     kNotSupported = 619,
     kTooManyChannels = 716,
     kNoChannel = 719,
-    kDetectSuccess = 833
+    kDetectSuccess = 833,
+    kStopped = 963
 };
 
 // Ends a detection with a message.
@@ -67,6 +67,11 @@ int MessageOfLogin(qint32 result)
     default:
         return kConnectionError;
     }
+}
+
+bool Stopped(const DetectContext& context)
+{
+    return Closing() || (context.stopped && context.stopped());
 }
 
 // One run of DetectNVR.
@@ -116,8 +121,8 @@ public:
 private:
     void say(int message, int percent)
     {
-        if (Closing() || (m_context.stopped && m_context.stopped()))
-            throw DetectFailure{kCancel};
+        if (Stopped(m_context))
+            throw DetectFailure{kStopped};
         m_report({message, percent, DetectStatus::State::Running, {}});
     }
 
@@ -301,10 +306,12 @@ private:
         if (m_modify) {
             m_context.recorders.SVREdit = *m_svr;
             m_context.recorders.SVRProEdit = *m_pro;
-            return;
+        } else {
+            At(m_context.recorders.SVRWorkList, m_slot) = *m_svr;
+            At(m_context.recorders.SVRProWorkList, m_slot) = *m_pro;
         }
-        At(m_context.recorders.SVRWorkList, m_slot) = *m_svr;
-        At(m_context.recorders.SVRProWorkList, m_slot) = *m_pro;
+        if (m_context.filled)
+            m_context.filled(m_slot, *m_svr, m_modify ? DetectMode::Modify : DetectMode::Add);
     }
 
     const DetectContext& m_context;
@@ -359,8 +366,9 @@ bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const De
         report({mode == DetectMode::Modify ? kDetectSuccess : kAddSuccess, 100, DetectStatus::State::Done, {}});
         return true;
     } catch (const DetectFailure& failure) {
-        message = failure.message;
-        suffix = failure.suffix;
+        // A request that was broken off on the operator's wish is no fault of the recorder.
+        message = Stopped(context) ? kStopped : failure.message;
+        suffix = Stopped(context) ? QString() : failure.suffix;
     } catch (const std::exception& error) {
         LogTrap(kSource, QString::fromUtf8(error.what()));
     }

@@ -34,6 +34,12 @@ struct DetectStatus
 };
 using DetectReport = std::function<void(const DetectStatus&)>;
 
+enum class DetectMode
+{
+    Add,   // fills a free slot of the working generation
+    Modify // reads the recorder of the edit record anew, into the edit record; its slot must be given
+};
+
 // What a detection works on.
 struct DetectContext
 {
@@ -41,12 +47,8 @@ struct DetectContext
     RecorderSet& recorders;
     const std::vector<NVRAccountRecord>& accounts; // tried in order when no login is given; never empty
     std::function<bool()> stopped = {};            // the operator wants no more: the run ends at its next step
-};
-
-enum class DetectMode
-{
-    Add,   // fills a free slot of the working generation
-    Modify // reads the recorder of the edit record anew, into the edit record; its slot must be given
+    // A recorder was read into its slot (from 0) or into the edit record: what else the station keeps of it follows.
+    std::function<void(int slot, const SVRRecord& record, DetectMode mode)> filled = {};
 };
 
 enum class ManualField
@@ -69,7 +71,8 @@ ManualFault ValidateManualNVR(const QString& name, const QString& address, const
 
 // Logs in to a recorder, reads what it can do and its channels, and fills the slot or edit record. True on success; on
 // failure nothing is changed and the report's last message says why. The last report of a success is message 297, or
-// 833 for Modify. Waits on the device's replies (platform/Wait.h); ends early when Closing is set.
+// 833 for Modify. Waits on the device's replies (platform/Wait.h); ends early when Closing is set or
+// the operator stops it.
 bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report,
                DetectMode mode = DetectMode::Add);
 

@@ -1,9 +1,33 @@
 #include "recorders/NVRListModel.h"
 
 #include "app/language/Languages.h"
+#include "look/StatusRoles.h"
 #include "support/Conversions.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+
+Status StatusOf(ConnectionState::Kind kind)
+{
+    switch (kind) {
+    case ConnectionState::Kind::None:
+        break;
+    case ConnectionState::Kind::Checking:
+        return Status::Busy;
+    case ConnectionState::Kind::Connected:
+        return Status::Ok;
+    case ConnectionState::Kind::Refused:
+        return Status::Warning;
+    case ConnectionState::Kind::Lost:
+        return Status::Bad;
+    }
+    return Status::None;
+}
+
+} // namespace
 
 QString ShownModel(const SVRRecord& record)
 {
@@ -11,10 +35,21 @@ QString ShownModel(const SVRRecord& record)
     return hidden ? u"-"_s : record.sSVR_DisplayDeviceType;
 }
 
-NVRListModel::NVRListModel(const RecorderSet& recorders, QObject* parent)
+NVRListModel::NVRListModel(const RecorderSet& recorders, const ConnectionWatch& watch, QObject* parent)
     : QAbstractTableModel(parent)
     , m_recorders(recorders)
+    , m_watch(watch)
 {
+    connect(&watch, &ConnectionWatch::changed, this, &NVRListModel::connectionChanged);
+}
+
+void NVRListModel::connectionChanged(int slot)
+{
+    const auto found = std::find(m_slots.begin(), m_slots.end(), slot);
+    if (found == m_slots.end())
+        return;
+    const QModelIndex cell = index(static_cast<int>(found - m_slots.begin()), Connection);
+    emit dataChanged(cell, cell);
 }
 
 void NVRListModel::refill()
@@ -30,6 +65,8 @@ void NVRListModel::refill()
 
 void NVRListModel::retranslate()
 {
+    if (!m_slots.empty())
+        emit dataChanged(index(0, Connection), index(rowCount() - 1, Connection));
     emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
 }
 
@@ -49,12 +86,16 @@ QVariant NVRListModel::data(const QModelIndex& index, int role) const
     const SVRRecord& record = At(m_recorders.SVRList, slot);
     if (role == kSlotRole)
         return slot;
+    if (role == kStatusRole && index.column() == Connection)
+        return static_cast<int>(StatusOf(m_watch.state(slot).kind));
     if (role == Qt::AccessibleTextRole || role == Qt::ToolTipRole) {
         if (index.column() == Edit)
             return QString(GetLangString(387) + u' ' + record.sSVR_Name);
         if (index.column() == Delete)
             return QString(GetLangString(386) + u' ' + record.sSVR_Name);
-        return {};
+        if (index.column() != Connection || role == Qt::AccessibleTextRole)
+            return {};
+        role = Qt::DisplayRole; // the words, should the column be too narrow for them
     }
     if (role == Qt::TextAlignmentRole && (index.column() == ValidChannels || index.column() == Number))
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
@@ -73,6 +114,10 @@ QVariant NVRListModel::data(const QModelIndex& index, int role) const
         return ShownModel(record);
     case ValidChannels:
         return CameraCount(record);
+    case Connection: {
+        const int message = m_watch.state(slot).message;
+        return message == 0 ? QString() : GetLangString(message);
+    }
     default:
         return {};
     }
@@ -99,6 +144,8 @@ QVariant NVRListModel::headerData(int section, Qt::Orientation orientation, int 
         return GetLangString(382);
     case ValidChannels:
         return GetLangString(271);
+    case Connection:
+        return GetLangString(956);
     default:
         return {};
     }

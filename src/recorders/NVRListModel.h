@@ -1,5 +1,6 @@
 #pragma once
 
+#include "recorders/ConnectionWatch.h"
 #include "recorders/RecorderSet.h"
 
 #include <QAbstractTableModel>
@@ -21,12 +22,13 @@ public:
         ValidChannels,
         Edit,   // icon
         Delete, // icon
+        Connection,
         ColumnCount
     };
     static constexpr int kSlotRole = Qt::UserRole; // slot of the row, from 0
     static constexpr int kSortRole = Qt::UserRole + 1;
 
-    explicit NVRListModel(const RecorderSet& recorders, QObject* parent = nullptr);
+    NVRListModel(const RecorderSet& recorders, const ConnectionWatch& watch, QObject* parent = nullptr);
     void refill();      // after the stored generation has changed
     void retranslate(); // after the language has changed
 
@@ -36,7 +38,10 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    void connectionChanged(int slot);
+
     const RecorderSet& m_recorders;
+    const ConnectionWatch& m_watch;
     std::vector<int> m_slots;
 };
 

@@ -32,16 +32,6 @@ void SearchListModel::add(const FoundDevice& device)
     endInsertRows();
 }
 
-void SearchListModel::setAllChecked(bool checked)
-{
-    for (Row& row : m_rows) {
-        if (!row.known && row.checked != checked && (!checked || room()))
-            row.checked = checked;
-    }
-    if (!m_rows.empty())
-        emit dataChanged(index(0, DeviceName), index(rowCount() - 1, DeviceName), {Qt::CheckStateRole});
-}
-
 int SearchListModel::checkedRows() const
 {
     return static_cast<int>(

@@ -26,8 +26,7 @@ public:
     explicit SearchListModel(const RecorderSet& recorders, QObject* parent = nullptr);
     void clear();
     void add(const FoundDevice& device);
-    void setAllChecked(bool checked); // checks in order until the station would be full
-    int checkedRows() const;          // without the known ones
+    int checkedRows() const; // without the known ones
     bool known(int row) const;
     // The checked rows in order, each for the first free slot.
     std::vector<NVRDetectItem> chosen() const;

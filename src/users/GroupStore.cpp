@@ -1,6 +1,7 @@
 #include "users/GroupStore.h"
 
 #include "store/TableAccess.h"
+#include "store/TableRows.h"
 #include "store/tables/Tables.h"
 
 #include <algorithm>
@@ -9,34 +10,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Opens the table's whole selection and calls `row` for each of its rows; a row that throws costs one log line.
+// Opens the table's whole selection and hands it to `eachRow`.
 template <class EachRow>
-qint16 ReadRows(Databases& databases, const QString& table, QLatin1String source, EachRow&& eachRow)
+qint16 ReadAll(Databases& databases, const QString& table, QLatin1String source, EachRow&& eachRow)
 {
-    if (OpenRecset(databases, table) == 0)
-        return 0;
-    const bool ok = Trapped(source, [&] {
-        OpenStatement(databases, u"Select * From "_s + table, LockType::ReadOnly);
-        eachRow(*databases.DBRec);
-    });
-    Trapped(source, [&] { databases.DBRec->close(); });
-    return ok ? 1 : 0;
+    return ReadRows(databases, table, u"Select * From "_s + table, source, std::forward<EachRow>(eachRow));
 }
 
 // Deletes every row, then lets `addRows` write the new ones.
 template <class AddRows>
-qint16 ReplaceRows(Databases& databases, const QString& table, QLatin1String source, AddRows&& addRows)
+qint16 ReplaceAll(Databases& databases, const QString& table, QLatin1String source, AddRows&& addRows)
 {
-    const bool deleted = Trapped(source, [&] {
+    const auto deleteRows = [&] {
         OpenStatement(databases, u"Select * From "_s + table, LockType::Optimistic);
         for (databases.DBRec->moveFirst(); !databases.DBRec->eof();)
             databases.DBRec->deleteRow();
-    });
-    if (!deleted || OpenRecset(databases, table) == 0)
-        return 0;
-    const bool ok = Trapped(source, [&] { addRows(*databases.DBRec); });
-    Trapped(source, [&] { databases.DBRec->close(); });
-    return ok ? 1 : 0;
+    };
+    return ReplaceRows(databases, table, source, deleteRows, std::forward<AddRows>(addRows));
 }
 
 } // namespace
@@ -44,7 +34,7 @@ qint16 ReplaceRows(Databases& databases, const QString& table, QLatin1String sou
 qint16 GetGroupPrivilege(Databases& databases, GroupSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetGroupPrivilege");
-    return ReadRows(databases, u"GroupPrivilege"_s, source, [&](Recordset& rows) {
+    return ReadAll(databases, u"GroupPrivilege"_s, source, [&](Recordset& rows) {
         TableAccess<GroupPrivilegeRecord> access(rows, GroupPrivilegeColumns, source);
         for (; !rows.eof(); rows.moveNext()) {
             Trapped(source, [&] {
@@ -59,7 +49,7 @@ qint16 GetGroupPrivilege(Databases& databases, GroupSet& set)
 qint16 GetNVRPrivilege(Databases& databases, GroupSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetNVRPrivilege");
-    return ReadRows(databases, u"NVRPrivilege"_s, source, [&](Recordset& rows) {
+    return ReadAll(databases, u"NVRPrivilege"_s, source, [&](Recordset& rows) {
         TableAccess<NVRPrivilegeRow> access(rows, NVRPrivilegeColumns, source);
         for (; !rows.eof(); rows.moveNext()) {
             Trapped(source, [&] {
@@ -74,7 +64,7 @@ qint16 GetNVRPrivilege(Databases& databases, GroupSet& set)
 qint16 SaveGroupPrivilege(Databases& databases, const GroupSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveGroupPrivilege");
-    return ReplaceRows(databases, u"GroupPrivilege"_s, source, [&](Recordset& rows) {
+    return ReplaceAll(databases, u"GroupPrivilege"_s, source, [&](Recordset& rows) {
         TableAccess<GroupPrivilegeRecord> access(rows, GroupPrivilegeColumns, source);
         for (const GroupPrivilegeRecord& record : set.stored) {
             Trapped(source, [&] {
@@ -89,7 +79,7 @@ qint16 SaveGroupPrivilege(Databases& databases, const GroupSet& set)
 qint16 SaveNVRPrivilege(Databases& databases, const GroupSet& set, const SlotInUse& inUse)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveNVRPrivilege");
-    return ReplaceRows(databases, u"NVRPrivilege"_s, source, [&](Recordset& rows) {
+    return ReplaceAll(databases, u"NVRPrivilege"_s, source, [&](Recordset& rows) {
         TableAccess<NVRPrivilegeRow> access(rows, NVRPrivilegeColumns, source);
         for (int group = 0; group < kGroups; ++group) {
             for (int slot = 0; slot < kMaxSVR; ++slot) {

@@ -157,6 +157,20 @@ TEST_F(ParameterBridge, ServicesFollowTheirDevice)
     const std::size_t askedFirst = server.requests.size();
     EXPECT_EQ(WaitUntil([&] { return server.requests.size() > askedFirst + 2; }, 5), WaitResult::Done);
     EXPECT_EQ(other.requests.size(), asked);
+
+    // A slot that is free or has become another family is asked no more; its row serves the next recorder.
+    list[1] = SVRRecord();
+    list[15].sSVR_DeviceType = kFamilySVR;
+    other.answerWith("OK\n");
+    list[4] = Recorder(other);
+    com.SetProToDeviceBridge(list);
+    EXPECT_EQ(com.FindServiceSlot(1), -1);
+    EXPECT_EQ(com.FindServiceSlot(15), -1);
+    EXPECT_EQ(WaitUntil([&] { return status(4) > 0; }, 5), WaitResult::Done);
+    const std::size_t before = server.requests.size() + moved.requests.size();
+    const std::size_t rounds = other.requests.size() + 3;
+    EXPECT_EQ(WaitUntil([&] { return other.requests.size() > rounds; }, 5), WaitResult::Done);
+    EXPECT_EQ(server.requests.size() + moved.requests.size(), before);
 }
 
 TEST_F(ParameterBridge, AStatusOfAnUnknownServiceIsAnErrorAndNoNewRow)

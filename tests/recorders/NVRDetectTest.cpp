@@ -8,6 +8,7 @@
 using namespace Qt::StringLiterals;
 using simulators::DeviceDescription;
 using simulators::Family;
+using simulators::FaultKind;
 using simulators::Site;
 using simulators::SiteDescription;
 using State = DetectStatus::State;
@@ -51,8 +52,13 @@ protected:
     int detect(const NVRDetectItem& wanted, DetectMode mode = DetectMode::Add)
     {
         DetectStatus last;
+        const auto filled = [this](int slot, const SVRRecord& record, DetectMode) {
+            filledSlots << slot;
+            EXPECT_EQ(record.iSVR_Num, slot + 1);
+        };
         const bool done = DetectNVR(
-            {com, *recorders, accounts, stopped}, wanted, [&](const DetectStatus& status) { last = status; }, mode);
+            {com, *recorders, accounts, stopped, filled}, wanted, [&](const DetectStatus& status) { last = status; },
+            mode);
         EXPECT_EQ(done, last.state == State::Done);
         return last.message;
     }
@@ -61,6 +67,7 @@ protected:
     std::unique_ptr<RecorderSet> recorders;
     std::vector<NVRAccountRecord> accounts{{}};
     std::function<bool()> stopped;
+    QList<int> filledSlots;
     std::unique_ptr<simulators::SimulatorThread> site;
     std::vector<std::pair<QString, int>> where;
 };
@@ -95,6 +102,68 @@ TEST_F(Detecting, EveryFamilyIsAddedWithItsCamerasAndSystemFacts)
             EXPECT_EQ(record.iSub_Channel[index], c + 1);
         }
     }
+}
+
+// One reply breaks off, in its head or in its body.
+TEST_F(Detecting, RepliesThatBreakOffCostTheirRecorderOrTheirValuesOnly)
+{
+    start({Recorder(Family::Svr, 3, 2), Recorder(Family::OmluPro, 4, 2), Recorder(Family::Txr632, 4, 2)});
+    // Of an older recorder with two cameras the parameter groups come as device, image, ptz; device, image, ptz;
+    // device; system.
+    const struct
+    {
+        std::size_t device;
+        QByteArray path;
+        int command;
+        int skip;
+        int message;
+    } cases[] = {
+        {0, "/login.cgi", 0, 0, 221},
+        {0, "/getsvrcapability.cgi", 0, 0, 7},
+        {0, "/getfwver.cgi", 0, 0, 297},
+        {0, "/param.cgi", 0, 0, 7},
+        {0, "/param.cgi", 0, 1, 297},
+        {0, "/param.cgi", 0, 2, 297},
+        {0, "/param.cgi", 0, 6, 7},
+        {0, "/param.cgi", 0, 7, 297},
+        {1, "/login.cgi", 0, 0, 221},
+        {1, "/getsvrcapability.cgi", 0, 0, 7},
+        {1, "/cmd.cgi", 24582, 0, 7},
+        {1, "/cmd.cgi", 4100, 0, 7},
+        {1, "/cmd.cgi", 40965, 0, 297},
+        {2, "/login.cgi", 0, 0, 221},
+        {2, "/getsvrcapability.cgi", 0, 0, 7},
+        {2, "/cmd.cgi", 24582, 0, 7},
+        {2, "/cmd.cgi", 4100, 0, 7},
+        {2, "/cmd.cgi", 40965, 0, 297},
+        {2, "/cmd.cgi", 35844, 0, 297},
+    };
+    const simulators::Fault faults[] = {{FaultKind::CutOff, 20}, {FaultKind::CutOff, 90}};
+    for (const auto& c : cases) {
+        for (simulators::Fault fault : faults) {
+            SCOPED_TRACE(c.path.toStdString() + ' ' + std::to_string(c.command) + ' ' + std::to_string(c.skip));
+            fault.path = c.path;
+            fault.cmd = c.command;
+            fault.skip = c.skip;
+            fault.count = 1;
+            site->call([&](Site& running) { running.device(static_cast<int>(c.device)).addFault(fault); });
+            EXPECT_EQ(detect(item(c.device)), c.message);
+            EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), c.message == 297 ? 1 : 0);
+            EXPECT_EQ(CameraCount(recorders->SVRWorkList[0]), c.message == 297 ? 2 : 0);
+            const std::size_t next = (c.device + 1) % 3;
+            EXPECT_EQ(detect(item(next)), 297) << "the others go on";
+            *recorders = RecorderSet();
+            site->call([&](Site& running) { running.device(static_cast<int>(c.device)).clearFaults(); });
+        }
+    }
+    // A document that ends in its middle though its page is whole.
+    for (const QByteArray& text : {QByteArray("<RESPONSE RET=\"0\"><CHList><CH><ID>1</ID><Na"), QByteArray("")}) {
+        site->call([&](Site& running) {
+            running.device(1).addFault({FaultKind::Body, 0, "/cmd.cgi", 24582, text, 0, 1});
+        });
+        EXPECT_EQ(detect(item(1)), text.isEmpty() ? 7 : 719);
+    }
+    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
 }
 
 TEST_F(Detecting, OlderRecorderGivesPictureMovementAndOnvifValues)
@@ -140,6 +209,7 @@ TEST_F(Detecting, EachFaultHasItsMessageAndLeavesTheSlotFree)
     EXPECT_EQ(detect(item(0)), 297); // the others go on
     EXPECT_EQ(detect(item(0)), 78);
     EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 1);
+    EXPECT_EQ(filledSlots, QList<int>{0}) << "what hangs on a recorder is made for the added one only";
 }
 
 TEST_F(Detecting, AccountsAreTriedInOrderWhenNoLoginIsGiven)
@@ -184,7 +254,7 @@ TEST_F(Detecting, StopEndsTheRunAtItsNextStepAndChangesNothing)
     start({Recorder(Family::Svr, 64, 4)});
     int asked = 0;
     stopped = [&] { return ++asked > 10; };
-    EXPECT_EQ(detect(item(0)), 475);
+    EXPECT_EQ(detect(item(0)), 963);
     EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
 }
 
@@ -211,7 +281,8 @@ TEST(SearchList, KnownDevicesAreFixedAndChecksEndWhereTheStationIsFull)
     EXPECT_FALSE(model.known(1)); // same address on another port
     EXPECT_FALSE(model.setData(model.index(0, 0), Qt::Unchecked, Qt::CheckStateRole));
 
-    model.setAllChecked(true);
+    for (int row = 0; row < model.rowCount(); ++row)
+        model.setData(model.index(row, 0), Qt::Checked, Qt::CheckStateRole);
     EXPECT_EQ(model.checkedRows(), 3);
     EXPECT_FALSE(model.setData(model.index(5, 0), Qt::Checked, Qt::CheckStateRole));
     EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Unchecked, Qt::CheckStateRole));

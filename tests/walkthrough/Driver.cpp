@@ -39,13 +39,7 @@ void Driver::poll()
     const Step step = m_steps[m_next];
     if (!step.ready()) {
         if (m_waiting.elapsed() > m_limit) {
-            m_failure = u"Step '%1' never got ready; box on show: '%2'"_s.arg(step.name, boxText());
-            m_done = true;
-            const QWidgetList windows = QApplication::topLevelWidgets();
-            for (QWidget* window : windows) {
-                if (window->isModal() && window->isVisible())
-                    window->hide(); // lets its loop end
-            }
+            fail(u"Step '%1' never got ready; box on show: '%2'"_s.arg(step.name, boxText()));
             return;
         }
         QTimer::singleShot(15, this, &Driver::poll);
@@ -58,8 +52,18 @@ void Driver::poll()
     try {
         step.act();
     } catch (const std::exception& error) {
-        m_failure = u"Step '%1': %2"_s.arg(step.name, QString::fromUtf8(error.what()));
-        m_done = true;
+        fail(u"Step '%1': %2"_s.arg(step.name, QString::fromUtf8(error.what())));
+    }
+}
+
+void Driver::fail(const QString& what)
+{
+    m_failure = what;
+    m_done = true;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget* window : windows) {
+        if (window->isModal() && window->isVisible())
+            window->hide(); // lets its loop end
     }
 }
 

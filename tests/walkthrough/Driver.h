@@ -41,6 +41,7 @@ public:
 
 private:
     void poll();
+    void fail(const QString& what);
 
     std::vector<Step> m_steps;
     std::size_t m_next = 0;

@@ -1,5 +1,6 @@
 #include "app/ui/Form_Initial.h"
 
+#include "app/AddedRecorder.h"
 #include "app/RemoveSVR.h"
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
@@ -66,7 +67,10 @@ Form_Initial::Form_Initial(Station& station, QWidget* parent)
             [this] { m_header->setClock(Now().toString(u"yyyy/MM/dd hh:mm:ss")); });
 }
 
-Form_Initial::~Form_Initial() = default;
+Form_Initial::~Form_Initial()
+{
+    delete m_frames; // pages use the bridges
+}
 
 bool Form_Initial::Form_Load()
 {
@@ -196,12 +200,12 @@ void Form_Initial::buildPages()
 {
     m_systemPage = new SystemPage(m_station);
     connect(m_systemPage, &SystemPage::languageChanged, this, &Form_Initial::ChangeLanguage);
-    auto* recorders = new RecordersPage(m_station.recorders);
+    auto* recorders = new RecordersPage(m_station.recorders, m_com.http);
     m_nvrPage = recorders->list();
     connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
     connect(m_nvrPage, &NVRPage::editWanted, this, &Form_Initial::showRecorder);
     connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
-        RemoveSVR(m_station, m_com.web, slot);
+        RemoveSVR(m_station, m_com, slot);
         m_nvrPage->Grid_SVR_Set_withDB();
         updateHeader();
     });
@@ -332,10 +336,19 @@ void Form_Initial::Timer_PrivilegeCheck()
     });
 }
 
+DetectContext Form_Initial::detectContext()
+{
+    DetectContext context{m_com, m_station.recorders, m_station.accounts};
+    context.filled = [this](int slot, const SVRRecord& record, DetectMode mode) {
+        RecorderDetected(m_station, slot, record, mode);
+    };
+    return context;
+}
+
 void Form_Initial::showWizard()
 {
     Form_NVRSetting wizard(
-        {m_com, m_station.recorders, m_station.accounts}, [this] { finishNewRecorders(); }, this);
+        detectContext(), [this] { finishNewRecorders(); }, this);
     wizard.exec();
     m_nvrPage->Grid_SVR_Set_withDB();
     updateHeader();
@@ -344,12 +357,15 @@ void Form_Initial::showWizard()
 void Form_Initial::showRecorder(int slot)
 {
     ModifyHooks hooks;
-    hooks.RemoveSVR = [this](int removed) { RemoveSVR(m_station, m_com.web, removed); };
+    hooks.RemoveSVR = [this](int removed) { RemoveSVR(m_station, m_com, removed); };
+    hooks.recorderRenamed = [this](int renamed) {
+        RenameRecorderMap(m_station.emap, renamed, m_station.recorders.SVREdit.sSVR_Name);
+    };
     hooks.SaveCheck = [this] {
         SaveCheck(m_station);
         m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
     };
-    Form_NVRSetting form({m_com, m_station.recorders, m_station.accounts}, {}, this);
+    Form_NVRSetting form(detectContext(), {}, this);
     form.SetNVR(slot, hooks);
     form.exec();
     m_nvrPage->Grid_SVR_Set_withDB();

@@ -59,6 +59,7 @@ private:
     void PageLeaveCheck(int current, int next);
     void Timer_PrivilegeCheck();
     void askExit();
+    DetectContext detectContext();
     void showWizard();
     void showRecorder(int slot); // opens a stored recorder (slot from 0), modally
     void finishNewRecorders();

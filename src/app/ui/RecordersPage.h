@@ -12,9 +12,9 @@ class RecordersPage : public SettingsPage
     Q_OBJECT
 
 public:
-    explicit RecordersPage(const RecorderSet& recorders, QWidget* parent = nullptr)
+    RecordersPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent = nullptr)
         : SettingsPage(parent)
-        , m_list(new NVRPage(recorders))
+        , m_list(new NVRPage(recorders, http))
     {
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(0, 0, 0, 0);

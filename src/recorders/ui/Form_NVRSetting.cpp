@@ -98,7 +98,11 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> fi
     for (int column = 0; column < static_cast<int>(searchWidths.size()); ++column)
         list->setColumnWidth(column, searchWidths[static_cast<std::size_t>(column)]);
     connect(m_ui->txtSearchFilter, &QLineEdit::textChanged, m_foundProxy, &QSortFilterProxyModel::setFilterFixedString);
-    connect(m_ui->Chk_SelectAll, &QCheckBox::clicked, m_found, &SearchListModel::setAllChecked);
+    connect(m_ui->Chk_SelectAll, &QCheckBox::clicked, this, [this](bool checked) { // the rows on show, from the top
+        for (int row = 0; row < m_foundProxy->rowCount(); ++row)
+            m_foundProxy->setData(m_foundProxy->index(row, SearchListModel::DeviceName),
+                                  checked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    });
     connect(m_ui->lbSearch, &QPushButton::clicked, this, &Form_NVRSetting::lbSearch_Click);
     connect(m_found, &SearchListModel::dataChanged, this, &Form_NVRSetting::showChosen);
     connect(&m_context.com.finder, &FinderBridge::DeviceFound, this, [this](const FoundDevice& device) {
@@ -309,6 +313,7 @@ void Form_NVRSetting::lbCancel_Click()
     if (m_busy) {
         m_stopped = true;
         m_cancel->setEnabled(false);
+        m_context.com.web.AbortWaited();
     } else {
         reject();
     }
@@ -352,8 +357,11 @@ void Form_NVRSetting::beginChosen()
 
 void Form_NVRSetting::reject()
 {
-    if (m_busy)
+    if (m_busy) {
+        if (m_cancel->isEnabled() && m_cancel->property(kStopsWork).toBool())
+            lbCancel_Click();
         return;
+    }
     if (m_detail)
         Trapped("Form_NVRSetting - lbModifyApply_Click",
                 [&] { LeaveUnapplied(m_context.recorders, m_detail->slot(), m_hooks); });
@@ -414,9 +422,13 @@ void Form_NVRSetting::setBusy(bool busy, bool stoppable)
     m_next->setEnabled(!busy);
     m_cancel->setEnabled(!busy || stoppable);
     m_cancel->setProperty(kStopsWork, stop);
+    setProperty(kStopsWork, stop); // Esc
     m_cancel->setText(GetLangString(stop ? 951 : At(kFaces, m_frame).cancelText));
-    if (busy)
+    if (busy) {
         m_stopped = false;
-    else
+        if (stoppable)
+            m_cancel->setFocus();
+    } else {
         showChanges();
+    }
 }

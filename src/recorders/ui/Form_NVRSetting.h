@@ -12,6 +12,8 @@
 class CameraFrame;
 class CameraSearchFrame;
 class NVRDetailFrame;
+class QLineEdit;
+class QPushButton;
 class QSortFilterProxyModel;
 class QTimer;
 namespace Ui {

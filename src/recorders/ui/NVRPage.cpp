@@ -32,11 +32,12 @@ public:
 
 } // namespace
 
-NVRPage::NVRPage(const RecorderSet& recorders, QWidget* parent)
+NVRPage::NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent)
     : QWidget(parent)
     , m_recorders(recorders)
     , m_ui(std::make_unique<Ui::NVRPage>())
-    , m_model(new NVRListModel(recorders, this))
+    , m_watch(http, recorders)
+    , m_model(new NVRListModel(recorders, m_watch, this))
     , m_proxy(new ListProxy(this))
 {
     m_ui->setupUi(this);
@@ -55,17 +56,42 @@ NVRPage::NVRPage(const RecorderSet& recorders, QWidget* parent)
         showCounts();
     });
     connect(m_ui->Grid_SVRsList, &QTableView::clicked, this, &NVRPage::Grid_SVRsList_Click);
-    auto* remove = new QShortcut(QKeySequence::Delete, m_ui->Grid_SVRsList);
-    remove->setContext(Qt::WidgetShortcut);
-    connect(remove, &QShortcut::activated, this, [this] {
-        const QModelIndex row = m_ui->Grid_SVRsList->currentIndex();
-        if (row.isValid())
-            Grid_SVRsList_Click(row.siblingAtColumn(NVRListModel::Delete));
+    connect(m_ui->Grid_SVRsList, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) {
+        if (cell.column() != NVRListModel::Edit && cell.column() != NVRListModel::Delete)
+            Grid_SVRsList_Click(cell.siblingAtColumn(NVRListModel::Edit));
     });
+    addKey(Qt::Key_Return, NVRListModel::Edit);
+    addKey(Qt::Key_Enter, NVRListModel::Edit);
+    addKey(Qt::Key_Delete, NVRListModel::Delete);
+    // A changed state may bring a row into the filter or take it out.
+    connect(m_model, &NVRListModel::dataChanged, this, &NVRPage::showCounts);
     Grid_SVR_Draw();
 }
 
 NVRPage::~NVRPage() = default;
+
+void NVRPage::addKey(const QKeySequence& key, int column)
+{
+    auto* shortcut = new QShortcut(key, m_ui->Grid_SVRsList);
+    shortcut->setContext(Qt::WidgetShortcut);
+    connect(shortcut, &QShortcut::activated, this, [this, column] {
+        const QModelIndex row = m_ui->Grid_SVRsList->currentIndex();
+        if (row.isValid())
+            Grid_SVRsList_Click(row.siblingAtColumn(column));
+    });
+}
+
+void NVRPage::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    m_watch.start();
+}
+
+void NVRPage::hideEvent(QHideEvent* event)
+{
+    m_watch.stop();
+    QWidget::hideEvent(event);
+}
 
 void NVRPage::Grid_SVR_Draw()
 {
@@ -74,17 +100,29 @@ void NVRPage::Grid_SVR_Draw()
     MonospaceColumn(grid, NVRListModel::Address);
     grid->setSortingEnabled(true);
     grid->sortByColumn(NVRListModel::Number, Qt::AscendingOrder);
-    static constexpr std::array widths{72, 230, 210, 140, 160, 110, 44, 44};
+    StatusColumn(grid, NVRListModel::Connection);
+    QHeaderView* head = grid->horizontalHeader();
+    head->moveSection(head->visualIndex(NVRListModel::Connection), NVRListModel::Edit);
+    head->setStretchLastSection(false);
+    static constexpr std::array widths{76, 0, 176, 96, 88, 96, 48, 48, 164};
     for (int column = 0; column < NVRListModel::ColumnCount; ++column)
         grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    head->setSectionResizeMode(NVRListModel::Name, QHeaderView::Stretch);
 }
 
 void NVRPage::Grid_SVR_Set_withDB()
 {
+    // The same recorder stays current, or the one that has come to its place.
+    const QModelIndex before = m_ui->Grid_SVRsList->currentIndex();
+    const int row = qMax(before.row(), 0);
+    const QVariant slot = before.data(NVRListModel::kSlotRole);
     m_model->refill();
+    m_watch.refresh();
     showCounts();
-    if (m_proxy->rowCount() > 0 && !m_ui->Grid_SVRsList->currentIndex().isValid())
-        m_ui->Grid_SVRsList->setCurrentIndex(m_proxy->index(0, 0));
+    const QModelIndexList same =
+        m_proxy->match(m_proxy->index(0, 0), NVRListModel::kSlotRole, slot, 1, Qt::MatchExactly);
+    m_ui->Grid_SVRsList->setCurrentIndex(same.isEmpty() ? m_proxy->index(qMin(row, m_proxy->rowCount() - 1), 0)
+                                                        : same.front());
 }
 
 void NVRPage::showCounts()

@@ -17,7 +17,8 @@ class NVRPage : public QWidget
     Q_OBJECT
 
 public:
-    explicit NVRPage(const RecorderSet& recorders, QWidget* parent = nullptr);
+    // `http` carries the questions whether the recorders answer, while the page is on show.
+    NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent = nullptr);
     ~NVRPage() override;
 
     void Grid_SVR_Draw();       // prepares the list and its heads
@@ -27,7 +28,8 @@ public:
 public slots:
     // Opens the wizard, or says that the station is full.
     void lbAdd_Click();
-    // The edit icon opens the recorder, the delete icon asks and removes it; other columns do nothing.
+    // The edit icon opens the recorder, the delete icon asks and removes it; other columns do nothing. Enter and a
+    // double click anywhere else are as the edit icon, Delete as the delete icon.
     void Grid_SVRsList_Click(const QModelIndex& cell);
 
 signals:
@@ -35,11 +37,17 @@ signals:
     void editWanted(int slot); // from 0
     void removeWanted(int slot);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
 private:
+    void addKey(const QKeySequence& key, int column);
     void showCounts();
 
     const RecorderSet& m_recorders;
     std::unique_ptr<Ui::NVRPage> m_ui;
+    ConnectionWatch m_watch;
     NVRListModel* m_model;
     QSortFilterProxyModel* m_proxy;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/records/SVRRecord.h"
+
 #include <QString>
 
 // Positions are fractions of the picture, 0 to 1, four decimals.
@@ -31,3 +33,18 @@ struct EMapIconRow
     double dInfoY = 0;
     qint16 iInfo_Position = 0;
 };
+
+// The cameras of one recorder slot on the maps, per channel.
+struct EMapIconRecord
+{
+    PerChannel<QString> sParent; // name of the map that shows the camera, empty: on none
+    PerChannel<double> dMapX{};
+    PerChannel<double> dMapY{};
+    PerChannel<double> dInfoX{};
+    PerChannel<double> dInfoY{};
+    PerChannel<qint16> iInfo_Position{};
+    bool bChanged = false; // the table must be saved; not in the table
+};
+
+// One record a recorder slot.
+using EMapIconTable = std::array<EMapIconRecord, kMaxSVR>;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/records/SVRRecord.h"
+
 #include <QString>
 #include <array>
 
@@ -76,4 +78,43 @@ struct RegionRow
     qint32 RightBottomX = 0;
     qint32 RightBottomY = 0;
     qint16 Direction = 0; // lines only
+};
+
+// What a channel's events do; held in memory for the pages of a run, in no table.
+struct ChannelEventRecord
+{
+    QString sName; // of the camera
+    qint16 iAction = 4;
+    qint16 iDefault = -1; // -1: the defaults hold
+};
+
+// Detection settings of one recorder slot, per channel. Flags are 16-bit: 0 off, -1 on.
+struct IntelligentSettings
+{
+    IntelligentSettings()
+    {
+        for (std::size_t channel = 0; channel < kMaxChannel; ++channel)
+            reset(channel);
+    }
+    // The defaults of one channel (index from 0). Its modification flag stays.
+    void reset(std::size_t channel)
+    {
+        for (auto flag : {&IntelligentSettings::bMotionEnable, &IntelligentSettings::bThreatEnable,
+                          &IntelligentSettings::bObjectLossEnable, &IntelligentSettings::bTripwireEnable})
+            (this->*flag)[channel] = 0;
+        iMotionSensitivity[channel] = iThreatSensitivity[channel] = iObjectLossSensitivity[channel] = 50;
+        iTripwireSensitivity[channel] = 80;
+        bCameraEventEnable[channel] = -1;
+    }
+
+    PerChannel<qint16> bMotionEnable;
+    PerChannel<qint32> iMotionSensitivity;
+    PerChannel<qint16> bThreatEnable;
+    PerChannel<qint32> iThreatSensitivity;
+    PerChannel<qint16> bObjectLossEnable;
+    PerChannel<qint32> iObjectLossSensitivity;
+    PerChannel<qint16> bTripwireEnable;
+    PerChannel<qint32> iTripwireSensitivity;
+    PerChannel<qint16> bCameraEventEnable; // not in the tables
+    PerChannel<bool> bChanged{};           // must be saved
 };

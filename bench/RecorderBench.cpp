@@ -1,0 +1,206 @@
+// Sixteen recorders of fifteen channels, found in a search and added through the wizard: from the click to the last
+// "Add Success!", beside the same requests sent by plain libcurl one after the other in the same run.
+#include "look/Theme.h"
+#include "platform/AppPath.h"
+#include "recorders/ui/Form_NVRSetting.h"
+#include "simulators/SimulatorThread.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <cstdio>
+#include <curl/curl.h>
+#include <stdexcept>
+#include <string>
+
+using namespace Qt::StringLiterals;
+using simulators::Family;
+using simulators::Site;
+
+namespace {
+
+constexpr int kRuns = 7;
+constexpr int kChannels = 15;
+constexpr double kWanted = 1.5;
+const QString kNetwork = u"127.0.11."_s;
+
+double Median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void Expect(bool condition, const char* what)
+{
+    if (!condition)
+        throw std::runtime_error(what);
+}
+
+simulators::SiteDescription SixteenRecorders()
+{
+    simulators::SiteDescription site;
+    site.baseAddress = kNetwork + u'1';
+    site.port = 0;
+    for (int i = 0; i < kMaxSVR; ++i) {
+        simulators::DeviceDescription device;
+        device.family = std::array{Family::Svr, Family::Txr632, Family::OmluPro}[static_cast<std::size_t>(i % 3)];
+        device.name = u"Recorder %1"_s.arg(i + 1);
+        device.channels = kChannels;
+        device.cameras = kChannels;
+        site.devices.push_back(device);
+    }
+    return site;
+}
+
+// A request as a recorder has seen it.
+struct Sent
+{
+    std::string url;
+    std::string authorization;
+    std::string body;
+    std::string contentType;
+    bool post = false;
+};
+
+// What the recorders were asked since the last call, recorder by recorder, each in order.
+std::vector<Sent> TakeRequests(simulators::SimulatorThread& site)
+{
+    std::vector<Sent> all;
+    site.call([&](Site& running) {
+        for (int i = 0; i < running.count(); ++i) {
+            simulators::Device& device = running.device(i);
+            for (const simulators::LoggedRequest& request : device.log())
+                all.push_back({"http://" + device.hostAndPort().toStdString() + request.target.toStdString(),
+                               "Authorization: " + request.authorization.toStdString(), request.body.toStdString(),
+                               "Content-Type: " + request.contentType.toStdString(), request.method == "POST"});
+            device.clearLog();
+        }
+    });
+    return all;
+}
+
+std::size_t Append(char* data, std::size_t size, std::size_t count, void* user)
+{
+    static_cast<std::string*>(user)->append(data, size * count);
+    return size * count;
+}
+
+// Milliseconds of all requests over one handle, which keeps its connections.
+double PlainCurl(const std::vector<Sent>& requests)
+{
+    QElapsedTimer timer;
+    timer.start();
+    CURL* easy = curl_easy_init();
+    curl_easy_setopt(easy, CURLOPT_MAXCONNECTS, 32L);
+    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, &Append);
+    curl_easy_setopt(easy, CURLOPT_FAILONERROR, 1L);
+    for (const Sent& request : requests) {
+        std::string reply;
+        curl_slist* fields = curl_slist_append(nullptr, request.authorization.c_str());
+        if (request.post) {
+            fields = curl_slist_append(fields, request.contentType.c_str());
+            curl_easy_setopt(easy, CURLOPT_POSTFIELDS, request.body.c_str());
+        } else {
+            curl_easy_setopt(easy, CURLOPT_HTTPGET, 1L);
+        }
+        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, fields);
+        curl_easy_setopt(easy, CURLOPT_URL, request.url.c_str());
+        curl_easy_setopt(easy, CURLOPT_WRITEDATA, &reply);
+        const CURLcode code = curl_easy_perform(easy);
+        curl_slist_free_all(fields);
+        Expect(code == CURLE_OK && !reply.empty(), "a plain request failed");
+    }
+    curl_easy_cleanup(easy);
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+template <class Widget>
+Widget* Find(const Form_NVRSetting& wizard, const char* name)
+{
+    auto* widget = wizard.findChild<Widget*>(QString::fromLatin1(name));
+    Expect(widget, name);
+    return widget;
+}
+
+// Milliseconds from the click that starts the detection until the last recorder's row says so on the screen.
+double Wizard()
+{
+    Form_COM com;
+    auto recorders = std::make_unique<RecorderSet>();
+    const std::vector<NVRAccountRecord> accounts{{0, u"admin"_s, u"admin"_s}};
+    Form_NVRSetting wizard(
+        {com, *recorders, accounts}, [] {}, nullptr);
+    wizard.show();
+    Expect(QTest::qWaitForWindowExposed(&wizard), "the wizard does not come up");
+    QTest::keyClick(Find<QWidget>(wizard, "OptMode_0"), Qt::Key_Space);
+    QTest::mouseClick(Find<QPushButton>(wizard, "lbNext_0"), Qt::LeftButton);
+    Find<QLineEdit>(wizard, "txtSearchFilter")->setText(kNetwork);
+    auto* search = Find<QPushButton>(wizard, "lbSearch");
+    Expect(QTest::qWaitFor([search] { return search->isEnabled(); }, 10000), "the search does not end");
+    Find<QCheckBox>(wizard, "Chk_SelectAll")->click();
+
+    auto* grid = Find<QTableView>(wizard, "Grid_DetectStatus");
+    auto* status = qobject_cast<DetectStatusModel*>(grid->model());
+    auto* next = Find<QPushButton>(wizard, "lbNext_1");
+    QElapsedTimer timer;
+    timer.start();
+    QTest::mouseClick(next, Qt::LeftButton);
+    while (next->objectName() != "lbNext_2"_L1 || !next->isEnabled()) // the detection runs inside
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    grid->viewport()->repaint();
+    const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    Expect(status->rowCount() == kMaxSVR && status->finishedRows() == kMaxSVR, "not all recorders were found");
+    Expect(OccupiedSlots(recorders->SVRWorkList) == kMaxSVR &&
+               CameraTotal(recorders->SVRWorkList) == kMaxSVR * kChannels,
+           "not all recorders were added");
+    return time;
+}
+
+int Bench()
+{
+    simulators::SimulatorThread site(SixteenRecorders());
+    bool discovery = false;
+    site.call([&](Site& running) { discovery = running.discoveryRunning(); });
+    Expect(discovery, "the site cannot answer searches");
+    std::vector<double> times;
+    std::vector<double> floors;
+    std::size_t requests = 0;
+    for (int run = 0; run < kRuns; ++run) { // alternating, so that both see the same machine
+        times.push_back(Wizard());
+        const std::vector<Sent> sent = TakeRequests(site);
+        requests = sent.size();
+        floors.push_back(PlainCurl(sent));
+        Expect(TakeRequests(site).size() == requests, "the plain requests are not the same");
+    }
+    const double time = Median(times);
+    const double floor = Median(floors);
+    std::printf(
+        "add 16 recorders of 15 channels  %8.1f ms, its %zu requests by plain curl %8.1f ms, ratio %.2f (wanted "
+        "at most %.2f)\n",
+        time, requests, floor, time / floor, kWanted);
+    return time / floor <= kWanted ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("RIGGING_DESK_FINDER", "lo");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    ApplyTheme(application, InitialScheme());
+    QTemporaryDir folder;
+    SetAppPath(folder.path());
+    try {
+        return Bench();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "recorder_bench: %s\n", error.what());
+        return 1;
+    }
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include "app/Station.h"
+#include "recorders/NVRDetect.h"
+
+// What a detected recorder brings with it (slot from 0): a new one gets its map and the detection defaults, and both a
+// new and a re-read one their channels' event records. For DetectContext::filled.
+void RecorderDetected(Station& station, int slot, const SVRRecord& record, DetectMode mode);

@@ -1,0 +1,283 @@
+#include "app/AddedRecorder.h"
+#include "app/RemoveSVR.h"
+#include "app/StartUp.h"
+#include "emap/EMapStore.h"
+#include "simulators/SimulatorThread.h"
+#include "support/Conversions.h"
+#include "tests/store/StoreFixture.h"
+
+#include <QSqlRecord>
+
+using namespace Qt::StringLiterals;
+using simulators::Family;
+using simulators::Site;
+
+namespace {
+
+// The maps, detection settings and rows that hang on the recorders, on a station of its own.
+class RecorderRecords : public StoreFixture
+{
+protected:
+    void start()
+    {
+        desk = std::make_unique<Station>();
+        OpenDatabases(*desk);
+        LoadRecords(*desk);
+        desk->families.InitialSetValue();
+    }
+    // A recorder with cameras on its first channels, saved.
+    void addRecorder(int slot, const QString& name, int cameras)
+    {
+        SVRRecord& work = At(desk->recorders.SVRWorkList, slot);
+        work.iSVR_Num = static_cast<qint16>(slot + 1);
+        work.sSVR_Name = name;
+        work.sSVR_IP = u"127.0.0.%1"_s.arg(100 + slot);
+        work.iSVR_HttpPort = 9;
+        work.iSVR_Maxchannel = 64;
+        for (int channel = 0; channel < kMaxChannel; ++channel) {
+            ClearChannel(work, At(desk->recorders.SVRProWorkList, slot), channel);
+            if (channel >= cameras)
+                continue;
+            At(work.sSub_CH_Name, channel) = u"%1 camera %2"_s.arg(name).arg(channel + 1);
+            At(work.sSub_CH_IP, channel) = u"10.0.0.1"_s;
+        }
+        work.bSVR_Changed = true;
+        RecorderDetected(*desk, slot, work, DetectMode::Add);
+        FinishNewRecorders(*desk);
+    }
+    QString rows(const QString& select)
+    {
+        QSqlQuery query(desk->databases.DBConn->database());
+        QStringList all;
+        EXPECT_TRUE(query.exec(select)) << select.toStdString();
+        while (query.next()) {
+            QStringList cells;
+            for (int i = 0; i < query.record().count(); ++i)
+                cells << query.value(i).toString();
+            all << cells.join(u',');
+        }
+        return all.join(u' ');
+    }
+    void statement(const QString& sql)
+    {
+        QSqlQuery query(desk->databases.DBConn->database());
+        ASSERT_TRUE(query.exec(sql)) << sql.toStdString();
+    }
+    QString maps() { return rows(u"SELECT iMap_Type, iMap_ID, sName, sParent FROM EMapGroup"_s); }
+    QString audit()
+    {
+        QSqlQuery query(desk->databases.LogConn->database());
+        QStringList lines;
+        query.exec(u"SELECT Description FROM SystemLog ORDER BY rowid"_s);
+        while (query.next())
+            lines << query.value(0).toString().remove(u"Modify Setting of "_s);
+        return lines.join(u',');
+    }
+    QString editMaps() const
+    {
+        QStringList all;
+        for (const EMapGroupRow& map : desk->emap.edit)
+            all << u"%1%2:%3"_s.arg(u"RGST"_s.at(map.iMap_Type)).arg(map.iMap_ID).arg(map.sName);
+        return all.join(u' ');
+    }
+    void addMap(qint16 type, qint16 id, const QString& name, const QString& parent)
+    {
+        EMapGroupRow map;
+        map.iMap_Type = type;
+        map.iMap_ID = id;
+        map.sName = name;
+        map.sParent = parent;
+        map.bChanged = true;
+        desk->emap.edit.push_back(map);
+    }
+
+    std::unique_ptr<Station> desk;
+};
+
+} // namespace
+
+TEST_F(RecorderRecords, EveryMapComesBackAndTheRootIsAlwaysThere)
+{
+    start();
+    EXPECT_EQ(desk->emap.edit.size(), 1U);
+    EXPECT_EQ(desk->emap.edit[0].sMap_Path, u"\\MAP\\Main_Map.jpg"_s);
+    addMap(kMapSub, 2, u"Hall 'B'"_s, u"S4"_s);
+    addMap(kMapGroup, 1, u"Süd"_s, u"MainMap"_s);
+    desk->emap.edit[1].dMapX = 0.3333;
+    desk->emap.edit[1].dInfoY = 1;
+    desk->emap.edit[1].dSMapX = 0.25;
+    desk->emap.edit[1].iInfo_Position = 7;
+    SaveCheck(*desk);
+    EXPECT_EQ(audit(), u"Emap"_s);
+    start();
+    EXPECT_EQ(editMaps(), u"R0:MainMap G1:Süd T2:Hall 'B'"_s) << "ordered by level and number";
+    const EMapGroupRow& map = desk->emap.stored[2];
+    EXPECT_EQ(map.dMapX, 0.3333);
+    EXPECT_EQ(map.dInfoY, 1);
+    EXPECT_EQ(map.dSMapX, 0.25);
+    EXPECT_EQ(map.iInfo_Position, 7);
+    EXPECT_EQ(map.sParent, u"S4"_s);
+    EXPECT_FALSE(desk->families.ExitCheck());
+
+    for (const QString& remaining : {u"DELETE FROM EMapGroup WHERE iMap_Type=0"_s, u"DELETE FROM EMapGroup"_s}) {
+        statement(remaining);
+        EXPECT_TRUE(GetEMapGroup(desk->databases, desk->emap));
+        EXPECT_EQ(desk->emap.edit[0].sName, u"MainMap"_s);
+    }
+    EXPECT_EQ(desk->emap.stored.size(), 1U);
+    statement(u"DROP TABLE EMapGroup"_s);
+    addMap(kMapGroup, 1, u"kept"_s, {});
+    EXPECT_FALSE(GetEMapGroup(desk->databases, desk->emap));
+    EXPECT_FALSE(SaveEMapGroup(desk->databases, desk->emap));
+    EXPECT_EQ(editMaps(), u"R0:MainMap G1:kept"_s);
+}
+
+TEST_F(RecorderRecords, CompactionRenumbersGroupsAndSubMapsAndLeavesRecordersTheirs)
+{
+    start();
+    addMap(kMapGroup, 1, u"one"_s, {});
+    addMap(kMapSub, 5, u"sub"_s, u"S9"_s);
+    addMap(kMapGroup, 2, {}, {});
+    addMap(kMapRecorder, 9, u"recorder"_s, {});
+    addMap(kMapGroup, 3, u"three"_s, {});
+    ReDimEMapGroup(desk->emap);
+    EXPECT_EQ(editMaps(), u"R0:MainMap G1:one G2:three S9:recorder T4:sub"_s);
+    EXPECT_TRUE(desk->emap.edit[0].bChanged);
+}
+
+TEST_F(RecorderRecords, ARecordersMapComesFollowsItsNameAndGoes)
+{
+    start();
+    addMap(kMapGroup, 1, u"Group"_s, u"MainMap"_s);
+    addMap(kMapSub, 2, u"Cellar"_s, u"S2"_s);
+    addMap(kMapSub, 3, u"Attic"_s, u"S1"_s);
+    addRecorder(1, u"North"_s, 2);
+    addRecorder(0, u"South"_s, 1);
+    EXPECT_EQ(editMaps(), u"R0:MainMap G1:Group S2:North S1:South T2:Cellar T3:Attic"_s);
+    EXPECT_EQ(desk->emap.edit[2].sMap_Path, u"\\MAP\\map1.jpg"_s);
+    EXPECT_FALSE(AddRecorderMap(desk->emap, 1, u"again"_s));
+    EXPECT_EQ(rows(u"SELECT iSVR, iChannel, sParent FROM EMapIcon"_s), u"1,1, 2,1, 2,2,"_s);
+
+    desk->emap.iconsEdit[1].sParent[0] = u"North"_s;
+    desk->emap.iconsEdit[1].sParent[1] = u"Cellar"_s;
+    desk->emap.iconsEdit[1].dMapX[1] = 0.5;
+    desk->emap.iconsEdit[0].sParent[0] = u"North"_s; // another recorder's, whatever it names
+    RenameRecorderMap(desk->emap, 1, u"Far North"_s);
+    SaveCheck(*desk);
+    start();
+    EXPECT_EQ(maps(), u"0,0,MainMap, 1,1,Group,MainMap 2,2,Far North, 2,1,South, 3,2,Cellar,S2 3,3,Attic,S1"_s);
+    EXPECT_EQ(rows(u"SELECT iSVR, iChannel, sParent, dMapX FROM EMapIcon"_s),
+              u"1,1,North,0 2,1,Far North,0 2,2,Cellar,0.5"_s);
+    EXPECT_EQ(desk->emap.iconsEdit[1].dMapX[1], 0.5);
+
+    RemoveRecorderMaps(desk->emap, 1);
+    SaveCheck(*desk);
+    EXPECT_EQ(maps(), u"0,0,MainMap, 1,1,Group,MainMap 2,1,South, 3,3,Attic,S1"_s);
+    EXPECT_EQ(desk->emap.iconsStored[1].sParent[1], QString());
+    statement(u"INSERT INTO EMapIcon (iSVR, iChannel, sParent) VALUES (17, 1, 'x'), (1, 65, 'x'), (1, 64, 'y')"_s);
+    GetEMapIconEx(desk->databases, desk->emap);
+    EXPECT_EQ(logLines("Module_DB_Access - GetEMapIconEx"), 2);
+    EXPECT_EQ(desk->emap.iconsStored[0].sParent[63], u"y"_s);
+}
+
+TEST_F(RecorderRecords, DetectionRowsBelongToTheChannelOfTheirAnalysisId)
+{
+    start();
+    addRecorder(0, u"a"_s, 3);
+    addRecorder(3, u"b"_s, 2);
+    EXPECT_EQ(audit(), u"NVR,Emap,NVR,Emap"_s) << "new cameras have no analysis: no row, no line";
+    for (const auto& [slot, channel, id] : {std::tuple(0, 0, 0), {0, 1, 7}, {3, 1, 9}}) {
+        At(At(desk->recorders.SVRWorkList, slot).lSub_CH_IntelligentID, channel) = id;
+        At(desk->recorders.SVRWorkList, slot).bSVR_Changed = true;
+    }
+    IntelligentSettings& settings = desk->channelEvents.edit[3];
+    settings.bMotionEnable[1] = -1;
+    settings.iTripwireSensitivity[1] = 33;
+    settings.bChanged[1] = true;
+    SaveCheck(*desk);
+    EXPECT_EQ(audit(), u"NVR,Emap,NVR,Emap,NVR,Intelligent"_s);
+    statement(u"INSERT INTO MotionSettings VALUES (0, -1, 1), (8, -1, 1)"_s);
+    statement(u"UPDATE TripwireSettings SET Sensitivity='much' WHERE Channel=7"_s);
+    start();
+    EXPECT_EQ(rows(u"SELECT * FROM MotionSettings"_s), u"7,0,50 9,-1,50 0,-1,1 8,-1,1"_s);
+    const auto& edit = desk->channelEvents.edit;
+    EXPECT_EQ(edit[3].bMotionEnable[1], -1);
+    EXPECT_EQ(edit[3].iTripwireSensitivity[1], 33);
+    EXPECT_EQ(edit[0].iTripwireSensitivity[1], 80) << "an unreadable field keeps its default";
+    EXPECT_EQ(edit[0].bMotionEnable[0], 0) << "an id of 0 is none";
+    desk->channelEvents.edit[0].bThreatEnable[1] = -1;
+    desk->channelEvents.edit[0].bChanged[1] = true;
+    SaveCheck(*desk);
+    EXPECT_EQ(rows(u"SELECT * FROM MotionSettings"_s), u"7,0,50 9,-1,50"_s) << "rows without a channel are gone";
+    EXPECT_EQ(rows(u"SELECT * FROM MaliciousAttackSettings"_s), u"7,-1,50 9,0,50"_s);
+}
+
+TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
+{
+    simulators::SiteDescription description;
+    description.port = 0;
+    description.discovery = false;
+    description.devices.resize(1);
+    description.devices[0].family = Family::Txr632;
+    simulators::SimulatorThread site(description);
+
+    start();
+    addRecorder(0, u"goes"_s, 4);
+    addRecorder(5, u"stays"_s, 2);
+    SVRRecord& work = desk->recorders.SVRWorkList[0];
+    site.call([&](Site& running) {
+        work.sSVR_IP = running.device(0).address().toString();
+        work.iSVR_HttpPort = running.device(0).port();
+        running.device(0).channel(3).customEvents = 3;
+    });
+    work.sSVR_UserName = work.sSVR_Password = u"admin"_s;
+    work.sSVR_DeviceType = kFamilyTXR632;
+    work.bSVR_CEventSupport = true;
+    work.lSub_CH_IntelligentID[2] = 4;
+    work.bSVR_Changed = true;
+    desk->recorders.SVRWorkList[5].lSub_CH_IntelligentID[1] = 6;
+    desk->recorders.SVRWorkList[5].bSVR_Changed = true;
+    desk->channelEvents.edit[0].bMotionEnable[2] = -1;
+    desk->channelEvents.edit[0].bChanged[2] = true;
+    addMap(kMapSub, 3, u"Cellar"_s, u"S1"_s);
+    for (GroupPrivilegeRecord& group : desk->groups.edit)
+        group.CHPrivilege[0] = u"1:0,0"_s;
+    desk->groups.edit[0].bChanged = true;
+    SaveCheck(*desk);
+    ASSERT_EQ(rows(u"SELECT Channel FROM MotionSettings"_s), u"4 6"_s);
+    ASSERT_EQ(desk->channelEvents.events[0][2].sName, u"goes camera 3"_s);
+    QSqlQuery(desk->databases.LogConn->database()).exec(u"DELETE FROM SystemLog"_s);
+
+    Form_COM com;
+    com.SetProToDeviceBridge(desk->recorders.SVRList);
+    EXPECT_EQ(com.FindServiceSlot(0), 0);
+    RemoveSVR(*desk, com, 0);
+    EXPECT_EQ(com.FindServiceSlot(0), -1) << "nobody polls it any more";
+    site.call([](Site& running) {
+        EXPECT_EQ(running.device(0).channel(3).customEvents, 0);
+        EXPECT_EQ(running.device(0).requestCount("/event/basicevent.cgi?action=set&customevent_c1=0"), 1);
+    });
+    EXPECT_EQ(rows(u"SELECT DISTINCT iSVR_Num FROM SVR"_s), u"6"_s);
+    EXPECT_EQ(maps(), u"0,0,MainMap, 2,6,stays,"_s);
+    EXPECT_EQ(rows(u"SELECT iSVR, iChannel FROM EMapIcon"_s), u"6,1 6,2"_s);
+    for (const QString& table :
+         {u"MotionSettings"_s, u"MaliciousAttackSettings"_s, u"ObjectLossSettings"_s, u"TripwireSettings"_s})
+        EXPECT_EQ(rows(u"SELECT Channel FROM "_s + table), u"6"_s);
+    EXPECT_EQ(rows(u"SELECT COUNT(*) FROM NVRPrivilege WHERE NVRID=1 AND CHPrivilege LIKE '1:15,15,%,15'"_s), u"7"_s);
+    EXPECT_EQ(audit(), u"NVR,Intelligent,Emap"_s);
+    EXPECT_TRUE(desk->recorders.SVRList[0].sSVR_IP.isEmpty());
+    EXPECT_EQ(FirstFreeSlot(desk->recorders.SVRWorkList), 0);
+    EXPECT_EQ(work.iPower[63], 1);
+    EXPECT_EQ(desk->channelEvents.events[0][2].sName, QString());
+    EXPECT_EQ(desk->channelEvents.stored[0].bMotionEnable[2], 0);
+    EXPECT_FALSE(desk->families.ExitCheck());
+
+    // One that takes no custom events is not asked; one that is gone does not hold its removal up.
+    RemoveSVR(*desk, com, 5);
+    addRecorder(1, u"unreachable"_s, 1);
+    desk->recorders.SVRWorkList[1].bSVR_CEventSupport = true;
+    RemoveSVR(*desk, com, 1);
+    EXPECT_EQ(rows(u"SELECT * FROM SVR"_s), QString());
+    EXPECT_EQ(OccupiedSlots(desk->recorders.SVRList), 0);
+    EXPECT_EQ(logLines("Form_Initial - RemoveSVR"), 0) << allLogs().toStdString();
+}

@@ -1,0 +1,313 @@
+#include "app/language/Languages.h"
+#include "look/StatusRoles.h"
+#include "look/Theme.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "recorders/ui/Form_NVRSetting.h"
+#include "recorders/ui/NVRPage.h"
+#include "simulators/SimulatorThread.h"
+#include "support/Conversions.h"
+#include "tests/TestMain.h"
+#include "tests/walkthrough/Driver.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using simulators::DeviceDescription;
+using simulators::Family;
+using simulators::FaultKind;
+using simulators::Site;
+
+namespace {
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    ApplyTheme(*application, InitialScheme());
+    return application;
+}
+// Searches may meet devices of other sites on the same machine: the test's own are told by their network.
+const QString kNetwork = u"127.0.7."_s;
+
+const bool g_registered = (g_applicationFactory = MakeApplication, true);
+
+// Recorders in a thread, and the desk's windows over them.
+class RecorderWindows : public ::testing::Test
+{
+protected:
+    RecorderWindows()
+    {
+        SetLanguage(1);
+        SetMsgBoxHandler([this](const QString& text, qint32, const QString&) {
+            boxes << text;
+            return answers.isEmpty() ? MsgResult::No : answers.takeFirst();
+        });
+    }
+    ~RecorderWindows() override { SetMsgBoxHandler(nullptr); }
+
+    void startSite(const std::vector<Family>& families, bool discovery = false)
+    {
+        simulators::SiteDescription description;
+        description.port = 0;
+        description.baseAddress = kNetwork + u'1';
+        description.discovery = discovery;
+        for (const Family family : families) {
+            DeviceDescription device;
+            device.family = family;
+            device.name = u"Recorder %1"_s.arg(description.devices.size() + 1);
+            device.channels = 4;
+            device.cameras = 3;
+            description.devices.push_back(device);
+        }
+        site = std::make_unique<simulators::SimulatorThread>(description);
+    }
+    // The site's recorder in a slot of both generations.
+    void store(int slot, int device)
+    {
+        SVRRecord& record = At(recorders->SVRList, slot);
+        record.sSVR_Name = u"Name %1"_s.arg(slot);
+        site->call([&](Site& running) {
+            record.sSVR_IP = running.device(device).address().toString();
+            record.iSVR_HttpPort = running.device(device).port();
+        });
+        record.sSVR_UserName = record.sSVR_Password = u"admin"_s;
+        At(recorders->SVRWorkList, slot) = record;
+    }
+    void fault(int device, const simulators::Fault& wanted)
+    {
+        site->call([&](Site& running) { running.device(device).addFault(wanted); });
+    }
+    int requests(int device, const QByteArray& path)
+    {
+        int count = 0;
+        site->call([&](Site& running) { count = running.device(device).requestCount(path); });
+        return count;
+    }
+
+    std::unique_ptr<simulators::SimulatorThread> site;
+    std::unique_ptr<RecorderSet> recorders = std::make_unique<RecorderSet>();
+    std::vector<NVRAccountRecord> accounts{{0, u"admin"_s, u"admin"_s}};
+    Form_COM com;
+    TemporaryStation station;
+    QStringList boxes;
+    QList<MsgResult> answers;
+};
+
+// The text of a column by the recorder's slot, whatever the order of the rows.
+QString Cell(const QTableView& grid, int slot, int column)
+{
+    for (int row = 0; row < grid.model()->rowCount(); ++row) {
+        const QModelIndex cell = grid.model()->index(row, column);
+        if (cell.data(NVRListModel::kSlotRole).toInt() == slot)
+            return cell.data().toString();
+    }
+    return {};
+}
+
+} // namespace
+
+TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
+{
+    startSite({Family::Svr, Family::Txr632, Family::OmluPro, Family::Svr});
+    for (int slot = 0; slot < 4; ++slot)
+        store(slot, slot);
+    recorders->SVRList[1].sSVR_Password = u"wrong"_s;
+    recorders->SVRList[2].iSVR_HttpPort = 9;
+    fault(3, {FaultKind::Body, 0, "/getgid.cgi", 0, "ERR"});
+    NVRPage page(*recorders, com.http);
+    page.changeLanguage();
+    page.Grid_SVR_Set_withDB();
+    EXPECT_EQ(requests(0, "/getgid.cgi"), 0) << "a page that is not on show asks nobody";
+    page.resize(1000, 500);
+    page.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+    auto* grid = page.findChild<QTableView*>(u"Grid_SVRsList"_s);
+    EXPECT_EQ(Cell(*grid, 0, NVRListModel::Connection), GetLangString(957));
+    const int words[] = {896, 958, 961, 962};
+    for (int slot = 0; slot < 4; ++slot)
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return Cell(*grid, slot, NVRListModel::Connection) == GetLangString(words[slot]); }, 3000))
+            << slot << ' ' << qPrintable(Cell(*grid, slot, NVRListModel::Connection));
+    EXPECT_EQ(grid->horizontalHeader()->logicalIndex(6), NVRListModel::Connection) << "before the icons";
+
+    // The words can be looked for, and keys mean the recorder of their row in any order.
+    page.findChild<QLineEdit*>(u"txtFilter"_s)->setText(GetLangString(958).toUpper());
+    ASSERT_EQ(grid->model()->rowCount(), 1);
+    QSignalSpy edit(&page, &NVRPage::editWanted);
+    QSignalSpy remove(&page, &NVRPage::removeWanted);
+    grid->setFocus();
+    grid->setCurrentIndex(grid->model()->index(0, 0));
+    QTest::keyClick(grid, Qt::Key_Return);
+    ASSERT_EQ(edit.size(), 1);
+    EXPECT_EQ(edit.takeFirst().at(0).toInt(), 1);
+    page.findChild<QLineEdit*>(u"txtFilter"_s)->clear();
+    grid->sortByColumn(NVRListModel::Name, Qt::DescendingOrder);
+    const QRect name = grid->visualRect(grid->model()->index(0, NVRListModel::Name));
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, name.center());
+    EXPECT_TRUE(edit.isEmpty());
+    QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, name.center());
+    ASSERT_EQ(edit.size(), 1);
+    EXPECT_EQ(edit.takeFirst().at(0).toInt(), 3);
+    QTest::keyClick(grid, Qt::Key_Delete); // No
+    EXPECT_EQ(boxes, QStringList{GetLangString(483)});
+    EXPECT_TRUE(remove.isEmpty());
+    answers = {MsgResult::Yes};
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+                      grid->visualRect(grid->model()->index(0, NVRListModel::Delete)).center());
+    ASSERT_EQ(remove.size(), 1);
+    EXPECT_EQ(remove.takeFirst().at(0).toInt(), 3);
+
+    recorders->SVRList[3] = SVRRecord();
+    page.Grid_SVR_Set_withDB();
+    EXPECT_EQ(grid->currentIndex().data(NVRListModel::kSlotRole).toInt(), 2) << "the next one comes to its place";
+}
+
+TEST_F(RecorderWindows, TheWatchAsksOnlyWhileItRunsAndFollowsTheList)
+{
+    startSite({Family::Svr, Family::Svr});
+    store(4, 0);
+    ConnectionWatch watch(com.http, *recorders);
+    watch.setInterval(5);
+    watch.refresh();
+    watch.start();
+    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::Checking);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return requests(0, "/getgid.cgi") > 3; }, 3000));
+    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::Connected);
+    store(4, 1); // another recorder in the slot
+    EXPECT_TRUE(QTest::qWaitFor([&] { return requests(1, "/getgid.cgi") > 0; }, 3000)) << "without being told";
+    fault(1, {FaultKind::Silent});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watch.state(4).message == 959; }, 5000));
+    recorders->SVRList[4] = SVRRecord();
+    watch.refresh();
+    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::None);
+    EXPECT_EQ(com.http.open(), 0);
+    store(4, 0);
+    watch.refresh();
+    EXPECT_EQ(com.http.open(), 1);
+    watch.stop();
+    EXPECT_EQ(com.http.open(), 0);
+    QTest::qWait(20); // the one just broken off may still arrive
+    const int asked = requests(0, "/getgid.cgi");
+    QTest::qWait(40);
+    EXPECT_EQ(requests(0, "/getgid.cgi"), asked);
+
+    HttpReply reply;
+    for (const auto& [failure, message] :
+         {std::pair{HttpFailure::NotResolved, 960}, {HttpFailure::BrokenOff, 962}, {HttpFailure::TooLarge, 962}}) {
+        reply.failure = failure;
+        EXPECT_EQ(ConnectionOf(reply).message, message);
+    }
+}
+
+// The wizard, its steps done by a driver while it is open.
+class WizardWindow : public RecorderWindows
+{
+protected:
+    // What the wizard's rows say at its end.
+    QStringList run()
+    {
+        Form_NVRSetting wizard(
+            {com, *recorders, accounts}, [this] { ++finished; }, nullptr);
+        QStringList rows;
+        QObject::connect(&wizard, &QDialog::finished, &wizard, [&] {
+            auto* grid = wizard.findChild<QTableView*>(u"Grid_DetectStatus"_s);
+            for (int row = 0; row < grid->model()->rowCount(); ++row)
+                rows << grid->model()->index(row, DetectStatusModel::Status).data().toString();
+        });
+        driver.add(
+            u"closed"_s, [] { return !QApplication::activeModalWidget(); }, [] {});
+        QTimer::singleShot(0, &wizard, [&] { wizard.exec(); });
+        driver.run(15000);
+        return rows;
+    }
+    void step(const QString& name, const QString& widget, std::function<void()> act)
+    {
+        driver.add(
+            name, [widget] { return Driver::usable(widget); }, std::move(act));
+    }
+    void search()
+    {
+        step(u"choice"_s, u"OptMode_0"_s, [] {
+            QTest::keyClick(Driver::find(u"OptMode_0"_s), Qt::Key_Space);
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+        });
+    }
+    static QAbstractItemModel* list() { return Driver::find<QTableView>(u"Grid_SearchList"_s)->model(); }
+
+    Driver driver;
+    int finished = 0;
+};
+
+TEST_F(WizardWindow, FoundRecordersAreChosenDetectedAndSaved)
+{
+    startSite({Family::Svr, Family::Txr632, Family::OmluPro, Family::Svd, Family::Svr}, true);
+    store(2, 4);
+    fault(1, {FaultKind::CutOff, 30, "/getsvrcapability.cgi"});
+    search();
+    step(u"found"_s, u"lbSearch"_s, [] { // usable again: the search is over
+        Driver::type(u"txtSearchFilter"_s, kNetwork);
+        EXPECT_EQ(list()->rowCount(), 4) << "the decoder is left out";
+        Driver::click(u"lbNext_1"_s); // nothing is checked
+    });
+    step(u"told"_s, u"Chk_SelectAll"_s, [this] {
+        EXPECT_EQ(boxes, QStringList{GetLangString(832)});
+        QTest::keyClick(Driver::find(u"Chk_SelectAll"_s), Qt::Key_Space);
+        Driver::click(u"lbNext_1"_s);
+    });
+    step(u"detected"_s, u"lbNext_2"_s, [] { Driver::click(u"lbNext_2"_s); });
+    const QStringList rows = run();
+    EXPECT_EQ(rows.count(GetLangString(297)), 2);
+    EXPECT_EQ(rows.count(GetLangString(7)), 1) << "one has broken off, the others went on";
+    EXPECT_EQ(finished, 1);
+    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 3);
+    EXPECT_FALSE(recorders->SVRWorkList[1].sSVR_IP.isEmpty()) << "the free slots, in order";
+}
+
+TEST_F(WizardWindow, ASearchWithoutAnswerSaysSoAndCanBeGivenUp)
+{
+    search();
+    step(u"nothing"_s, u"lbSearch"_s, [] {
+        Driver::type(u"txtSearchFilter"_s, kNetwork);
+        EXPECT_EQ(list()->rowCount(), 0);
+        Driver::type(u"txtSearchFilter"_s, {});
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    EXPECT_TRUE(run().isEmpty());
+    EXPECT_EQ(finished, 0);
+}
+
+TEST_F(WizardWindow, EscapeStopsADetectionEvenInTheMiddleOfARequest)
+{
+    startSite({Family::Svr, Family::Svr, Family::Svr}, true);
+    fault(1, {FaultKind::Silent, 0, "/login.cgi"});
+    search();
+    step(u"found"_s, u"lbSearch"_s, [] {
+        Driver::type(u"txtSearchFilter"_s, kNetwork);
+        QTest::keyClick(Driver::find(u"Chk_SelectAll"_s), Qt::Key_Space);
+        Driver::click(u"lbNext_1"_s);
+    });
+    driver.add(
+        u"second one is asked"_s, [this] { return requests(1, "/login.cgi") > 0 && Waiting(); },
+        [] {
+            EXPECT_FALSE(Driver::find(u"lbNext_2"_s)->isEnabled());
+            QTest::keyClick(Driver::find(u"lbNext_2"_s), Qt::Key_Return);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        });
+    step(u"stopped"_s, u"lbNext_2"_s, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    QElapsedTimer time;
+    time.start();
+    QStringList rows = run();
+    EXPECT_LT(time.elapsed(), 10000) << "the silent recorder is not waited for";
+    EXPECT_EQ(rows.count(GetLangString(963)), 1);
+    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), static_cast<int>(rows.count(GetLangString(297))));
+    EXPECT_EQ(finished, 0);
+}
