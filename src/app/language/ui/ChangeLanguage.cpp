@@ -9,6 +9,8 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -103,6 +105,21 @@ void ApplyTag(QWidget* control)
         control->setToolTip(text);
 }
 
+// The toolkit's own words (choice of files, menus of fields) and its calendars follow the language too.
+void SettleToolkit(QWidget* window)
+{
+    static QTranslator words;
+    static int settled = 1; // the toolkit speaks English by itself
+    const QString code = LanguageCode(Language());
+    if (settled != Language()) {
+        settled = Language();
+        QCoreApplication::removeTranslator(&words);
+        if (words.load(u":/toolkit/qtbase_"_s + code + u".qm"_s))
+            QCoreApplication::installTranslator(&words);
+    }
+    window->setLocale(QLocale(code));
+}
+
 } // namespace
 
 void CutString(QWidget* control, const QString& text, bool rightToLeft)
@@ -115,6 +132,7 @@ void ApplyLanguage(QWidget* window)
     QApplication::setLayoutDirection(Language() == kRightToLeftLanguage ? Qt::RightToLeft : Qt::LeftToRight);
     // Every language but Japanese is written in one and the same family; Japanese keeps the desktop's own.
     SetBodyFamily(LanguageCharset() == kJapaneseCharset ? QString() : u"Verdana"_s);
+    SettleToolkit(window);
     ApplyTag(window);
     const QList<QWidget*> controls = window->findChildren<QWidget*>();
     for (QWidget* control : controls)
