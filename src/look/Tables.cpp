@@ -191,9 +191,9 @@ void StyleTree(QTreeView* tree)
     tree->header()->viewport()->setAutoFillBackground(false);
 }
 
-void MonospaceColumn(QTableView* table, int column)
+void MonospaceColumn(QAbstractItemView* view, int column)
 {
-    table->setItemDelegateForColumn(column, new MonospaceDelegate(table));
+    view->setItemDelegateForColumn(column, new MonospaceDelegate(view));
 }
 
 void StatusColumn(QTableView* table, int column)

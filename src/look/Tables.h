@@ -13,7 +13,7 @@ void StyleTable(QTableView* table);
 // The same for a tree or list: hover, row height, no frame decorations.
 void StyleTree(QTreeView* tree);
 // Sets a column in the figures face, for addresses, ports and times.
-void MonospaceColumn(QTableView* table, int column);
+void MonospaceColumn(QAbstractItemView* view, int column);
 // A dot before the words and, where the model gives a progress, a thin bar below them (see StatusRoles.h). Long words
 // wrap and the rows grow with them. Call it after the model is set.
 void StatusColumn(QTableView* table, int column);

@@ -1,5 +1,6 @@
 #include "app/Station.h"
 #include "app/language/Languages.h"
+#include "app/language/ui/ChangeLanguage.h"
 #include "app/ui/Form_Initial.h"
 #include "look/Theme.h"
 #include "platform/MsgBox.h"
@@ -9,7 +10,12 @@
 #include "tests/walkthrough/DeskWindows.h"
 
 #include <QApplication>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QRawFont>
 #include <QTest>
+#include <QTextLayout>
+#include <array>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -39,6 +45,30 @@ protected:
 };
 
 } // namespace
+
+// The same character has a form of its own in each language that writes it; a fall-back of chance would give one to
+// all.
+TEST_F(CaptionTest, ScriptsAreWrittenInTheirOwnFaces)
+{
+    static constexpr std::array cases{std::pair{2, u"Noto Sans CJK TC"}, std::pair{3, u"Noto Sans CJK SC"},
+                                      std::pair{4, u"Noto Sans CJK JP"}, std::pair{2, u"Noto Sans CJK TC"}};
+    if (QFontDatabase::hasFamily(u"Verdana"_s))
+        GTEST_SKIP() << "its fall-back is the toolkit's affair";
+    QWidget window;
+    for (const auto& [language, name] : cases) {
+        const QString family = QString::fromUtf16(name);
+        if (!QFontDatabase::hasFamily(family))
+            GTEST_SKIP() << "not installed: " << family.toStdString();
+        SetLanguage(language);
+        ApplyLanguage(&window);
+        QTextLayout layout(u"直"_s, QApplication::font());
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        ASSERT_EQ(layout.glyphRuns().size(), 1);
+        EXPECT_EQ(layout.glyphRuns().first().rawFont().familyName().toStdString(), family.toStdString());
+    }
+}
 
 // Every window at its default size, in one desk that goes from language to language: what does not fit is printed.
 TEST_F(CaptionTest, FitEveryWindowInEveryLanguage)

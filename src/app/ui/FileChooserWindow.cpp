@@ -1,5 +1,6 @@
 #include "app/ui/FileChooserWindow.h"
 
+#include "look/Tables.h"
 #include "platform/FileChooser.h"
 #include "platform/FolderChooser.h"
 
@@ -11,6 +12,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kTimeColumn = 3;
 
 QWidget* OwnerWindow()
 {
@@ -30,6 +33,7 @@ QString Ask(QFileDialog& dialog)
         list->header()->setStretchLastSection(false);
         list->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         list->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+        MonospaceColumn(list, kTimeColumn);
     }
     dialog.resize(820, 480);
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
