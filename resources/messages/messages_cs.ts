@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Max. obrazů</translation>
+        <translation>Maximalizovat obraz</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Zapnout/vypnout maximální počet zobrazených obrazů.</translation>
+        <translation>Zapnout/vypnout maximalizované zobrazení videa.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>Resetovat zmizení objektu</translation>
+        <translation>Zmizení objektu – konec</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>Resetovat detekci sabotáže</translation>
+        <translation>Detekce sabotáže – konec</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Resetovat odložený objekt </translation>
+        <translation>Odložený objekt – konec </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Přepnout na tmavé barvy</translation>
+        <translation>Přepnout na tmavý motiv</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Přepnout na světlé barvy</translation>
+        <translation>Přepnout na světlý motiv</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Kdokoli otevře tento program, je jeho správcem, protože zatím nemá žádného uživatele.</translation>
+        <translation>Kdokoli otevře tento program, je jeho správcem, protože zatím není založen žádný uživatel.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3417,7 +3417,7 @@
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Živý monitor všech kanálů</translation>
+        <translation>Živý náhled všech kanálů</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3429,11 +3429,11 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Živě řídí ostatní práva. Mezerník přepíná vybrané buňky; Shift+mezerník vybere řádek, Ctrl+mezerník sloupec.</translation>
+        <translation>„Živě“ podmiňuje ostatní oprávnění. Mezerník přepíná vybrané buňky; Shift+mezerník vybere řádek, Ctrl+mezerník sloupec.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Správci mají na všech kanálech všechna práva.</translation>
+        <translation>Správci mají ke všem kanálům všechna oprávnění.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
@@ -3465,11 +3465,11 @@
     </message>
     <message id="937">
         <source>Choose a period and search.</source>
-        <translation>Zvolte období a vyhledejte.</translation>
+        <translation>Zvolte období a spusťte hledání.</translation>
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Export se nezdařil. Nic existujícího se nezměnilo.</translation>
+        <translation>Export se nezdařil. Stávající soubory zůstaly beze změny.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>Obnovit</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Přihlášení</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>Důvod je v souborech protokolu.</translation>
+        <translation>Důvod je uveden v souborech protokolu.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>Najít rekordéry v síti.</translation>
+        <translation>Vyhledejte rekordéry v síti.</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 z %2 rekordérů včetně vybraných</translation>
+        <translation>Rekordéry včetně vybraných: %1 z %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>

@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Maks. video</translation>
+        <translation>Maksimer video</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>Nulstil fjernet objekt</translation>
+        <translation>Fjernet objekt: ophørt</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>Nulstil sabotagedetektering</translation>
+        <translation>Sabotagedetektering: ophørt</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Nulstil efterladt objekt </translation>
+        <translation>Efterladt objekt: ophørt </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Skift til mørke farver</translation>
+        <translation>Skift til mørkt tema</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Skift til lyse farver</translation>
+        <translation>Skift til lyst tema</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Enhver, der åbner programmet, er administrator, fordi der endnu ikke er nogen bruger.</translation>
+        <translation>Enhver, der åbner programmet, er administrator, fordi der endnu ikke er oprettet nogen bruger.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3397,15 +3397,15 @@
     </message>
     <message id="904">
         <source>Cameras in reach</source>
-        <translation>Kameraer inden for rækkevidde</translation>
+        <translation>Tilgængelige kameraer</translation>
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Hvem der når det</translation>
+        <translation>Hvem har adgang</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
-        <translation>Filtrer kanaler…</translation>
+        <translation>Filtrer kanaler …</translation>
     </message>
     <message id="907">
         <source>Whole recorder</source>
@@ -3417,7 +3417,7 @@
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Livemonitor for alle kanaler</translation>
+        <translation>Livevisning af alle kanaler</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3429,7 +3429,7 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Live styrer de andre rettigheder. Mellemrum skifter de valgte celler; Skift+Mellemrum vælger en række, Ctrl+Mellemrum en kolonne.</translation>
+        <translation>»Live« styrer de andre rettigheder. Mellemrum skifter de markerede celler; Skift+Mellemrum markerer en række, Ctrl+Mellemrum en kolonne.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3437,7 +3437,7 @@
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
-        <translation>Filtrér de fundne rækker…</translation>
+        <translation>Filtrer de fundne rækker …</translation>
     </message>
     <message id="931">
         <source>No row matches the filter.</source>
@@ -3453,7 +3453,7 @@
     </message>
     <message id="934">
         <source>Copy rows</source>
-        <translation>Kopiér rækker</translation>
+        <translation>Kopier rækker</translation>
     </message>
     <message id="935">
         <source>Open folder</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Eksporten mislykkedes. Intet eksisterende blev ændret.</translation>
+        <translation>Eksporten mislykkedes. Eksisterende filer er ikke ændret.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3490,6 +3490,10 @@
     <message id="943">
         <source>Refresh</source>
         <translation>Opdater</translation>
+    </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Login</translation>
     </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 af %2 optagere med de valgte</translation>
+        <translation>%1 af %2 optagere inkl. de valgte</translation>
     </message>
     <message id="956">
         <source>Connection</source>

@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>Objektentfernung zurücksetzen</translation>
+        <translation>Objektentfernung: Ende</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>Sabotageerkennung zurücksetzen</translation>
+        <translation>Sabotageerkennung: Ende</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2621,11 +2621,11 @@
     </message>
     <message id="700">
         <source>Foreign Object</source>
-        <translation>Fremdobjekt</translation>
+        <translation>Zurückgelassenes Objekt</translation>
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Fremdobjekt zurücksetzen </translation>
+        <translation>Zurückgelassenes Objekt: Ende </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Zu dunklen Farben wechseln</translation>
+        <translation>Zu dunklem Farbschema wechseln</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Zu hellen Farben wechseln</translation>
+        <translation>Zu hellem Farbschema wechseln</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Wer diesen Leitstand öffnet, ist sein Administrator, denn es gibt noch keinen Benutzer.</translation>
+        <translation>Wer dieses Programm öffnet, ist Administrator, denn es gibt noch keinen Benutzer.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3397,15 +3397,15 @@
     </message>
     <message id="904">
         <source>Cameras in reach</source>
-        <translation>Erreichbare Kameras</translation>
+        <translation>Zugängliche Kameras</translation>
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Wer sie erreicht</translation>
+        <translation>Zugriff haben</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
-        <translation>Kanäle filtern…</translation>
+        <translation>Kanäle filtern …</translation>
     </message>
     <message id="907">
         <source>Whole recorder</source>
@@ -3417,11 +3417,11 @@
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Live-Monitor aller Kanäle</translation>
+        <translation>Live-Anzeige aller Kanäle</translation>
     </message>
     <message id="910">
         <source>Grant</source>
-        <translation>Gewähren</translation>
+        <translation>Erteilen</translation>
     </message>
     <message id="911">
         <source>Withdraw</source>
@@ -3429,15 +3429,15 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Live bestimmt die übrigen Rechte. Leertaste schaltet die gewählten Zellen um; Umschalt+Leertaste wählt eine Zeile, Strg+Leertaste eine Spalte.</translation>
+        <translation>„Live“ bestimmt die übrigen Berechtigungen. Leertaste schaltet die ausgewählten Zellen um; Umschalt+Leertaste wählt eine Zeile aus, Strg+Leertaste eine Spalte.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Administratoren haben auf jedem Kanal jedes Recht.</translation>
+        <translation>Administratoren haben auf allen Kanälen alle Berechtigungen.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
-        <translation>Gefundene Zeilen filtern…</translation>
+        <translation>Gefundene Zeilen filtern …</translation>
     </message>
     <message id="931">
         <source>No row matches the filter.</source>
@@ -3465,11 +3465,11 @@
     </message>
     <message id="937">
         <source>Choose a period and search.</source>
-        <translation>Wählen Sie einen Zeitraum und suchen Sie.</translation>
+        <translation>Zeitraum wählen und suchen.</translation>
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Der Export ist fehlgeschlagen. Vorhandenes wurde nicht verändert.</translation>
+        <translation>Der Export ist fehlgeschlagen. Vorhandene Dateien wurden nicht verändert.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,9 +3491,13 @@
         <source>Refresh</source>
         <translation>Aktualisieren</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Anmeldung</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>Der Grund steht in den Protokolldateien.</translation>
+        <translation>Die Ursache steht in den Protokolldateien.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>

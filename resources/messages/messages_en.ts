@@ -3491,6 +3491,10 @@
         <source>Refresh</source>
         <translation>Refresh</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Log in</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
         <translation>The reason stands in the log files.</translation>

@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Vídeo máx.</translation>
+        <translation>Maximizar vídeo</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Activar o desactivar la visualización del máximo de vídeos.</translation>
+        <translation>Activar o desactivar la visualización maximizada del vídeo.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Cambiar a colores oscuros</translation>
+        <translation>Cambiar a modo oscuro</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Cambiar a colores claros</translation>
+        <translation>Cambiar a modo claro</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3277,7 +3277,7 @@
     </message>
     <message id="874">
         <source>%1 of %2 done</source>
-        <translation>%1 de %2 listos</translation>
+        <translation>%1 de %2 terminados</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3397,11 +3397,11 @@
     </message>
     <message id="904">
         <source>Cameras in reach</source>
-        <translation>Cámaras a su alcance</translation>
+        <translation>Cámaras accesibles</translation>
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Quién la alcanza</translation>
+        <translation>Quién tiene acceso</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3413,11 +3413,11 @@
     </message>
     <message id="908">
         <source>Live</source>
-        <translation>En vivo</translation>
+        <translation>En directo</translation>
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Monitor en vivo de todos los canales</translation>
+        <translation>Monitor en directo de todos los canales</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3425,15 +3425,15 @@
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>Retirar</translation>
+        <translation>Revocar</translation>
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>En vivo rige los demás derechos. Espacio cambia las celdas elegidas; Mayús+Espacio elige una fila, Ctrl+Espacio una columna.</translation>
+        <translation>«En directo» condiciona los demás permisos. Espacio cambia las celdas seleccionadas; Mayús+Espacio selecciona una fila, Ctrl+Espacio una columna.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Los administradores tienen todos los derechos en todos los canales.</translation>
+        <translation>Los administradores tienen todos los permisos en todos los canales.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
@@ -3449,7 +3449,7 @@
     </message>
     <message id="933">
         <source>The log could not be read</source>
-        <translation>No se pudo leer el registro</translation>
+        <translation>No se ha podido leer el registro</translation>
     </message>
     <message id="934">
         <source>Copy rows</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>La exportación falló. No se modificó nada de lo existente.</translation>
+        <translation>La exportación ha fallado. Los archivos existentes no se han modificado.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>Actualizar</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Iniciar sesión</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>El motivo está en los archivos de registro.</translation>
+        <translation>El motivo se indica en los archivos de registro.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>Buscar grabadores en la red.</translation>
+        <translation>Busque grabadores en la red.</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3505,7 +3509,7 @@
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Seleccionar todo</translation>
+        <translation>Seleccionar todos</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 de %2 grabadores con los seleccionados</translation>
+        <translation>%1 de %2 grabadores, incluida la selección</translation>
     </message>
     <message id="956">
         <source>Connection</source>

@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Vidéo max.</translation>
+        <translation>Agrandir la vidéo</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Activer ou désactiver l’affichage du maximum de vidéos.</translation>
+        <translation>Activer ou désactiver l’affichage agrandi de la vidéo.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>La disposition des écrans est enregistrée à la fermeture.</translation>
+        <translation>La disposition des écrans est enregistrée quand vous quittez la page.</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Passer aux couleurs sombres</translation>
+        <translation>Passer au thème sombre</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Passer aux couleurs claires</translation>
+        <translation>Passer au thème clair</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Toute personne qui ouvre ce programme en est l'administrateur, car il n'a pas encore d'utilisateur.</translation>
+        <translation>Toute personne qui ouvre ce programme en est l’administrateur, car aucun utilisateur n’existe encore.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3401,7 +3401,7 @@
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Qui y accède</translation>
+        <translation>Qui a accès</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3429,7 +3429,7 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Le direct commande les autres droits. Espace bascule les cellules choisies ; Maj+Espace choisit une ligne, Ctrl+Espace une colonne.</translation>
+        <translation>« Direct » conditionne les autres droits. Espace bascule les cellules sélectionnées ; Maj+Espace sélectionne une ligne, Ctrl+Espace une colonne.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3449,7 +3449,7 @@
     </message>
     <message id="933">
         <source>The log could not be read</source>
-        <translation>Le journal n'a pas pu être lu</translation>
+        <translation>Impossible de lire le journal</translation>
     </message>
     <message id="934">
         <source>Copy rows</source>
@@ -3461,7 +3461,7 @@
     </message>
     <message id="936">
         <source>Event export is not part of this version.</source>
-        <translation>L'exportation des événements ne fait pas partie de cette version.</translation>
+        <translation>L’exportation des événements ne fait pas partie de cette version.</translation>
     </message>
     <message id="937">
         <source>Choose a period and search.</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>L'exportation a échoué. Rien d'existant n'a été modifié.</translation>
+        <translation>L’exportation a échoué. Les fichiers existants n’ont pas été modifiés.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>Actualiser</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Connexion</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>La raison figure dans les fichiers journaux.</translation>
+        <translation>La raison est indiquée dans les fichiers journaux.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>Rechercher les enregistreurs sur le réseau.</translation>
+        <translation>Recherchez les enregistreurs sur le réseau.</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 sur %2 enregistreurs avec la sélection</translation>
+        <translation>%1 sur %2 enregistreurs, sélection comprise</translation>
     </message>
     <message id="956">
         <source>Connection</source>

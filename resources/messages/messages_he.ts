@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>איפוס הסרת אובייקט</translation>
+        <translation>סיום הסרת אובייקט</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>איפוס זיהוי חבלה</translation>
+        <translation>סיום זיהוי חבלה</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2621,11 +2621,11 @@
     </message>
     <message id="700">
         <source>Foreign Object</source>
-        <translation>אובייקט זר</translation>
+        <translation>אובייקט נטוש</translation>
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>איפוס אובייקט זר </translation>
+        <translation>סיום אובייקט נטוש </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3249,7 +3249,7 @@
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
-        <translation>אין מקליט התואם לסינון.</translation>
+        <translation>אין מקליט התואם למסנן.</translation>
     </message>
     <message id="868">
         <source>Unsaved changes</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>מעבר לצבעים כהים</translation>
+        <translation>מעבר לעיצוב כהה</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>מעבר לצבעים בהירים</translation>
+        <translation>מעבר לעיצוב בהיר</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>כל מי שפותח תוכנה זו הוא מנהל שלה, כי עדיין אין בה משתמשים.</translation>
+        <translation>כל מי שפותח תוכנה זו הוא מנהל המערכת, כי עדיין לא הוגדרו בה משתמשים.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3397,7 +3397,7 @@
     </message>
     <message id="904">
         <source>Cameras in reach</source>
-        <translation>מצלמות נגישות</translation>
+        <translation>מצלמות מורשות</translation>
     </message>
     <message id="905">
         <source>Who reaches it</source>
@@ -3413,11 +3413,11 @@
     </message>
     <message id="908">
         <source>Live</source>
-        <translation>שידור חי</translation>
+        <translation>צפייה חיה</translation>
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>ניטור חי של כל הערוצים</translation>
+        <translation>צפייה חיה בכל הערוצים</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3429,7 +3429,7 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>השידור החי קובע את שאר ההרשאות. רווח מחליף את התאים הנבחרים; Shift+רווח בוחר שורה, Ctrl+רווח בוחר עמודה.</translation>
+        <translation>״צפייה חיה״ קובעת את שאר ההרשאות. מקש הרווח מחליף את מצב התאים שנבחרו; Shift+רווח בוחר שורה, Ctrl+רווח בוחר עמודה.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3465,11 +3465,11 @@
     </message>
     <message id="937">
         <source>Choose a period and search.</source>
-        <translation>בחרו תקופה וחפשו.</translation>
+        <translation>יש לבחור תקופה ולחפש.</translation>
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>הייצוא נכשל. דבר מן הקיים לא השתנה.</translation>
+        <translation>הייצוא נכשל. הקבצים הקיימים לא השתנו.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3490,6 +3490,10 @@
     <message id="943">
         <source>Refresh</source>
         <translation>רענון</translation>
+    </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>כניסה</translation>
     </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 מתוך %2 מקליטים כולל הנבחרים</translation>
+        <translation>%1 מתוך %2 מקליטים, כולל הנבחרים</translation>
     </message>
     <message id="956">
         <source>Connection</source>

@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Video max</translation>
+        <translation>Video ingrandito</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Attiva o disattiva la visualizzazione del numero massimo di video.</translation>
+        <translation>Attiva o disattiva la visualizzazione ingrandita del video.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Passa ai colori scuri</translation>
+        <translation>Passa al tema scuro</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Passa ai colori chiari</translation>
+        <translation>Passa al tema chiaro</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Chiunque apra questo programma ne è l'amministratore, perché non c'è ancora alcun utente.</translation>
+        <translation>Chiunque apra questo programma ne è l’amministratore, perché non c’è ancora alcun utente.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3397,11 +3397,11 @@
     </message>
     <message id="904">
         <source>Cameras in reach</source>
-        <translation>Telecamere raggiungibili</translation>
+        <translation>Telecamere accessibili</translation>
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Chi la raggiunge</translation>
+        <translation>Chi ha accesso</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3413,11 +3413,11 @@
     </message>
     <message id="908">
         <source>Live</source>
-        <translation>Dal vivo</translation>
+        <translation>Live</translation>
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Monitor dal vivo di tutti i canali</translation>
+        <translation>Monitor live di tutti i canali</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3429,11 +3429,11 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Dal vivo regola gli altri diritti. Spazio cambia le celle scelte; Maiusc+Spazio sceglie una riga, Ctrl+Spazio una colonna.</translation>
+        <translation>«Live» condiziona gli altri privilegi. Spazio cambia le celle selezionate; Maiusc+Spazio seleziona una riga, Ctrl+Spazio una colonna.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Gli amministratori hanno tutti i diritti su tutti i canali.</translation>
+        <translation>Gli amministratori hanno tutti i privilegi su tutti i canali.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
@@ -3449,7 +3449,7 @@
     </message>
     <message id="933">
         <source>The log could not be read</source>
-        <translation>Impossibile leggere il registro</translation>
+        <translation>Impossibile leggere il log</translation>
     </message>
     <message id="934">
         <source>Copy rows</source>
@@ -3461,7 +3461,7 @@
     </message>
     <message id="936">
         <source>Event export is not part of this version.</source>
-        <translation>L'esportazione degli eventi non fa parte di questa versione.</translation>
+        <translation>L’esportazione degli eventi non fa parte di questa versione.</translation>
     </message>
     <message id="937">
         <source>Choose a period and search.</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Esportazione non riuscita. Nulla di esistente è stato modificato.</translation>
+        <translation>Esportazione non riuscita. I file esistenti non sono stati modificati.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>Aggiorna</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Accesso</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>Il motivo è nei file di registro.</translation>
+        <translation>Il motivo è indicato nei file di log.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>Cerca i registratori in rete.</translation>
+        <translation>Cercare i registratori in rete.</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3505,7 +3509,7 @@
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Seleziona tutto</translation>
+        <translation>Seleziona tutti</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 di %2 registratori con quelli selezionati</translation>
+        <translation>%1 di %2 registratori, selezione inclusa</translation>
     </message>
     <message id="956">
         <source>Connection</source>

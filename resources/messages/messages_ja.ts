@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>最大映像</translation>
+        <translation>映像最大化</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>最大映像表示を有効/無効にします。</translation>
+        <translation>映像の最大化表示を有効/無効にします。</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>持ち去りリセット</translation>
+        <translation>持ち去り解除</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>妨害検知リセット</translation>
+        <translation>妨害検知解除</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>終了して画面レイアウトを保存します。</translation>
+        <translation>ページを離れると画面レイアウトが保存されます。</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>置き去りリセット </translation>
+        <translation>置き去り解除 </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>ダークカラーに切り替え</translation>
+        <translation>ダークモードに切り替え</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>ライトカラーに切り替え</translation>
+        <translation>ライトモードに切り替え</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>まだユーザーがいないため、この画面を開いた人は誰でも管理者になります。</translation>
+        <translation>ユーザーがまだ登録されていないため、このプログラムを開いた人は誰でも管理者になります。</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3401,11 +3401,11 @@
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>閲覧できる人</translation>
+        <translation>閲覧できるユーザー</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
-        <translation>チャンネルを絞り込む…</translation>
+        <translation>チャンネルを絞り込み…</translation>
     </message>
     <message id="907">
         <source>Whole recorder</source>
@@ -3417,19 +3417,19 @@
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>全チャンネルのライブ監視</translation>
+        <translation>全チャンネルのライブモニター</translation>
     </message>
     <message id="910">
         <source>Grant</source>
-        <translation>許可する</translation>
+        <translation>付与</translation>
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>取り消す</translation>
+        <translation>取り消し</translation>
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>ライブが他の権限を左右します。スペースで選択セルを切り替え、Shift+スペースで行、Ctrl+スペースで列を選択します。</translation>
+        <translation>「ライブ」は他の権限の前提です。スペースキーで選択したセルを切り替え、Shift+スペースで行、Ctrl+スペースで列を選択します。</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3441,7 +3441,7 @@
     </message>
     <message id="931">
         <source>No row matches the filter.</source>
-        <translation>絞り込みに一致する行はありません。</translation>
+        <translation>条件に一致する行がありません。</translation>
     </message>
     <message id="932">
         <source>%1 rows found</source>
@@ -3491,9 +3491,13 @@
         <source>Refresh</source>
         <translation>更新</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>ログイン</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>理由はログファイルにあります。</translation>
+        <translation>原因はログファイルに記録されています。</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
@@ -3509,15 +3513,15 @@
     </message>
     <message id="953">
         <source>Filter found devices</source>
-        <translation>見つかった機器を絞り込む</translation>
+        <translation>見つかったデバイスを絞り込み</translation>
     </message>
     <message id="954">
         <source>No device has answered.</source>
-        <translation>応答した機器はありません。</translation>
+        <translation>応答したデバイスはありません。</translation>
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>選択分を含めレコーダー %2 台中 %1 台</translation>
+        <translation>選択分を含めてレコーダー %1 / %2 台</translation>
     </message>
     <message id="956">
         <source>Connection</source>

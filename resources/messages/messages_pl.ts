@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Maks. obrazów</translation>
+        <translation>Maksymalizuj obraz</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Włącz/wyłącz maksymalną liczbę wyświetlanych obrazów.</translation>
+        <translation>Włącz/wyłącz zmaksymalizowane wyświetlanie obrazu.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2241,7 +2241,7 @@
     </message>
     <message id="578">
         <source>NO.</source>
-        <translation>Lp.</translation>
+        <translation>Nr</translation>
     </message>
     <message id="579">
         <source>Camera name</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>Resetuj zniknięcie obiektu</translation>
+        <translation>Zniknięcie obiektu – koniec</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>Resetuj detekcję sabotażu</translation>
+        <translation>Detekcja sabotażu – koniec</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Resetuj pozostawiony obiekt </translation>
+        <translation>Pozostawiony obiekt – koniec </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Przełącz na ciemne kolory</translation>
+        <translation>Przełącz na ciemny motyw</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Przełącz na jasne kolory</translation>
+        <translation>Przełącz na jasny motyw</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,7 +3381,7 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Każdy, kto otworzy ten program, jest administratorem, ponieważ nie ma jeszcze użytkowników.</translation>
+        <translation>Każdy, kto otworzy ten program, jest administratorem, ponieważ nie utworzono jeszcze żadnego użytkownika.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
@@ -3429,11 +3429,11 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Podgląd na żywo decyduje o pozostałych prawach. Spacja przełącza wybrane komórki; Shift+Spacja wybiera wiersz, Ctrl+Spacja kolumnę.</translation>
+        <translation>„Na żywo” warunkuje pozostałe uprawnienia. Spacja przełącza zaznaczone komórki; Shift+Spacja zaznacza wiersz, Ctrl+Spacja kolumnę.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Administratorzy mają wszystkie prawa do wszystkich kanałów.</translation>
+        <translation>Administratorzy mają wszystkie uprawnienia do wszystkich kanałów.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
@@ -3465,11 +3465,11 @@
     </message>
     <message id="937">
         <source>Choose a period and search.</source>
-        <translation>Wybierz okres i wyszukaj.</translation>
+        <translation>Wybierz okres i rozpocznij wyszukiwanie.</translation>
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Eksport nie powiódł się. Nic istniejącego nie zmieniono.</translation>
+        <translation>Eksport nie powiódł się. Istniejące pliki nie zostały zmienione.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,9 +3491,13 @@
         <source>Refresh</source>
         <translation>Odśwież</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Logowanie</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>Przyczyna jest w plikach dziennika.</translation>
+        <translation>Przyczynę podano w plikach dziennika.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
@@ -3505,7 +3509,7 @@
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Zaznacz wszystko</translation>
+        <translation>Zaznacz wszystkie</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 z %2 rejestratorów razem z wybranymi</translation>
+        <translation>Rejestratory łącznie z wybranymi: %1 z %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>

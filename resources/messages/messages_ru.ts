@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Макс. видео</translation>
+        <translation>Развернуть видео</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Включить или отключить максимальное число показываемых видео.</translation>
+        <translation>Включить или отключить развёрнутый показ видео.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -3249,7 +3249,7 @@
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
-        <translation>Нет регистраторов, подходящих под фильтр.</translation>
+        <translation>Нет регистраторов, соответствующих фильтру.</translation>
     </message>
     <message id="868">
         <source>Unsaved changes</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Включить тёмные цвета</translation>
+        <translation>Включить тёмную тему</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Включить светлые цвета</translation>
+        <translation>Включить светлую тему</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3285,7 +3285,7 @@
     </message>
     <message id="876">
         <source>Edit</source>
-        <translation>Правка</translation>
+        <translation>Изменить</translation>
     </message>
     <message id="877">
         <source>Delete</source>
@@ -3401,7 +3401,7 @@
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Кому доступна</translation>
+        <translation>У кого доступ</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3417,23 +3417,23 @@
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Живой просмотр всех каналов</translation>
+        <translation>Онлайн-просмотр всех каналов</translation>
     </message>
     <message id="910">
         <source>Grant</source>
-        <translation>Разрешить</translation>
+        <translation>Предоставить</translation>
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>Запретить</translation>
+        <translation>Отозвать</translation>
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Просмотр определяет остальные права. Пробел переключает выбранные ячейки; Shift+Пробел выбирает строку, Ctrl+Пробел — столбец.</translation>
+        <translation>«Просмотр» определяет остальные права. Пробел переключает выделенные ячейки; Shift+Пробел выделяет строку, Ctrl+Пробел — столбец.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Администраторы имеют все права на всех каналах.</translation>
+        <translation>У администраторов есть все права на все каналы.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>Обновить</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Вход</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
         <translation>Причина указана в файлах журнала.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>Найти регистраторы в сети.</translation>
+        <translation>Найдите регистраторы в сети.</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 из %2 регистраторов с учётом выбранных</translation>
+        <translation>Регистраторы с учётом выбранных: %1 из %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>

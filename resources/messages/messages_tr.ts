@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>Maks. Video</translation>
+        <translation>Videoyu Büyüt</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>Gösterilecek en fazla video sayısını etkinleştirin/devre dışı bırakın.</translation>
+        <translation>Büyütülmüş video gösterimini etkinleştirin/devre dışı bırakın.</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>Nesne Kaybını Sıfırla</translation>
+        <translation>Nesne Kaybı Sonu</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>Sabotaj Algılamayı Sıfırla</translation>
+        <translation>Sabotaj Algılama Sonu</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Bırakılan Nesneyi Sıfırla </translation>
+        <translation>Bırakılan Nesne Sonu </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>Koyu renklere geç</translation>
+        <translation>Koyu temaya geç</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>Açık renklere geç</translation>
+        <translation>Açık temaya geç</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3381,15 +3381,15 @@
     </message>
     <message id="900">
         <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Henüz kullanıcı olmadığından bu programı açan herkes yöneticisidir.</translation>
+        <translation>Henüz kullanıcı olmadığından bu programı açan herkes yönetici olur.</translation>
     </message>
     <message id="901">
         <source>Make the first administrator</source>
-        <translation>İlk yöneticiyi oluştur</translation>
+        <translation>İlk Yöneticiyi Oluştur</translation>
     </message>
     <message id="902">
         <source>Not now</source>
-        <translation>Şimdi değil</translation>
+        <translation>Şimdi Değil</translation>
     </message>
     <message id="903">
         <source>No user yet</source>
@@ -3397,19 +3397,19 @@
     </message>
     <message id="904">
         <source>Cameras in reach</source>
-        <translation>Erişilen kameralar</translation>
+        <translation>Erişilebilir Kameralar</translation>
     </message>
     <message id="905">
         <source>Who reaches it</source>
-        <translation>Kimler erişiyor</translation>
+        <translation>Erişebilenler</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
-        <translation>Kanalları süz…</translation>
+        <translation>Kanalları filtrele…</translation>
     </message>
     <message id="907">
         <source>Whole recorder</source>
-        <translation>Tüm kayıt cihazı</translation>
+        <translation>Tüm Kayıt Cihazı</translation>
     </message>
     <message id="908">
         <source>Live</source>
@@ -3417,7 +3417,7 @@
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>Tüm kanalların canlı izlenmesi</translation>
+        <translation>Tüm Kanallarda Canlı İzleme</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3425,23 +3425,23 @@
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>Geri al</translation>
+        <translation>Geri Al</translation>
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Canlı diğer hakları belirler. Boşluk seçili hücreleri değiştirir; Shift+Boşluk satırı, Ctrl+Boşluk sütunu seçer.</translation>
+        <translation>“Canlı” diğer yetkileri belirler. Boşluk tuşu seçili hücreleri değiştirir; Shift+Boşluk satırı, Ctrl+Boşluk sütunu seçer.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
-        <translation>Yöneticiler tüm kanallarda tüm haklara sahiptir.</translation>
+        <translation>Yöneticiler tüm kanallarda tüm yetkilere sahiptir.</translation>
     </message>
     <message id="930">
         <source>Filter the rows found…</source>
-        <translation>Bulunan satırları süz…</translation>
+        <translation>Bulunan satırları filtrele…</translation>
     </message>
     <message id="931">
         <source>No row matches the filter.</source>
-        <translation>Süzgece uyan satır yok.</translation>
+        <translation>Filtreye uyan satır yok.</translation>
     </message>
     <message id="932">
         <source>%1 rows found</source>
@@ -3453,11 +3453,11 @@
     </message>
     <message id="934">
         <source>Copy rows</source>
-        <translation>Satırları kopyala</translation>
+        <translation>Satırları Kopyala</translation>
     </message>
     <message id="935">
         <source>Open folder</source>
-        <translation>Klasörü aç</translation>
+        <translation>Klasörü Aç</translation>
     </message>
     <message id="936">
         <source>Event export is not part of this version.</source>
@@ -3469,31 +3469,35 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Dışa aktarma başarısız. Var olan hiçbir şey değişmedi.</translation>
+        <translation>Dışa aktarma başarısız oldu. Mevcut dosyalar değiştirilmedi.</translation>
     </message>
     <message id="939">
         <source>First page</source>
-        <translation>İlk sayfa</translation>
+        <translation>İlk Sayfa</translation>
     </message>
     <message id="940">
         <source>Previous page</source>
-        <translation>Önceki sayfa</translation>
+        <translation>Önceki Sayfa</translation>
     </message>
     <message id="941">
         <source>Next page</source>
-        <translation>Sonraki sayfa</translation>
+        <translation>Sonraki Sayfa</translation>
     </message>
     <message id="942">
         <source>Last page</source>
-        <translation>Son sayfa</translation>
+        <translation>Son Sayfa</translation>
     </message>
     <message id="943">
         <source>Refresh</source>
         <translation>Yenile</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>Oturum Açma</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>Nedeni günlük dosyalarında.</translation>
+        <translation>Nedeni günlük dosyalarında yazılı.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
@@ -3505,7 +3509,7 @@
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Tümünü seç</translation>
+        <translation>Tümünü Seç</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>

@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>最大视频</translation>
+        <translation>视频最大化</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>启用/停用最大视频显示。</translation>
+        <translation>启用/停用视频最大化显示。</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>重置物品丢失</translation>
+        <translation>物品丢失解除</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>重置恶意破坏侦测</translation>
+        <translation>恶意破坏侦测解除</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>离开并保存屏幕布局。</translation>
+        <translation>离开页面时保存屏幕布局。</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>重置遗留物 </translation>
+        <translation>遗留物解除 </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>切换为深色</translation>
+        <translation>切换为深色模式</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>切换为浅色</translation>
+        <translation>切换为浅色模式</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3413,11 +3413,11 @@
     </message>
     <message id="908">
         <source>Live</source>
-        <translation>实时画面</translation>
+        <translation>实时视频</translation>
     </message>
     <message id="909">
         <source>Live Monitor of all channels</source>
-        <translation>所有通道的实时监看</translation>
+        <translation>所有通道的实时监控</translation>
     </message>
     <message id="910">
         <source>Grant</source>
@@ -3429,7 +3429,7 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>实时画面决定其他权限。空格键切换所选单元格；Shift+空格选择行，Ctrl+空格选择列。</translation>
+        <translation>“实时视频”决定其他权限。按空格键切换所选单元格；按 Shift+空格键选择整行，按 Ctrl+空格键选择整列。</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>导出失败。原有数据未被更改。</translation>
+        <translation>导出失败。现有文件未被更改。</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>刷新</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>登录</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
         <translation>原因请见日志文件。</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>在网络中查找录像机。</translation>
+        <translation>在网络上搜索录像机。</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>含所选共 %1 / %2 台录像机</translation>
+        <translation>含所选项共 %1 / %2 台录像机</translation>
     </message>
     <message id="956">
         <source>Connection</source>

@@ -2105,7 +2105,7 @@
     </message>
     <message id="528">
         <source>MAX Video</source>
-        <translation>最大影像</translation>
+        <translation>影像最大化</translation>
     </message>
     <message id="529">
         <source>Enable/Disable auto switch group to display videos.</source>
@@ -2113,7 +2113,7 @@
     </message>
     <message id="530">
         <source>Enable/Disable maximum video to display.</source>
-        <translation>啟用/停用最大影像顯示。</translation>
+        <translation>啟用/停用影像最大化顯示。</translation>
     </message>
     <message id="531">
         <source>Live Video</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>重設物品遺失</translation>
+        <translation>物品遺失解除</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>重設惡意破壞偵測</translation>
+        <translation>惡意破壞偵測解除</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>離開並儲存螢幕配置。</translation>
+        <translation>離開頁面時儲存螢幕配置。</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>重設遺留物 </translation>
+        <translation>遺留物解除 </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -3261,11 +3261,11 @@
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
-        <translation>切換為深色</translation>
+        <translation>切換為深色模式</translation>
     </message>
     <message id="871">
         <source>Switch to light colours</source>
-        <translation>切換為淺色</translation>
+        <translation>切換為淺色模式</translation>
     </message>
     <message id="872">
         <source>Waiting</source>
@@ -3409,7 +3409,7 @@
     </message>
     <message id="907">
         <source>Whole recorder</source>
-        <translation>整部錄影機</translation>
+        <translation>整台錄影主機</translation>
     </message>
     <message id="908">
         <source>Live</source>
@@ -3429,7 +3429,7 @@
     </message>
     <message id="912">
         <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>即時影像決定其他權限。空白鍵切換所選儲存格；Shift+空白鍵選取列，Ctrl+空白鍵選取欄。</translation>
+        <translation>「即時影像」決定其他權限。按空白鍵切換所選儲存格；按 Shift+空白鍵選取整列，按 Ctrl+空白鍵選取整欄。</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3449,7 +3449,7 @@
     </message>
     <message id="933">
         <source>The log could not be read</source>
-        <translation>無法讀取記錄</translation>
+        <translation>無法讀取日誌</translation>
     </message>
     <message id="934">
         <source>Copy rows</source>
@@ -3469,7 +3469,7 @@
     </message>
     <message id="938">
         <source>The export failed. Nothing that existed was changed.</source>
-        <translation>匯出失敗。原有資料未被變更。</translation>
+        <translation>匯出失敗。現有檔案未被變更。</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3491,13 +3491,17 @@
         <source>Refresh</source>
         <translation>重新整理</translation>
     </message>
+    <message id="945">
+        <source>Log in</source>
+        <translation>登入</translation>
+    </message>
     <message id="946">
         <source>The reason stands in the log files.</source>
-        <translation>原因請見記錄檔。</translation>
+        <translation>原因請參閱日誌檔。</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
-        <translation>在網路中尋找錄影機。</translation>
+        <translation>在網路上搜尋錄影主機。</translation>
     </message>
     <message id="951">
         <source>Stop</source>
@@ -3517,7 +3521,7 @@
     </message>
     <message id="955">
         <source>%1 of %2 recorders with those selected</source>
-        <translation>含所選共 %1 / %2 台錄影機</translation>
+        <translation>含所選項目共 %1 / %2 台錄影主機</translation>
     </message>
     <message id="956">
         <source>Connection</source>

@@ -290,9 +290,13 @@ void PaintComboLabel(const QStyleOptionComboBox& option, QPainter* painter, cons
         text = QStyle::visualRect(option.direction, field, field.adjusted(size.width() + 8, 0, 0, 0));
     }
     painter->setPen(Token(IsEnabled(option) ? "text"_L1 : "disabled"_L1));
+    // A painter takes the desk's direction by itself, not the control's.
+    const Qt::LayoutDirection before = painter->layoutDirection();
+    painter->setLayoutDirection(option.direction);
     painter->drawText(text,
                       static_cast<int>(QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignVCenter)),
                       painter->fontMetrics().elidedText(option.currentText, Qt::ElideRight, text.width()));
+    painter->setLayoutDirection(before);
 }
 
 QIcon AccentIcon(const QIcon& icon)

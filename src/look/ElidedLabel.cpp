@@ -18,6 +18,12 @@ ElidedLabel::ElidedLabel(const QString& text, QWidget* parent)
     setText(text);
 }
 
+void ElidedLabel::setLeftToRight(bool on)
+{
+    m_leftToRight = on;
+    update();
+}
+
 QSize ElidedLabel::minimumSizeHint() const
 {
     const int width = std::min(sizeHint().width(), fontMetrics().averageCharWidth() * 4);
@@ -42,7 +48,9 @@ void ElidedLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     const QRect rect = contentsRect();
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, rect.width());
+    QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, rect.width());
+    if (m_leftToRight && layoutDirection() == Qt::RightToLeft)
+        shown = QString(QChar(0x202a) + shown + QChar(0x202c));
     style()->drawItemText(&painter, rect, static_cast<int>(QStyle::visualAlignment(layoutDirection(), alignment())),
                           palette(), isEnabled(), shown, foregroundRole());
 }

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QStyle>
 #include <QToolButton>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -58,6 +59,24 @@ SearchField::SearchField(QWidget* parent)
     addAction(Icon("search"_L1, "muted"_L1), QLineEdit::LeadingPosition);
     setClearButtonEnabled(true);
     setProperty("leadingIcon", true);
+}
+
+void SearchField::setPlaceholderText(const QString& text)
+{
+    QLineEdit::setPlaceholderText(text);
+    updateGeometry();
+}
+
+QSize SearchField::sizeHint() const
+{
+    const QSize base = QLineEdit::sizeHint();
+    return {std::max(base.width(), minimumSizeHint().width()), base.height()};
+}
+
+QSize SearchField::minimumSizeHint() const
+{
+    constexpr int kBeside = 64; // the magnifying glass and the margins
+    return {fontMetrics().horizontalAdvance(placeholderText()) + kBeside, QLineEdit::minimumSizeHint().height()};
 }
 
 void SearchField::keyPressEvent(QKeyEvent* event)

@@ -5,12 +5,17 @@
 class QDateTimeEdit;
 
 // A line edit that filters something: search icon in front, clear button behind, Esc clears. Return emits returnPressed
-// and no more.
+// and no more. It is never narrower than its placeholder.
 class SearchField : public QLineEdit
 {
     Q_OBJECT
 public:
     explicit SearchField(QWidget* parent = nullptr);
+
+    void setPlaceholderText(const QString& text);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -51,6 +51,7 @@ PageHeader::PageHeader(QWidget* parent)
     pills->addWidget(m_user);
     pills->addWidget(m_clock);
     pills->addWidget(m_toggle);
+    m_user->hide(); // until there is one
     layout->addLayout(pills);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QStyle>
+#include <QTableView>
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +12,13 @@ namespace {
 constexpr int kPadding = 12;
 constexpr int kDot = 9;
 constexpr int kBar = 4;
+constexpr int kBeside = 2 * kPadding + kDot + 8; // what a cell needs beside its words
+
+// The words of a cell, in as many lines as its width asks for.
+int WordsHeight(const QStyleOptionViewItem& item, int width)
+{
+    return item.fontMetrics.boundingRect(QRect(0, 0, std::max(1, width), 10000), Qt::TextWordWrap, item.text).height();
+}
 } // namespace
 
 QColor StatusColour(Status status)
@@ -67,9 +75,11 @@ void StatusDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
     }
     painter->setFont(item.font);
     painter->setPen(Token(!enabled ? "disabled"_L1 : status == Status::None && percent < 0 ? "muted"_L1 : "text"_L1));
-    painter->drawText(place(line),
-                      static_cast<int>(QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter)),
-                      item.fontMetrics.elidedText(item.text, Qt::ElideRight, line.width()));
+    const auto alignment = static_cast<int>(QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter));
+    if (percent < 0 && WordsHeight(item, line.width()) <= line.height())
+        painter->drawText(place(line), alignment | Qt::TextWordWrap, item.text);
+    else
+        painter->drawText(place(line), alignment, item.fontMetrics.elidedText(item.text, Qt::ElideRight, line.width()));
     if (item.state.testFlag(QStyle::State_HasFocus)) {
         QStyleOptionFocusRect focus;
         focus.QStyleOption::operator=(item);
@@ -83,6 +93,12 @@ QSize StatusDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelI
     QStyleOptionViewItem item(option);
     initStyleOption(&item, index);
     const bool bar = index.data(kProgressRole).isValid();
-    return {item.fontMetrics.horizontalAdvance(item.text) + 2 * kPadding + kDot + 8,
-            std::max(TableRowHeight(), bar ? item.fontMetrics.height() + kBar + 14 : 0)};
+    const int width = item.fontMetrics.horizontalAdvance(item.text) + kBeside;
+    if (bar)
+        return {width, std::max(TableRowHeight(), item.fontMetrics.height() + kBar + 14)};
+    const auto* table = qobject_cast<const QTableView*>(item.widget);
+    const int given = table ? table->columnWidth(index.column()) : 0;
+    if (given <= 0 || given >= width)
+        return {width, TableRowHeight()};
+    return {given, std::max(TableRowHeight(), WordsHeight(item, given - kBeside) + 12)};
 }

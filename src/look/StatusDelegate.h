@@ -8,7 +8,8 @@
 // The colour of a state's dot in the live scheme; invalid for Status::None.
 QColor StatusColour(Status status);
 
-// Paints a state inside a table cell: dot, words and an optional thin bar, from kStatusRole and kProgressRole.
+// Paints a state inside a table cell: dot, words and an optional thin bar, from kStatusRole and kProgressRole. Words
+// that are too long for the cell take further lines where the row is high enough.
 class StatusDelegate : public QStyledItemDelegate
 {
     Q_OBJECT

@@ -15,7 +15,9 @@ constexpr int kGap = 8;
 StatusLabel::StatusLabel(QWidget* parent)
     : QWidget(parent)
 {
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
 }
 
 void StatusLabel::setStatus(Status status, const QString& words)
@@ -39,6 +41,13 @@ QSize StatusLabel::minimumSizeHint() const
     return {std::min(sizeHint().width(), 80), sizeHint().height()};
 }
 
+int StatusLabel::heightForWidth(int width) const
+{
+    const int dot = m_status == Status::None ? 0 : kDot + kGap;
+    const QRect room(0, 0, std::max(1, width - dot), 10000);
+    return std::max(20, fontMetrics().boundingRect(room, Qt::TextWordWrap, m_words).height());
+}
+
 void StatusLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -50,7 +59,11 @@ void StatusLabel::paintEvent(QPaintEvent*)
         text.setLeft(kDot + kGap);
     }
     painter.setPen(Token(!isEnabled() ? "disabled"_L1 : m_status == Status::None ? "muted"_L1 : "text"_L1));
-    painter.drawText(place(text),
-                     static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter)),
-                     fontMetrics().elidedText(m_words, Qt::ElideRight, text.width()));
+    const auto alignment =
+        static_cast<int>(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter));
+    const QRect words = fontMetrics().boundingRect(QRect(0, 0, text.width(), 10000), Qt::TextWordWrap, m_words);
+    if (words.width() <= text.width() && words.height() <= height())
+        painter.drawText(place(text), alignment | Qt::TextWordWrap, m_words);
+    else
+        painter.drawText(place(text), alignment, fontMetrics().elidedText(m_words, Qt::ElideRight, text.width()));
 }

@@ -4,7 +4,8 @@
 
 #include <QWidget>
 
-// A state outside of tables: dot and words, cut with an ellipsis where the room ends.
+// A state outside of tables: dot and words, in as many lines as they need; a word that is too long is cut with an
+// ellipsis.
 class StatusLabel : public QWidget
 {
     Q_OBJECT
@@ -17,6 +18,7 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

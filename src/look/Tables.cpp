@@ -5,9 +5,12 @@
 
 #include <QHeaderView>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QTimer>
 #include <QTreeView>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -59,6 +62,76 @@ private:
     int m_row = -1;
 };
 
+// Keeps every head whole: whenever the heads change or the table comes on show, sections that are narrower than their
+// text grow, and where the last one would be cut the others give what they can spare.
+class HeadRoom : public QObject
+{
+public:
+    explicit HeadRoom(QTableView* table)
+        : QObject(table)
+        , m_table(table)
+    {
+        table->horizontalHeader()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show) {
+            follow(m_table->model());
+            fit();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void follow(QAbstractItemModel* model)
+    {
+        if (model == m_model)
+            return;
+        if (m_model)
+            m_model->disconnect(this);
+        m_model = model;
+        if (model) {
+            connect(model, &QAbstractItemModel::headerDataChanged, this, &HeadRoom::fit, Qt::QueuedConnection);
+            connect(model, &QAbstractItemModel::modelReset, this, &HeadRoom::fit, Qt::QueuedConnection);
+        }
+    }
+
+    void fit()
+    {
+        QHeaderView* heads = m_table->horizontalHeader();
+        QList<int> shown;
+        for (int visual = 0; visual < heads->count(); ++visual) {
+            if (const int section = heads->logicalIndex(visual); !heads->isSectionHidden(section))
+                shown << section;
+        }
+        if (shown.isEmpty())
+            return;
+        const auto needed = [heads](int section) {
+            return std::max(heads->sectionSizeHint(section), heads->minimumSectionSize());
+        };
+        const int last = heads->stretchLastSection() ? shown.takeLast() : -1;
+        int excess = (last < 0 ? 0 : needed(last)) - m_table->viewport()->width();
+        int spare = 0;
+        for (const int section : shown) {
+            if (heads->sectionSize(section) < needed(section))
+                heads->resizeSection(section, needed(section));
+            excess += heads->sectionSize(section);
+            spare += heads->sectionSize(section) - needed(section);
+        }
+        if (excess <= 0 || spare <= 0)
+            return;
+        excess = std::min(excess, spare);
+        for (const int section : shown) {
+            const int own = heads->sectionSize(section) - needed(section);
+            heads->resizeSection(section, heads->sectionSize(section) - (own * excess + spare - 1) / spare);
+        }
+    }
+
+    QTableView* m_table;
+    QPointer<QAbstractItemModel> m_model;
+};
+
 class MonospaceDelegate : public QStyledItemDelegate
 {
 public:
@@ -103,6 +176,7 @@ void StyleTable(QTableView* table)
     head->setFont(DeskFont(0.92, true));
     head->viewport()->setAutoFillBackground(false);
     new RowHover(table);
+    new HeadRoom(table);
 }
 
 void StyleTree(QTreeView* tree)
@@ -117,12 +191,22 @@ void StyleTree(QTreeView* tree)
     tree->header()->viewport()->setAutoFillBackground(false);
 }
 
-void MonospaceColumn(QTableView* table, int column)
+void MonospaceColumn(QAbstractItemView* view, int column)
 {
-    table->setItemDelegateForColumn(column, new MonospaceDelegate(table));
+    view->setItemDelegateForColumn(column, new MonospaceDelegate(view));
 }
 
 void StatusColumn(QTableView* table, int column)
 {
     table->setItemDelegateForColumn(column, new StatusDelegate(table));
+    // Long words wrap, so that rows follow the words and the width of the column.
+    auto* heights = new QTimer(table);
+    heights->setSingleShot(true);
+    QObject::connect(heights, &QTimer::timeout, table, &QTableView::resizeRowsToContents);
+    const auto later = [heights] { heights->start(0); };
+    QObject::connect(table->horizontalHeader(), &QHeaderView::sectionResized, heights, later);
+    if (const QAbstractItemModel* model = table->model()) {
+        QObject::connect(model, &QAbstractItemModel::dataChanged, heights, later);
+        QObject::connect(model, &QAbstractItemModel::modelReset, heights, later);
+    }
 }

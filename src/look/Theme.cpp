@@ -74,7 +74,7 @@ struct ThemeState
     Scheme scheme = Scheme::Light;
     bool applied = false;
     QFont body;
-    QString leadingFamily;
+    QStringList leadingFamilies;
     ThemeNotifier notifier;
 };
 
@@ -206,17 +206,19 @@ void ApplyTheme(QApplication& application, Scheme scheme)
     emit state.notifier.schemeChanged(scheme);
 }
 
-void SetBodyFamily(const QString& family)
+void SetBodyFamilies(const QStringList& leading)
 {
     ThemeState& state = State();
-    if (!state.applied || state.leadingFamily == family)
+    if (!state.applied || state.leadingFamilies == leading)
         return;
-    QStringList families = state.body.families();
-    families.removeOne(state.leadingFamily);
-    state.leadingFamily = family;
-    if (!family.isEmpty() && QFontDatabase::hasFamily(family))
-        families.prepend(family);
-    if (families == state.body.families())
+    QStringList families = leading;
+    families.removeIf([](const QString& family) { return !QFontDatabase::hasFamily(family); });
+    const QStringList present = state.body.families();
+    for (const QString& family : present)
+        if (!state.leadingFamilies.contains(family) && !families.contains(family))
+            families.append(family);
+    state.leadingFamilies = leading;
+    if (families == present)
         return;
     state.body.setFamilies(families);
     QApplication::setFont(state.body);

@@ -29,9 +29,9 @@ signals:
 Scheme InitialScheme();
 // Puts style, palette, base font and style sheet in place. May be called again at any time with the other scheme.
 void ApplyTheme(QApplication& application, Scheme scheme);
-// Puts a family before the desk's own ones, for a language that wants it; empty takes it away. Fall-back as ever where
-// the family is not installed.
-void SetBodyFamily(const QString& family);
+// Puts families before the desk's own ones, for a language that wants them, in place of those put there before.
+// Families that are not installed are passed over.
+void SetBodyFamilies(const QStringList& leading);
 Scheme CurrentScheme();
 ThemeNotifier& ThemeEvents();
 

@@ -117,7 +117,9 @@ TEST_F(LanguageTest, TextsComeByNumberInTheLiveLanguage)
     EXPECT_EQ(GetLangString(20), u"Group Data  is loading..."_s);
     EXPECT_EQ(GetLangString(151), u"Display Image of Motion Detection "_s);
     EXPECT_EQ(GetLangString(27), u"Loading User's Pattern …"_s);
+    EXPECT_EQ(logLines("Module_Language - GetLangString"), 0);
     EXPECT_EQ(GetLangString(31), QString()) << "a gap";
+    EXPECT_EQ(logLines("Module_Language - GetLangString"), 1);
     for (int language = 1; language <= kLanguages; ++language) {
         SetLanguage(language);
         EXPECT_FALSE(GetLangString(514).isEmpty()) << language;
@@ -125,7 +127,7 @@ TEST_F(LanguageTest, TextsComeByNumberInTheLiveLanguage)
     }
     SetLanguage(15);
     EXPECT_EQ(GetLangString(570), QString());
-    EXPECT_EQ(logLines("Module_Language - GetLangString"), 1);
+    EXPECT_EQ(logLines("Module_Language - GetLangString"), 2);
     SetLanguage(99);
     EXPECT_FALSE(GetLangString(570).isEmpty());
     EXPECT_EQ(Language(), GetOsLang());

@@ -7,7 +7,7 @@
 #include "look/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/MsgBox.h"
-#include "tests/walkthrough/Driver.h"
+#include "tests/walkthrough/DeskWindows.h"
 
 #include <QApplication>
 #include <QDir>
@@ -18,50 +18,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The main window with the dialog on show over it.
-void Save(QWidget& window, const QString& file)
+// The main window with the window to be seen over it.
+void Save(Form_Initial& desk, QWidget& window, const QString& file)
 {
-    QCoreApplication::processEvents();
-    QPixmap picture = window.grab();
-    if (QWidget* modal = QApplication::activeModalWidget()) {
-        const QPixmap dialog = modal->grab();
+    QPixmap picture = desk.grab();
+    if (&window != &desk) {
         QPainter painter(&picture);
-        painter.drawPixmap(window.mapFromGlobal(modal->mapToGlobal(QPoint(0, 0))), dialog);
+        painter.drawPixmap((picture.width() - window.width()) / 2, (picture.height() - window.height()) / 2,
+                           window.grab());
     }
     picture.save(file);
-}
-
-void Tour(Form_Initial& desk, const QString& prefix)
-{
-    Driver driver;
-    for (int page = 0; page < kPages; ++page) {
-        driver.add(
-            u"page"_s, [page] { return Driver::usable(u"lbMenu_%1"_s.arg(page)); },
-            [page] { Driver::click(u"lbMenu_%1"_s.arg(page)); });
-        driver.add(
-            u"picture"_s, [] { return true; },
-            [&desk, prefix, page] { Save(desk, prefix + u"page%1.png"_s.arg(page)); });
-        if (page != 1)
-            continue;
-        driver.add(
-            u"wizard"_s, [] { return true; },
-            [] { Driver::click(Driver::find(u"lbAdd"_s) ? u"lbAdd"_s : u"btnEmptyState"_s); });
-        driver.add(
-            u"picture"_s, [] { return Driver::usable(u"Text_Manual_0"_s); },
-            [&desk, prefix] { Save(desk, prefix + u"wizard.png"_s); });
-        driver.add(
-            u"close"_s, [] { return Driver::usable(u"lbCancel"_s); }, [] { Driver::click(u"lbCancel"_s); });
-    }
-    driver.add(
-        u"box"_s, [] { return Driver::usable(u"lbMenu_12"_s); },
-        [] { MsgBox(GetLangString(514), AskBoxStyle(), GetLangString(570)); });
-    driver.add(
-        u"picture"_s, [] { return !Driver::boxText().isEmpty(); },
-        [&desk, prefix] {
-            Save(desk, prefix + u"box.png"_s);
-            Driver::answerBox(u"btnNo"_s);
-        });
-    driver.run();
 }
 
 } // namespace
@@ -91,8 +57,11 @@ int main(int argc, char** argv)
                 SetLanguage(language);
                 SetBoxStyles(language == kRightToLeftLanguage);
                 desk.ChangeLanguage();
-                Tour(desk, pictures.filePath(u"%1-%2-"_s.arg(language, 2, 10, QChar(u'0'))
-                                                 .arg(scheme == Scheme::Dark ? u"dark"_s : u"light"_s)));
+                const QString prefix =
+                    u"%1-%2-"_s.arg(language, 2, 10, QChar(u'0')).arg(scheme == Scheme::Dark ? u"dark"_s : u"light"_s);
+                VisitWindows(desk, *station, [&](const QString& name, QWidget& window) {
+                    Save(desk, window, pictures.filePath(prefix + name + u".png"_s));
+                });
             }
         }
     } catch (const std::exception& error) {

@@ -65,7 +65,7 @@ const QTranslator& Bank(int language)
     std::unique_ptr<QTranslator>& bank = banks[static_cast<std::size_t>(language - 1)];
     if (!bank) {
         bank = std::make_unique<QTranslator>();
-        const QString name = QString::fromLatin1(kInfo[static_cast<std::size_t>(language - 1)].code);
+        const QString name = LanguageCode(language);
         if (!bank->load(u":/messages/messages_"_s + name + u".qm"_s))
             LogTrap(u"Module_Language - GetLangString"_s, u"Message bank '%1' is missing"_s.arg(name));
     }
@@ -117,8 +117,23 @@ QString GetLangString(int number)
         text = GetBankString(g_language, number);
         if (text.isEmpty() && g_language != 1)
             text = GetBankString(1, number);
+        if (text.isEmpty())
+            throw ConversionError(u"No message %1"_s.arg(number));
     });
     return text;
+}
+
+QString LanguageCode(int language)
+{
+    const bool known = language >= 1 && language <= kLanguages;
+    return QString::fromLatin1(kInfo[static_cast<std::size_t>(known ? language - 1 : 0)].code);
+}
+
+QString KeepLeftToRight(const QString& text)
+{
+    constexpr QChar kEmbedding(0x202a);
+    constexpr QChar kEnd(0x202c);
+    return g_language == kRightToLeftLanguage ? QString(kEmbedding + text + kEnd) : text;
 }
 
 QString LanguageName(int language)

@@ -1,4 +1,4 @@
 #pragma once
 
-// Makes Form_OpenFile a window in the desk's look.
+// Makes the choices of Form_OpenFile and OpenDirectoryTV windows in the desk's look and language.
 void InstallFileChooserWindow();

@@ -19,6 +19,7 @@ class QStackedWidget;
 class SettingsPage;
 class SystemPage;
 class UsersPage;
+struct DetectContext;
 
 inline constexpr int kPages = 12;       // 0 to 11 stand in Frame_Setting
 inline constexpr int kMenuEntries = 13; // the pages and Exit

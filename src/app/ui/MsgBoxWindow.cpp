@@ -2,11 +2,9 @@
 
 #include "app/language/Languages.h"
 #include "look/DeskMessageBox.h"
-#include "platform/FolderChooser.h"
 #include "platform/MsgBox.h"
 
 #include <QApplication>
-#include <QFileDialog>
 
 namespace {
 
@@ -47,5 +45,4 @@ MsgResult Show(const QString& text, qint32 style, const QString& title)
 void InstallMsgBoxWindow()
 {
     SetMsgBoxHandler(Show);
-    SetFolderHandler([](const QString& title) { return QFileDialog::getExistingDirectory(OwnerWindow(), title); });
 }

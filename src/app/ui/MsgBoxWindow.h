@@ -1,5 +1,4 @@
 #pragma once
 
-// Makes the desk's own box answer for MsgBox (buttons in the live language, right-aligned by the style's flag) and its
-// folder dialog for OpenDirectoryTV.
+// Makes the desk's own box answer for MsgBox: buttons in the live language, right-aligned by the style's flag.
 void InstallMsgBoxWindow();

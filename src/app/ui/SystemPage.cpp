@@ -140,7 +140,7 @@ void SystemPage::lbSystemApply_Click(int index)
             SystemControl_Frame_Set();
         } else {
             const QString file = DetailExport();
-            MsgBox(GetLangString(828) + u' ' + file, InfoBoxStyle(), GetLangString(570));
+            MsgBox(GetLangString(828) + u' ' + KeepLeftToRight(file), InfoBoxStyle(), GetLangString(570));
         }
     });
 }

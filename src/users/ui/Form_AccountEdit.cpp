@@ -98,7 +98,7 @@ void Form_AccountEdit::refill()
         remove->setData(GetLangString(877), Qt::AccessibleTextRole);
         m_model->appendRow({new QStandardItem(account.sUser), remove});
     }
-    Grid_Account->setColumnWidth(0, 400);
+    Grid_Account->setColumnWidth(0, 360);
 }
 
 void Form_AccountEdit::lbAccountApply_Click()

@@ -89,7 +89,7 @@ void Form_Login::UpdatingLogo()
 void Form_Login::ChangeLanguage()
 {
     ApplyLanguage(this);
-    setWindowTitle(GetLangString(25).remove(u" ..."_s));
+    setWindowTitle(GetLangString(945));
     m_ok->setText(GetLangString(755));
     m_exit->setText(GetLangString(51).trimmed());
     m_name->setAccessibleName(GetLangString(40));

@@ -78,6 +78,9 @@ void Form_UserSetting::build(const QStringList& groups)
         field->setMaxLength(kLongestText);
         txtUser[which] = field;
         connect(field, &QLineEdit::textChanged, this, [this] { m_apply->setEnabled(true); });
+        // Numbers and mail addresses read from the left in every language.
+        if (which == Telephone || which == Mobile || which == Mail1 || which == Mail2)
+            field->setLayoutDirection(Qt::LeftToRight);
         if (which == Password || which == PasswordAgain) {
             field->setEchoMode(QLineEdit::Password);
             AddEye(field, GetLangString(887), GetLangString(899));
@@ -118,6 +121,7 @@ void Form_UserSetting::build(const QStringList& groups)
     Image1->installEventFilter(this);
     Text_Filename->setObjectName(u"Text_Filename"_s);
     Text_Filename->setMaximumWidth(kPhotoSide);
+    Text_Filename->setLeftToRight(true);
     SetRole(Text_Filename, "muted"_L1);
     auto* choose = new QPushButton(GetLangString(875));
     choose->setObjectName(u"btnPhoto"_s);

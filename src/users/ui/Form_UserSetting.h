@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 
+class ElidedLabel;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -52,6 +53,6 @@ private:
     std::array<QLineEdit*, FieldCount> txtUser{};
     QComboBox* cmbUser;
     QLabel* Image1;
-    QLabel* Text_Filename;
+    ElidedLabel* Text_Filename;
     QPushButton* m_apply;
 };

@@ -251,14 +251,14 @@ void UserPage::showReach()
         }
         auto* column = new QVBoxLayout(dialog.content());
         column->setContentsMargins(0, 0, 0, 0);
-        QTableView* grid = MakeGrid(u"Grid_Reach"_s, &model, {200, 60, 220});
+        QTableView* grid = MakeGrid(u"Grid_Reach"_s, &model, {190, 60, 180});
         grid->setAccessibleName(GetLangString(904));
         grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
         column->addWidget(grid);
         QPushButton* close = dialog.footer()->addButton(GetLangString(881), "primary"_L1);
         close->setObjectName(u"btnClose"_s);
         connect(close, &QPushButton::clicked, &dialog, &QDialog::accept);
-        dialog.resize(760, 480);
+        dialog.resize(860, 480);
         dialog.exec();
     });
 }

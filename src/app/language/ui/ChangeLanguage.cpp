@@ -9,6 +9,8 @@
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLocale>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 
@@ -103,6 +105,40 @@ void ApplyTag(QWidget* control)
         control->setToolTip(text);
 }
 
+// Every language but Japanese is written in one and the same family where it is installed. Chinese and Japanese have
+// forms of their own for the same characters: a face for one of them must not stand in for the others.
+QStringList LeadingFamilies()
+{
+    QStringList families;
+    if (LanguageCharset() != kJapaneseCharset)
+        families << u"Verdana"_s;
+    switch (Language()) {
+    case 2:
+        return families << u"Noto Sans CJK TC"_s << u"Noto Sans TC"_s << u"Microsoft JhengHei UI"_s;
+    case 3:
+        return families << u"Noto Sans CJK SC"_s << u"Noto Sans SC"_s << u"Microsoft YaHei UI"_s;
+    case 4:
+        return families << u"Noto Sans CJK JP"_s << u"Noto Sans JP"_s << u"Yu Gothic UI"_s;
+    default:
+        return families;
+    }
+}
+
+// The toolkit's own words (choice of files, menus of fields) and its calendars follow the language too.
+void SettleToolkit(QWidget* window)
+{
+    static QTranslator words;
+    static int settled = 1; // the toolkit speaks English by itself
+    const QString code = LanguageCode(Language());
+    if (settled != Language()) {
+        settled = Language();
+        QCoreApplication::removeTranslator(&words);
+        if (words.load(u":/toolkit/qtbase_"_s + code + u".qm"_s))
+            QCoreApplication::installTranslator(&words);
+    }
+    window->setLocale(QLocale(code));
+}
+
 } // namespace
 
 void CutString(QWidget* control, const QString& text, bool rightToLeft)
@@ -113,8 +149,8 @@ void CutString(QWidget* control, const QString& text, bool rightToLeft)
 void ApplyLanguage(QWidget* window)
 {
     QApplication::setLayoutDirection(Language() == kRightToLeftLanguage ? Qt::RightToLeft : Qt::LeftToRight);
-    // Every language but Japanese is written in one and the same family; Japanese keeps the desktop's own.
-    SetBodyFamily(LanguageCharset() == kJapaneseCharset ? QString() : u"Verdana"_s);
+    SetBodyFamilies(LeadingFamilies());
+    SettleToolkit(window);
     ApplyTag(window);
     const QList<QWidget*> controls = window->findChildren<QWidget*>();
     for (QWidget* control : controls)

@@ -6,7 +6,8 @@ class QWidget;
 
 // A widget carries the number of its text as the dynamic property "tag": "Caption:150" or "ToolTip:642". This walk over
 // a window puts the texts of the live language in place; what tags cannot reach each window sets afterwards. Also
-// settles the layout direction (right to left in language 14) and the desk's font for the language.
+// settles the layout direction (right to left in language 14), the desk's font and the toolkit's own words and calendar
+// for the language.
 void ApplyLanguage(QWidget* window);
 
 // Puts a caption in a label, button or box. Where the control is narrower than the text it is cut by the rule of

@@ -1,0 +1,103 @@
+#include "app/Station.h"
+#include "app/language/Languages.h"
+#include "app/language/ui/ChangeLanguage.h"
+#include "app/ui/Form_Initial.h"
+#include "look/Theme.h"
+#include "platform/MsgBox.h"
+#include "platform/Wait.h"
+#include "tests/store/StoreFixture.h"
+#include "tests/walkthrough/Captions.h"
+#include "tests/walkthrough/DeskWindows.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QRawFont>
+#include <QTest>
+#include <QTextLayout>
+#include <array>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
+{
+    auto application = std::make_unique<QApplication>(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    ApplyTheme(*application, Scheme::Light);
+    return application;
+}
+const bool g_registered = (g_applicationFactory = MakeApplication, true);
+
+class CaptionTest : public StoreFixture
+{
+protected:
+    ~CaptionTest() override
+    {
+        SetMsgBoxHandler(nullptr);
+        SetBoxStyles(false);
+        SetClosing(false);
+        SetLanguage(1);
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+    }
+};
+
+} // namespace
+
+// The same character has a form of its own in each language that writes it; a fall-back of chance would give one to
+// all.
+TEST_F(CaptionTest, ScriptsAreWrittenInTheirOwnFaces)
+{
+    static constexpr std::array cases{std::pair{2, u"Noto Sans CJK TC"}, std::pair{3, u"Noto Sans CJK SC"},
+                                      std::pair{4, u"Noto Sans CJK JP"}, std::pair{2, u"Noto Sans CJK TC"}};
+    if (QFontDatabase::hasFamily(u"Verdana"_s))
+        GTEST_SKIP() << "its fall-back is the toolkit's affair";
+    QWidget window;
+    for (const auto& [language, name] : cases) {
+        const QString family = QString::fromUtf16(name);
+        if (!QFontDatabase::hasFamily(family))
+            GTEST_SKIP() << "not installed: " << family.toStdString();
+        SetLanguage(language);
+        ApplyLanguage(&window);
+        QTextLayout layout(u"直"_s, QApplication::font());
+        layout.beginLayout();
+        layout.createLine();
+        layout.endLayout();
+        ASSERT_EQ(layout.glyphRuns().size(), 1);
+        EXPECT_EQ(layout.glyphRuns().first().rawFont().familyName().toStdString(), family.toStdString());
+    }
+}
+
+// Every window at its default size, in one desk that goes from language to language: what does not fit is printed.
+TEST_F(CaptionTest, FitEveryWindowInEveryLanguage)
+{
+    open();
+    execute(u"UPDATE BasicDefault SET iLanguage=1"_s);
+    CloseDatabases(databases);
+    SetMsgBoxHandler([](const QString&, qint32, const QString&) { return MsgResult::No; });
+    const auto owner = std::make_unique<Station>();
+    Form_Initial desk(*owner);
+    ASSERT_TRUE(desk.Form_Load());
+    desk.resize(1280, 720);
+    desk.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&desk));
+    for (int language = 1; language <= kLanguages; ++language) {
+        SetLanguage(language);
+        SetBoxStyles(language == kRightToLeftLanguage);
+        desk.ChangeLanguage();
+        QStringList cut;
+        int windows = 0;
+        VisitWindows(desk, *owner, [&](const QString& name, QWidget& window) {
+            ++windows;
+            const QStringList lines = CutCaptions(window);
+            for (const QString& line : lines)
+                cut << name + u" / "_s + line;
+        });
+        EXPECT_GT(windows, 25);
+        EXPECT_LE(desk.minimumSizeHint().width(), 1280) << "language " << language;
+        EXPECT_LE(desk.minimumSizeHint().height(), 720) << "language " << language;
+        EXPECT_TRUE(cut.isEmpty()) << "language " << language << '\n' << cut.join(u'\n').toStdString();
+    }
+}

@@ -1,0 +1,227 @@
+#include "tests/walkthrough/DeskWindows.h"
+
+#include "app/Station.h"
+#include "app/language/Languages.h"
+#include "app/ui/FileChooserWindow.h"
+#include "app/ui/Form_Initial.h"
+#include "app/ui/MenuTable.h"
+#include "app/ui/MsgBoxWindow.h"
+#include "app/ui/UpdateWindow.h"
+#include "look/Fields.h"
+#include "look/ProgressWindow.h"
+#include "platform/Clock.h"
+#include "platform/FileChooser.h"
+#include "platform/MsgBox.h"
+#include "recorders/ui/Form_NVRSetting.h"
+#include "store/SystemLog.h"
+#include "support/TimeSeconds.h"
+#include "tests/walkthrough/Driver.h"
+#include "users/ui/Form_AccountEdit.h"
+#include "users/ui/Form_GroupPrivilege.h"
+#include "users/ui/Form_Login.h"
+#include "users/ui/Form_UserSetting.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDialog>
+#include <QTableView>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kLongestQuestion = 84;
+constexpr int kLongestNotice = 610;
+constexpr int kNestedLayouts = 8;
+
+class Visitor
+{
+public:
+    Visitor(Form_Initial& desk, Station& station, const VisitWindow& visit)
+        : m_desk(desk)
+        , m_station(station)
+        , m_visit(visit)
+    {
+    }
+
+    void pages(const QString& prefix, const QList<int>& which)
+    {
+        for (const int page : which) {
+            Driver::click(u"lbMenu_%1"_s.arg(page));
+            if (page == kTooling && !prefix.isEmpty())
+                Driver::click(u"lbSysSearch"_s);
+            visit(prefix + u"page%1"_s.arg(page), m_desk);
+        }
+    }
+    // A dialog that needs no loop of its own; `prepare` brings it to what is to be seen.
+    template <class Dialog>
+    void show(const QString& name, Dialog&& dialog, const std::function<void()>& prepare = {})
+    {
+        dialog.show();
+        if (prepare)
+            prepare();
+        visit(name, dialog);
+        dialog.close();
+    }
+    // Whatever modal window `open` brings up and waits for.
+    void modal(const QString& name, const std::function<void()>& open)
+    {
+        QTimer::singleShot(0, &m_desk, [this, name] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            visit(name, *dialog);
+            dialog->reject();
+        });
+        open();
+    }
+
+    void furnish();
+    void clear();
+    void dialogs();
+    void wizard();
+
+    static constexpr int kRecorders = 1;
+    static constexpr int kUsers = 3;
+    static constexpr int kTooling = 11;
+
+private:
+    void visit(const QString& name, QWidget& window)
+    {
+        // A caption that grows passes through one layout after another.
+        for (int level = 0; level < kNestedLayouts; ++level)
+            QCoreApplication::processEvents();
+        m_visit(name, window);
+    }
+
+    Form_Initial& m_desk;
+    Station& m_station;
+    const VisitWindow& m_visit;
+    Form_COM m_com;
+};
+
+void Visitor::furnish()
+{
+    static constexpr std::array names{u"Gatehouse", u"Склад 2"};
+    static constexpr std::array addresses{u"192.168.10.21", u"nvr-2.local"};
+    for (int slot = 0; slot < 2; ++slot) {
+        SVRRecord& recorder = m_station.recorders.SVRWorkList[static_cast<std::size_t>(slot)];
+        recorder.iSVR_Num = static_cast<qint16>(slot + 1);
+        recorder.sSVR_Name = QString::fromUtf16(names[static_cast<std::size_t>(slot)]);
+        recorder.sSVR_IP = QString::fromUtf16(addresses[static_cast<std::size_t>(slot)]);
+        recorder.iSVR_HttpPort = 8080;
+        recorder.sSVR_DisplayDeviceType = u"TXR632"_s;
+        recorder.sSVR_DeviceType = kFamilyTXR632;
+        recorder.iSVR_Maxchannel = 32;
+        for (std::size_t channel = 0; channel < 12; ++channel) {
+            recorder.sSub_CH_Name[channel] = u"Camera %1"_s.arg(channel + 1);
+            recorder.sSub_CH_IP[channel] = u"192.168.10.%1"_s.arg(channel + 100);
+        }
+        m_station.recorders.SVRList[static_cast<std::size_t>(slot)] = recorder;
+    }
+    UserRecord chief;
+    chief.sUser = u"chief"_s;
+    chief.sMainEmail = u"chief@example.net"_s;
+    chief.sPhone = u"+49 30 1234-56"_s;
+    UserRecord night = chief;
+    night.sUser = u"Nachtwache"_s;
+    night.iGroup = 4;
+    m_station.users.edit = m_station.users.stored = {chief, night};
+    m_station.accounts = {{0, u"admin"_s, u"admin"_s}, {1, u"root"_s, u"pass"_s}};
+    const qint32 now = TimeToUtcSeconds(Now());
+    SaveSystemLog(m_station.databases, now - 60, u"chief"_s, u"Modify Setting of NVR"_s);
+    SaveSystemLog(m_station.databases, now - 30, u"Nachtwache"_s, u"Export system log: \\log\\2026-11-24.csv"_s);
+}
+
+void Visitor::clear()
+{
+    for (std::size_t slot = 0; slot < 2; ++slot)
+        m_station.recorders.SVRList[slot] = m_station.recorders.SVRWorkList[slot] = SVRRecord();
+    m_station.users.edit = m_station.users.stored = {UserRecord()};
+    m_station.accounts = {NVRAccountRecord()};
+    for (const int page : {kUsers, kRecorders, 0})
+        Driver::click(u"lbMenu_%1"_s.arg(page));
+}
+
+void Visitor::wizard()
+{
+    Form_NVRSetting dialog(
+        {m_com, m_station.recorders, m_station.accounts}, [] {}, &m_desk);
+    show(u"wizard-0"_s, dialog);
+    show(u"wizard-1"_s, dialog, [&] {
+        dialog.LoadFrame(1);
+        emit m_com.finder.DeviceFound({u"North gate"_s, u"192.168.10.40"_s, 80, {}, u"TXR632"_s});
+        emit m_com.finder.DeviceFound({u"South gate"_s, u"fe80::21"_s, 8080, {}, u"OmluPro"_s});
+        Driver::find<QCheckBox>(u"Chk_SelectAll"_s)->click();
+    });
+    // Nobody answers at this address, so that the row ends with the longest of the texts of failure.
+    show(u"wizard-2"_s, dialog, [&] {
+        dialog.LoadFrame(0);
+        Driver::type(u"Text_Manual_0"_s, u"North gate"_s);
+        Driver::type(u"Text_Manual_1"_s, u"127.0.0.77"_s);
+        Driver::type(u"Text_Manual_3"_s, u"admin"_s);
+        Driver::click(u"lbNext_0"_s);
+        if (!QTest::qWaitFor([] { return Driver::usable(u"lbNext_2"_s); }))
+            throw std::runtime_error("the detection does not end");
+    });
+}
+
+void Visitor::dialogs()
+{
+    const auto save = [] {};
+    Station& station = m_station;
+    show(u"login"_s, Form_Login(station.users.stored));
+    show(u"user"_s, Form_UserSetting(station.users, MyGroup_GetList(station.groups), false, save, &m_desk));
+    {
+        Form_GroupPrivilege rights(station.groups, station.users, station.recorders, save, &m_desk);
+        rights.SetGroupPrivilege(4);
+        rights.LoadFrame(0);
+        show(u"rights-0"_s, rights);
+        show(u"rights-1"_s, rights, [] {
+            auto* grid = Driver::find<QTableView>(u"Grid_NVRList"_s);
+            QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
+                              grid->visualRect(grid->model()->index(1, 1)).center());
+        });
+    }
+    show(u"accounts"_s, Form_AccountEdit(station.databases, station.accounts, &m_desk));
+    modal(u"account"_s, [this] { Form_UserPass(&m_desk); });
+    Driver::click(u"lbMenu_%1"_s.arg(kUsers));
+    modal(u"reach"_s, [] { Driver::click(u"btnReach"_s); });
+    wizard();
+
+    const MsgBoxHandler boxes = SetMsgBoxHandler(nullptr);
+    const FileChooserHandler files = SetFileChooserHandler(nullptr);
+    InstallMsgBoxWindow();
+    InstallFileChooserWindow();
+    modal(u"question"_s, [] { MsgBox(GetLangString(kLongestQuestion), AskBoxStyle(), GetLangString(570)); });
+    modal(u"notice"_s, [] { MsgBox(GetLangString(kLongestNotice), InfoBoxStyle(), GetLangString(570)); });
+    modal(u"file"_s, [] { Form_OpenFile({QDir::rootPath(), u"*.bmp;*.jpg;*.gif;*.png"_s, GetLangString(643)}); });
+    SetMsgBoxHandler(boxes);
+    SetFileChooserHandler(files);
+
+    UpdateWindow update;
+    update.begin();
+    update.row(u"SVRCHList"_s, 1, 4);
+    visit(u"update"_s, *Driver::find(u"formProgressBar"_s));
+    update.end();
+    ProgressWindow closing(GetLangString(62), &m_desk);
+    closing.setWindowTitle(GetLangString(570));
+    closing.setMaximum(4);
+    closing.setValue(1);
+    closing.setCancelText(GetLangString(475));
+    show(u"closing"_s, closing);
+}
+
+} // namespace
+
+void VisitWindows(Form_Initial& desk, Station& station, const VisitWindow& visit)
+{
+    Visitor visitor(desk, station, visit);
+    QList<int> all;
+    for (int page = 0; page < kPages; ++page)
+        all << page;
+    visitor.pages({}, all);
+    visitor.furnish();
+    visitor.pages(u"filled-"_s, {Visitor::kRecorders, Visitor::kUsers, Visitor::kTooling});
+    visitor.dialogs();
+    visitor.clear();
+}
