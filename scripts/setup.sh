@@ -19,4 +19,5 @@ if [ "${#desk_missing[@]}" -gt 0 ]; then
     DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends "${desk_missing[@]}" >/dev/null
 fi
 export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+export CCACHE_INODECACHE=true # the precompiled headers are hashed once, not for every file
 export LC_ALL=C.UTF-8
