@@ -34,8 +34,7 @@ enum Message
     kNotSupported = 619,
     kTooManyChannels = 716,
     kNoChannel = 719,
-    kDetectSuccess = 833,
-    kStopped = 963
+    kDetectSuccess = 833
 };
 
 // Ends a detection with a message.
@@ -122,7 +121,7 @@ private:
     void say(int message, int percent)
     {
         if (Stopped(m_context))
-            throw DetectFailure{kStopped};
+            throw DetectFailure{kDetectStopped};
         m_report({message, percent, DetectStatus::State::Running, {}});
     }
 
@@ -367,7 +366,7 @@ bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const De
         return true;
     } catch (const DetectFailure& failure) {
         // A request that was broken off on the operator's wish is no fault of the recorder.
-        message = Stopped(context) ? kStopped : failure.message;
+        message = Stopped(context) ? kDetectStopped : failure.message;
         suffix = Stopped(context) ? QString() : failure.suffix;
     } catch (const std::exception& error) {
         LogTrap(kSource, QString::fromUtf8(error.what()));

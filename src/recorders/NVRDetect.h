@@ -19,6 +19,9 @@ struct NVRDetectItem
     QString sPassword;
 };
 
+// Message of a detection that the operator, or the end of the program, has broken off.
+inline constexpr int kDetectStopped = 963;
+
 // Where a detection stands. `message` is a message number of the catalogue.
 struct DetectStatus
 {

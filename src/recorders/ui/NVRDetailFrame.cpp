@@ -22,7 +22,6 @@ namespace {
 
 constexpr int kHeadRoom = 44; // px of a head beside its text: margins and the arrow of sorting
 constexpr int kShortList = 6; // fewer channels than this draw a short grid
-constexpr int kStopped = 475; // the last message of a detection that the operator has stopped
 constexpr int kReDetect = 703;
 constexpr int kTooManyEvents = 91;
 constexpr int kAskClear = 970;
@@ -235,7 +234,7 @@ void NVRDetailFrame::lbNVRDetect_Click()
             emit changesChanged();
         }
         showFacts();
-        if (last.message != kStopped)
+        if (last.message != kDetectStopped)
             MsgBox(GetLangString(last.message) + last.suffix, InfoBoxStyle(), GetLangString(570));
     });
 }
