@@ -503,7 +503,7 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
     });
     openChannel(6);
     step(u"cmbVideoID"_s, [inspect] {
-        inspect(u"cmbFormat cmbResolution cmbCameraDetail_0 cmbCameraDetail_2 cmbCameraDetail_3 cmbVideoID"_s,
+        inspect(u"cmbFormat cmbResolution cmbCameraDetail_0 cmbCameraDetail_1 cmbCameraDetail_2 cmbVideoID"_s,
                 u"fish-eye"_s);
         Driver::click(u"lbCamModifyApply_1"_s);
     });
