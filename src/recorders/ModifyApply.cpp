@@ -18,11 +18,11 @@ enum Message
     kNotice = 965
 };
 
-template <class... Arguments>
-void Call(const std::function<void(Arguments...)>& hook, Arguments... arguments)
+template <class Hook, class... Arguments>
+void Call(const Hook& hook, Arguments&&... arguments)
 {
     if (hook)
-        hook(arguments...);
+        hook(std::forward<Arguments>(arguments)...);
 }
 
 bool HasCamera(const SVRRecord& record)
@@ -66,7 +66,7 @@ bool ModifyApply(RecorderSet& recorders, int slot, const QString& name, const Mo
     edit.bSVR_Changed = true;
     if (renamed) {
         edit.bSVR_ConnChanged = true;
-        Call(hooks.recorderRenamed, slot);
+        Call(hooks.recorderRenamed, slot, name);
     }
     work = edit;
     At(recorders.SVRProWorkList, slot) = recorders.SVRProEdit;

@@ -7,8 +7,8 @@
 // What a change of a stored recorder touches beyond its own record. A hook that is not set is passed over.
 struct ModifyHooks
 {
-    std::function<void(int slot)> RemoveSVR;       // takes the recorder out of the station and saves
-    std::function<void(int slot)> recorderRenamed; // its maps lose their link
+    std::function<void(int slot)> RemoveSVR; // takes the recorder out of the station and saves
+    std::function<void(int slot, const QString& name)> recorderRenamed; // its maps follow the new name
     std::function<void()> CheckPatternAfterSVRChange;
     std::function<void()> CheckDefaultStartAfterSVRChange;
     std::function<void()> SaveCheck; // writes everything that is marked

@@ -27,7 +27,7 @@ protected:
             work.sSub_CH_IP[c] = u"10.1.0.%1"_s.arg(c + 1);
         OpenEditPair(*set, 3);
         hooks.RemoveSVR = [this](int slot) { called << u"remove %1"_s.arg(slot); };
-        hooks.recorderRenamed = [this](int slot) { called << u"renamed %1"_s.arg(slot); };
+        hooks.recorderRenamed = [this](int slot, const QString& name) { called << u"renamed %1 "_s.arg(slot) + name; };
         hooks.CheckPatternAfterSVRChange = [this] { called << u"patterns"_s; };
         hooks.CheckDefaultStartAfterSVRChange = [this] { called << u"starts"_s; };
         hooks.SaveCheck = [this] { called << u"save"_s; };
@@ -60,7 +60,7 @@ TEST_F(Applying, TakesTheEditPairOverAndTellsOfARename)
 
     called.clear();
     ASSERT_TRUE(ModifyApply(*set, 3, u"Depot"_s, hooks));
-    EXPECT_EQ(called, QStringList({u"renamed 3"_s, u"patterns"_s, u"starts"_s}));
+    EXPECT_EQ(called, QStringList({u"renamed 3 Depot"_s, u"patterns"_s, u"starts"_s}));
     EXPECT_EQ(work().sSVR_Name, u"Depot"_s);
     EXPECT_TRUE(work().bSVR_ConnChanged);
     EXPECT_TRUE(ModifyApply(*set, 3, u"Yard"_s, {})) << "hooks may be missing";

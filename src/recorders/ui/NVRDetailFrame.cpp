@@ -257,18 +257,23 @@ void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
     });
 }
 
-// Runs a call that waits for the recorder, the page held back and saying what goes on, and shows its box.
-RecorderOutcome NVRDetailFrame::ask(int words, const std::function<RecorderOutcome()>& call)
+// Runs a call that waits for the recorder, the page held back and saying what goes on.
+void NVRDetailFrame::hold(int words, const std::function<void()>& call)
 {
     emit busyChanged(true, false);
     showStep(GetLangString(words), -1);
-    RecorderOutcome outcome;
     {
         const HeldBack held{this};
-        Trapped("Form_NVRSetting - Grid_ChannelList_Click", [&] { outcome = call(); });
+        Trapped("Form_NVRSetting - Grid_ChannelList_Click", call);
     }
     showFacts();
     emit busyChanged(false, false);
+}
+
+RecorderOutcome NVRDetailFrame::ask(int words, const std::function<RecorderOutcome()>& call)
+{
+    RecorderOutcome outcome;
+    hold(words, [&] { outcome = call(); });
     if (outcome.message != 0)
         MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
     return outcome;
@@ -355,5 +360,12 @@ bool NVRDetailFrame::apply(const ModifyHooks& hooks)
         m_fields.go(fault.field);
         return false;
     }
-    return writeCameraEvents() && ModifyApply(m_context.recorders, m_slot, name, hooks);
+    if (!writeCameraEvents())
+        return false;
+    ModifyHooks held = hooks; // a removal tells the recorder
+    held.RemoveSVR = [&](int slot) {
+        if (hooks.RemoveSVR)
+            hold(kWriting, [&] { hooks.RemoveSVR(slot); });
+    };
+    return ModifyApply(m_context.recorders, m_slot, name, held);
 }

@@ -56,6 +56,7 @@ private:
     void clearChannel(int channel);
     bool writeCameraEvents();
     void readCameraEvents();
+    void hold(int words, const std::function<void()>& call);
     RecorderOutcome ask(int words, const std::function<RecorderOutcome()>& call);
     void showFacts();
     void showCounts();
