@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int kTimeFieldFrame = 44; // px: padding and buttons
+
 // A button inside the trailing end of a field; it keeps its place and the text clear of it.
 class FieldButton : public QToolButton
 {
@@ -113,6 +115,9 @@ void SetTimeFormat(QDateTimeEdit* field, const QString& format)
     field->setDisplayFormat(format);
     field->setCalendarPopup(format.contains(u'd'));
     field->setFont(MonoFont());
+    // The style sheet's idea of its width leaves the padding out.
+    const QFontMetrics metrics(MonoFont());
+    field->setMinimumWidth(metrics.horizontalAdvance(QString(format.size() + 1, u'0')) + kTimeFieldFrame);
 }
 
 void SetFaulty(QLineEdit* field, bool faulty)

@@ -16,7 +16,14 @@ public:
     StoreError(const QString& what, const QSqlError& error)
         : StoreError(what + QStringLiteral(": ") + error.text().trimmed())
     {
+        const int code = error.nativeErrorCode().toInt() & 0xff; // without the extension
+        m_writeFailed = code == 10 || code == 13;                // SQLITE_IOERR, SQLITE_FULL
     }
+    // The file itself could not take what was written (disk full or broken): later rows will fare no better.
+    bool writeFailed() const { return m_writeFailed; }
+
+private:
+    bool m_writeFailed = false;
 };
 
 // One open database file, shared with other processes (SQLite, write-ahead log). A statement that meets another

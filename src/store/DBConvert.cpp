@@ -29,6 +29,13 @@ QStringList TableNames(const Connection& connection)
     return names;
 }
 
+void Execute(const Connection& connection, const QString& sql)
+{
+    QSqlQuery query(connection.database());
+    if (!query.exec(sql))
+        throw StoreError(sql, query.lastError());
+}
+
 // The column that numbers itself (lower case), empty without one: a whole-number primary key stands for the row id.
 QString NumberingColumn(const Connection& connection, const QString& table)
 {
@@ -118,6 +125,8 @@ bool clsDBConvert::ConvertDB(const QString& source, const QString& target)
         m_sourceConnection.openAsIs();
         m_targetConnection.openAsIs();
 
+        // One view of the source for the whole conversion: nobody can lock it away from here on.
+        Execute(m_sourceConnection, u"BEGIN"_s);
         const QString targetList = TableNames(m_targetConnection).join(u';') + u';';
         QStringList tables;
         bool hasMDROI = false;
@@ -129,14 +138,18 @@ bool clsDBConvert::ConvertDB(const QString& source, const QString& target)
                 tables << name;
         }
         // The working file becomes the database only as a whole: one transaction spares a disk write for each row.
-        execute(u"BEGIN"_s);
-        for (const QString& table : std::as_const(tables))
-            Trapped(kConvertSource, [&] { copyTable(table); });
-        if (hasMDROI)
+        Execute(m_targetConnection, u"BEGIN"_s);
+        for (const QString& table : std::as_const(tables)) {
+            if (!m_targetFull)
+                Trapped(kConvertSource, [&] { copyTable(table); });
+        }
+        if (hasMDROI && !m_targetFull)
             Trapped(kMDROISource, [&] { ConvertMDROI(); });
         m_source.close();
         m_target.close();
-        execute(u"COMMIT"_s);
+        if (m_targetFull)
+            throw StoreError(u"'%1' could not be written whole"_s.arg(target));
+        Execute(m_targetConnection, u"COMMIT"_s);
         complete = true;
     });
     m_source.close();
@@ -146,17 +159,20 @@ bool clsDBConvert::ConvertDB(const QString& source, const QString& target)
     return complete;
 }
 
-void clsDBConvert::execute(const QString& sql)
-{
-    QSqlQuery query(m_targetConnection.database());
-    if (!query.exec(sql))
-        throw StoreError(sql, query.lastError());
-}
-
 void clsDBConvert::report(const QString& table, qint64 row, qint64 rows)
 {
     if (m_progress)
         m_progress(table, row, rows);
+}
+
+void clsDBConvert::updateTarget()
+{
+    try {
+        m_target.update();
+    } catch (const StoreError& error) {
+        m_targetFull = error.writeFailed();
+        throw;
+    }
 }
 
 void clsDBConvert::placeTarget(qint64 index, qint64 targetRows)
@@ -192,18 +208,18 @@ void clsDBConvert::copyTable(const QString& table)
             fields.emplace_back(i, targetFields.value(name));
     }
 
-    if (table == "EventTrigger"_L1)
+    if (table == "EventTrigger"_L1 && sourceNames.contains(u"SN"_s, Qt::CaseInsensitive))
         m_source.open(u"Select * From EventTrigger ORDER BY SN"_s, m_sourceConnection, CursorType::ForwardOnly,
                       LockType::ReadOnly, CommandType::Text);
     else
         m_source.open(table, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Table);
-    for (qint64 i = 0; !m_source.eof(); ++i) {
+    for (qint64 i = 0; !m_source.eof() && !m_targetFull; ++i) {
         report(table, i + 1, rows);
         Trapped(kConvertSource, [&] {
             placeTarget(i, targetRows);
             for (const auto& [from, to] : fields)
                 m_target.setValue(to, m_source.value(from));
-            m_target.update();
+            updateTarget();
         });
         m_source.moveNext();
     }
@@ -220,7 +236,7 @@ void clsDBConvert::ConvertMDROI()
         m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Table);
         m_target.open(target, m_targetConnection, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
         const qint64 targetRows = m_target.recordCount();
-        for (qint64 i = 0; !m_source.eof(); ++i) {
+        for (qint64 i = 0; !m_source.eof() && !m_targetFull; ++i) {
             report(u"MDROI"_s, i + 1, rows);
             Trapped(kMDROISource, [&] {
                 placeTarget(i, targetRows);
@@ -229,7 +245,7 @@ void clsDBConvert::ConvertMDROI()
                 if (channel != channels.constEnd())
                     m_target.setValue(u"Channel"_s, channel->lSub_CH_IntelligentID);
                 fill(channel == channels.constEnd() ? nullptr : &*channel);
-                m_target.update();
+                updateTarget();
             });
             m_source.moveNext();
         }

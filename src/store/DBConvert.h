@@ -27,7 +27,7 @@ private:
     void copyTable(const QString& table);
     // Fills MotionROI and MotionSettings from the old table MDROI (region bitmap and sensitivity of a channel).
     void ConvertMDROI();
-    void execute(const QString& sql);
+    void updateTarget();
     // The target's row number `index` (from 0) becomes the one that is set, a new one behind the last.
     void placeTarget(qint64 index, qint64 targetRows);
     void report(const QString& table, qint64 row, qint64 rows);
@@ -37,4 +37,5 @@ private:
     Connection m_targetConnection;
     Recordset m_source;
     Recordset m_target;
+    bool m_targetFull = false; // the target can take no more
 };

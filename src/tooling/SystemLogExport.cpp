@@ -43,25 +43,32 @@ bool Walk(Databases& databases, const SystemLogQuery& query, const ExportProgres
     return !stopped;
 }
 
-// An export file that is taken back unless keep() was reached.
+QString PartName(const QString& name)
+{
+    return name + u".part"_s;
+}
+
+// A text file that gets its name when it is whole; what a file of that name held stays in front. Without keep() all is
+// as it was before.
 class TextFile
 {
 public:
     explicit TextFile(const QString& name)
-        : m_file(name)
-        , m_wasThere(m_file.exists())
-        , m_size(m_file.size())
+        : m_name(name)
+        , m_appends(QFile::exists(name))
+        , m_file(m_appends ? name : PartName(name))
+        , m_size(m_appends ? m_file.size() : 0)
     {
-        if (!m_file.open(QIODevice::Append | QIODevice::Unbuffered))
+        if (!m_file.open((m_appends ? QIODevice::Append : QIODevice::WriteOnly) | QIODevice::Unbuffered))
             fail();
     }
     ~TextFile()
     {
         if (m_kept || !m_file.isOpen())
             return;
-        m_file.resize(m_size);
-        m_file.close();
-        if (!m_wasThere)
+        if (m_appends)
+            m_file.resize(m_size);
+        else
             m_file.remove();
     }
     TextFile(const TextFile&) = delete;
@@ -74,22 +81,45 @@ public:
     }
     void keep()
     {
-        m_file.close();
-        if (m_file.error() != QFileDevice::NoError)
+        if (!m_appends && !m_file.rename(m_name))
             fail();
         m_kept = true;
     }
 
 private:
-    [[noreturn]] void fail()
-    {
-        throw StoreError(u"Cannot write '%1': %2"_s.arg(m_file.fileName(), m_file.errorString()));
-    }
+    [[noreturn]] void fail() { throw StoreError(u"Cannot write '%1': %2"_s.arg(m_name, m_file.errorString())); }
+    QString m_name;
+    bool m_appends;
     QFile m_file;
-    bool m_wasThere;
-    qint64 m_size;
+    qint64 m_size; // before the first write
     bool m_kept = false;
 };
+
+// Puts the rows into the one table; false when `progress` stopped it.
+bool FillDatabase(Databases& databases, const SystemLogQuery& query, const QString& file,
+                  const ExportProgress& progress)
+{
+    Connection connection;
+    connection.setConnectionString(DatabaseConnectionString(file));
+    connection.openAsIs();
+    QSqlQuery insert(connection.database());
+    const auto require = [&](bool ok) {
+        if (!ok)
+            throw StoreError(u"Cannot write '%1'"_s.arg(file), insert.lastError());
+    };
+    require(insert.exec(u"BEGIN"_s));
+    require(insert.prepare(u"INSERT INTO SYSTEMLOG VALUES (?,?,?)"_s));
+    LogTimes times;
+    const bool whole =
+        Walk(databases, query, progress, [&](qint32 time, QByteArrayView user, QByteArrayView description) {
+            insert.bindValue(0, times.longText(time));
+            insert.bindValue(1, QString::fromUtf8(user));
+            insert.bindValue(2, QString::fromUtf8(description));
+            require(insert.exec());
+        });
+    require(insert.exec(whole ? u"COMMIT"_s : u"ROLLBACK"_s));
+    return whole;
+}
 
 } // namespace
 
@@ -130,34 +160,20 @@ QString ExportSystemLogMdb(Databases& databases, const SystemLogQuery& query, co
                            const QString& stem, const ExportProgress& progress)
 {
     const QString name = QDir(folder).filePath(stem + u".mdb"_s);
-    CreateDatabase(name, u"CREATE TABLE SYSTEMLOG(LogTime CHAR(50),LoginUser CHAR(50),Description CHAR(255))"_s);
+    if (QFileInfo::exists(name))
+        throw StoreError(u"Cannot create '%1': it already exists"_s.arg(name));
+    const QString part = PartName(name);
+    DeleteDatabase(part);
+    CreateDatabase(part, u"CREATE TABLE SYSTEMLOG(LogTime CHAR(50),LoginUser CHAR(50),Description CHAR(255))"_s);
     try {
-        Connection connection;
-        connection.setConnectionString(DatabaseConnectionString(name));
-        connection.openAsIs();
-        QSqlQuery insert(connection.database());
-        const auto execute = [&](const QString& sql) {
-            if (!insert.exec(sql))
-                throw StoreError(u"Cannot write '%1'"_s.arg(name), insert.lastError());
-        };
-        execute(u"BEGIN"_s);
-        insert.prepare(u"INSERT INTO SYSTEMLOG VALUES (?,?,?)"_s);
-        LogTimes times;
-        const bool whole =
-            Walk(databases, query, progress, [&](qint32 time, QByteArrayView user, QByteArrayView description) {
-                insert.bindValue(0, times.longText(time));
-                insert.bindValue(1, QString::fromUtf8(user));
-                insert.bindValue(2, QString::fromUtf8(description));
-                if (!insert.exec())
-                    throw StoreError(u"Cannot write '%1'"_s.arg(name), insert.lastError());
-            });
-        execute(whole ? u"COMMIT"_s : u"ROLLBACK"_s);
-        if (whole)
+        if (FillDatabase(databases, query, part, progress)) {
+            RenameDatabase(part, name);
             return name;
-    } catch (const StoreError&) {
-        DeleteDatabase(name); // it is this export's own
+        }
+    } catch (...) {
+        DeleteDatabase(part);
         throw;
     }
-    DeleteDatabase(name);
+    DeleteDatabase(part);
     return {};
 }

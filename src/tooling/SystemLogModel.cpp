@@ -15,9 +15,7 @@ bool SystemLogModel::search(const SystemLogQuery& query, const QString& filter)
     m_filter = filter;
     m_query = query;
     m_searched = true;
-    m_page = 0;
-    const bool ok = find();
-    return draw() && ok;
+    return findFromStart();
 }
 
 bool SystemLogModel::setFilter(const QString& text)
@@ -25,8 +23,11 @@ bool SystemLogModel::setFilter(const QString& text)
     if (text == m_filter)
         return true;
     m_filter = text;
-    if (!m_searched)
-        return true;
+    return !m_searched || findFromStart();
+}
+
+bool SystemLogModel::findFromStart()
+{
     m_page = 0;
     const bool ok = find();
     return draw() && ok;
@@ -34,7 +35,10 @@ bool SystemLogModel::setFilter(const QString& text)
 
 bool SystemLogModel::find()
 {
-    return FindSystemLog(m_databases, m_query.from, m_query.to, m_query.user, m_filter, m_entries) == 1;
+    const bool ok = FindSystemLog(m_databases, m_query.from, m_query.to, m_query.user, m_filter, m_entries) == 1;
+    if (!ok)
+        m_entries.clear();
+    return ok;
 }
 
 bool SystemLogModel::pageControl(int button)

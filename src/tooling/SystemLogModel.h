@@ -67,6 +67,7 @@ private:
     qint64 upperBound() const { return found() - 1; }
     qint32 lastPage() const;
     bool find();
+    bool findFromStart();
     bool draw();
 
     Databases& m_databases;

@@ -12,6 +12,7 @@
 
 #include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -172,6 +173,42 @@ TEST_F(UpgradeTest, NothingIsReplacedWhenTheNewFileCannotBeMade)
     EXPECT_EQ(aside().size(), 1);
 }
 
+TEST_F(UpgradeTest, AFullDiskLeavesTheOldDatabaseInUse)
+{
+    QStringList layout = OldLayout(u"1.0.1.9"_s, u"Harbour"_s);
+    layout << u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i+1 FROM n) INSERT INTO SVR "
+              "SELECT 3,replace(hex(zeroblob(4000)),'0','x'),i,i,0 FROM n LIMIT 600"_s;
+    Make(path(kDatabaseFile), layout);
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit full = before;
+    full.rlim_cur = static_cast<rlim_t>(QFileInfo(path(kTemplateFile)).size()) + 1000000;
+    setrlimit(RLIMIT_FSIZE, &full);
+    start();
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(now(u"SELECT sSystemName,(SELECT COUNT(*) FROM SVR) FROM BasicDefault"_s), u"Harbour|603"_s);
+    EXPECT_EQ(aside(), QStringList());
+    EXPECT_FALSE(QFile::exists(path(u"\\Database\\Database_Convert.mdb")));
+    EXPECT_LE(logLines("clsDBConvert - ConvertDB"), 3) << "one row tells it, not all";
+    start();
+    EXPECT_EQ(now(u"SELECT sDBVer,(SELECT COUNT(*) FROM SVR) FROM BasicDefault"_s), u"1.0.2.1|603"_s);
+}
+
+TEST_F(UpgradeTest, EventTriggersComeInTheOrderOfTheirNumbers)
+{
+    const QString old = path(u"\\old.mdb");
+    const QString fresh = path(u"\\fresh.mdb");
+    Make(old, {u"CREATE TABLE EventTrigger(SN INTEGER, sText TEXT)"_s,
+               u"INSERT INTO EventTrigger VALUES(3,'c'),(1,'a'),(2,'b')"_s});
+    Make(fresh, {u"CREATE TABLE EventTrigger(SN INTEGER PRIMARY KEY, sText TEXT)"_s});
+    EXPECT_TRUE(clsDBConvert().ConvertDB(old, fresh));
+    EXPECT_EQ(Ask(fresh, u"SELECT group_concat(sText) FROM EventTrigger"_s), u"a,b,c"_s);
+    Make(old, {u"ALTER TABLE EventTrigger DROP COLUMN SN"_s});
+    EXPECT_TRUE(clsDBConvert().ConvertDB(old, fresh));
+    EXPECT_EQ(Ask(fresh, u"SELECT group_concat(sText) FROM EventTrigger"_s), u"c,a,b"_s);
+}
+
 TEST_F(UpgradeTest, ABadValueCostsItsRowOnly)
 {
     QStringList layout = OldLayout(u"1.0.1.9"_s, u"x"_s);
@@ -223,14 +260,22 @@ TEST_F(UpgradeTest, KilledAtAnyStepTheDataIsStillThere)
     int last = 1;
     int converted = 0;
     int fellBack = 0;
+    const QString prepared = path(u"\\Prepared");
+    ASSERT_TRUE(QDir().mkdir(prepared));
+    QFile::copy(path(kTemplateFile), prepared + u"/template"_s);
+    Make(prepared + u"/old"_s, OldLayout(u"1.0.1.9"_s, u"Harbour"_s));
+    Make(prepared + u"/saved"_s, OldLayout(u"1.0.1.9"_s, u"Saved"_s));
     for (; killed; ++last) {
         for (const bool backup : {true, false}) {
             SCOPED_TRACE(u"killed at %1, backup %2"_s.arg(last).arg(backup).toStdString());
-            QDir(path(u"\\Database")).removeRecursively();
-            CreateTemplate(path(kTemplateFile));
-            Make(path(kDatabaseFile), OldLayout(u"1.0.1.9"_s, u"Harbour"_s));
-            if (backup)
-                Make(path(kBackup1File), OldLayout(u"1.0.1.9"_s, u"Saved"_s));
+            QDir database(path(u"\\Database"));
+            database.removeRecursively();
+            database.mkpath(u"."_s);
+            ASSERT_TRUE(QFile::copy(prepared + u"/template"_s, path(kTemplateFile)));
+            ASSERT_TRUE(QFile::copy(prepared + u"/old"_s, path(kDatabaseFile)));
+            if (backup) {
+                ASSERT_TRUE(QFile::copy(prepared + u"/saved"_s, path(kBackup1File)));
+            }
 
             QProcess child;
             QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

@@ -3,7 +3,9 @@
 #include "tooling/SystemLogExport.h"
 
 #include <QSqlQuery>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -38,8 +40,11 @@ protected:
     }
     void addMany(int rows)
     {
+        QSqlDatabase log = databases.LogConn->database();
+        log.transaction();
         for (int i = 0; i < rows; ++i)
             add(kNoon + i, u"u"_s, u"row %1"_s.arg(i));
+        EXPECT_TRUE(log.commit());
     }
     QByteArray bytes(const QString& file)
     {
@@ -47,7 +52,28 @@ protected:
         return handle.open(QIODevice::ReadOnly) ? handle.readAll() : QByteArray("missing");
     }
     QString folder() { return AppPath(); }
+    QStringList left(const QString& pattern) { return QDir(folder()).entryList({pattern}); }
     const SystemLogQuery everything{0, 2147483647, {}};
+};
+
+// As long as it lives no file grows beyond a size: the disk is full in the middle of a file.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
 };
 
 TEST_F(SystemLogTest, PagesOfEleven)
@@ -150,15 +176,82 @@ TEST_F(SystemLogTest, ABrokenExportLeavesNothingBehind)
     EXPECT_EQ(ExportSystemLogCsv(databases, everything, folder(), u"new"_s, stop), QString());
     EXPECT_EQ(ExportSystemLogMdb(databases, everything, folder(), u"new"_s, stop), QString());
 
-    // A full disk: every write fails, the device itself stays.
-    ASSERT_TRUE(QFile::link(u"/dev/full"_s, folder() + u"/full.csv"_s));
-    EXPECT_THROW(ExportSystemLogCsv(databases, everything, folder(), u"full"_s, {}), std::runtime_error);
-    EXPECT_TRUE(QFile::exists(u"/dev/full"_s));
-
     QSqlQuery(databases.LogConn->database()).exec(u"DROP TABLE SystemLog"_s);
     EXPECT_THROW(ExportSystemLogMdb(databases, everything, folder(), u"new"_s, {}), std::runtime_error);
-    const QStringList left = QDir(folder()).entryList({u"new*"_s});
-    EXPECT_TRUE(left.isEmpty()) << left.join(u' ').toStdString();
+    EXPECT_EQ(left(u"new*"_s), QStringList());
+}
+
+TEST_F(SystemLogTest, AFullDiskHarmsNothing)
+{
+    addMany(4000);
+    write(folder() + u"/mine.csv"_s, "mine\n");
+    {
+        const FullDisk full(90000);
+        for (const QString& stem : {u"mine"_s, u"new"_s})
+            EXPECT_THROW(ExportSystemLogCsv(databases, everything, folder(), stem, {}), std::runtime_error);
+        EXPECT_THROW(ExportSystemLogMdb(databases, everything, folder(), u"new"_s, {}), std::runtime_error);
+    }
+    EXPECT_EQ(bytes(folder() + u"/mine.csv"_s), QByteArray("mine\n"));
+    EXPECT_EQ(left(u"new*"_s), QStringList());
+    EXPECT_NO_THROW(ExportSystemLogMdb(databases, everything, folder(), u"new"_s, {}));
+}
+
+TEST_F(SystemLogTest, ANewFileHasItsNameWhenItIsWhole)
+{
+    addMany(1000);
+    for (const auto& write : {ExportSystemLogCsv, ExportSystemLogMdb}) {
+        const QString file = write(databases, everything, folder(), u"new"_s, [&](qint64 rows) {
+            EXPECT_EQ(left(u"new.???"_s), QStringList()) << rows;
+            return true;
+        });
+        EXPECT_EQ(left(u"new*"_s), QStringList{QFileInfo(file).fileName()});
+        QFile::remove(file);
+    }
+}
+
+TEST_F(SystemLogTest, ALogThatCannotBeRead)
+{
+    addMany(3000);
+    const QString file = path(kSystemLogFile);
+    databases.LogConn->close();
+    const QByteArray whole = bytes(file);
+    QByteArray damaged = whole;
+    damaged.replace(whole.size() / 2, 4096, QByteArray(4096, '\xff'));
+    const struct
+    {
+        const char* what;
+        QByteArray content; // nothing: the file is gone
+        bool locked = false;
+    } cases[]{{"missing", {}},
+              {"foreign", "Date,Time,User,Description\n"},
+              {"damaged", damaged},
+              {"cut short", whole.first(whole.size() / 2)},
+              {"locked", whole, true}};
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.what);
+        databases.LogConn->close();
+        QFile::remove(file);
+        if (!test.content.isEmpty())
+            write(file, test.content);
+        Connection other;
+        if (test.locked) {
+            other.setConnectionString(DatabaseConnectionString(file));
+            other.openAsIs();
+            QSqlQuery query(other.database());
+            ASSERT_TRUE(query.exec(u"PRAGMA locking_mode=EXCLUSIVE"_s) && query.exec(u"BEGIN EXCLUSIVE"_s));
+        }
+        SystemLogModel model(databases);
+        EXPECT_FALSE(model.search(everything));
+        EXPECT_EQ(model.found(), 0);
+        EXPECT_EQ(model.rowCount(), 0);
+        EXPECT_THROW(ExportSystemLogCsv(databases, everything, folder(), u"new"_s, {}), std::runtime_error);
+        EXPECT_EQ(left(u"new*"_s), QStringList());
+        other.close();
+        databases.LogConn->close();
+        write(file, whole); // what it was again: the next search finds it
+        EXPECT_TRUE(model.search(everything));
+        EXPECT_EQ(model.found(), 3000);
+    }
 }
 
 } // namespace

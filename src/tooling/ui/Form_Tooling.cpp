@@ -2,8 +2,10 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "look/Fields.h"
 #include "look/Icons.h"
 #include "look/Tables.h"
+#include "look/Theme.h"
 #include "platform/Clock.h"
 #include "platform/FolderChooser.h"
 #include "platform/MsgBox.h"
@@ -15,6 +17,7 @@
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QElapsedTimer>
+#include <QHeaderView>
 #include <QShortcut>
 #include <QTimer>
 #include <QUrl>
@@ -77,7 +80,8 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     StyleTable(grid);
     MonospaceColumn(grid, SystemLogModel::Time);
     grid->setColumnWidth(SystemLogModel::Time, 150);
-    grid->setColumnWidth(SystemLogModel::User, 130);
+    grid->setColumnWidth(SystemLogModel::User, 170);
+    grid->verticalHeader()->setDefaultSectionSize(TableRowHeight() - 2); // a page fits the smallest desk
     grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
 
     const std::array buttons{m_ui->lbSysPageControl_0, m_ui->lbSysPageControl_1, m_ui->lbSysPageControl_2,
@@ -125,12 +129,11 @@ void Form_Tooling::setPickers()
         for (int i = 0; i < 4; ++i) {
             const QString name = frame + QString::number(i);
             if (auto* date = findChild<QDateEdit*>(name)) {
-                date->setDisplayFormat(u"yyyy/MM/dd"_s);
+                SetTimeFormat(date, u"yyyy/MM/dd"_s);
                 date->setDateRange(kFirstDate, kLastDate);
-                date->setCalendarPopup(true);
                 date->setDate(i == 0 ? today.addDays(-1) : today);
             } else if (auto* time = findChild<QTimeEdit*>(name)) {
-                time->setDisplayFormat(u"HH:mm:ss"_s);
+                SetTimeFormat(time, u"HH:mm:ss"_s);
                 time->setTime(i == 1 ? QTime(0, 0) : QTime(23, 59, 59));
             }
         }
