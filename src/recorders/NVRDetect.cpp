@@ -6,6 +6,7 @@
 #include "device/ParameterText.h"
 #include "device/ReplyParsers.h"
 #include "platform/Wait.h"
+#include "recorders/CameraLists.h"
 #include "support/Conversions.h"
 #include "support/HostNames.h"
 
@@ -14,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kSource("Form_NVRSetting - DetectNVR");
-constexpr qint16 kOnvifBrand = 55;
 constexpr qint32 kNewEventVersion = 30026804; // fourth piece of the firmware version
 
 enum Message
