@@ -358,8 +358,8 @@ void Form_Initial::showRecorder(int slot)
 {
     ModifyHooks hooks;
     hooks.RemoveSVR = [this](int removed) { RemoveSVR(m_station, m_com, removed); };
-    hooks.recorderRenamed = [this](int renamed) {
-        RenameRecorderMap(m_station.emap, renamed, m_station.recorders.SVREdit.sSVR_Name);
+    hooks.recorderRenamed = [this](int renamed, const QString& name) {
+        RenameRecorderMap(m_station.emap, renamed, name);
     };
     hooks.SaveCheck = [this] {
         SaveCheck(m_station);
