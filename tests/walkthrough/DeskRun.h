@@ -35,6 +35,6 @@ private:
 
 // One recorder is typed in, its rows are compared with it and printed, and a second start must find it again.
 void WalkOneRecorder(const QString& screenshots);
-// Sixteen recorders of mixed families: searched, added as far as the channels go, some removed, the places filled
-// again; rows, devices and audit lines are compared after each step and after a restart.
+// Sixteen recorders of mixed families: searched, added as far as the channels go, a camera of each family tuned, some
+// removed, the places filled again; rows, devices and audit lines are compared after each step and after a restart.
 void WalkWholeSite(const QString& screenshots);

@@ -19,6 +19,8 @@ namespace {
 // A search may meet devices of other sites on the machine: this site's own are told by their network.
 const QString kNetwork = u"127.0.9."_s;
 constexpr int kRemoved = 3;
+constexpr int kTunedChannel = 1; // from 0
+constexpr int kTuned = 3;        // recorders from the top of the list, one of each family
 
 simulators::SiteDescription MixedSite()
 {
@@ -65,8 +67,8 @@ public:
             addAccount(desk);
             openPage(desk);
             addFound(desk, u"btnEmptyState"_s, u"1"_s);
-            // Cameras are tuned here once their windows are part of the desk: their rows, the devices' state and the
-            // audit line belong to this step.
+            for (int row = 0; row < kTuned; ++row)
+                tune(desk, row);
             for (int i = 0; i < kRemoved; ++i)
                 remove(desk);
             desk.driver.add(u"removed"_s, Usable(u"lbAdd"_s), [&] { desk.screenshot(u"4-removed"_s); });
@@ -181,6 +183,51 @@ private:
                            u"adding wrote to a recorder"_s);
             }
         });
+    }
+
+    // Opens the recorder of a list row and gives its second camera another name, detected anew and written back.
+    void tune(DeskRun& desk, int row)
+    {
+        Driver& driver = desk.driver;
+        const QString name = u"Gate %1"_s.arg(row + 1);
+        driver.add(u"recorder"_s, Usable(u"Grid_SVRsList"_s),
+                   [row] { pressRow(u"Grid_SVRsList"_s, row, Qt::Key_Return); });
+        driver.add(u"channels"_s, Usable(u"Grid_ChannelList"_s),
+                   [] { pressRow(u"Grid_ChannelList"_s, kTunedChannel, Qt::Key_Return); });
+        driver.add(u"camera"_s, Usable(u"txtCam_0"_s), [name] {
+            Driver::type(u"txtCam_0"_s, name);
+            Driver::click(u"lbCamDetect"_s);
+        });
+        answer(desk, 833, u"btnOk"_s);
+        driver.add(u"detected camera"_s, Usable(u"lbCamModifyApply_0"_s), [&desk, row] {
+            desk.screenshot(u"2-camera-%1"_s.arg(row + 1));
+            Driver::click(u"lbCamModifyApply_0"_s);
+        });
+        answer(desk, 611, u"btnYes"_s);
+        driver.add(u"written camera"_s, Usable(u"lbModifyApply_0"_s), [this, &desk, row, name] {
+            const int device = m_slots.at(row + 1);
+            m_site.call([device, name](Site& site) {
+                Expect(site.device(device).channel(kTunedChannel + 1).camera.name == name,
+                       u"the recorder's camera is not called "_s + name);
+            });
+            desk.screenshot(u"3-tuned-%1"_s.arg(row + 1));
+            m_audit << u"Modify Setting of NVR"_s;
+            Driver::click(u"lbModifyApply_0"_s);
+        });
+        driver.add(u"tuned"_s, Usable(u"lbAdd"_s), [this] { check(u"after tuning"_s); });
+    }
+    static void answer(DeskRun& desk, int message, const QString& button)
+    {
+        desk.driver.add(
+            u"box %1"_s.arg(message), [message] { return Driver::boxText() == GetLangString(message); },
+            [button] { Driver::answerBox(button); });
+    }
+    static void pressRow(const QString& name, int row, Qt::Key key)
+    {
+        auto* grid = Driver::find<QTableView>(name);
+        grid->setFocus();
+        grid->setCurrentIndex(grid->model()->index(row, 0));
+        QTest::keyClick(grid, key);
     }
 
     // Removes the recorder in the list's last row by the keyboard.
