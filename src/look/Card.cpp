@@ -23,6 +23,7 @@ void Card::setTitleControl(QWidget* control)
     delete m_titleControl;
     m_titleControl = control;
     control->setParent(this);
+    control->installEventFilter(this);
     control->show();
     placeTitleControl();
 }
@@ -38,6 +39,14 @@ void Card::changeEvent(QEvent* event)
     QGroupBox::changeEvent(event);
     if (event->type() == QEvent::LayoutDirectionChange || event->type() == QEvent::FontChange)
         placeTitleControl();
+}
+
+bool Card::eventFilter(QObject* watched, QEvent* event)
+{
+    // What stands in the control has grown or shrunk.
+    if (watched == m_titleControl && event->type() == QEvent::LayoutRequest)
+        placeTitleControl();
+    return QGroupBox::eventFilter(watched, event);
 }
 
 void Card::placeTitleControl()

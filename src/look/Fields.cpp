@@ -53,6 +53,21 @@ private:
     QLineEdit* m_field;
 };
 
+class FocusSelector : public QObject
+{
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        // Later, or the press that gave the focus would take the selection away again.
+        if (event->type() == QEvent::FocusIn)
+            QMetaObject::invokeMethod(static_cast<QLineEdit*>(watched), &QLineEdit::selectAll, Qt::QueuedConnection);
+        return false;
+    }
+};
+
 } // namespace
 
 SearchField::SearchField(QWidget* parent)
@@ -118,6 +133,11 @@ void SetTimeFormat(QDateTimeEdit* field, const QString& format)
     // The style sheet's idea of its width leaves the padding out.
     const QFontMetrics metrics(MonoFont());
     field->setMinimumWidth(metrics.horizontalAdvance(QString(format.size() + 1, u'0')) + kTimeFieldFrame);
+}
+
+void SelectOnFocus(QLineEdit* field)
+{
+    field->installEventFilter(new FocusSelector(field));
 }
 
 void SetFaulty(QLineEdit* field, bool faulty)

@@ -26,5 +26,7 @@ void AddEye(QLineEdit* field, const QString& showText, const QString& hideText);
 // Gives a date or time field its format, the figures face and a calendar. It reads from left to right in every desk: a
 // right-to-left field would turn the order of its parts round.
 void SetTimeFormat(QDateTimeEdit* field, const QString& format);
+// The whole text is selected whenever the field gets the focus, by the pointer too.
+void SelectOnFocus(QLineEdit* field);
 // Marks a field as faulty or not: a border in the colour of faults. The words belong in a label beside it.
 void SetFaulty(QLineEdit* field, bool faulty);

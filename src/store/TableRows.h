@@ -21,6 +21,14 @@ qint16 ReadRows(Databases& databases, const QString& table, const QString& state
     return ok ? 1 : 0;
 }
 
+// Deletes the rows of a table one by one; throws when one cannot be deleted.
+inline void DeleteAllRows(Databases& databases, const QString& table)
+{
+    OpenStatement(databases, QStringLiteral("Select * From ") + table, LockType::Optimistic);
+    for (databases.DBRec->moveFirst(); !databases.DBRec->eof();)
+        databases.DBRec->deleteRow();
+}
+
 // Carries out `deleteRows`, which empties the table, then opens it and lets `addRows` write the new rows. Nothing is
 // added when the old rows could not be deleted: new ones would stand beside them. 1 or 0 as above.
 template <class DeleteRows, class AddRows>

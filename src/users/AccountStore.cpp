@@ -1,6 +1,7 @@
 #include "users/AccountStore.h"
 
 #include "store/TableAccess.h"
+#include "store/TableRows.h"
 #include "store/tables/Tables.h"
 
 #include <algorithm>
@@ -10,49 +11,39 @@ using namespace Qt::StringLiterals;
 qint16 GetMyAccount(Databases& databases, std::vector<NVRAccountRecord>& accounts)
 {
     constexpr QLatin1String source("Module_DB_Access - GetMyAccount");
-    accounts.assign(1, {});
-    const bool ok = Trapped(source, [&] {
-        OpenStatement(databases, u"Select * From NVRAccount"_s, LockType::ReadOnly);
-        Recordset& rows = *databases.DBRec;
-        const qint64 count = rows.recordCount();
-        if (count > 0)
-            accounts.assign(static_cast<std::size_t>(count), {});
-        TableAccess<NVRAccountRecord> access(rows, NVRAccountColumns, source);
-        for (qint64 i = 0; i < count; ++i) {
-            rows.moveFirst();
-            rows.move(i);
-            access.read(At(accounts, i));
-        }
-    });
-    return ok ? 1 : 0;
+    std::vector<NVRAccountRecord> found;
+    const qint16 result =
+        ReadRows(databases, u"NVRAccount"_s, u"Select * From NVRAccount"_s, source, [&](Recordset& rows) {
+            TableAccess<NVRAccountRecord> access(rows, NVRAccountColumns, source);
+            for (; !rows.eof(); rows.moveNext())
+                access.read(found.emplace_back());
+        });
+    if (found.empty())
+        found.emplace_back();
+    accounts = std::move(found);
+    return result;
 }
 
 qint16 SaveMyAccount(Databases& databases, const std::vector<NVRAccountRecord>& accounts)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveMyAccount");
-    Trapped(source, [&] {
-        OpenStatement(databases, u"Select * From NVRAccount"_s, LockType::Optimistic);
-        for (databases.DBRec->moveFirst(); !databases.DBRec->eof();)
-            databases.DBRec->deleteRow();
-    });
-    if (OpenRecset(databases, u"NVRAccount"_s) == 0)
-        return 0;
-    const bool ok = Trapped(source, [&] {
-        TableAccess<NVRAccountRecord> access(*databases.DBRec, NVRAccountColumns, source);
+    const QString table = u"NVRAccount"_s;
+    const auto addRows = [&](Recordset& rows) {
+        TableAccess<NVRAccountRecord> access(rows, NVRAccountColumns, source);
         for (std::size_t i = 0; i < accounts.size(); ++i) {
             NVRAccountRecord account = accounts[i];
             if (account.sUser.isEmpty() && account.sPass.isEmpty())
                 continue;
             account.iIndex = static_cast<qint16>(i);
             Trapped(source, [&] {
-                databases.DBRec->addNew();
+                rows.addNew();
                 access.write(account);
-                databases.DBRec->update();
+                rows.update();
             });
         }
-    });
-    Trapped(source, [&] { databases.DBRec->close(); });
-    return ok ? 1 : 0;
+    };
+    return ReplaceRows(
+        databases, table, source, [&] { DeleteAllRows(databases, table); }, addRows);
 }
 
 bool HasAccount(const std::vector<NVRAccountRecord>& accounts, const QString& user, const QString& password)

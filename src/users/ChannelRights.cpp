@@ -80,19 +80,23 @@ qint16 DeriveLiveAll(const GroupPrivilegeRecord& group, const std::array<SVRReco
     return 1;
 }
 
-quint8 EffectiveRights(const GroupPrivilegeRecord& group, int groupIndex, int slot, int channel)
+std::array<quint8, kMaxChannel> EffectiveRights(const GroupSet& groups, int groupIndex, int slot)
 {
-    if (groupIndex == 0)
-        return kAllRights;
-    if (group.Live != 1)
-        return 0;
-    if (group.Live_all == 1)
-        return kAllRights;
-    const ChannelRights rights = ParseCHPrivilege(At(group.CHPrivilege, slot));
-    if (rights.all)
-        return kAllRights;
-    const quint8 mask = At(rights.masks, channel);
-    return (mask & kLiveRight) != 0 ? mask : quint8(0);
+    std::array<quint8, kMaxChannel> masks{};
+    const GroupPrivilegeRecord& group = At(groups.edit, groupIndex);
+    if (groupIndex != 0 && group.Live != 1)
+        return masks;
+    const bool everything = groupIndex == 0 || group.Live_all == 1;
+    const ChannelRights rights = everything ? ChannelRights{} : ParseCHPrivilege(At(group.CHPrivilege, slot));
+    if (everything || rights.all) {
+        masks.fill(kAllRights);
+        return masks;
+    }
+    for (std::size_t channel = 0; channel < masks.size(); ++channel) {
+        if ((rights.masks[channel] & kLiveRight) != 0)
+            masks[channel] = rights.masks[channel];
+    }
+    return masks;
 }
 
 std::vector<ReachedCamera> CamerasOf(const GroupSet& groups, int groupIndex,
@@ -105,12 +109,10 @@ std::vector<ReachedCamera> CamerasOf(const GroupSet& groups, int groupIndex,
         const SVRRecord& recorder = At(recorders, slot);
         if (recorder.sSVR_Name.isEmpty())
             continue;
+        const auto masks = EffectiveRights(groups, groupIndex, slot);
         for (int channel = 0; channel < kMaxChannel; ++channel) {
-            if (At(recorder.sSub_CH_Name, channel).isEmpty())
-                continue;
-            const quint8 mask = EffectiveRights(At(groups.edit, groupIndex), groupIndex, slot, channel);
-            if (mask != 0)
-                cameras.push_back({slot, channel, mask});
+            if (!At(recorder.sSub_CH_Name, channel).isEmpty() && At(masks, channel) != 0)
+                cameras.push_back({slot, channel, At(masks, channel)});
         }
     }
     return cameras;
@@ -120,7 +122,7 @@ QStringList UsersOf(const GroupSet& groups, const UserSet& users, int slot, int 
 {
     std::array<bool, kGroups> reaches{};
     for (int group = 0; group < kGroups; ++group)
-        At(reaches, group) = EffectiveRights(At(groups.edit, group), group, slot, channel) != 0;
+        At(reaches, group) = At(EffectiveRights(groups, group, slot), channel) != 0;
     QStringList names;
     for (const UserRecord& user : users.edit) {
         if (IsListedUser(user) && user.iGroup >= 0 && user.iGroup < kGroups && At(reaches, user.iGroup))

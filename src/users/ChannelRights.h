@@ -32,9 +32,9 @@ int RightsChannelCount(const SVRRecord& recorder);
 // 1 when every recorder with a name is granted as a whole (also when there is none), else 0.
 qint16 DeriveLiveAll(const GroupPrivilegeRecord& group, const std::array<SVRRecord, kMaxSVR>& recorders);
 
-// The mask that counts for a group on a channel (from 0): administrators have every right; "all channels" and a whole
-// recorder grant everything; nothing counts without the group's own right to live pictures.
-quint8 EffectiveRights(const GroupPrivilegeRecord& group, int groupIndex, int slot, int channel);
+// The masks that count for a group on a recorder's channels: administrators have every right; "all channels" and a
+// whole recorder grant everything; nothing counts without the group's own right to live pictures.
+std::array<quint8, kMaxChannel> EffectiveRights(const GroupSet& groups, int groupIndex, int slot);
 
 struct ReachedCamera
 {

@@ -21,12 +21,8 @@ qint16 ReadAll(Databases& databases, const QString& table, QLatin1String source,
 template <class AddRows>
 qint16 ReplaceAll(Databases& databases, const QString& table, QLatin1String source, AddRows&& addRows)
 {
-    const auto deleteRows = [&] {
-        OpenStatement(databases, u"Select * From "_s + table, LockType::Optimistic);
-        for (databases.DBRec->moveFirst(); !databases.DBRec->eof();)
-            databases.DBRec->deleteRow();
-    };
-    return ReplaceRows(databases, table, source, deleteRows, std::forward<AddRows>(addRows));
+    return ReplaceRows(
+        databases, table, source, [&] { DeleteAllRows(databases, table); }, std::forward<AddRows>(addRows));
 }
 
 } // namespace

@@ -162,13 +162,11 @@ ChannelRightsModel::ChannelRightsModel(const GroupSet& groups, const UserSet& us
         m_rights.masks.fill(kAllRights);
     }
     for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
-        if (At(recorder.sSub_CH_Name, channel).isEmpty())
-            continue;
-        m_channels.push_back(channel);
-        for (int other = 0; other < kGroups; ++other)
-            At(m_effective, other * kMaxChannel + channel) =
-                EffectiveRights(At(groups.edit, other), other, slot, channel);
+        if (!At(recorder.sSub_CH_Name, channel).isEmpty())
+            m_channels.push_back(channel);
     }
+    for (int other = 0; other < kGroups; ++other)
+        At(m_effective, other) = EffectiveRights(groups, other, slot);
 }
 
 void ChannelRightsModel::setAll(bool all)
@@ -248,7 +246,7 @@ QString ChannelRightsModel::reach(int channel) const
     for (const UserRecord& user : m_users.edit) {
         if (!IsListedUser(user) || user.iGroup < 0 || user.iGroup >= kGroups)
             continue;
-        bool reaches = At(m_effective, user.iGroup * kMaxChannel + channel) != 0;
+        bool reaches = At(At(m_effective, user.iGroup), channel) != 0;
         if (user.iGroup == m_group && m_group != 0)
             reaches = own.Live == 1 && (m_rights.all || (At(m_rights.masks, channel) & kLiveRight) != 0);
         if (reaches)

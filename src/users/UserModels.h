@@ -113,5 +113,5 @@ private:
     int m_slot;
     ChannelRights m_rights;
     std::vector<int> m_channels;
-    std::array<quint8, kGroups * kMaxChannel> m_effective{}; // of the other groups, by group * 64 + channel
+    std::array<std::array<quint8, kMaxChannel>, kGroups> m_effective{}; // as stored, by group and channel
 };

@@ -177,6 +177,24 @@ TEST_F(UserTest, RightsTexts)
     }
 }
 
+TEST_F(UserTest, ADamagedTextCostsOneLine)
+{
+    const SVRRecord recorder = [] {
+        SVRRecord made = Recorder(64, {});
+        made.sSub_CH_Name.fill(u"Camera"_s);
+        return made;
+    }();
+    GroupSet groups;
+    groups.edit[2].Live = 1;
+    groups.edit[2].CHPrivilege[0] = u"0:15,99,x"_s;
+    const ChannelRightsModel grid(groups, users, recorder, 1, 0);
+    EXPECT_EQ(grid.rowCount(), 64);
+    EXPECT_EQ(allLogs().count('\n'), 1);
+    const auto masks = EffectiveRights(groups, 2, 0);
+    EXPECT_EQ(masks[0], 15);
+    EXPECT_EQ(masks[1], 0);
+}
+
 TEST_F(UserTest, LiveGoverns)
 {
     ChannelRights rights;

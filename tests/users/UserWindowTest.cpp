@@ -8,10 +8,12 @@
 #include "tests/store/StoreFixture.h"
 #include "tests/walkthrough/Driver.h"
 #include "users/UserModels.h"
+#include "users/ui/Form_UserPass.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
@@ -200,7 +202,9 @@ TEST_F(UserWindowTest, TheLastAdministratorStaysAndOthersGo)
         clickCell(u"Grid_UsersList"_s, 0, UserListModel::Delete); // refused
         clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // No
         clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // Yes
-        clickCell(u"Grid_UsersList"_s, 0, UserListModel::Edit);
+        const auto* groups = Driver::find<QTableView>(u"Grid_GroupList"_s);
+        EXPECT_LE(groups->visualRect(groups->model()->index(6, 0)).bottom(), groups->viewport()->height());
+        QTest::keyClick(Driver::find(u"Grid_UsersList"_s), Qt::Key_Enter, Qt::KeypadModifier);
     });
     step(u"Form_UserSetting"_s, [] {
         EXPECT_FALSE(Driver::find(u"cmbUser"_s)->isEnabled());
@@ -230,6 +234,31 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
         picture(u"group"_s);
         clickCell(u"Grid_NVRList"_s, 0, 0);
     });
+    // A whole column by the keyboard, then Esc: nothing is stored.
+    step(u"Grid_ChannelPrivilege"_s, [] {
+        auto* grid = Driver::find<QTableView>(u"Grid_ChannelPrivilege"_s);
+        grid->setFocus();
+        QElapsedTimer timer;
+        timer.start();
+        QTest::keyClick(grid, Qt::Key_Space, Qt::ControlModifier);
+        QTest::keyClick(grid, Qt::Key_Space);
+        grid->repaint();
+        std::printf("a column of %d channels: %lld ms\n", grid->model()->rowCount(), timer.elapsed());
+        EXPECT_LT(timer.elapsed(), 500);
+        for (int channel = 0; channel < 63; ++channel)
+            EXPECT_EQ(grid->model()->index(channel, ChannelRightsModel::Live).data(Qt::CheckStateRole), Qt::Checked);
+        EXPECT_EQ(grid->model()->index(4, ChannelRightsModel::PTZ).data(Qt::AccessibleTextRole).toString(),
+                  u"Camera 6, PTZ: "_s + GetLangString(879));
+        QTest::keyClick(grid, Qt::Key_Escape);
+    });
+    step(u"Grid_NVRList"_s, [] {
+        QElapsedTimer timer;
+        timer.start();
+        QTest::keyClick(Driver::find(u"Grid_NVRList"_s), Qt::Key_Enter, Qt::KeypadModifier);
+        Driver::find(u"Grid_ChannelPrivilege"_s)->repaint();
+        std::printf("opening a recorder: %lld ms\n", timer.elapsed());
+        EXPECT_LT(timer.elapsed(), 500);
+    });
     step(u"Grid_ChannelPrivilege"_s, [] {
         QWidget* grid = Driver::find(u"Grid_ChannelPrivilege"_s);
         clickCell(u"Grid_ChannelPrivilege"_s, 0, ChannelRightsModel::PTZ); // brings live along
@@ -250,6 +279,35 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     driver.run(10000);
     EXPECT_EQ(row(u"SELECT Export||Live||Live_all||Setting FROM GroupPrivilege WHERE GroupID=5"_s).toString(),
               u"1100"_s);
+}
+
+TEST_F(UserWindowTest, TheAccountOfADeviceIsHandedBack)
+{
+    ASSERT_TRUE(start());
+    DeviceAccount given;
+    DeviceAccount closed;
+    step(u"Text1"_s, [] {
+        QTest::keyClicks(Driver::find(u"Text1"_s), u"admin"_s);
+        QTest::keyClick(Driver::find(u"Text1"_s), Qt::Key_Return); // does nothing
+        QTest::keyClick(Driver::find(u"Text1"_s), Qt::Key_Tab);
+        QTest::keyClicks(Driver::find(u"Text2"_s), u"old"_s);
+        Driver::find(u"Text1"_s)->setFocus();
+        Driver::find(u"Text2"_s)->setFocus();
+        QCoreApplication::processEvents();
+        QTest::keyClicks(Driver::find(u"Text2"_s), u"secret"_s); // over the selection
+        QTest::keyClick(Driver::find(u"Text2"_s), Qt::Key_Return);
+    });
+    waitClosed(u"Form_UserPass"_s);
+    step(u"Text1"_s, [] { QTest::keyClick(Driver::find(u"Text1"_s), Qt::Key_Escape); });
+    waitClosed(u"Form_UserPass"_s);
+    QTimer::singleShot(0, &driver, [&] {
+        given = Form_UserPass(desk.get());
+        closed = Form_UserPass(desk.get());
+    });
+    driver.run(10000);
+    EXPECT_TRUE(given.DeviceAccountGiven);
+    EXPECT_EQ(given.DeviceUser + u'/' + given.DevicePassword, u"admin/secret"_s);
+    EXPECT_FALSE(closed.DeviceAccountGiven);
 }
 
 TEST_F(UserWindowTest, DeviceAccounts)

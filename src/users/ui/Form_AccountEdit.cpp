@@ -8,6 +8,7 @@
 #include "look/Tables.h"
 #include "platform/MsgBox.h"
 #include "users/AccountStore.h"
+#include "users/ui/FieldCaption.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
@@ -53,13 +54,8 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
     column->setSpacing(12);
     column->addWidget(Grid_Account, 1);
     auto* form = new QFormLayout;
-    for (auto [number, field] : {std::pair{465, m_user}, std::pair{466, m_password}}) {
-        auto* label = new QLabel;
-        label->setProperty("tag", u"Caption:%1"_s.arg(number));
-        label->setBuddy(field);
-        field->setAccessibleName(GetLangString(number));
-        form->addRow(label, field);
-    }
+    form->addRow(FieldCaption(465, m_user), m_user);
+    form->addRow(FieldCaption(466, m_password), m_password);
     form->addRow(QString(), mask);
     column->addLayout(form);
 

@@ -55,7 +55,7 @@ Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users,
     m_cancel->setAutoDefault(false);
     m_apply = footer()->addButton(GetLangString(591), "primary"_L1);
     m_apply->setDefault(true);
-    connect(m_cancel, &QPushButton::clicked, this, &Form_GroupPrivilege::reject);
+    connect(m_cancel, &QPushButton::clicked, this, &Form_GroupPrivilege::cancelFrame);
     connect(m_apply, &QPushButton::clicked, this, [this] {
         if (m_frame == 0)
             lbGroupPrivilege_Click();
@@ -295,12 +295,30 @@ void Form_GroupPrivilege::lbNVRPrivilege_Click()
     });
 }
 
+// Leaves the channels of a recorder for the group, and the group for good; nothing is stored.
+void Form_GroupPrivilege::cancelFrame()
+{
+    if (m_frame == 0)
+        reject();
+    else
+        LoadFrame(0);
+}
+
+void Form_GroupPrivilege::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        cancelFrame();
+    else
+        DialogFrame::keyPressEvent(event);
+}
+
 bool Form_GroupPrivilege::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::KeyPress)
         return DialogFrame::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (watched == Grid_NVRList && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Space)) {
+    if (watched == Grid_NVRList &&
+        (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || key->key() == Qt::Key_Space)) {
         openRecorder(Grid_NVRList->currentIndex().row());
         return true;
     }

@@ -26,6 +26,7 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QWidget* buildGroupFrame();
@@ -35,7 +36,7 @@ private:
     void lbGroupPrivilege_Click();
     void lbNVRPrivilege_Click();
     void openRecorder(int row);
-    void showList();
+    void cancelFrame();
     QModelIndexList chosenCells() const;
     GroupPrivilegeRecord& group();
 

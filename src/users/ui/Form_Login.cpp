@@ -9,27 +9,20 @@
 #include "look/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/MsgBox.h"
+#include "users/ui/FieldCaption.h"
 
 #include <QFormLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPushButton>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int kLogo = 72; // px
-
-QLabel* Caption(int number, QWidget* field, const QString& name)
-{
-    auto* label = new QLabel;
-    label->setObjectName(name);
-    label->setProperty("tag", u"Caption:%1"_s.arg(number));
-    label->setBuddy(field);
-    return label;
-}
-
 } // namespace
 
 Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
@@ -52,7 +45,8 @@ Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
     m_password->setObjectName(u"txtLogin_1"_s);
     m_password->setEchoMode(QLineEdit::Password);
     m_password->installEventFilter(this);
-    m_name->installEventFilter(this);
+    SelectOnFocus(m_name);
+    SelectOnFocus(m_password);
 
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(0, 0, 0, 0);
@@ -61,8 +55,8 @@ Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
     column->addWidget(title);
     auto* form = new QFormLayout;
     form->setVerticalSpacing(10);
-    form->addRow(Caption(40, m_name, u"lbLogin_0"_s), m_name);
-    form->addRow(Caption(41, m_password, u"lbLogin_1"_s), m_password);
+    form->addRow(FieldCaption(40, m_name, u"lbLogin_0"_s), m_name);
+    form->addRow(FieldCaption(41, m_password, u"lbLogin_1"_s), m_password);
     column->addLayout(form);
 
     m_exit = footer()->addButton(QString());
@@ -103,10 +97,6 @@ QString Form_Login::userName() const
 
 bool Form_Login::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusIn && (watched == m_name || watched == m_password)) {
-        auto* field = static_cast<QLineEdit*>(watched);
-        QMetaObject::invokeMethod(field, &QLineEdit::selectAll, Qt::QueuedConnection);
-    }
     if (watched == m_password && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
@@ -126,6 +116,12 @@ void Form_Login::keyPressEvent(QKeyEvent* event)
         return;
     }
     DialogFrame::keyPressEvent(event);
+}
+
+void Form_Login::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && windowHandle())
+        windowHandle()->startSystemMove();
 }
 
 void Form_Login::imgBtn_OK_Click()
@@ -161,32 +157,4 @@ bool Form_Login::bIsUser()
         }
     });
     return found;
-}
-
-DeviceAccount Form_UserPass(QWidget* parent)
-{
-    DialogFrame dialog(parent);
-    dialog.setObjectName(u"Form_UserPass"_s);
-    dialog.setWindowTitle(GetLangString(660));
-    dialog.setCloseText(GetLangString(881));
-    auto* user = new QLineEdit;
-    user->setObjectName(u"Text1"_s);
-    auto* password = new QLineEdit;
-    password->setObjectName(u"Text2"_s);
-    password->setEchoMode(QLineEdit::Password);
-    AddEye(password, GetLangString(887), GetLangString(899));
-    auto* form = new QFormLayout(dialog.content());
-    form->setVerticalSpacing(10);
-    form->addRow(Caption(465, user, u"lbUser"_s), user);
-    form->addRow(Caption(466, password, u"lbPassword"_s), password);
-    QPushButton* ok = dialog.footer()->addButton(GetLangString(755), "primary"_L1);
-    ok->setObjectName(u"lbOK"_s);
-    ok->setAutoDefault(false);
-    QObject::connect(ok, &QPushButton::clicked, &dialog, &QDialog::accept);
-    QObject::connect(password, &QLineEdit::returnPressed, &dialog, &QDialog::accept);
-    ApplyLanguage(&dialog);
-    dialog.resize(420, 0);
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    return {user->text(), password->text(), true};
 }

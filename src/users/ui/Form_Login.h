@@ -22,6 +22,7 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override; // the window is moved by any free spot
 
 private:
     void imgBtn_OK_Click();
@@ -35,13 +36,3 @@ private:
     QPushButton* m_exit;
     quint32 m_index = 65535;
 };
-
-// What the dialog below hands back.
-struct DeviceAccount
-{
-    QString DeviceUser;
-    QString DevicePassword;
-    bool DeviceAccountGiven = false; // OK was pressed
-};
-// Asks for the account of a device; compares nothing.
-DeviceAccount Form_UserPass(QWidget* parent);

@@ -12,6 +12,7 @@
 #include "platform/FileChooser.h"
 #include "platform/MsgBox.h"
 #include "support/Conversions.h"
+#include "users/ui/FieldCaption.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -66,13 +67,6 @@ void Form_UserSetting::build(const QStringList& groups)
     form->setVerticalSpacing(10);
     form->setHorizontalSpacing(16);
     row->addLayout(form, 1);
-    const auto caption = [](int number, QWidget* field) {
-        auto* label = new QLabel;
-        label->setProperty("tag", u"Caption:%1"_s.arg(number));
-        label->setBuddy(field);
-        field->setAccessibleName(GetLangString(number));
-        return label;
-    };
     for (const TextField which : order) {
         auto* field = new QLineEdit;
         field->setObjectName(u"txtUser_%1"_s.arg(static_cast<int>(which)));
@@ -87,7 +81,7 @@ void Form_UserSetting::build(const QStringList& groups)
             AddEye(field, GetLangString(887), GetLangString(899));
         }
         if (which != Name) {
-            form->addRow(caption(captions[which], field), field);
+            form->addRow(FieldCaption(captions[which], field), field);
             continue;
         }
         auto* check = new QPushButton;
@@ -99,12 +93,12 @@ void Form_UserSetting::build(const QStringList& groups)
         pair->setSpacing(10);
         pair->addWidget(field, 1);
         pair->addWidget(check);
-        form->addRow(caption(captions[which], field), pair);
+        form->addRow(FieldCaption(captions[which], field), pair);
     }
     cmbUser->setObjectName(u"cmbUser"_s);
     cmbUser->addItems(groups);
     connect(cmbUser, &QComboBox::currentIndexChanged, this, [this] { m_apply->setEnabled(true); });
-    form->insertRow(3, caption(423, cmbUser), cmbUser);
+    form->insertRow(3, FieldCaption(423, cmbUser), cmbUser);
     auto* necessary = new QLabel;
     necessary->setProperty("tag", u"Caption:651"_s);
     SetRole(necessary, "hint"_L1);
@@ -112,7 +106,7 @@ void Form_UserSetting::build(const QStringList& groups)
 
     auto* side = new QVBoxLayout;
     side->setSpacing(8);
-    side->addWidget(caption(646, Image1));
+    side->addWidget(FieldCaption(646, Image1));
     Image1->setObjectName(u"Image1"_s);
     Image1->setFixedSize(kPhotoSide, kPhotoSide);
     Image1->setAlignment(Qt::AlignCenter);

@@ -87,22 +87,26 @@ UserPage::UserPage(UserPageContext context, QWidget* parent)
     m_reach->setObjectName(u"btnReach"_s);
     m_accountsButton->setObjectName(u"btnAccounts"_s);
 
-    auto* tools = new QHBoxLayout;
+    auto* toolRow = new QWidget;
+    auto* tools = new QHBoxLayout(toolRow);
+    tools->setContentsMargins(0, 0, 0, 0);
     tools->setSpacing(10);
-    tools->addStretch();
     tools->addWidget(m_accountsButton);
     tools->addWidget(m_reach);
     tools->addWidget(lbUserAdd);
     m_stack->addWidget(Grid_UsersList);
     m_stack->addWidget(m_empty);
     m_userCard->content()->addWidget(m_stack, 1);
+    m_userCard->setTitleControl(toolRow);
+    // The groups are always seven: their card shows them all and leaves the rest to the users.
+    Grid_GroupList->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    m_groupCard->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     m_groupCard->content()->addWidget(Grid_GroupList, 1);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(24, 20, 24, 20);
+    column->setContentsMargins(24, 16, 24, 16);
     column->setSpacing(16);
-    column->addLayout(tools);
     column->addWidget(m_userCard, 1);
-    column->addWidget(m_groupCard, 1);
+    column->addWidget(m_groupCard);
     setTabOrder(m_accountsButton, m_reach);
     setTabOrder(m_reach, lbUserAdd);
     setTabOrder(lbUserAdd, Grid_UsersList);
@@ -123,13 +127,15 @@ UserPage::UserPage(UserPageContext context, QWidget* parent)
         if (index.column() == GroupListModel::Edit)
             editGroup(index.row());
     });
-    const auto key = [this](QTableView* grid, Qt::Key which, auto&& act) {
-        auto* shortcut = new QShortcut(which, grid, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, act);
+    const auto keys = [this](QTableView* grid, std::initializer_list<Qt::Key> which, auto&& act) {
+        for (const Qt::Key key : which) {
+            auto* shortcut = new QShortcut(key, grid, nullptr, nullptr, Qt::WidgetShortcut);
+            connect(shortcut, &QShortcut::activated, this, act);
+        }
     };
-    key(Grid_UsersList, Qt::Key_Return, [this] { editUser(currentSlot()); });
-    key(Grid_UsersList, Qt::Key_Delete, [this] { deleteUser(currentSlot()); });
-    key(Grid_GroupList, Qt::Key_Return, [this] { editGroup(Grid_GroupList->currentIndex().row()); });
+    keys(Grid_UsersList, {Qt::Key_Return, Qt::Key_Enter}, [this] { editUser(currentSlot()); });
+    keys(Grid_UsersList, {Qt::Key_Delete}, [this] { deleteUser(currentSlot()); });
+    keys(Grid_GroupList, {Qt::Key_Return, Qt::Key_Enter}, [this] { editGroup(Grid_GroupList->currentIndex().row()); });
 }
 
 int UserPage::currentSlot() const
