@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Odebrat z rekordéru kameru kanálu %1?</translation>
+        <translation>Chcete odebrat z rekordéru kameru kanálu %1?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>
@@ -3613,7 +3613,7 @@
     </message>
     <message id="979">
         <source>Fish-eye view</source>
-        <translation>Pohled rybího oka</translation>
+        <translation>Pohled rybím okem</translation>
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>

@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Fjern kameraet på kanal %1 fra optageren?</translation>
+        <translation>Vil du fjerne kameraet på kanal %1 fra optageren?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message id="975">
         <source>Asking the camera…</source>
-        <translation>Spørger kameraet …</translation>
+        <translation>Forespørger kameraet …</translation>
     </message>
     <message id="976">
         <source>Writing to the recorder…</source>

@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Kamera von Kanal %1 aus dem Rekorder entfernen?</translation>
+        <translation>Möchten Sie die Kamera von Kanal %1 aus dem Rekorder entfernen?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>
@@ -3589,7 +3589,7 @@
     </message>
     <message id="973">
         <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
-        <translation>Der Rekorder sieht keine Kamera in seinem Netz. Erneut suchen oder eine Adresse eingeben.</translation>
+        <translation>Der Rekorder sieht keine Kamera in seinem Netzwerk. Bitte erneut suchen oder eine Adresse eingeben.</translation>
     </message>
     <message id="974">
         <source>%1 cameras found</source>

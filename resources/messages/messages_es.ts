@@ -3573,11 +3573,11 @@
     </message>
     <message id="969">
         <source>As stored</source>
-        <translation>Como está guardado</translation>
+        <translation>Según lo guardado</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>¿Quitar del grabador la cámara del canal %1?</translation>
+        <translation>¿Desea quitar del grabador la cámara del canal %1?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>

@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Retirer la caméra du canal %1 de l’enregistreur ?</translation>
+        <translation>Voulez-vous supprimer de l’enregistreur la caméra du canal %1 ?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>

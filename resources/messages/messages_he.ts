@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>להסיר מהמקליט את המצלמה של ערוץ %1?</translation>
+        <translation>האם להסיר מהמקליט את המצלמה של ערוץ %1?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>
@@ -3597,7 +3597,7 @@
     </message>
     <message id="975">
         <source>Asking the camera…</source>
-        <translation>המצלמה נשאלת…</translation>
+        <translation>מתבצעת פנייה למצלמה…</translation>
     </message>
     <message id="976">
         <source>Writing to the recorder…</source>

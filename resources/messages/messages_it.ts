@@ -3613,7 +3613,7 @@
     </message>
     <message id="979">
         <source>Fish-eye view</source>
-        <translation>Vista fisheye</translation>
+        <translation>Vista fish-eye</translation>
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>

@@ -3581,7 +3581,7 @@
     </message>
     <message id="971">
         <source>Filter found cameras</source>
-        <translation>見つかったカメラを絞り込む</translation>
+        <translation>見つかったカメラを絞り込み</translation>
     </message>
     <message id="972">
         <source>No camera was found.</source>

@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Usunąć kamerę kanału %1 z rejestratora?</translation>
+        <translation>Czy usunąć kamerę kanału %1 z rejestratora?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>

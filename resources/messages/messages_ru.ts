@@ -3577,7 +3577,7 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Убрать камеру канала %1 из регистратора?</translation>
+        <translation>Удалить камеру канала %1 из регистратора?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>

@@ -3577,11 +3577,11 @@
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
-        <translation>Kanal %1 kamerası kayıt cihazından kaldırılsın mı?</translation>
+        <translation>Kanal %1 kamerasını kayıt cihazından kaldırmak istiyor musunuz?</translation>
     </message>
     <message id="971">
         <source>Filter found cameras</source>
-        <translation>Bulunan kameraları süz</translation>
+        <translation>Bulunan kameraları filtrele</translation>
     </message>
     <message id="972">
         <source>No camera was found.</source>
@@ -3605,7 +3605,7 @@
     </message>
     <message id="977">
         <source>Video source</source>
-        <translation>Video kaynağı</translation>
+        <translation>Video Kaynağı</translation>
     </message>
     <message id="978">
         <source>Detect the camera to see its video settings.</source>
@@ -3613,7 +3613,7 @@
     </message>
     <message id="979">
         <source>Fish-eye view</source>
-        <translation>Balık gözü görünümü</translation>
+        <translation>Balık Gözü Görünümü</translation>
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>

@@ -3605,11 +3605,11 @@
     </message>
     <message id="977">
         <source>Video source</source>
-        <translation>視訊來源</translation>
+        <translation>影像來源</translation>
     </message>
     <message id="978">
         <source>Detect the camera to see its video settings.</source>
-        <translation>偵測攝影機後即可檢視其視訊設定。</translation>
+        <translation>偵測攝影機後即可檢視其影像設定。</translation>
     </message>
     <message id="979">
         <source>Fish-eye view</source>

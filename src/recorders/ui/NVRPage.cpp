@@ -170,7 +170,7 @@ void NVRPage::lbAdd_Click()
 {
     Trapped("Form_Initial - lbAdd_Click", [&] {
         if (OccupiedSlots(m_recorders.SVRWorkList) >= kMaxSVR) {
-            MsgBox(GetLangString(715) + u" (16)"_s, InfoBoxStyle(), u"Information"_s);
+            MsgBox(GetLangString(715) + u" (16)"_s, InfoBoxStyle(), GetLangString(570));
             return;
         }
         emit wizardWanted();

@@ -103,7 +103,7 @@ void Form_AccountEdit::lbAccountApply_Click()
         for (auto [field, message] : {std::pair{m_user, 595}, std::pair{m_password, 596}}) {
             if (!field->text().isEmpty())
                 continue;
-            MsgBox(GetLangString(message), InfoBoxStyle(), u"Notice"_s);
+            MsgBox(GetLangString(message), InfoBoxStyle(), GetLangString(965));
             field->setFocus();
             return;
         }
