@@ -17,7 +17,7 @@ using simulators::Site;
 namespace {
 
 // A search may meet devices of other sites on the machine: this site's own are told by their network.
-const QString kNetwork = u"127.0.9."_s;
+const QString kNetwork = simulators::ownNetwork();
 constexpr int kRemoved = 3;
 
 simulators::SiteDescription MixedSite()
