@@ -1,5 +1,6 @@
 #include "simulators/Site.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <algorithm>
@@ -151,6 +152,12 @@ SiteDescription exampleSite()
           u"SVD,name=Control Room Wall,cameras=12"_s})
         site.devices.push_back(deviceFromText(text));
     return site;
+}
+
+QString ownNetwork()
+{
+    const qint64 process = QCoreApplication::applicationPid();
+    return u"127.%1.%2."_s.arg(100 + process / 250 % 150).arg(1 + process % 250);
 }
 
 Site::Site(const SiteDescription& description, QObject* parent)

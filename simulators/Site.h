@@ -53,6 +53,9 @@ DeviceState stateOf(const DeviceDescription& description);
 // camera, the seventh a fish-eye; names in several scripts.
 Camera exampleCamera(int n, Family family);
 
+// A loopback network of this process ("127.x.y."): searches may meet the sites of other processes on the machine.
+QString ownNetwork();
+
 // A running site. Lives in one thread with its devices.
 class Site : public QObject
 {

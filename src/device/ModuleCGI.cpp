@@ -169,6 +169,16 @@ QString CgiGetPtzParam(WebBridge& web, const DeviceAddress& device, qint16 chann
     return CgiGet(web, device, GroupUrl(channel, u".ptz"));
 }
 
+ChannelParams CgiGetChannelParams(WebBridge& web, const DeviceAddress& device, qint16 channel, bool onvif)
+{
+    QStringList urls{GroupUrl(channel, u".image"), GroupUrl(channel, u".ptz")};
+    if (onvif)
+        urls << GroupUrl(channel, u".onvif");
+    web.SetTimeout(kRestingTimeout);
+    const QStringList replies = web.GetTogether(device.address, device.port, device.user, device.password, urls);
+    return {replies[0], replies[1], onvif ? replies[2] : QString()};
+}
+
 qint32 CgiGetServerCapability(WebBridge& web, const DeviceAddress& device, SvrCapability& capability)
 {
     const QString reply = CgiGet(web, device, u"/getsvrcapability.cgi"_s, kQuickSeconds);

@@ -65,6 +65,14 @@ QString CgiGetPresetSeqList(WebBridge& web, const DeviceAddress& device, qint16 
 QString CgiGetOnvifParam(WebBridge& web, const DeviceAddress& device, qint16 channel);
 QString CgiGetImageParam(WebBridge& web, const DeviceAddress& device, qint16 channel);
 QString CgiGetPtzParam(WebBridge& web, const DeviceAddress& device, qint16 channel);
+// The groups of a channel asked for at once.
+struct ChannelParams
+{
+    QString Image;
+    QString Ptz;
+    QString Onvif; // empty unless it was wanted
+};
+ChannelParams CgiGetChannelParams(WebBridge& web, const DeviceAddress& device, qint16 channel, bool onvif);
 
 // 1 and the record on success, -1 otherwise (2 seconds).
 qint32 CgiGetServerCapability(WebBridge& web, const DeviceAddress& device, SvrCapability& capability);

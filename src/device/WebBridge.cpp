@@ -4,6 +4,7 @@
 
 #include <QPointer>
 #include <QStringDecoder>
+#include <algorithm>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -110,28 +111,62 @@ qint32 WebBridge::SendAction(const QString& address, qint32 port, const QString&
     return send(request, wait == 1);
 }
 
-qint32 WebBridge::send(const HttpRequest& prepared, bool wait)
+qint32 WebBridge::start(HttpRequest request, bool waited)
+{
+    request.seconds = m_timeout;
+    const qint32 number = nextNumber();
+    m_requests[number].waited = waited;
+    m_requests[number].transfer =
+        m_http.start(request, [this, number](const HttpReply& reply) { finish(number, reply); });
+    return number;
+}
+
+bool WebBridge::ended(qint32 number) const
+{
+    const auto found = m_requests.find(number);
+    return found == m_requests.end() || found->second.finished;
+}
+
+QStringList WebBridge::GetTogether(const QString& address, qint32 port, const QString& user, const QString& password,
+                                   const QStringList& urls)
+{
+    QStringList replies(urls.size());
+    if (Closing())
+        return replies;
+    const QPointer<WebBridge> alive(this);
+    std::vector<qint32> numbers;
+    for (const QString& url : urls) {
+        HttpRequest request = RequestTo(address, port, user, password);
+        request.target = TargetOf(url);
+        numbers.push_back(start(request, true));
+    }
+    const auto allEnded = [&] {
+        return !alive || std::all_of(numbers.begin(), numbers.end(), [this](qint32 number) { return ended(number); });
+    };
+    WaitUntil(allEnded, m_timeout + 1.0);
+    for (std::size_t i = 0; i < numbers.size() && alive; ++i) {
+        const auto found = m_requests.find(numbers[i]);
+        if (found == m_requests.end())
+            continue;
+        if (found->second.finished && found->second.status >= 0)
+            replies[static_cast<qsizetype>(i)] = found->second.reply;
+        ReleaseRequest(kReleaseCgi, numbers[i]);
+    }
+    return replies;
+}
+
+qint32 WebBridge::send(const HttpRequest& request, bool wait)
 {
     if (wait && Closing())
         return kWebClosing;
-    HttpRequest request = prepared;
-    request.seconds = m_timeout;
-    const qint32 number = nextNumber();
     const QPointer<WebBridge> alive(this);
-    m_requests[number].waited = wait;
-    m_requests[number].transfer =
-        m_http.start(request, [this, number](const HttpReply& reply) { finish(number, reply); });
+    const double seconds = m_timeout;
+    const qint32 number = start(request, wait);
     if (!wait)
         return number;
 
     // The client ends every request by itself; the longer wait is only the second line.
-    const auto ended = [&] {
-        if (!alive)
-            return true;
-        const auto found = m_requests.find(number);
-        return found == m_requests.end() || found->second.finished;
-    };
-    const WaitResult result = WaitUntil(ended, request.seconds + 1.0);
+    const WaitResult result = WaitUntil([&] { return !alive || ended(number); }, seconds + 1.0);
     if (!alive)
         return kWebClosing;
     const auto found = m_requests.find(number);

@@ -4,6 +4,7 @@
 #include "platform/HttpClient.h"
 
 #include <QObject>
+#include <QStringList>
 #include <unordered_map>
 
 // Release kinds of a request number.
@@ -47,6 +48,10 @@ public:
     // effect. mode 1 waits for the reply. Result: the request number, or a negative number with nothing to release.
     qint32 SendCgi(const QString& address, qint32 port, const QString& user, const QString& password, qint32 constant,
                    const QString& url, const QString& fileName, const QString& body, qint32 mode, qint32& outCode);
+    // GETs of several paths of one device, all under way at once and waited for together. The replies in the order of
+    // the paths; an empty text for one that failed.
+    QStringList GetTogether(const QString& address, qint32 port, const QString& user, const QString& password,
+                            const QStringList& urls);
     // Reply text of a finished request, empty for an unknown or unfinished one. UTF-8, or Latin-1 where it is not
     // valid. A 401 gives the body, and "401 Unauthorized" when that does not hold "401".
     QString GetCgiReply(qint32 request) const;
@@ -91,7 +96,9 @@ private:
         QString reply;
     };
 
+    qint32 start(HttpRequest request, bool waited);
     qint32 send(const HttpRequest& request, bool wait);
+    bool ended(qint32 number) const;
     void finish(qint32 number, const HttpReply& reply);
     qint32 nextNumber();
     void dropOldest();

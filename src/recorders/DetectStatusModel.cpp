@@ -11,11 +11,16 @@ using namespace Qt::StringLiterals;
 DetectStatusModel::DetectStatusModel(QObject* parent)
     : QAbstractTableModel(parent)
 {
+    m_tell.setSingleShot(true);
+    m_tell.setInterval(30);
+    connect(&m_tell, &QTimer::timeout, this,
+            [this] { emit dataChanged(index(m_firstChanged, Channels), index(m_lastChanged, Status)); });
 }
 
 void DetectStatusModel::setItems(std::vector<NVRDetectItem> items)
 {
     beginResetModel();
+    m_tell.stop();
     m_items = std::move(items);
     m_rows.assign(m_items.size(), {});
     endResetModel();
@@ -25,13 +30,22 @@ void DetectStatusModel::setStatus(int row, const DetectStatus& status)
 {
     At(m_rows, row).started = true;
     At(m_rows, row).status = status;
-    emit dataChanged(index(row, Status), index(row, Status));
+    changed(row);
+}
+
+void DetectStatusModel::changed(int row)
+{
+    const bool first = !m_tell.isActive();
+    m_firstChanged = first ? row : qMin(m_firstChanged, row);
+    m_lastChanged = first ? row : qMax(m_lastChanged, row);
+    if (first)
+        m_tell.start();
 }
 
 void DetectStatusModel::setChannels(int row, int channels)
 {
     At(m_rows, row).channels = channels;
-    emit dataChanged(index(row, Channels), index(row, Channels));
+    changed(row);
 }
 
 int DetectStatusModel::finishedRows() const

@@ -3,8 +3,10 @@
 #include "recorders/NVRDetect.h"
 
 #include <QAbstractTableModel>
+#include <QTimer>
 
-// The running status of the recorders being detected, one row an item.
+// The running status of the recorders being detected, one row an item. Views are told of changes every 30 ms at most: a
+// quick recorder goes through its steps faster than a screen shows them.
 class DetectStatusModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -41,7 +43,11 @@ private:
         int channels = -1;
     };
     QVariant text(int row, int column) const;
+    void changed(int row);
 
     std::vector<NVRDetectItem> m_items;
     std::vector<Row> m_rows;
+    QTimer m_tell;
+    int m_firstChanged = 0; // rows that the views do not know yet, while m_tell runs
+    int m_lastChanged = 0;
 };

@@ -227,10 +227,12 @@ private:
             m_svr->sSub_CH_Resolution[c] = read.Resolution;
             m_svr->iSub_CH_Brand[c] = read.Brand;
             // A group that cannot be had or read costs its own values only.
-            Trapped(kSource, [&] { CHImageInfoPaser(*m_svr, CgiGetImageParam(m_web, m_device, number), channel); });
-            Trapped(kSource, [&] { CHPTZInfoPaser(*m_svr, CgiGetPtzParam(m_web, m_device, number), channel); });
-            if (read.Brand == kOnvifBrand)
-                Trapped(kSource, [&] { CHOnvifInfoPaser(*m_svr, CgiGetOnvifParam(m_web, m_device, number), channel); });
+            const bool onvif = read.Brand == kOnvifBrand;
+            const ChannelParams params = CgiGetChannelParams(m_web, m_device, number, onvif);
+            Trapped(kSource, [&] { CHImageInfoPaser(*m_svr, params.Image, channel); });
+            Trapped(kSource, [&] { CHPTZInfoPaser(*m_svr, params.Ptz, channel); });
+            if (onvif)
+                Trapped(kSource, [&] { CHOnvifInfoPaser(*m_svr, params.Onvif, channel); });
         }
     }
 

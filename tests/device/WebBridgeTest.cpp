@@ -271,6 +271,35 @@ TEST_F(Bridge, AsynchronousRequestsEndInOneEventEachAndAreReleased)
     EXPECT_EQ(com.GetFreeSlot(kAlertSlot), slot); // the slot of the ended request is free again
 }
 
+TEST_F(Bridge, RequestsTogetherKeepTheirOrderAndAnAbortEndsThemAll)
+{
+    server.answer = [](const Seen& seen) {
+        Answer answer{ScriptedServer::page(seen.line.split(' ').value(1))};
+        answer.delay = seen.line.contains("/slow") ? 60 : 0;
+        answer.close = seen.line.contains("/broken");
+        if (answer.close)
+            answer.bytes.chop(2);
+        answer.silent = seen.line.contains("/never");
+        return answer;
+    };
+    const auto ask = [&](const QStringList& urls) {
+        return com.web.GetTogether(u"127.0.0.1"_s, server.serverPort(), {}, {}, urls);
+    };
+    EXPECT_EQ(ask({u"/slow"_s, u"/broken"_s, u"/quick"_s}), (QStringList{u"/slow"_s, QString(), u"/quick"_s}));
+    int events = 0;
+    QObject::connect(&com.web, &WebBridge::RequestEnded, &com.web, [&] { ++events; });
+    QTimer::singleShot(50, &com.web, [this] { com.web.AbortWaited(); });
+    QElapsedTimer time;
+    time.start();
+    EXPECT_EQ(ask({u"/never"_s, u"/quick"_s}), (QStringList{QString(), u"/quick"_s}));
+    EXPECT_LT(time.elapsed(), 5000);
+    QTimer::singleShot(50, &com.web, [this] { com.web.AbortWaited(); });
+    EXPECT_LT(send(u"/never"_s), 0);
+    EXPECT_EQ(events, 0) << "waited for, so nobody else is told";
+    EXPECT_EQ(com.web.Outstanding(), 0);
+    EXPECT_EQ(com.http.open(), 0);
+}
+
 TEST_F(Bridge, ACallbackMayWaitForARequestThatEndedTogetherWithItsOwn)
 {
     QString inner;

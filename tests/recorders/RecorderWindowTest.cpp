@@ -36,7 +36,7 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
     return application;
 }
 // Searches may meet devices of other sites on the same machine: the test's own are told by their network.
-const QString kNetwork = u"127.0.7."_s;
+const QString kNetwork = simulators::ownNetwork();
 
 const bool g_registered = (g_applicationFactory = MakeApplication, true);
 

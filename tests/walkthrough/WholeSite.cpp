@@ -17,7 +17,7 @@ using simulators::Site;
 namespace {
 
 // A search may meet devices of other sites on the machine: this site's own are told by their network.
-const QString kNetwork = u"127.0.9."_s;
+const QString kNetwork = simulators::ownNetwork();
 constexpr int kRemoved = 3;
 constexpr int kTunedChannel = 1; // from 0
 constexpr int kTuned = 3;        // recorders from the top of the list, one of each family
