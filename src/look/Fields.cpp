@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kTimeFieldFrame = 44; // px: padding and buttons
+constexpr int kDateFieldFrame = 44; // px: padding and the calendar's arrow
+constexpr int kTimeFieldFrame = 36; // px: padding and buttons
 
 // A button inside the trailing end of a field; it keeps its place and the text clear of it.
 class FieldButton : public QToolButton
@@ -132,7 +133,8 @@ void SetTimeFormat(QDateTimeEdit* field, const QString& format)
     field->setFont(MonoFont());
     // The style sheet's idea of its width leaves the padding out.
     const QFontMetrics metrics(MonoFont());
-    field->setMinimumWidth(metrics.horizontalAdvance(QString(format.size() + 1, u'0')) + kTimeFieldFrame);
+    field->setMinimumWidth(metrics.horizontalAdvance(QString(format.size(), u'0')) +
+                           (field->calendarPopup() ? kDateFieldFrame : kTimeFieldFrame));
 }
 
 void SelectOnFocus(QLineEdit* field)

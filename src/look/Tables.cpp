@@ -3,9 +3,11 @@
 #include "look/StatusDelegate.h"
 #include "look/Theme.h"
 
+#include <QHash>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTimer>
@@ -15,6 +17,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kSortArrow = 17; // px beside the text of the sorted head
 
 // Keeps the number of the row below the pointer at the viewport, where the style finds it. The table may be half
 // destroyed when the viewport's last events come, so that only a moving pointer asks it.
@@ -62,8 +66,8 @@ private:
     int m_row = -1;
 };
 
-// Keeps every head whole: whenever the heads change or the table comes on show, sections that are narrower than their
-// text grow, and where the last one would be cut the others give what they can spare.
+// Keeps every head whole: whenever the heads or the room change or the table comes on show, sections that are narrower
+// than their text grow, and where the last one would be cut the others give what they can spare.
 class HeadRoom : public QObject
 {
 public:
@@ -72,14 +76,15 @@ public:
         , m_table(table)
     {
         table->horizontalHeader()->installEventFilter(this);
+        connect(table->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, &HeadRoom::fit);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Show) {
+        if (event->type() == QEvent::Show)
             follow(m_table->model());
+        if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
             fit();
-        }
         return QObject::eventFilter(watched, event);
     }
 
@@ -108,28 +113,65 @@ private:
         if (shown.isEmpty())
             return;
         const auto needed = [heads](int section) {
-            return std::max(heads->sectionSizeHint(section), heads->minimumSectionSize());
+            // The header's own idea leaves room for an arrow in every section; only the sorted one shows it.
+            const bool sorted = heads->isSortIndicatorShown() && heads->sortIndicatorSection() == section;
+            const QString text = heads->model()->headerData(section, Qt::Horizontal).toString();
+            const int beside = 2 * heads->style()->pixelMetric(QStyle::PM_HeaderMargin) + (sorted ? kSortArrow : 0);
+            return std::max(heads->fontMetrics().horizontalAdvance(text) + beside + 1, heads->minimumSectionSize());
         };
-        const int last = heads->stretchLastSection() ? shown.takeLast() : -1;
-        int excess = (last < 0 ? 0 : needed(last)) - m_table->viewport()->width();
-        int spare = 0;
-        for (const int section : shown) {
+        // The section that takes the rest: one set to stretch, else the last.
+        int rest = heads->stretchLastSection() ? shown.last() : -1;
+        for (const int section : std::as_const(shown))
+            if (heads->sectionResizeMode(section) == QHeaderView::Stretch)
+                rest = section;
+        shown.removeOne(rest);
+        // What gave way before gets back what it had, unless somebody has set it since.
+        for (const int section : std::as_const(shown)) {
+            const auto given = m_given.constFind(section);
+            if (given != m_given.constEnd() && given->second == heads->sectionSize(section))
+                heads->resizeSection(section, given->first);
+        }
+        m_given.clear();
+        for (const int section : std::as_const(shown))
+            m_given.insert(section, {heads->sectionSize(section), 0});
+        for (const int section : std::as_const(shown))
             if (heads->sectionSize(section) < needed(section))
                 heads->resizeSection(section, needed(section));
+        const auto content = [this, &needed](int section) {
+            const auto* view = static_cast<const QAbstractItemView*>(m_table);
+            return std::max(needed(section), view->sizeHintForColumn(section) + 1);
+        };
+        // Air goes first, then what the cells would like.
+        giveWay(shown, (rest < 0 ? 0 : needed(rest)), content);
+        giveWay(shown, (rest < 0 ? 0 : needed(rest)), needed);
+        for (const int section : std::as_const(shown))
+            m_given[section].second = heads->sectionSize(section);
+    }
+
+    // Narrows the sections, none below what `least` says, until all and the rest have room.
+    template <class Least>
+    void giveWay(const QList<int>& sections, int rest, const Least& least)
+    {
+        QHeaderView* heads = m_table->horizontalHeader();
+        int excess = rest - m_table->viewport()->width();
+        int spare = 0;
+        for (const int section : sections) {
             excess += heads->sectionSize(section);
-            spare += heads->sectionSize(section) - needed(section);
+            spare += std::max(0, heads->sectionSize(section) - least(section));
         }
         if (excess <= 0 || spare <= 0)
             return;
         excess = std::min(excess, spare);
-        for (const int section : shown) {
-            const int own = heads->sectionSize(section) - needed(section);
-            heads->resizeSection(section, heads->sectionSize(section) - (own * excess + spare - 1) / spare);
+        for (const int section : sections) {
+            const int own = std::max(0, heads->sectionSize(section) - least(section));
+            heads->resizeSection(section,
+                                 heads->sectionSize(section) - std::min(own, (own * excess + spare - 1) / spare));
         }
     }
 
     QTableView* m_table;
     QPointer<QAbstractItemModel> m_model;
+    QHash<int, std::pair<int, int>> m_given; // by section: the width it was set to, the width it has been given
 };
 
 class MonospaceDelegate : public QStyledItemDelegate

@@ -76,7 +76,6 @@ TEST_F(CaptionTest, FitEveryWindowInEveryLanguage)
     open();
     execute(u"UPDATE BasicDefault SET iLanguage=1"_s);
     CloseDatabases(databases);
-    SetMsgBoxHandler([](const QString&, qint32, const QString&) { return MsgResult::No; });
     const auto owner = std::make_unique<Station>();
     Form_Initial desk(*owner);
     ASSERT_TRUE(desk.Form_Load());

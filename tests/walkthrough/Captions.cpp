@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemDelegate>
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -26,6 +27,7 @@ namespace {
 
 constexpr QSize kSmallestScreen(1280, 720);
 constexpr int kRowsRead = 8; // of each table
+constexpr int kSortArrow = 17;
 
 bool IsCut(const QLabel& label)
 {
@@ -112,6 +114,10 @@ private:
                 if (IsCut(*choice, choice->itemText(i)))
                     note(widget, choice->itemText(i));
             }
+        } else if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(&widget)) {
+            const auto* edit = spin->findChild<QLineEdit*>();
+            if (edit && edit->fontMetrics().horizontalAdvance(edit->text()) > edit->width())
+                note(widget, edit->text());
         } else if (const auto* steps = qobject_cast<const StepStrip*>(&widget)) {
             if (steps->minimumSizeHint().width() > steps->width())
                 note(widget, steps->accessibleName());
@@ -133,8 +139,10 @@ private:
             return;
         for (int section = 0; section < heads.count(); ++section) {
             const QString text = heads.model()->headerData(section, Qt::Horizontal).toString();
+            const bool sorted = heads.isSortIndicatorShown() && heads.sortIndicatorSection() == section;
+            const int beside = 2 * heads.style()->pixelMetric(QStyle::PM_HeaderMargin) + (sorted ? kSortArrow : 0);
             if (!text.isEmpty() && !heads.isSectionHidden(section) &&
-                heads.sectionSizeHint(section) > heads.sectionSize(section))
+                heads.fontMetrics().horizontalAdvance(text) + beside > heads.sectionSize(section))
                 note(heads, text);
         }
     }

@@ -7,12 +7,13 @@
 #include "app/ui/MenuTable.h"
 #include "app/ui/MsgBoxWindow.h"
 #include "app/ui/UpdateWindow.h"
-#include "look/Fields.h"
 #include "look/ProgressWindow.h"
 #include "platform/Clock.h"
 #include "platform/FileChooser.h"
 #include "platform/MsgBox.h"
+#include "recorders/ChannelListModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
+#include "simulators/SimulatorThread.h"
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
 #include "tests/walkthrough/Driver.h"
@@ -32,8 +33,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kLongestQuestion = 84;
+constexpr int kFishEye = 6; // row of the simulated recorder's fish-eye camera
 constexpr int kLongestNotice = 610;
 constexpr int kNestedLayouts = 8;
+
+void ClickCell(const QString& table, int row, int column)
+{
+    auto* view = Driver::find<QTableView>(table);
+    if (!view)
+        throw std::runtime_error("no table " + table.toStdString());
+    const QModelIndex cell = view->model()->index(row, column);
+    view->scrollTo(cell);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
+}
 
 class Visitor
 {
@@ -79,7 +91,9 @@ public:
     void clear();
     void dialogs();
     void wizard();
+    void recorder();
 
+    static constexpr int kAnswering = 2; // slot of the recorder that answers
     static constexpr int kRecorders = 1;
     static constexpr int kUsers = 3;
     static constexpr int kTooling = 11;
@@ -134,7 +148,7 @@ void Visitor::furnish()
 
 void Visitor::clear()
 {
-    for (std::size_t slot = 0; slot < 2; ++slot)
+    for (std::size_t slot = 0; slot <= kAnswering; ++slot)
         m_station.recorders.SVRList[slot] = m_station.recorders.SVRWorkList[slot] = SVRRecord();
     m_station.users.edit = m_station.users.stored = {UserRecord()};
     m_station.accounts = {NVRAccountRecord()};
@@ -165,6 +179,35 @@ void Visitor::wizard()
     });
 }
 
+// A recorder that answers, so that its pages have what a device tells of itself.
+void Visitor::recorder()
+{
+    simulators::DeviceDescription description;
+    description.family = simulators::Family::Txr632;
+    simulators::SiteDescription place;
+    place.port = 0;
+    place.discovery = false;
+    place.devices = {description};
+    simulators::SimulatorThread site(place);
+    NVRDetectItem item;
+    item.sName = u"Gatehouse"_s;
+    item.sUser = item.sPassword = u"admin"_s;
+    site.call([&](simulators::Site& running) {
+        item.sIP = running.device(0).address().toString();
+        item.iPort = running.device(0).port();
+    });
+    const DetectContext context{m_com, m_station.recorders, m_station.accounts};
+    if (!DetectNVR(context, item, [](const DetectStatus&) {}))
+        throw std::runtime_error("the simulated recorder is not detected");
+    Form_NVRSetting dialog(
+        context, [] {}, &m_desk);
+    dialog.SetNVR(kAnswering, {});
+    show(u"recorder-3"_s, dialog);
+    show(u"recorder-4"_s, dialog, [] { ClickCell(u"Grid_ChannelList"_s, kFishEye, ChannelListModel::Edit); });
+    show(u"recorder-4-detected"_s, dialog, [] { Driver::click(u"lbCamDetect"_s); });
+    show(u"recorder-5"_s, dialog, [] { Driver::click(u"lbCamSearch"_s); });
+}
+
 void Visitor::dialogs()
 {
     const auto save = [] {};
@@ -176,17 +219,14 @@ void Visitor::dialogs()
         rights.SetGroupPrivilege(4);
         rights.LoadFrame(0);
         show(u"rights-0"_s, rights);
-        show(u"rights-1"_s, rights, [] {
-            auto* grid = Driver::find<QTableView>(u"Grid_NVRList"_s);
-            QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
-                              grid->visualRect(grid->model()->index(1, 1)).center());
-        });
+        show(u"rights-1"_s, rights, [] { ClickCell(u"Grid_NVRList"_s, 1, 1); });
     }
     show(u"accounts"_s, Form_AccountEdit(station.databases, station.accounts, &m_desk));
     modal(u"account"_s, [this] { Form_UserPass(&m_desk); });
     Driver::click(u"lbMenu_%1"_s.arg(kUsers));
     modal(u"reach"_s, [] { Driver::click(u"btnReach"_s); });
     wizard();
+    recorder();
 
     const MsgBoxHandler boxes = SetMsgBoxHandler(nullptr);
     const FileChooserHandler files = SetFileChooserHandler(nullptr);
@@ -215,6 +255,7 @@ void Visitor::dialogs()
 
 void VisitWindows(Form_Initial& desk, Station& station, const VisitWindow& visit)
 {
+    const MsgBoxHandler boxes = SetMsgBoxHandler([](const QString&, qint32, const QString&) { return MsgResult::No; });
     Visitor visitor(desk, station, visit);
     QList<int> all;
     for (int page = 0; page < kPages; ++page)
@@ -224,4 +265,5 @@ void VisitWindows(Form_Initial& desk, Station& station, const VisitWindow& visit
     visitor.pages(u"filled-"_s, {Visitor::kRecorders, Visitor::kUsers, Visitor::kTooling});
     visitor.dialogs();
     visitor.clear();
+    SetMsgBoxHandler(boxes);
 }

@@ -180,7 +180,7 @@ void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
     m_camera->changeLanguage();
     m_camSearch->changeLanguage();
     m_detail->SetNVR(slot);
-    resize(1060, 680);
+    resize(1160, 680);
     LoadFrame(kFrameDetail);
 }
 
