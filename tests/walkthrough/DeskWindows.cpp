@@ -20,6 +20,7 @@
 #include "users/ui/Form_AccountEdit.h"
 #include "users/ui/Form_GroupPrivilege.h"
 #include "users/ui/Form_Login.h"
+#include "users/ui/Form_UserPass.h"
 #include "users/ui/Form_UserSetting.h"
 
 #include <QApplication>
