@@ -177,6 +177,11 @@ void Visitor::wizard()
         Driver::click(u"lbNext_0"_s);
         if (!QTest::qWaitFor([] { return Driver::usable(u"lbNext_2"_s); }))
             throw std::runtime_error("the detection does not end");
+        // The table tells of a change some milliseconds later, and its row grows with the words.
+        auto* states = Driver::find<QTableView>(u"Grid_DetectStatus"_s);
+        const QAbstractItemView* cells = states;
+        [[maybe_unused]] const bool grown =
+            QTest::qWaitFor([=] { return states->rowHeight(0) >= cells->sizeHintForRow(0); }, 1000);
     });
 }
 
