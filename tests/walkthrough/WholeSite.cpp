@@ -190,10 +190,10 @@ private:
     {
         Driver& driver = desk.driver;
         const QString name = u"Gate %1"_s.arg(row + 1);
-        driver.add(u"recorder"_s, Usable(u"Grid_SVRsList"_s),
-                   [row] { pressRow(u"Grid_SVRsList"_s, row, Qt::Key_Return); });
-        driver.add(u"channels"_s, Usable(u"Grid_ChannelList"_s),
-                   [] { pressRow(u"Grid_ChannelList"_s, kTunedChannel, Qt::Key_Return); });
+        pressInRow(
+            desk, u"Grid_SVRsList"_s, [row](int) { return row; }, Qt::Key_Return);
+        pressInRow(
+            desk, u"Grid_ChannelList"_s, [](int) { return kTunedChannel; }, Qt::Key_Return);
         driver.add(u"camera"_s, Usable(u"txtCam_0"_s), [name] {
             Driver::type(u"txtCam_0"_s, name);
             Driver::click(u"lbCamDetect"_s);
@@ -222,27 +222,26 @@ private:
             u"box %1"_s.arg(message), [message] { return Driver::boxText() == GetLangString(message); },
             [button] { Driver::answerBox(button); });
     }
-    static void pressRow(const QString& name, int row, Qt::Key key)
+    // Goes to the row that `which` picks from the number of rows, and presses a key there once the grid has the focus.
+    static void pressInRow(DeskRun& desk, const QString& name, const std::function<int(int)>& which, Qt::Key key)
     {
-        auto* grid = Driver::find<QTableView>(name);
-        grid->setFocus();
-        grid->setCurrentIndex(grid->model()->index(row, 0));
-        QTest::keyClick(grid, key);
+        desk.driver.add(u"row of "_s + name, Usable(name), [name, which] {
+            auto* grid = Driver::find<QTableView>(name);
+            grid->activateWindow();
+            grid->setFocus();
+            grid->setCurrentIndex(grid->model()->index(which(grid->model()->rowCount()), 0));
+        });
+        desk.driver.add(
+            u"key in "_s + name, [name] { return Driver::find(name)->hasFocus(); },
+            [name, key] { QTest::keyClick(Driver::find(name), key); });
     }
 
     // Removes the recorder in the list's last row by the keyboard.
     void remove(DeskRun& desk)
     {
         Driver& driver = desk.driver;
-        driver.add(u"row"_s, Usable(u"Grid_SVRsList"_s), [] {
-            auto* grid = Driver::find<QTableView>(u"Grid_SVRsList"_s);
-            grid->activateWindow();
-            grid->setFocus();
-            grid->setCurrentIndex(grid->model()->index(grid->model()->rowCount() - 1, 0));
-        });
-        driver.add(
-            u"key"_s, [] { return Driver::find(u"Grid_SVRsList"_s)->hasFocus(); },
-            [] { QTest::keyClick(Driver::find(u"Grid_SVRsList"_s), Qt::Key_Delete); });
+        pressInRow(
+            desk, u"Grid_SVRsList"_s, [](int rows) { return rows - 1; }, Qt::Key_Delete);
         driver.add(
             u"question"_s, [] { return Driver::boxText() == GetLangString(483); },
             [this] {
