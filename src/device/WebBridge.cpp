@@ -198,7 +198,6 @@ void WebBridge::finish(qint32 number, const HttpReply& reply)
     }
     const qint32 status = request.status;
     const bool waited = request.waited;
-    WakeWaits();
     if (waited)
         return;
     const QPointer<WebBridge> alive(this);
@@ -258,7 +257,6 @@ void WebBridge::AbortWaited()
         m_http.cancel(request.transfer);
         return true;
     });
-    WakeWaits();
 }
 
 qint32 WebBridge::nextNumber()

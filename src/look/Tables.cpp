@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <QTreeView>
 #include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -191,6 +192,42 @@ protected:
     }
 };
 
+// Fits the height of rows to their contents, once for all changes of an event: measuring a row costs as much as
+// painting it.
+class RowHeights : public QObject
+{
+public:
+    explicit RowHeights(QTableView* table)
+        : QObject(table)
+        , m_table(table)
+    {
+        m_later.setSingleShot(true);
+        connect(&m_later, &QTimer::timeout, this, &RowHeights::fit);
+    }
+
+    void all() { take(0, std::numeric_limits<int>::max()); }
+    void some(const QModelIndex& first, const QModelIndex& last) { take(first.row(), last.row()); }
+
+private:
+    void take(int first, int last)
+    {
+        m_first = m_later.isActive() ? std::min(m_first, first) : first;
+        m_last = m_later.isActive() ? std::max(m_last, last) : last;
+        m_later.start(0);
+    }
+    void fit()
+    {
+        const int rows = m_table->model() ? m_table->model()->rowCount() : 0;
+        for (int row = m_first; row < rows && row <= m_last; ++row)
+            m_table->resizeRowToContents(row);
+    }
+
+    QTableView* m_table;
+    QTimer m_later;
+    int m_first = 0;
+    int m_last = 0;
+};
+
 } // namespace
 
 void StyleTable(QTableView* table)
@@ -242,13 +279,10 @@ void StatusColumn(QTableView* table, int column)
 {
     table->setItemDelegateForColumn(column, new StatusDelegate(table));
     // Long words wrap, so that rows follow the words and the width of the column.
-    auto* heights = new QTimer(table);
-    heights->setSingleShot(true);
-    QObject::connect(heights, &QTimer::timeout, table, &QTableView::resizeRowsToContents);
-    const auto later = [heights] { heights->start(0); };
-    QObject::connect(table->horizontalHeader(), &QHeaderView::sectionResized, heights, later);
+    auto* heights = new RowHeights(table);
+    QObject::connect(table->horizontalHeader(), &QHeaderView::sectionResized, heights, &RowHeights::all);
     if (const QAbstractItemModel* model = table->model()) {
-        QObject::connect(model, &QAbstractItemModel::dataChanged, heights, later);
-        QObject::connect(model, &QAbstractItemModel::modelReset, heights, later);
+        QObject::connect(model, &QAbstractItemModel::dataChanged, heights, &RowHeights::some);
+        QObject::connect(model, &QAbstractItemModel::modelReset, heights, &RowHeights::all);
     }
 }

@@ -264,12 +264,13 @@ QFont DeskFont(qreal factor, bool bold)
 
 QFont MonoFont(qreal factor)
 {
+    // Looked up once: delegates ask for every cell, and the question goes through the whole font configuration.
+    static const QStringList families = [] {
+        QStringList found{u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s};
+        found.removeIf([](const QString& family) { return !QFontDatabase::hasFamily(family); });
+        return found + QFontDatabase::systemFont(QFontDatabase::FixedFont).families();
+    }();
     QFont font = DeskFont(factor);
-    QStringList families;
-    for (const QString& family : {u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s})
-        if (QFontDatabase::hasFamily(family))
-            families.append(family);
-    families.append(QFontDatabase::systemFont(QFontDatabase::FixedFont).families());
     font.setFamilies(families);
     font.setStyleHint(QFont::Monospace);
     return font;

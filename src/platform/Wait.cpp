@@ -10,12 +10,6 @@ namespace {
 bool g_closing = false;
 int g_depth = 0;
 
-QObject& Waker()
-{
-    static QObject waker;
-    return waker;
-}
-
 // Swallows user input while a wait is under way. Press, release and keys still reach a widget that asks for them by the
 // property kStopsWork; a native window takes them only to hand them on to its widgets.
 class InputGate : public QObject
@@ -69,19 +63,11 @@ bool Closing()
 void SetClosing(bool closing)
 {
     g_closing = closing;
-    WakeWaits();
 }
 
 bool Waiting()
 {
     return g_depth > 0;
-}
-
-void WakeWaits()
-{
-    if (g_depth > 0)
-        QMetaObject::invokeMethod(
-            &Waker(), [] {}, Qt::QueuedConnection);
 }
 
 WaitResult WaitUntil(const std::function<bool()>& done, double seconds)

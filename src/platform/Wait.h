@@ -20,12 +20,9 @@ inline constexpr char kStopsWork[] = "stopsWork";
 
 // Runs a nested event loop until `done` is true, `seconds` have passed, or Closing is set. Painting, timers and sockets
 // go on; key, mouse, wheel, touch and drop input to every widget but those marked above is held back meanwhile, so
-// nothing is started twice. `done` is tested first and after every call of WakeWaits(), and at least every 100 ms.
-// Never blocks when `done` is true already.
+// nothing is started twice. `done` is tested first, after every round of events, and at least every 100 ms; so whoever
+// completes something in an event of this thread need not wake anybody. Never blocks when `done` is true already.
 WaitResult WaitUntil(const std::function<bool()>& done, double seconds);
-
-// Called by whoever completes something that may be waited for.
-void WakeWaits();
 
 // Whether a wait is under way (the window shows that it is busy).
 bool Waiting();

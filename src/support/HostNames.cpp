@@ -13,10 +13,7 @@ QString GetIpByName(const QString& host)
     constexpr double kResolverSeconds = 10;
     // Shared with the look-up's callback, which may come after the wait has given up.
     const auto found = std::make_shared<std::optional<QHostInfo>>();
-    QHostInfo::lookupHost(host.trimmed(), [found](const QHostInfo& info) {
-        *found = info;
-        WakeWaits();
-    });
+    QHostInfo::lookupHost(host.trimmed(), [found](const QHostInfo& info) { *found = info; });
     if (WaitUntil([&] { return found->has_value(); }, kResolverSeconds) != WaitResult::Done)
         return {};
     const QList<QHostAddress> addresses = (*found)->addresses();
