@@ -129,7 +129,7 @@ void NVRPage::showCounts()
 {
     const int recorders = m_model->rowCount();
     m_ui->lbCounts->setText(GetLangString(865).arg(recorders).arg(kMaxSVR) + u"  ·  "_s +
-                            GetLangString(866).arg(CameraTotal(m_recorders.SVRList)).arg(iChannelLimit));
+                            GetLangString(866).arg(CameraTotal(m_recorders.SVRList)).arg(iChannelLimit + 1));
     m_ui->lbCounts->setVisible(recorders > 0);
     m_ui->txtFilter->setVisible(recorders > 0);
     m_ui->lbAdd->setVisible(recorders > 0);
