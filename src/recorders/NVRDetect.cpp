@@ -51,11 +51,6 @@ QChar DigitBehind(const QString& reply, const QString& key)
     return at >= 0 && at + key.size() < reply.size() ? reply.at(at + key.size()) : QChar();
 }
 
-bool HasSuccess(const QString& reply)
-{
-    return reply.contains("RET=\"0\""_L1);
-}
-
 int MessageOfLogin(qint32 result)
 {
     switch (result) {
@@ -196,7 +191,7 @@ private:
     void readProChannels()
     {
         const QString reply = SendCmdXml(m_web, m_device, BuildGetChannels(false, m_channels));
-        if (!HasSuccess(reply))
+        if (!DeviceBridge::DeviceTook(reply))
             throw DetectFailure{kConnectionError};
         Trapped(kSource, [&] { ParseChannelList(reply, *m_svr, *m_pro); });
         for (int channel = 0; channel < kMaxChannel; ++channel) {
@@ -268,7 +263,7 @@ private:
     void readProSystem()
     {
         const QString system = SendCmdXml(m_web, m_device, BuildGetSystemInfo());
-        if (!HasSuccess(system))
+        if (!DeviceBridge::DeviceTook(system))
             throw DetectFailure{kConnectionError};
         Trapped(kSource, [&] { ParseSystemInfo(system, *m_svr); });
 

@@ -99,7 +99,7 @@ protected:
     }
     void openRecorder(int slot)
     {
-        step(u"Grid_SVRsList"_s, [slot] { clickCell(u"Grid_SVRsList"_s, slot, NVRListModel::Edit); });
+        step(u"Grid_SVRsList"_s, [slot] { Driver::clickCell(u"Grid_SVRsList"_s, slot, NVRListModel::Edit); });
     }
     RecorderSet& recorders() { return station->recorders; }
     simulators::Camera camera(int device, int channel)
@@ -126,22 +126,6 @@ protected:
     {
         driver.add(
             u"closed"_s, [] { return !Driver::find(u"Form_NVRSetting"_s); }, [] {});
-    }
-    // With DESK_SCREENSHOTS set, the window on show is left there as a picture.
-    static void picture(const QString& name)
-    {
-        const QString folder = qEnvironmentVariable("DESK_SCREENSHOTS");
-        QWidget* window =
-            QApplication::activeModalWidget() ? QApplication::activeModalWidget() : Driver::find(u"Form_Initial"_s);
-        if (!folder.isEmpty() && window)
-            window->grab().save(folder + u'/' + name + u".png"_s);
-    }
-    static void clickCell(const QString& grid, int row, int column)
-    {
-        auto* view = Driver::find<QTableView>(grid);
-        const QModelIndex cell = view->model()->index(row, column);
-        view->scrollTo(cell);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
     }
     static QVariant cell(const QString& grid, int row, int column, int role = Qt::DisplayRole)
     {
@@ -182,7 +166,7 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 64, 40), Recorder(Family::OmluPro, 4, 2)}));
     openRecorder(0);
     step(u"lbModifyApply_0"_s, [this] {
-        picture(u"detail"_s);
+        Driver::picture(u"detail"_s);
         EXPECT_EQ(rows(u"Grid_ChannelList"_s), 64);
         site->call([](Site& running) {
             running.device(0).channel(41).camera = simulators::exampleCamera(1, Family::Svr);
@@ -197,7 +181,7 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
         Driver::type(u"TextNVRDetail_4"_s, u"wrong"_s);
         press(u"TextNVRDetail_4"_s, Qt::Key_Return); // detects first
         Driver::type(u"TextNVRDetail_4"_s, u"admin"_s);
-        picture(u"detected"_s);
+        Driver::picture(u"detected"_s);
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 40, ChannelListModel::State).toString(), GetLangString(968));
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 1, ChannelListModel::CameraEvent, Qt::CheckStateRole), Qt::Checked);
         Driver::click(u"lbModifyApply_0"_s);
@@ -205,7 +189,7 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
     waitClosed();
     openRecorder(1);
     step(u"lbModifyApply_1"_s, [] {
-        picture(u"short"_s);
+        Driver::picture(u"short"_s);
         Driver::type(u"TextNVRDetail_0"_s, u"Nobody's"_s);
         Driver::click(u"lbModifyApply_1"_s);
     });
@@ -236,7 +220,7 @@ TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
     driver.add(
         u"stop"_s, [] { return Waiting() && buttonText(u"lbModifyApply_1"_s) == GetLangString(951); },
         [] {
-            picture(u"detecting"_s);
+            Driver::picture(u"detecting"_s);
             EXPECT_FALSE(Driver::find(u"lbModifyApply_0"_s)->isEnabled());
             Driver::click(u"lbModifyApply_1"_s);
         });
@@ -259,12 +243,12 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
         press(u"Grid_ChannelList"_s, Qt::Key_Return);
     });
     step(u"lbCamSearch"_s, [] {
-        picture(u"camera-empty"_s);
+        Driver::picture(u"camera-empty"_s);
         Driver::type(u"txtCam_0"_s, u"South & gate"_s);
         Driver::click(u"lbCamSearch"_s);
     });
     step(u"Grid_CamSearchList"_s, [this] {
-        picture(u"camera-search"_s);
+        Driver::picture(u"camera-search"_s);
         site->call(
             [](Site& running) { running.device(0).state().network.erase(running.device(0).state().network.begin()); });
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 7);
@@ -283,7 +267,7 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
         press(u"txtCam_3"_s, Qt::Key_Return); // Return detects what is not detected yet: 607
         Driver::type(u"txtCam_4"_s, u"pass101"_s);
         press(u"txtCam_4"_s, Qt::Key_Return);
-        picture(u"camera"_s);
+        Driver::picture(u"camera"_s);
         choose(u"cmbFormat"_s, u"H.264"_s);
         choose(u"cmbResolution"_s, u"1280x720"_s);
         choose(u"cmbCameraDetail_0"_s, u"10"_s);
@@ -292,7 +276,7 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
         press(u"txtCam_4"_s, Qt::Key_Return); // Yes
     });
     step(u"Grid_ChannelList"_s, [] {
-        picture(u"written"_s);
+        Driver::picture(u"written"_s);
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 3, ChannelListModel::State).toString(), GetLangString(967));
         press(u"Grid_ChannelList"_s, Qt::Key_Escape);
     });
@@ -316,9 +300,9 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
         answers = {MsgResult::Yes, MsgResult::No, MsgResult::Yes, MsgResult::Yes,
                    MsgResult::No,  MsgResult::Ok, MsgResult::Yes};
         openRecorder(0);
-        step(u"Grid_ChannelList"_s, [] { clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name); });
+        step(u"Grid_ChannelList"_s, [] { Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name); });
         step(u"cmbFormat"_s, [this] {
-            picture(u"pro"_s);
+            Driver::picture(u"pro"_s);
             choose(u"cmbFormat"_s, u"jpeg"_s);
             EXPECT_TRUE(Driver::find(u"cmbCameraDetail_2"_s));
             choose(u"cmbFormat"_s, u"h264"_s);
@@ -329,11 +313,11 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
         step(u"Grid_ChannelList"_s, [this] {
             EXPECT_EQ(camera(0, 2).live.size, u"640x480"_s);
             EXPECT_EQ(camera(0, 2).live.fps, 7);
-            clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // No
-            clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // Yes
-            press(u"Grid_ChannelList"_s, Qt::Key_Delete);                  // no camera any more: nothing
-            clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Delete); // Yes, the last one
-            picture(u"cleared"_s);
+            Driver::clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // No
+            Driver::clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // Yes
+            press(u"Grid_ChannelList"_s, Qt::Key_Delete);                          // no camera any more: nothing
+            Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Delete); // Yes, the last one
+            Driver::picture(u"cleared"_s);
             EXPECT_TRUE(camera(0, 2).ip.isEmpty());
             Driver::click(u"lbModifyApply_0"_s); // No
             EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR"_s).toInt(), 2);
@@ -356,7 +340,7 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
 {
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 8, 2)}));
     openRecorder(0);
-    step(u"Grid_ChannelList"_s, [] { clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Edit); });
+    step(u"Grid_ChannelList"_s, [] { Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Edit); });
     step(u"txtCam_1"_s, [this] {
         Driver::type(u"txtCam_1"_s, u"192.168.10.124"_s); // of a make the recorder does not know
         Driver::click(u"lbCamModifyApply_0"_s);           // 616
@@ -368,7 +352,7 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
         });
         Driver::click(u"lbCamDetect"_s); // 608
         EXPECT_FALSE(Driver::find(u"cmbFormat"_s)) << "a failed detection leaves nothing to choose";
-        picture(u"camera-refused"_s);
+        Driver::picture(u"camera-refused"_s);
         Driver::type(u"txtCam_0"_s, {});
         Driver::click(u"lbCamDetect"_s); // 603
         EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
@@ -378,12 +362,12 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
     driver.add(
         u"asking"_s, [] { return Waiting() && Driver::find(u"barCam"_s); },
         [] {
-            picture(u"camera-asking"_s);
+            Driver::picture(u"camera-asking"_s);
             EXPECT_FALSE(Driver::find(u"lbCamModifyApply_0"_s)->isEnabled());
             EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::BusyCursor);
         });
     step(u"btnEmptyState"_s, [] {
-        picture(u"camera-none"_s);
+        Driver::picture(u"camera-none"_s);
         EXPECT_FALSE(QApplication::overrideCursor());
         EXPECT_FALSE(Driver::find(u"lbCamChoose"_s)->isEnabled());
         QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
@@ -436,7 +420,7 @@ TEST_F(NVRSettingWindow, TabLeadsThroughEveryControlInItsOrder)
         EXPECT_EQ(TabOrder(u"TextNVRDetail_0"_s).toStdString(),
                   "TextNVRDetail_0 TextNVRDetail_1 TextNVRDetail_2 TextNVRDetail_3 TextNVRDetail_4 - lbNVRDetect"
                   " txtChannelFilter Grid_ChannelList lbModifyApply_1 lbModifyApply_0");
-        clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name);
+        Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name);
     });
     step(u"txtCam_0"_s, [] {
         EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
@@ -461,7 +445,7 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
 {
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Txr632, 8, 7)}));
     const auto inspect = [](const QString& shown, const QString& name) {
-        picture(name);
+        Driver::picture(name);
         EXPECT_EQ(Unnamed(QApplication::activeModalWidget()).join(u' '), QString());
         QStringList onShow;
         QList<int> tops;
@@ -479,7 +463,7 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
     const auto openChannel = [this](int row) {
         step(u"Grid_ChannelList"_s, [row] {
             EXPECT_EQ(Unnamed(QApplication::activeModalWidget()).join(u' '), QString());
-            clickCell(u"Grid_ChannelList"_s, row, ChannelListModel::Edit);
+            Driver::clickCell(u"Grid_ChannelList"_s, row, ChannelListModel::Edit);
         });
     };
     openRecorder(0);
@@ -532,7 +516,7 @@ TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
         for (int row = 1; row <= 32; ++row)
             toggle(row); // 32 are the most, with the first one: the last is refused
         toggle(40);      // no camera
-        picture(u"events"_s);
+        Driver::picture(u"events"_s);
     });
     driver.add(
         u"limit"_s, [this] { return !boxes.isEmpty(); },

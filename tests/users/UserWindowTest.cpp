@@ -77,22 +77,6 @@ protected:
         return [name] { return Driver::usable(name); };
     }
     void step(const QString& name, std::function<void()> act) { driver.add(name, usable(name), std::move(act)); }
-    // With DESK_SCREENSHOTS set, the window on show is left there as a picture.
-    static void picture(const QString& name)
-    {
-        const QString folder = qEnvironmentVariable("DESK_SCREENSHOTS");
-        QWidget* window =
-            QApplication::activeModalWidget() ? QApplication::activeModalWidget() : Driver::find(u"Form_Initial"_s);
-        if (!folder.isEmpty() && window)
-            window->grab().save(folder + u'/' + name + u".png"_s);
-    }
-    static void clickCell(const QString& grid, int row, int column)
-    {
-        auto* view = Driver::find<QTableView>(grid);
-        const QModelIndex cell = view->model()->index(row, column);
-        view->scrollTo(cell);
-        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
-    }
     void waitClosed(const QString& dialog)
     {
         driver.add(
@@ -114,7 +98,7 @@ TEST_F(UserWindowTest, AFreshStationMakesItsFirstAdministrator)
     ASSERT_TRUE(photo.open(QIODevice::WriteOnly) && photo.resize(10000001));
     SetFileChooserHandler([&](const FileQuestion&) { return photo.fileName(); });
     step(u"btnFirstUser"_s, [] {
-        picture(u"fresh"_s);
+        Driver::picture(u"fresh"_s);
         Driver::click(u"btnFirstUser"_s);
     });
     step(u"txtUser_0"_s, [] {
@@ -128,7 +112,7 @@ TEST_F(UserWindowTest, AFreshStationMakesItsFirstAdministrator)
         Driver::type(u"txtUser_1"_s, u"secret"_s);
         Driver::click(u"lbUserApply_0"_s); // not the same
         Driver::click(u"btnPhoto"_s);      // too large
-        picture(u"user"_s);
+        Driver::picture(u"user"_s);
         Driver::type(u"txtUser_7"_s, u"secret"_s);
         Driver::click(u"lbUserApply_0"_s);
     });
@@ -145,7 +129,7 @@ TEST_F(UserWindowTest, LoginLeadsToWhatTheGroupMayDo)
 {
     execute(u"INSERT INTO UserData (sUser,sPSWD,iGroup) VALUES ('chief','s',0),('night','n',3)"_s);
     step(u"txtLogin_0"_s, [] {
-        picture(u"login"_s);
+        Driver::picture(u"login"_s);
         QTest::keyClick(Driver::find(u"txtLogin_0"_s), Qt::Key_Return); // does nothing
         Driver::click(u"imgBtn_OK"_s);
         Driver::type(u"txtLogin_0"_s, u"night"_s);
@@ -198,10 +182,10 @@ TEST_F(UserWindowTest, TheLastAdministratorStaysAndOthersGo)
     answers = {MsgResult::Ok, MsgResult::No, MsgResult::Yes};
     step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
     step(u"Grid_UsersList"_s, [] {
-        picture(u"page"_s);
-        clickCell(u"Grid_UsersList"_s, 0, UserListModel::Delete); // refused
-        clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // No
-        clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // Yes
+        Driver::picture(u"page"_s);
+        Driver::clickCell(u"Grid_UsersList"_s, 0, UserListModel::Delete); // refused
+        Driver::clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // No
+        Driver::clickCell(u"Grid_UsersList"_s, 1, UserListModel::Delete); // Yes
         const auto* groups = Driver::find<QTableView>(u"Grid_GroupList"_s);
         EXPECT_LE(groups->visualRect(groups->model()->index(6, 0)).bottom(), groups->viewport()->height());
         QTest::keyClick(Driver::find(u"Grid_UsersList"_s), Qt::Key_Enter, Qt::KeypadModifier);
@@ -229,10 +213,10 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
             recorder.sSub_CH_Name[static_cast<std::size_t>(channel)] = u"Camera %1"_s.arg(channel + 1);
     }
     step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
-    step(u"Grid_GroupList"_s, [] { clickCell(u"Grid_GroupList"_s, 4, GroupListModel::Edit); });
+    step(u"Grid_GroupList"_s, [] { Driver::clickCell(u"Grid_GroupList"_s, 4, GroupListModel::Edit); });
     step(u"Grid_NVRList"_s, [] {
-        picture(u"group"_s);
-        clickCell(u"Grid_NVRList"_s, 0, 0);
+        Driver::picture(u"group"_s);
+        Driver::clickCell(u"Grid_NVRList"_s, 0, 0);
     });
     // A whole column by the keyboard, then Esc: nothing is stored.
     step(u"Grid_ChannelPrivilege"_s, [] {
@@ -261,12 +245,12 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     });
     step(u"Grid_ChannelPrivilege"_s, [] {
         QWidget* grid = Driver::find(u"Grid_ChannelPrivilege"_s);
-        clickCell(u"Grid_ChannelPrivilege"_s, 0, ChannelRightsModel::PTZ); // brings live along
-        clickCell(u"Grid_ChannelPrivilege"_s, 1, ChannelRightsModel::Live);
+        Driver::clickCell(u"Grid_ChannelPrivilege"_s, 0, ChannelRightsModel::PTZ); // brings live along
+        Driver::clickCell(u"Grid_ChannelPrivilege"_s, 1, ChannelRightsModel::Live);
         QTest::keyClick(grid, Qt::Key_Down); // camera 4
         QTest::keyClick(grid, Qt::Key_Space, Qt::ShiftModifier);
         QTest::keyClick(grid, Qt::Key_Space); // the whole row
-        picture(u"channels"_s);
+        Driver::picture(u"channels"_s);
         Driver::click(u"lbNVRPrivilege_0"_s);
     });
     step(u"lbGroupPrivilege_0"_s, [this] {
@@ -327,8 +311,8 @@ TEST_F(UserWindowTest, DeviceAccounts)
             Driver::type(u"Text_Account_1"_s, password);
             Driver::click(u"lbAccountApply"_s);
         }
-        picture(u"accounts"_s);
-        clickCell(u"Grid_Account"_s, 0, 1);
+        Driver::picture(u"accounts"_s);
+        Driver::clickCell(u"Grid_Account"_s, 0, 1);
         Driver::click(u"lbAccountClose"_s);
     });
     waitClosed(u"Form_AccountEdit"_s);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QTableView>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -110,6 +111,25 @@ void Driver::type(const QString& name, const QString& text)
     QTest::keyClick(widget, Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(widget, Qt::Key_Delete);
     QTest::keyClicks(widget, text);
+}
+
+void Driver::clickCell(const QString& table, int row, int column)
+{
+    auto* view = find<QTableView>(table);
+    if (!view)
+        throw std::runtime_error("no table " + table.toStdString());
+    const QModelIndex cell = view->model()->index(row, column);
+    view->scrollTo(cell);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
+}
+
+void Driver::picture(const QString& name)
+{
+    const QString folder = qEnvironmentVariable("DESK_SCREENSHOTS");
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* window = modal ? modal : find(u"Form_Initial"_s);
+    if (!folder.isEmpty() && window)
+        window->grab().save(folder + u'/' + name + u".png"_s);
 }
 
 QString Driver::boxText()

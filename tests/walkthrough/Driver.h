@@ -36,8 +36,11 @@ public:
     static bool usable(const QString& name); // visible, enabled, and not behind a modal window
     static void click(const QString& name);
     static void type(const QString& name, const QString& text); // replaces what stands there
-    static QString boxText();                                   // of the box on show, empty without one
-    static void answerBox(const QString& button);               // btnOk, btnYes, btnNo
+    static void clickCell(const QString& table, int row, int column);
+    // With DESK_SCREENSHOTS set, the window on show is left in that folder as a picture.
+    static void picture(const QString& name);
+    static QString boxText();                     // of the box on show, empty without one
+    static void answerBox(const QString& button); // btnOk, btnYes, btnNo
 
 private:
     void poll();

@@ -5,6 +5,7 @@
 #include "look/Fields.h"
 #include "platform/MsgBox.h"
 #include "recorders/ui/HeldBack.h"
+#include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_CameraFrame.h"
 #include "support/Conversions.h"
 
@@ -46,9 +47,8 @@ CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
                {Control::LeftMode, m_ui->cmbLeftMode},
                {Control::RightMode, m_ui->cmbRightMode},
                {Control::FishEyeMode, m_ui->cmbVideoID}}};
-    static constexpr std::array lengths{31, 255, 5, 31, 31};
     for (std::size_t i = 0; i < txtCam.size(); ++i) {
-        txtCam[i]->setMaxLength(lengths[i]);
+        txtCam[i]->setMaxLength(RecorderFields::kLengths[i]);
         connect(txtCam[i], &QLineEdit::textEdited, this, &CameraFrame::takeFields);
     }
     m_ui->txtCam_2->setValidator(new QIntValidator(0, 99999, this));

@@ -14,9 +14,8 @@ using namespace Qt::StringLiterals;
 RecorderFields::RecorderFields(const std::array<QLineEdit*, kCount>& fields)
     : m_fields(fields)
 {
-    static constexpr std::array<int, kCount> lengths{31, 255, 5, 31, 31};
     for (std::size_t i = 0; i < m_fields.size(); ++i)
-        m_fields[i]->setMaxLength(lengths[i]);
+        m_fields[i]->setMaxLength(kLengths[i]);
     QLineEdit* port = field(ManualField::Port);
     port->setValidator(new QIntValidator(0, 99999, port));
     // Addresses and ports read from the left in every language.

@@ -12,6 +12,8 @@ class RecorderFields
 {
 public:
     static constexpr int kCount = 5;
+    static constexpr std::array<int, kCount> kLengths{31, 255, 5, 31,
+                                                      31}; // characters; a camera's fields have the same
     explicit RecorderFields(const std::array<QLineEdit*, kCount>& fields);
 
     // Says what is missing or wrong in a box and goes to that field. Looks a host name up, so it may wait.
