@@ -1,8 +1,8 @@
 // Requests to devices and the device search, each beside the floor it is measured against.
 
-#include "device/FinderBridge.h"
-#include "device/Form_COM.h"
-#include "device/ModuleCGI.h"
+#include "device/bridge/FinderBridge.h"
+#include "device/bridge/Form_COM.h"
+#include "device/bridge/ModuleCGI.h"
 #include "platform/Wait.h"
 
 #include <QCoreApplication>

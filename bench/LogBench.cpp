@@ -4,7 +4,7 @@
 
 #include "app/language/Languages.h"
 #include "app/ui/UpdateWindow.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
 #include "platform/FolderChooser.h"

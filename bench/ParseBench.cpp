@@ -1,4 +1,4 @@
-#include "device/ReplyParsers.h"
+#include "device/protocol/ReplyParsers.h"
 
 #include <QElapsedTimer>
 #include <algorithm>

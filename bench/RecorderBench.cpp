@@ -1,6 +1,6 @@
 // Sixteen recorders of fifteen channels, found in a search and added through the wizard: from the click to the last
 // "Add Success!", beside the same requests sent by plain libcurl one after the other in the same run.
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "simulators/SimulatorThread.h"

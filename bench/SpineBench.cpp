@@ -4,11 +4,11 @@
 #include "app/StartUp.h"
 #include "app/Station.h"
 #include "app/ui/Form_Initial.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
 #include "platform/Wait.h"
-#include "recorders/SVRStore.h"
+#include "recorders/data/SVRStore.h"
 #include "store/Template.h"
 #include "store/tables/SVRTable.h"
 

@@ -18,16 +18,18 @@ set(DESK_UI_HEADERS ${DESK_LOGIC_HEADERS} <QApplication> <QCheckBox> <QComboBox>
 desk_precompiled(precompiled_logic LINK Qt6::Core HEADERS ${DESK_LOGIC_HEADERS})
 desk_precompiled(precompiled_ui LINK Qt6::Widgets HEADERS ${DESK_UI_HEADERS})
 
-# desk_library(<name> SOURCES … LINK …): a static library of the desk with the common headers precompiled.
-# A logic library names only Qt Core/Network/Sql (and other logic libraries) under LINK, so it cannot reach Widgets.
-function(desk_library name)
+# desk_library(<name> LOGIC|WINDOWS SOURCES … LINK …): a static library of the desk with the common headers precompiled.
+# A LOGIC library names only Qt Core/Network/Sql (and other logic libraries) under LINK, so it cannot reach Widgets.
+function(desk_library name kind)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ARG_SOURCES})
     target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE strict)
-    if(name MATCHES "_ui$")
+    if(kind STREQUAL "WINDOWS")
         target_precompile_headers(${name} REUSE_FROM precompiled_ui)
-    else()
+    elseif(kind STREQUAL "LOGIC")
         target_precompile_headers(${name} REUSE_FROM precompiled_logic)
+    else()
+        message(FATAL_ERROR "desk_library(${name} …): LOGIC or WINDOWS, not '${kind}'")
     endif()
 endfunction()

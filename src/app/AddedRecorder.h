@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/Station.h"
-#include "recorders/NVRDetect.h"
+#include "recorders/detect/NVRDetect.h"
 
 // What a detected recorder brings with it (slot from 0): a new one gets its map and the detection defaults, and both a
 // new and a re-read one their channels' event records. For DetectContext::filled.

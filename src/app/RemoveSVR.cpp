@@ -1,8 +1,8 @@
 #include "app/RemoveSVR.h"
 
 #include "app/log/Module_Log.h"
-#include "device/Form_COM.h"
-#include "device/ModuleCGI.h"
+#include "device/bridge/Form_COM.h"
+#include "device/bridge/ModuleCGI.h"
 #include "support/Conversions.h"
 
 using namespace Qt::StringLiterals;

@@ -6,7 +6,7 @@
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
 #include "platform/MsgBox.h"
-#include "recorders/SVRStore.h"
+#include "recorders/data/SVRStore.h"
 #include "store/Template.h"
 #include "support/Conversions.h"
 #include "users/AccountStore.h"

@@ -4,7 +4,7 @@
 #include "emap/EMapStore.h"
 #include "platform/Clock.h"
 #include "platform/clsOSInfo.h"
-#include "recorders/SVRStore.h"
+#include "recorders/data/SVRStore.h"
 #include "store/SystemLog.h"
 #include "support/Conversions.h"
 #include "support/TimeSeconds.h"

@@ -2,7 +2,7 @@
 
 #include "emap/EMapSet.h"
 #include "events/ChannelEvents.h"
-#include "recorders/RecorderSet.h"
+#include "recorders/data/RecorderSet.h"
 #include "store/BasicDefault.h"
 #include "store/Databases.h"
 #include "store/RecordFamily.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "emap/EMapSet.h"
-#include "recorders/RecorderSet.h"
+#include "recorders/data/RecorderSet.h"
 #include "store/Databases.h"
 #include "store/RecordFamily.h"
 

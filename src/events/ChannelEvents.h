@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recorders/RecorderSet.h"
+#include "recorders/data/RecorderSet.h"
 #include "store/Databases.h"
 #include "store/RecordFamily.h"
 #include "store/records/EventRecords.h"

@@ -1,7 +1,7 @@
 #include "recorders/NVRListModel.h"
 
 #include "app/language/Languages.h"
-#include "look/StatusRoles.h"
+#include "look/tables/StatusRoles.h"
 #include "support/Conversions.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "recorders/ConnectionWatch.h"
-#include "recorders/RecorderSet.h"
+#include "recorders/data/RecorderSet.h"
+#include "recorders/detect/ConnectionWatch.h"
 
 #include <QAbstractTableModel>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recorders/RecorderSet.h"
+#include "recorders/data/RecorderSet.h"
 #include "users/GroupStore.h"
 #include "users/UserStore.h"
 

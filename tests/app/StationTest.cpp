@@ -6,7 +6,7 @@
 #include "platform/DatabaseFile.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
-#include "recorders/SVRStore.h"
+#include "recorders/data/SVRStore.h"
 #include "store/SystemLog.h"
 #include "tests/store/StoreFixture.h"
 

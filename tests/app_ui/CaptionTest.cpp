@@ -2,7 +2,7 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/ui/Form_Initial.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
 #include "tests/store/StoreFixture.h"

@@ -1,6 +1,6 @@
-#include "device/CameraText.h"
+#include "device/protocol/CameraText.h"
 
-#include "device/RelativeFormat.h"
+#include "device/protocol/RelativeFormat.h"
 
 #include <gmock/gmock.h>
 

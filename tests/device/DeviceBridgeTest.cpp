@@ -1,4 +1,4 @@
-#include "device/Form_COM.h"
+#include "device/bridge/Form_COM.h"
 #include "platform/Wait.h"
 #include "tests/TestMain.h"
 #include "tests/device/ScriptedServer.h"

@@ -1,4 +1,4 @@
-#include "device/FinderBridge.h"
+#include "device/bridge/FinderBridge.h"
 #include "platform/Wait.h"
 
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "device/ParameterText.h"
+#include "device/protocol/ParameterText.h"
 #include "support/Conversions.h"
 #include "tests/TestMain.h"
 

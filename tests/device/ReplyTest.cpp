@@ -1,5 +1,5 @@
-#include "device/ReplyParsers.h"
-#include "device/XmlReply.h"
+#include "device/protocol/ReplyParsers.h"
+#include "device/protocol/XmlReply.h"
 #include "support/Conversions.h"
 #include "tests/TestMain.h"
 

@@ -1,4 +1,4 @@
-#include "device/Module_XML.h"
+#include "device/protocol/Module_XML.h"
 #include "support/Conversions.h"
 #include "tests/TestMain.h"
 

@@ -1,5 +1,5 @@
-#include "device/Form_COM.h"
-#include "device/ModuleCGI.h"
+#include "device/bridge/Form_COM.h"
+#include "device/bridge/ModuleCGI.h"
 #include "platform/Wait.h"
 #include "support/Conversions.h"
 #include "tests/TestMain.h"

@@ -1,4 +1,4 @@
-#include "device/DiscoveryMessage.h"
+#include "device/bridge/DiscoveryMessage.h"
 
 #include <cstdint>
 #include <cstdlib>

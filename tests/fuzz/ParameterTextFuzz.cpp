@@ -1,6 +1,6 @@
-#include "device/CameraText.h"
-#include "device/ParameterText.h"
-#include "device/RelativeFormat.h"
+#include "device/protocol/CameraText.h"
+#include "device/protocol/ParameterText.h"
+#include "device/protocol/RelativeFormat.h"
 #include "support/Conversions.h"
 
 #include <cstdlib>

@@ -1,5 +1,5 @@
-#include "device/Module_XML.h"
-#include "device/ReplyParsers.h"
+#include "device/protocol/Module_XML.h"
+#include "device/protocol/ReplyParsers.h"
 #include "support/Conversions.h"
 
 #include <cstdlib>

@@ -1,6 +1,6 @@
-#include "look/DeskMessageBox.h"
-#include "look/ProgressWindow.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
+#include "look/widgets/DeskMessageBox.h"
+#include "look/widgets/ProgressWindow.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,14 +1,14 @@
 #include "tests/TestMain.h"
 
-#include "look/Card.h"
-#include "look/Fields.h"
-#include "look/Icons.h"
-#include "look/NavRail.h"
-#include "look/PageHeader.h"
-#include "look/StatusDelegate.h"
-#include "look/StatusLabel.h"
-#include "look/Tables.h"
-#include "look/Theme.h"
+#include "look/style/Icons.h"
+#include "look/style/Theme.h"
+#include "look/tables/StatusDelegate.h"
+#include "look/tables/Tables.h"
+#include "look/widgets/Card.h"
+#include "look/widgets/Fields.h"
+#include "look/widgets/NavRail.h"
+#include "look/widgets/PageHeader.h"
+#include "look/widgets/StatusLabel.h"
 
 #include <QApplication>
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "recorders/CameraEdit.h"
-#include "recorders/NVRDetect.h"
+#include "recorders/camera/CameraEdit.h"
+#include "recorders/detect/NVRDetect.h"
 #include "simulators/SimulatorThread.h"
 #include "tests/TestMain.h"
 

@@ -1,5 +1,5 @@
-#include "recorders/CameraEvents.h"
-#include "recorders/ChannelClear.h"
+#include "recorders/camera/CameraEvents.h"
+#include "recorders/camera/ChannelClear.h"
 #include "tests/recorders/CameraFixture.h"
 
 using namespace Qt::StringLiterals;

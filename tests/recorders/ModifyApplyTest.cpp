@@ -1,7 +1,7 @@
-#include "recorders/ModifyApply.h"
+#include "recorders/detect/ModifyApply.h"
 
 #include "platform/MsgBox.h"
-#include "recorders/ChannelListModel.h"
+#include "recorders/camera/ChannelListModel.h"
 
 #include <QSortFilterProxyModel>
 #include <gtest/gtest.h>

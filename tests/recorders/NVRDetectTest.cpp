@@ -1,6 +1,6 @@
-#include "recorders/NVRDetect.h"
+#include "recorders/detect/NVRDetect.h"
 
-#include "recorders/SearchListModel.h"
+#include "recorders/detect/SearchListModel.h"
 #include "simulators/SimulatorThread.h"
 
 #include <gmock/gmock.h>

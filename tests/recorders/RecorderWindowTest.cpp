@@ -1,6 +1,6 @@
 #include "app/language/Languages.h"
-#include "look/StatusRoles.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
+#include "look/tables/StatusRoles.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
 #include "recorders/ui/Form_NVRSetting.h"

@@ -1,4 +1,4 @@
-#include "recorders/SVRStore.h"
+#include "recorders/data/SVRStore.h"
 #include "store/tables/SVRTable.h"
 #include "support/Conversions.h"
 #include "tests/store/StoreFixture.h"

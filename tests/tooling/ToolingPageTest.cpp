@@ -1,6 +1,6 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/FolderChooser.h"
 #include "platform/MsgBox.h"
 #include "tests/store/StoreFixture.h"

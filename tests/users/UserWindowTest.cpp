@@ -1,7 +1,7 @@
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "app/ui/Form_Initial.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/FileChooser.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"

@@ -1,9 +1,9 @@
 #include "tests/walkthrough/Captions.h"
 
-#include "look/ElidedLabel.h"
-#include "look/NavRail.h"
-#include "look/StatusLabel.h"
-#include "look/StepStrip.h"
+#include "look/widgets/ElidedLabel.h"
+#include "look/widgets/NavRail.h"
+#include "look/widgets/StatusLabel.h"
+#include "look/widgets/StepStrip.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemDelegate>

@@ -4,7 +4,7 @@
 #include "app/language/Languages.h"
 #include "app/ui/Form_Initial.h"
 #include "app/ui/MsgBoxWindow.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/MsgBox.h"
 #include "tests/walkthrough/DeskWindows.h"

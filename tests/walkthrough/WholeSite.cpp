@@ -1,7 +1,7 @@
 #include "app/language/Languages.h"
 #include "platform/Wait.h"
-#include "recorders/DetectStatusModel.h"
 #include "recorders/NVRListModel.h"
+#include "recorders/detect/DetectStatusModel.h"
 #include "simulators/SimulatorThread.h"
 #include "store/Databases.h"
 #include "tests/walkthrough/DeskRun.h"

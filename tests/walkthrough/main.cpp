@@ -1,7 +1,7 @@
 // walkthrough <station folder> [<screenshot folder>]: the desk's real windows drive simulated recorders by mouse and
 // keyboard: one recorder typed in, then a whole site in a station of its own inside the folder.
 #include "app/ui/MsgBoxWindow.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/clsOSInfo.h"
 #include "store/Template.h"

@@ -1,6 +1,6 @@
 #include "app/ui/FileChooserWindow.h"
 
-#include "look/Tables.h"
+#include "look/tables/Tables.h"
 #include "platform/FileChooser.h"
 #include "platform/FolderChooser.h"
 

@@ -2,7 +2,7 @@
 
 #include "app/CloseSequence.h"
 #include "app/Station.h"
-#include "device/Form_COM.h"
+#include "device/bridge/Form_COM.h"
 #include "platform/SingleInstance.h"
 
 #include <QTimer>

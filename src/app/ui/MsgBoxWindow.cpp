@@ -1,7 +1,7 @@
 #include "app/ui/MsgBoxWindow.h"
 
 #include "app/language/Languages.h"
-#include "look/DeskMessageBox.h"
+#include "look/widgets/DeskMessageBox.h"
 #include "platform/MsgBox.h"
 
 #include <QApplication>

@@ -1,7 +1,7 @@
 #include "app/ui/PendingPage.h"
 
 #include "app/language/Languages.h"
-#include "look/EmptyState.h"
+#include "look/widgets/EmptyState.h"
 
 #include <QVBoxLayout>
 

@@ -3,7 +3,7 @@
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
 #include "app/ui/ui_SystemPage.h"
-#include "look/Icons.h"
+#include "look/style/Icons.h"
 #include "platform/Clock.h"
 #include "platform/MsgBox.h"
 #include "platform/clsOSInfo.h"

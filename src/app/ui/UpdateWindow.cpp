@@ -1,7 +1,7 @@
 #include "app/ui/UpdateWindow.h"
 
 #include "app/language/Languages.h"
-#include "look/ProgressWindow.h"
+#include "look/widgets/ProgressWindow.h"
 
 #include <QCoreApplication>
 

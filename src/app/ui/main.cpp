@@ -2,7 +2,7 @@
 #include "app/ui/FileChooserWindow.h"
 #include "app/ui/Form_Initial.h"
 #include "app/ui/MsgBoxWindow.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/clsOSInfo.h"
 

@@ -2,7 +2,7 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
-#include "look/Fields.h"
+#include "look/widgets/Fields.h"
 #include "platform/MsgBox.h"
 #include "recorders/ui/HeldBack.h"
 #include "recorders/ui/RecorderFields.h"

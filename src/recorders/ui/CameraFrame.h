@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recorders/CameraEdit.h"
+#include "recorders/camera/CameraEdit.h"
 
 #include <QWidget>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recorders/CameraSearchModel.h"
+#include "recorders/camera/CameraSearchModel.h"
 
 #include <QWidget>
 #include <memory>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "look/DialogFrame.h"
-#include "recorders/DetectStatusModel.h"
-#include "recorders/ModifyApply.h"
-#include "recorders/SearchListModel.h"
+#include "look/widgets/DialogFrame.h"
+#include "recorders/detect/DetectStatusModel.h"
+#include "recorders/detect/ModifyApply.h"
+#include "recorders/detect/SearchListModel.h"
 #include "recorders/ui/RecorderFields.h"
 
 #include <functional>

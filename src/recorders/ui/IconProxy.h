@@ -1,6 +1,6 @@
 #pragma once
 
-#include "look/Icons.h"
+#include "look/style/Icons.h"
 
 #include <QSortFilterProxyModel>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "recorders/ChannelListModel.h"
-#include "recorders/ModifyApply.h"
-#include "recorders/RecorderCall.h"
+#include "recorders/camera/ChannelListModel.h"
+#include "recorders/detect/ModifyApply.h"
+#include "recorders/detect/RecorderCall.h"
 #include "recorders/ui/RecorderFields.h"
 
 #include <QWidget>

@@ -2,8 +2,8 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
-#include "look/Icons.h"
-#include "look/Tables.h"
+#include "look/style/Icons.h"
+#include "look/tables/Tables.h"
 #include "platform/MsgBox.h"
 #include "recorders/ui/ui_NVRPage.h"
 

@@ -1,7 +1,7 @@
 #include "recorders/ui/RecorderFields.h"
 
 #include "app/language/Languages.h"
-#include "look/Fields.h"
+#include "look/widgets/Fields.h"
 #include "platform/MsgBox.h"
 #include "support/Conversions.h"
 

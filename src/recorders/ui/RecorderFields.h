@@ -1,6 +1,6 @@
 #pragma once
 
-#include "recorders/NVRDetect.h"
+#include "recorders/detect/NVRDetect.h"
 
 #include <array>
 

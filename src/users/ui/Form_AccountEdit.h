@@ -1,6 +1,6 @@
 #pragma once
 
-#include "look/DialogFrame.h"
+#include "look/widgets/DialogFrame.h"
 #include "store/Databases.h"
 #include "store/records/UserRecords.h"
 

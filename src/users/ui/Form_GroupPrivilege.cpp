@@ -3,10 +3,10 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
-#include "look/ActionBar.h"
-#include "look/Fields.h"
-#include "look/Tables.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
+#include "look/tables/Tables.h"
+#include "look/widgets/ActionBar.h"
+#include "look/widgets/Fields.h"
 #include "support/Conversions.h"
 
 #include <QCheckBox>

@@ -2,9 +2,9 @@
 
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "look/ActionBar.h"
-#include "look/DialogFrame.h"
-#include "look/Fields.h"
+#include "look/widgets/ActionBar.h"
+#include "look/widgets/DialogFrame.h"
+#include "look/widgets/Fields.h"
 #include "users/ui/FieldCaption.h"
 
 #include <QFormLayout>

@@ -2,7 +2,7 @@
 
 #include "app/language/CutText.h"
 #include "app/language/Languages.h"
-#include "look/Theme.h"
+#include "look/style/Theme.h"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,0 +1,261 @@
+#include "device/bridge/DeviceBridge.h"
+
+#include "app/log/Module_Log.h"
+#include "device/bridge/ModuleCGI.h"
+#include "device/bridge/WebBridge.h"
+#include "device/protocol/ParameterText.h"
+#include "support/Conversions.h"
+
+#include <QStringList>
+#include <limits>
+#include <optional>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Lines of "prefix.key=value"; the value is everything behind the first "=".
+class ParameterLines
+{
+public:
+    ParameterLines(const QString& reply, const QString& prefix)
+        : m_lines(reply.split(u'\n'))
+        , m_prefix(prefix)
+    {
+    }
+
+    std::optional<QString> text(QLatin1String key) const
+    {
+        const QString begin = m_prefix + u'.' + key + u'=';
+        for (const QString& line : m_lines) {
+            if (line.startsWith(begin))
+                return line.sliced(begin.size()).remove(u'\r');
+        }
+        return std::nullopt;
+    }
+
+    template <class Number>
+    void number(QLatin1String key, Number& target) const
+    {
+        const QString value = text(key).value_or(QString());
+        if (value.isEmpty())
+            return;
+        Trapped("DeviceBridge - ParameterLines", [&] {
+            if constexpr (std::is_same_v<Number, qint16>)
+                target = ToInt16(value);
+            else
+                target = ToInt32(value);
+        });
+    }
+
+private:
+    QStringList m_lines;
+    QString m_prefix;
+};
+
+QString ChannelKey(qint16 channel)
+{
+    return u"camera_c"_s + QString::number(channel);
+}
+
+QString EscapedValue(const QString& value)
+{
+    const QString escaped = Escape(value);
+    if (escaped.isEmpty() && !value.isEmpty())
+        throw std::invalid_argument("Value cannot be escaped");
+    return escaped;
+}
+
+QString ActionName(PtzAction action)
+{
+    switch (action) {
+    case PtzAction::Move:
+        return u"move"_s;
+    case PtzAction::Zoom:
+        return u"zoom"_s;
+    case PtzAction::Focus:
+        return u"focus"_s;
+    case PtzAction::Iris:
+        return u"iris"_s;
+    }
+    return {};
+}
+
+} // namespace
+
+DeviceBridge::DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent)
+    : QObject(parent)
+    , m_web(web)
+    , m_http(http)
+{
+}
+
+DeviceBridge::~DeviceBridge()
+{
+    for (const auto& [number, service] : m_services)
+        m_http.cancel(service->transfer);
+}
+
+qint32 DeviceBridge::GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts)
+{
+    const QString reply = CgiGet(m_web, device, u"/param.cgi?action=get&group=system"_s);
+    const ParameterLines lines(reply, u"system"_s);
+    if (!lines.text("videoport"_L1))
+        return -1;
+    RecorderFacts read;
+    lines.number("videoport"_L1, read.VideoPort);
+    lines.number("timezone"_L1, read.TimeZone);
+    lines.number("summertime"_L1, read.SummerTime);
+    facts = read;
+    return 0;
+}
+
+qint32 DeviceBridge::GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record)
+{
+    const QString group = ChannelKey(channel) + u".device";
+    const ParameterLines lines(CgiGet(m_web, device, u"/param.cgi?action=get&group="_s + group), group);
+    const std::optional<QString> ip = lines.text("ip"_L1);
+    if (!ip)
+        return -1;
+    RecorderChannel read;
+    read.Name = lines.text("name"_L1).value_or(QString());
+    read.IP = ip->trimmed();
+    lines.number("httpport"_L1, read.HttpPort);
+    read.UserName = lines.text("username"_L1).value_or(QString());
+    read.Password = lines.text("password"_L1).value_or(QString());
+    lines.number("format"_L1, read.Format);
+    read.Resolution = lines.text("resolution"_L1).value_or(QString());
+    lines.number("brand"_L1, read.Brand);
+    record = read;
+    return 0;
+}
+
+QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
+                                 ChannelForm form)
+{
+    QString url = u"/param.cgi?action=set"_s;
+    const auto put = [&](QLatin1String key, const QString& onWire) {
+        url += u'&' + ChannelKey(channel) + u".device." + key + u'=' + onWire;
+    };
+    const auto putIfSet = [&](QLatin1String key, const QString& value) {
+        if (!value.isEmpty())
+            put(key, EscapedValue(value));
+    };
+    put("name"_L1, settings.Name);
+    put("ip"_L1, EscapedValue(settings.IP));
+    put("httpport"_L1, EscapedValue(settings.HttpPort));
+    put("username"_L1, EscapedValue(settings.UserName));
+    put("password"_L1, EscapedValue(settings.Password));
+    put("brand"_L1, EscapedValue(settings.Brand));
+    putIfSet("videoid"_L1, settings.VideoID);
+    if (form == ChannelForm::Both) {
+        putIfSet("format"_L1, settings.Format);
+        putIfSet("resolution"_L1, settings.Resolution);
+        putIfSet("fps"_L1, settings.FPS);
+        putIfSet("ratectrl"_L1, settings.RateCtrl);
+        putIfSet("bitrate"_L1, settings.BitRate);
+        putIfSet("quality"_L1, settings.Quality);
+    }
+    return CgiGet(m_web, device, url);
+}
+
+bool DeviceBridge::DeviceTook(const QString& reply)
+{
+    return reply.contains("RET=\"0\""_L1);
+}
+
+bool DeviceBridge::command(const DeviceAddress& device, qint16 channel, const QString& rest)
+{
+    return DeviceTook(CgiGet(m_web, device, u"/ptz.cgi?channel="_s + QString::number(channel) + u"&action=" + rest));
+}
+
+bool DeviceBridge::GotoPreset(const DeviceAddress& device, qint16 channel, qint16 preset, qint32 speed)
+{
+    return command(device, channel, u"goto&preset="_s + QString::number(preset) + u"&speed=" + QString::number(speed));
+}
+
+bool DeviceBridge::SetPreset(const DeviceAddress& device, qint16 channel, qint16 preset, const QString& name)
+{
+    return command(device, channel, u"setpreset&preset="_s + QString::number(preset) + u"&name=" + EscapedValue(name));
+}
+
+bool DeviceBridge::MovePtz(const DeviceAddress& device, qint16 channel, PtzAction action, qint32 direction,
+                           qint32 speed)
+{
+    return command(device, channel,
+                   ActionName(action) + u"&direction=" + QString::number(direction) + u"&speed=" +
+                       QString::number(speed));
+}
+
+bool DeviceBridge::StopPtz(const DeviceAddress& device, qint16 channel)
+{
+    return command(device, channel, u"stop"_s);
+}
+
+QString DeviceBridge::GetFishEyeMode(const DeviceAddress& device, qint16 channel)
+{
+    const QString group = ChannelKey(channel) + u".fisheye";
+    return ParameterLines(CgiGet(m_web, device, u"/param.cgi?action=get&group="_s + group), group)
+        .text("mode"_L1)
+        .value_or(QString())
+        .trimmed();
+}
+
+qint16 DeviceBridge::AddService(const QString& address, qint32 httpPort, const QString& user, const QString& password,
+                                const QString&)
+{
+    qint16 number = 0;
+    for (const auto& [taken, service] : m_services) {
+        if (taken != number)
+            break;
+        if (number == std::numeric_limits<qint16>::max())
+            return -1;
+        ++number;
+    }
+    auto service = std::make_unique<Service>();
+    service->device = {address, httpPort, user, password};
+    service->seconds = m_serviceTimeout;
+    service->next.setSingleShot(true);
+    connect(&service->next, &QTimer::timeout, this, [this, number] { poll(number); });
+    m_services.emplace(number, std::move(service));
+    poll(number);
+    return number;
+}
+
+void DeviceBridge::RemoveService(qint16 number)
+{
+    const auto found = m_services.find(number);
+    if (found == m_services.end())
+        return;
+    m_http.cancel(found->second->transfer);
+    m_services.erase(found);
+}
+
+void DeviceBridge::poll(qint16 number)
+{
+    Service& service = *m_services.at(number);
+    HttpRequest request;
+    request.address = service.device.address;
+    request.port = service.device.port;
+    request.user = service.device.user;
+    request.password = service.device.password;
+    request.target = "/getgid.cgi"_ba;
+    request.seconds = service.seconds;
+    request.maxBytes = 64 * 1024;
+    service.transfer = m_http.start(request, [this, number](const HttpReply& reply) { polled(number, reply); });
+}
+
+void DeviceBridge::polled(qint16 number, const HttpReply& reply)
+{
+    Service& service = *m_services.at(number);
+    service.transfer = 0;
+    const bool answers =
+        reply.failure == HttpFailure::None && reply.status < 400 && reply.body.toUpper().contains("OK");
+    service.next.start(m_pollInterval);
+    const qint32 status = answers ? 1 : 0;
+    if (service.status == status)
+        return;
+    service.status = status;
+    emit OnNotifyServiceStatus(number, status);
+}

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "device/bridge/DeviceAddress.h"
+#include "platform/HttpClient.h"
+
+#include <QObject>
+#include <QTimer>
+#include <map>
+#include <memory>
+
+class WebBridge;
+
+// What family "SVR" says about itself.
+struct RecorderFacts
+{
+    qint32 VideoPort = 0;
+    qint16 TimeZone = 0;
+    qint16 SummerTime = 0;
+};
+
+// One channel as family "SVR" describes it. A channel without a camera has an empty IP.
+struct RecorderChannel
+{
+    QString Name; // escaped, as on the wire
+    QString IP;
+    qint32 HttpPort = 0;
+    QString UserName;
+    QString Password;
+    qint32 Format = 0; // 256 MJPEG, 768 MPEG4, 1024 H.264
+    QString Resolution;
+    qint16 Brand = 0;
+};
+
+// What is written to a channel. A value without text is left out, except the six that name the camera.
+struct ChannelParameters
+{
+    QString Name; // escaped, as on the wire
+    QString IP;
+    QString HttpPort;
+    QString UserName;
+    QString Password;
+    QString Brand;
+    QString VideoID; // source of a multi-source camera, from 1
+    QString Format;  // code, and so the codes below
+    QString Resolution;
+    QString FPS;
+    QString RateCtrl;
+    QString BitRate;
+    QString Quality;
+};
+
+enum class ChannelForm
+{
+    Both,  // the camera and its stream
+    Simple // the camera only
+};
+
+enum class PtzAction
+{
+    Move,
+    Zoom,
+    Focus,
+    Iris
+};
+
+// The devices' own parameter text, and the station's services at them. `channel` counts from 1. Calls wait for the
+// device; a failure of transport gives -1 or the empty text.
+class DeviceBridge : public QObject
+{
+    Q_OBJECT
+
+public:
+    DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent = nullptr);
+    ~DeviceBridge() override;
+
+    // 0 and the record, or -1 (the record is untouched). A number that is none is logged and reads as 0.
+    qint32 GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts);
+    qint32 GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record);
+
+    // Reply text of the device; it took the values when DeviceTook() says so. Values are escaped on the way, the name
+    // is not (it comes escaped). Throws std::invalid_argument for a value that cannot be escaped, with nothing sent.
+    QString SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
+                       ChannelForm form);
+    static bool DeviceTook(const QString& reply);
+
+    // Presets (from 1) and movement; true when the device took the command.
+    bool GotoPreset(const DeviceAddress& device, qint16 channel, qint16 preset, qint32 speed);
+    bool SetPreset(const DeviceAddress& device, qint16 channel, qint16 preset, const QString& name);
+    bool MovePtz(const DeviceAddress& device, qint16 channel, PtzAction action, qint32 direction, qint32 speed);
+    bool StopPtz(const DeviceAddress& device, qint16 channel);
+
+    // Present fish-eye mode as the device says it.
+    QString GetFishEyeMode(const DeviceAddress& device, qint16 channel);
+
+    // Whole-request time-out of the services' polling, in seconds; services added later take it.
+    qint32 ServiceTimeout() const { return m_serviceTimeout; }
+    void SetServiceTimeout(qint32 seconds) { m_serviceTimeout = seconds; }
+    // Pause between two polls, in milliseconds.
+    void SetPollInterval(int milliseconds) { m_pollInterval = milliseconds; }
+
+    // Registers a service: its device is asked /getgid.cgi from now on. The lowest free number from 0, or -1 when
+    // there is none.
+    qint16 AddService(const QString& address, qint32 httpPort, const QString& user, const QString& password,
+                      const QString& application);
+    void RemoveService(qint16 service);
+
+signals:
+    // 1: the device answers, 0: it does not. Emitted for the first poll and for every change.
+    void OnNotifyServiceStatus(qint16 service, qint32 status);
+
+private:
+    struct Service
+    {
+        DeviceAddress device;
+        qint32 seconds = 0;
+        qint32 status = -1; // unknown yet
+        quint64 transfer = 0;
+        QTimer next;
+    };
+
+    bool command(const DeviceAddress& device, qint16 channel, const QString& rest);
+    void poll(qint16 number);
+    void polled(qint16 number, const HttpReply& reply);
+
+    WebBridge& m_web;
+    HttpClient& m_http;
+    std::map<qint16, std::unique_ptr<Service>> m_services;
+    qint32 m_serviceTimeout = 60;
+    int m_pollInterval = 10'000;
+};

@@ -1,0 +1,393 @@
+#include "device/protocol/ReplyParsers.h"
+#include "device/protocol/XmlReply.h"
+
+#include <QVarLengthArray>
+#include <algorithm>
+#include <cstdio>
+#include <string_view>
+
+using namespace Qt::StringLiterals;
+
+// The two replies that fill a recorder's channels: the list of its channels and the answer to a camera probe.
+
+namespace {
+
+struct ChannelTarget
+{
+    SVRRecord& svr;
+    SVRProRecord& pro;
+    std::size_t index = 0; // channel, from 0
+    // Bounds of the PTZ speed wait here for SpeedStep; they are not reset between channels.
+    qint16 speedLower = 0;
+    qint16 speedUpper = 0;
+    // Slot of the stream of a probe's current settings whose elements are being read.
+    std::size_t slot = 0;
+    std::string scratch = {};
+
+    ProChannelStreams& streams() { return pro.Streams[index]; }
+};
+
+template <class T>
+T& Cell(ChannelTarget& target, PerChannel<T> SVRRecord::*field)
+{
+    return (target.svr.*field)[target.index];
+}
+template <class T>
+T& Cell(ChannelTarget& target, PerChannel<T> SVRProRecord::*field)
+{
+    return (target.pro.*field)[target.index];
+}
+
+// The texts of the children with `separator` between, before the second decoding: no reference can span two of them.
+struct JoinedTexts
+{
+    QVarLengthArray<char, 512> list; // ends in NUL
+    std::size_t count = 0;
+};
+JoinedTexts Joined(pugi::xml_node node, char separator)
+{
+    JoinedTexts joined;
+    std::string scratch;
+    ForEachElement(node, [&](pugi::xml_node child) {
+        if (joined.count++ > 0)
+            joined.list.append(separator);
+        const char* const text = RawText(child, scratch);
+        joined.list.append(text, static_cast<qsizetype>(std::strlen(text)));
+    });
+    joined.list.append('\0');
+    return joined;
+}
+
+// Readers of one element into the channel's cell of `Field`.
+template <auto Field>
+void Text(ChannelTarget& target, pugi::xml_node node)
+{
+    Decode(RawText(node, target.scratch), Cell(target, Field));
+}
+template <auto Field>
+void Int16(ChannelTarget& target, pugi::xml_node node)
+{
+    Cell(target, Field) = Int16Of(node);
+}
+template <auto Field>
+void Int32(ChannelTarget& target, pugi::xml_node node)
+{
+    Cell(target, Field) = Int32Of(node);
+}
+template <auto Field>
+void Flag(ChannelTarget& target, pugi::xml_node node)
+{
+    Cell(target, Field) = Int32Of(node) != 0;
+}
+// The texts of the children, joined by commas.
+template <auto Field>
+void TextList(ChannelTarget& target, pugi::xml_node node)
+{
+    Decode(Joined(node, ',').list.constData(), Cell(target, Field));
+}
+
+using Reader = ElementReader<ChannelTarget>;
+
+constexpr auto kSystem = Elements<ChannelTarget>({
+    {"UserName", Text<&SVRRecord::sSub_CH_UserName>},
+    {"Password", Text<&SVRRecord::sSub_CH_Password>},
+    {"Model", Text<&SVRProRecord::sCH_Pro_Model>},
+    {"MACAddress", Text<&SVRProRecord::sCH_Pro_Mac>},
+    {"NumberVideo", Int16<&SVRRecord::iSub_CH_VideoIDCount>},
+    {"VideoNumber", Int16<&SVRRecord::iSub_CH_VideoID>},
+    {"RtspPort", Int32<&SVRProRecord::lCH_Pro_RTPSPort>},
+    {"BrandCode", Int16<&SVRRecord::iSub_CH_Brand>},
+});
+
+// CapAudioIn decides both ways, CapAudioOut only raises: their order in the reply matters.
+constexpr auto kAudio = Elements<ChannelTarget>({
+    {"FMT", Text<&SVRProRecord::sCH_Pro_AudioType>},
+    {"CapAudioIn",
+     [](ChannelTarget& target, pugi::xml_node node) {
+         Cell(target, &SVRRecord::iSub_CH_Audio) = DecodedText(node) == "1"_L1 ? 1 : 0;
+     }},
+    {"CapAudioOut",
+     [](ChannelTarget& target, pugi::xml_node node) {
+         if (DecodedText(node) == "1"_L1)
+             Cell(target, &SVRRecord::iSub_CH_Audio) = 2;
+     }},
+});
+
+constexpr Reader kSpeedLower{"SpeedLower",
+                             [](ChannelTarget& target, pugi::xml_node node) { target.speedLower = Int16Of(node); }};
+constexpr Reader kSpeedUpper{"SpeedUpper",
+                             [](ChannelTarget& target, pugi::xml_node node) { target.speedUpper = Int16Of(node); }};
+constexpr Reader kSpeedStep{"SpeedStep", [](ChannelTarget& target, pugi::xml_node node) {
+                                std::array<char, 32> range;
+                                std::snprintf(range.data(), range.size(), "%d,%d,%d", target.speedLower,
+                                              target.speedUpper, Int16Of(node));
+                                Decode(range.data(), Cell(target, &SVRRecord::sCH_PTZ_Speed_Range));
+                            }};
+constexpr Reader kMove{"Move", [](ChannelTarget& target, pugi::xml_node node) {
+                           Cell(target, &SVRRecord::sCH_PTZ_PanTilt_Range) = QString::number(Int16Of(node));
+                       }};
+
+constexpr auto kPtz = Elements<ChannelTarget>({
+    {"PTZEnable", Flag<&SVRRecord::bSub_CH_PTZ>},
+    {"PTZABS", Flag<&SVRProRecord::bCH_Pro_ABS>},
+    {"AutoPan", Int16<&SVRProRecord::iCH_Pro_AutoPanMode>},
+    kSpeedLower,
+    kSpeedUpper,
+    kSpeedStep,
+    {"MoveCont", Int16<&SVRRecord::iCH_PTZ_MoveContCap>},
+    {"ZoomCont", Int16<&SVRRecord::iCH_PTZ_ZoomContCap>},
+    {"FocusCont", Int16<&SVRRecord::iCH_PTZ_FocusContCap>},
+    {"IrisCont", Int16<&SVRRecord::iCH_PTZ_IrisContCap>},
+    {"SyncPreset", Int16<&SVRProRecord::iCH_Pro_SyncPreset>},
+    kMove,
+    {"SetPreset", Flag<&SVRProRecord::bCH_Pro_SetPreset>},
+    {"ModeList4FishEye", Text<&SVRRecord::sSub_CH_MD_FishEyeModeList>},
+    {"Mode4FishEye", Text<&SVRRecord::sSub_CH_Mode4FishEye>},
+});
+
+constexpr auto kProbePtz = Elements<ChannelTarget>({
+    {"PTZEnable", Flag<&SVRRecord::bSub_CH_PTZ>},
+    {"PTZABS", Flag<&SVRProRecord::bCH_Pro_ABS>},
+    {"AutoPan", Int16<&SVRProRecord::iCH_Pro_AutoPanMode>},
+    kSpeedLower,
+    kSpeedUpper,
+    kSpeedStep,
+    {"Zoom", Int16<&SVRRecord::iCH_PTZ_ZoomContCap>},
+    {"Focus", Int16<&SVRRecord::iCH_PTZ_FocusContCap>},
+    {"Iris", Int16<&SVRRecord::iCH_PTZ_IrisContCap>},
+    {"SyncPreset", Int16<&SVRProRecord::iCH_Pro_SyncPreset>},
+    kMove,
+    {"SetPreset", Flag<&SVRProRecord::bCH_Pro_SetPreset>},
+    {"ModeList4FishEye", Text<&SVRRecord::sSub_CH_MD_FishEyeModeList>},
+    {"Mode4FishEye", Text<&SVRRecord::sSub_CH_Mode4FishEye>},
+});
+
+constexpr Reader kSupportFmt{
+    "SupportFMT", [](ChannelTarget& target, pugi::xml_node node) {
+        qint16 slot = 0;
+        ForEachElement(node, [&](pugi::xml_node child) { ParseSupportFmt(target.streams(), child, slot); });
+    }};
+constexpr Reader kFmtList{"FMTList", [](ChannelTarget& target, pugi::xml_node node) {
+                              QString& list = Cell(target, &SVRRecord::sCH_FMTList);
+                              Decode(RawText(node, target.scratch), list);
+                              list.replace(u' ', u',');
+                          }};
+
+constexpr auto kVideo = Elements<ChannelTarget>({
+    {"FMT", Text<&SVRRecord::sSub_CH_VideoFormat>},
+    {"Size", Text<&SVRRecord::sSub_CH_Resolution>},
+    {"FPS", Int16<&SVRRecord::iCH_FPS>},
+    {"Quality", Int16<&SVRRecord::iCH_Quality>},
+    {"RateControl", Int16<&SVRRecord::iCH_RateCtrl>},
+    {"Bitrate", Int16<&SVRRecord::iCH_BitRate>},
+    {"GOP", Int16<&SVRRecord::iCH_GOP>},
+    {"LensMode", Text<&SVRProRecord::sCH_Pro_LensMode>},
+    {"LeftDisplayMode", Text<&SVRProRecord::sCH_Pro_LeftDisplayMode>},
+    {"RightDisplayMode", Text<&SVRProRecord::sCH_Pro_RightDisplayMode>},
+    kSupportFmt,
+    kFmtList,
+    {"LensModeList", TextList<&SVRProRecord::sCH_Pro_LensModeList>},
+    {"LeftDisplayModeList", TextList<&SVRProRecord::sCH_Pro_LeftDisplayModeList>},
+    {"RightDisplayModeList", TextList<&SVRProRecord::sCH_Pro_RightDisplayModeList>},
+});
+
+// The present settings of one stream of a probed camera.
+constexpr auto kStream = Elements<ChannelTarget>({
+    {"FMT",
+     [](ChannelTarget& target, pugi::xml_node node) {
+         const QString format = DecodedText(node);
+         const QString lower = format.toLower();
+         if (lower == "jpeg"_L1 || lower == "mjpeg"_L1)
+             target.slot = 0;
+         else if (lower == "mpeg4"_L1)
+             target.slot = 1;
+         else if (lower == "h264"_L1)
+             target.slot = 2;
+         target.streams().sFMT[target.slot] = format;
+     }},
+    {"Size",
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams().sResolution[target.slot] = DecodedText(node); }},
+    {"FPS",
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams().iFrameRate[target.slot] = Int16Of(node); }},
+    {"Quality",
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams().iQuality[target.slot] = Int16Of(node); }},
+    {"RateControl", [](ChannelTarget& target,
+                       pugi::xml_node node) { target.streams().sRateControl[target.slot] = DecodedText(node); }},
+    {"Bitrate",
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams().iBitRate[target.slot] = Int16Of(node); }},
+    {"GOP", [](ChannelTarget& target, pugi::xml_node node) { target.streams().iGOP[target.slot] = Int16Of(node); }},
+});
+
+void ReadCurrentSettings(ChannelTarget& target, pugi::xml_node list)
+{
+    ForEachElement(list, [&](pugi::xml_node stream) { ReadElements(kStream, target, stream); });
+    ProChannelStreams& streams = target.streams();
+    for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
+        const QString format = streams.sFMT[slot].toLower();
+        if (format == "mjpeg"_L1)
+            streams.bGOPCap[slot] = false;
+        else if (format == "mpeg4"_L1 || format == "h264"_L1)
+            streams.bGOPCap[slot] = streams.iGOP[slot] >= 1;
+    }
+}
+
+constexpr auto kProbeVideo = Elements<ChannelTarget>({
+    {"CurrentSettingsList", ReadCurrentSettings},
+    {"LensMode", Text<&SVRProRecord::sCH_Pro_LensMode>},
+    {"LeftDisplayMode", Text<&SVRProRecord::sCH_Pro_LeftDisplayMode>},
+    {"RightDisplayMode", Text<&SVRProRecord::sCH_Pro_RightDisplayMode>},
+    kSupportFmt,
+    kFmtList,
+    {"LensModeList", TextList<&SVRProRecord::sCH_Pro_LensModeList>},
+    {"LeftDisplayModeList", TextList<&SVRProRecord::sCH_Pro_LeftDisplayModeList>},
+    {"RightDisplayModeList", TextList<&SVRProRecord::sCH_Pro_RightDisplayModeList>},
+});
+
+void ReadProbeVideo(ChannelTarget& target, pugi::xml_node video)
+{
+    ProChannelStreams& streams = target.streams();
+    const std::size_t count = std::min<std::size_t>(ElementCount(video.child("CurrentSettingsList")), kMaxStream);
+    for (std::size_t slot = 0; slot < count; ++slot) {
+        streams.sFMT[slot].clear();
+        streams.sResolution[slot].clear();
+        streams.sRateControl[slot] = u"-1"_s;
+        streams.iFrameRate[slot] = -1;
+        streams.iQuality[slot] = -1;
+        streams.iBitRate[slot] = -1;
+        streams.iGOP[slot] = -1;
+    }
+    streams.bGOPCap = {false, true, true};
+    ReadElements(kProbeVideo, target, video);
+}
+
+template <const auto& Table>
+void Section(ChannelTarget& target, pugi::xml_node node)
+{
+    ReadElements(Table, target, node);
+}
+
+constexpr auto kChannel = Elements<ChannelTarget>({
+    {"Name", Text<&SVRRecord::sSub_CH_Name>},
+    {"IP", Text<&SVRRecord::sSub_CH_IP>},
+    {"HTTPPort", Int32<&SVRRecord::iSub_CH_HttpPort>},
+    {"System", Section<kSystem>},
+    {"Video", Section<kVideo>},
+    {"Audio", Section<kAudio>},
+    {"PTZ", Section<kPtz>},
+});
+
+constexpr auto kProbe = Elements<ChannelTarget>({
+    {"System", Section<kSystem>},
+    {"Video", ReadProbeVideo},
+    {"Audio", Section<kAudio>},
+    {"PTZ", Section<kProbePtz>},
+});
+
+void ClearFormats(ProChannelStreams& streams)
+{
+    for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
+        streams.sResolutionList[slot].clear();
+        for (auto* bounds : {&streams.iFPSUpper, &streams.iFPSLower, &streams.iBPSUpper, &streams.iBPSLower})
+            (*bounds)[slot].assign(1, 0);
+    }
+}
+
+} // namespace
+
+qint16 ParseChannelList(ReplyText reply, SVRRecord& channels, SVRProRecord& formats)
+{
+    const XmlReply document(std::move(reply));
+    const pugi::xml_node response = document.response();
+    if (!response || Int32Of(FirstAttribute(response)) != 0)
+        return 0;
+    ChannelTarget target{channels, formats};
+    ForEachElement(response, "CHList", [&](pugi::xml_node list) {
+        ForEachElement(list, [&](pugi::xml_node channel) {
+            const int index = Int16Of(FirstAttribute(channel)) - 1;
+            ProChannelStreams& streams = At(formats.Streams, index);
+            target.index = static_cast<std::size_t>(index);
+            ClearFormats(streams);
+            ReadElements(kChannel, target, channel);
+            channels.sCH_ResolutionList[target.index] =
+                streams.sResolutionList[0] + u';' + streams.sResolutionList[1] + u';' + streams.sResolutionList[2];
+        });
+    });
+    return 1;
+}
+
+void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& slot)
+{
+    const char* format = "";
+    const qint16 present = slot;
+    for (pugi::xml_attribute at = child.first_attribute(); at; at = at.next_attribute()) {
+        const char* const name = at.name();
+        const char* const value = at.value();
+        if (SameName(name, "FMT")) {
+            format = value;
+            slot = qstricmp(value, "JPEG") == 0 ? 0 : qstricmp(value, "MPEG4") == 0 ? 1 : 2;
+        } else if (SameName(name, "QualityLower")) {
+            At(formats.iQualityLower, present) = Int16Of(value);
+        } else if (SameName(name, "QualityUpper")) {
+            At(formats.iQualityUpper, present) = Int16Of(value);
+        } else if (SameName(name, "RateControl")) {
+            At(formats.bRateControlCap, present) = Int32Of(value) != 0;
+        }
+    }
+
+    constexpr std::array<std::string_view, kMaxStream> names = {"jpeg", "mpeg4", "h264"};
+    const auto named = std::ranges::find(names, format);
+    if (named == names.end())
+        return;
+    auto [sizes, count] = Joined(child, ' ');
+    if (count == 0)
+        return;
+    const auto own = static_cast<std::size_t>(named - names.begin());
+    std::ranges::replace(sizes, ' ', ',');
+    Decode(sizes.constData(), formats.sResolutionList[own]);
+
+    const std::array<std::pair<const char*, std::vector<qint16>*>, 4> bounds = {{
+        {"FPSLower", &formats.iFPSLower[own]},
+        {"FPSUpper", &formats.iFPSUpper[own]},
+        {"BPSLower", &formats.iBPSLower[own]},
+        {"BPSUpper", &formats.iBPSUpper[own]},
+    }};
+    for (const auto& [name, values] : bounds)
+        values->assign(count, 0);
+    std::size_t position = 0;
+    ForEachElement(child, [&](pugi::xml_node size) {
+        std::size_t expected = 0; // devices send them in this order
+        pugi::xml_attribute at = size.first_attribute();
+        for (const char* name = at.name(); *name != '\0'; name = at.name()) {
+            for (std::size_t tried = 0; tried < bounds.size(); ++tried, ++expected) {
+                const auto& [bound, values] = bounds[expected % bounds.size()];
+                if (!SameName(bound, name))
+                    continue;
+                (*values)[position] = Int16Of(at.value());
+                ++expected;
+                break;
+            }
+            at = at.next_attribute();
+        }
+        ++position;
+    });
+}
+
+qint16 ParseDetectedCamera(ReplyText reply, SVRRecord& channels, SVRProRecord& formats, qint16 channel)
+{
+    const XmlReply document(std::move(reply));
+    const pugi::xml_node response = document.response();
+    if (!response)
+        return -100;
+    if (const qint16 result = Int16Of(FirstAttribute(response)); result != 0)
+        return result;
+    At(formats.Streams, channel);
+    ChannelTarget target{channels, formats, static_cast<std::size_t>(channel)};
+    // Recorders differ in whether a wrapper stands round the sections.
+    ForEachElement(response, [&](pugi::xml_node child) {
+        if (const std::size_t index = IndexOf(kProbe, child.name()); index < kProbe.size())
+            kProbe[index].read(target, child);
+        else if (!SameName(child.name(), "UserData"))
+            ReadElements(kProbe, target, child);
+    });
+    return 0;
+}

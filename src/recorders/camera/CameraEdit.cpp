@@ -1,0 +1,385 @@
+#include "recorders/camera/CameraEdit.h"
+
+#include "app/log/Module_Log.h"
+#include "device/bridge/ModuleCGI.h"
+#include "device/protocol/ParameterText.h"
+#include "device/protocol/ReplyParsers.h"
+#include "device/protocol/ReplyText.h"
+#include "recorders/camera/CameraWrite.h"
+#include "recorders/camera/ChannelClear.h"
+#include "support/Conversions.h"
+#include "support/HostNames.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String kDetectSource("Form_CameraSetting - lbCamDetect_Click");
+constexpr qsizetype kShownReply = 200; // characters of a device's reply in a box
+
+enum Message
+{
+    kUnusable = 73,
+    kAddressFault = 554,
+    kPortFault = 556,
+    kNameEmpty = 603,
+    kAddressEmpty = 604,
+    kPortEmpty = 605,
+    kUserEmpty = 606,
+    kPasswordEmpty = 607,
+    kDetectFault = 608,
+    kNoCamera = 609,
+    kDetectAgain = 616,
+    kTooManyChannels = 716,
+    kDetectSuccess = 833,
+    kNameQuote = 980
+};
+
+enum Field
+{
+    kName,
+    kAddress,
+    kPort,
+    kUser,
+    kPassword
+};
+
+using Control = CameraEdit::Control;
+
+bool PortFits(const QString& port)
+{
+    bool ok = false;
+    const int number = port.trimmed().toInt(&ok);
+    return ok && number >= 1 && number <= 65535;
+}
+
+// The answer of a device as it fits into a box.
+QString Shown(const QString& reply)
+{
+    return u" : "_s + reply.left(kShownReply).simplified();
+}
+
+} // namespace
+
+CameraEdit::CameraEdit(Form_COM& com, RecorderSet& recorders, QObject* parent)
+    : QObject(parent)
+    , m_com(com)
+    , m_recorders(recorders)
+    , m_draft{std::make_unique<SVRRecord>(), std::make_unique<SVRProRecord>(), {}}
+{
+}
+
+CameraEdit::~CameraEdit() = default;
+
+void CameraEdit::open(int channel)
+{
+    At(m_recorders.SVREdit.sSub_CH_IP, channel);
+    m_channel = channel;
+    *m_draft.svr = m_recorders.SVREdit;
+    *m_draft.pro = m_recorders.SVRProEdit;
+    m_draft.svr->iSub_Channel[index()] = static_cast<qint16>(channel + 1);
+    m_fields = storedFields();
+    m_detectedFields = m_fields;
+    m_detected = m_changed = m_stale = false;
+    m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
+    m_probeReply.clear();
+    m_draft.states = lists().isPro() ? StatesOfStreams(m_draft.pro->Streams[index()]) : FormatStates();
+    if (const int present = FormatIndex(m_draft.svr->sSub_CH_VideoFormat[index()]); present >= 0) {
+        const auto slot = static_cast<std::size_t>(present);
+        m_draft.states[slot] = presentState();
+        PutState(m_draft.pro->Streams[index()], slot, m_draft.states[slot]);
+    }
+    CamDetailFill();
+}
+
+CameraEdit::Fields CameraEdit::storedFields() const
+{
+    const SVRRecord& svr = m_recorders.SVREdit;
+    return {svr.sSub_CH_Name[index()], svr.sSub_CH_IP[index()], QString::number(svr.iSub_CH_HttpPort[index()]),
+            svr.sSub_CH_UserName[index()], svr.sSub_CH_Password[index()]};
+}
+
+void CameraEdit::setFields(const Fields& fields)
+{
+    if (fields == m_fields)
+        return;
+    const bool other = fields.address != m_fields.address || fields.port != m_fields.port;
+    m_fields = fields;
+    m_detected = false;
+    m_changed = true;
+    if (!other)
+        return;
+    m_probeReply.clear(); // the sources were those of another camera
+    at(Control::VideoSource) = {};
+    emit choicesChanged();
+}
+
+void CameraEdit::putFields(SVRRecord& svr) const
+{
+    svr.sSub_CH_Name[index()] = m_fields.name;
+    svr.sSub_CH_IP[index()] = m_fields.address.trimmed();
+    svr.iSub_CH_HttpPort[index()] = m_fields.port.trimmed().toInt();
+    svr.sSub_CH_UserName[index()] = m_fields.user;
+    svr.sSub_CH_Password[index()] = m_fields.password;
+}
+
+QString CameraEdit::brand() const
+{
+    const qint16 number = m_draft.svr->iSub_CH_Brand[index()];
+    return number > 0 ? QString::number(number) : QString();
+}
+
+CameraEdit::Outcome CameraEdit::checkFields() const
+{
+    const std::pair<const QString&, int> needed[] = {{m_fields.name, kNameEmpty},
+                                                     {m_fields.address, kAddressEmpty},
+                                                     {m_fields.port, kPortEmpty},
+                                                     {m_fields.user, kUserEmpty},
+                                                     {m_fields.password, kPasswordEmpty}};
+    for (int field = 0; const auto& [text, message] : needed) {
+        if (text.isEmpty())
+            return Outcome::Failed(message, {}, field);
+        ++field;
+    }
+    const QString address = m_fields.address.trimmed();
+    if (!CheckIP(address) && GetIpByName(address).isEmpty())
+        return Outcome::Failed(kAddressFault, {}, kAddress);
+    if (m_fields.name.contains(u'"'))
+        return Outcome::Failed(kNameQuote, {}, kName);
+    if (!PortFits(m_fields.port))
+        return Outcome::Failed(kPortFault, {}, kPort);
+    return Outcome::Done();
+}
+
+CameraEdit::Outcome CameraEdit::detect()
+{
+    if (const Outcome fault = checkFields(); !fault.ok)
+        return fault;
+    const bool pro = lists().isPro();
+    const bool ownSource = m_draft.svr->iSub_CH_VideoID[index()] == m_recorders.SVREdit.iSub_CH_VideoID[index()];
+    if (!pro && ownSource && m_fields == storedFields() &&
+        HasStoredDetection(m_recorders.SVREdit, m_recorders.SVRProEdit, m_channel)) {
+        open(m_channel);
+        m_detected = true;
+        return Outcome::Done(kDetectSuccess);
+    }
+    if (!CgiGetGid(m_com.web, AddressOf(*m_draft.svr)))
+        return Outcome::Failed(kNoCamera);
+    return pro ? ChannelDetectPro() : detectSvr();
+}
+
+CameraEdit::Draft CameraEdit::copyOfDraft() const
+{
+    return {std::make_unique<SVRRecord>(*m_draft.svr), std::make_unique<SVRProRecord>(*m_draft.pro), m_draft.states};
+}
+
+bool CameraEdit::sameCamera() const
+{
+    return m_fields.address.trimmed() == m_detectedFields.address.trimmed() &&
+           m_fields.port.trimmed() == m_detectedFields.port.trimmed();
+}
+
+// What an earlier camera has left would pass for what the asked one says.
+CameraEdit::Draft CameraEdit::draftForDetection() const
+{
+    Draft draft = copyOfDraft();
+    ForgetCamera(*draft.svr, *draft.pro, m_channel);
+    if (sameCamera())
+        return draft;
+    draft.svr->iSub_CH_Brand[index()] = 0;
+    draft.svr->iSub_CH_VideoID[index()] = 1;
+    draft.pro->sCH_Pro_Model[index()].clear();
+    draft.pro->sCH_Pro_Mac[index()].clear();
+    draft.pro->lCH_Pro_RTPSPort[index()] = 0;
+    return draft;
+}
+
+CameraEdit::Outcome CameraEdit::detectSvr()
+{
+    Draft draft = draftForDetection();
+    const DeviceAddress recorder = AddressOf(*draft.svr);
+    const QString password = m_fields.password.trimmed().isEmpty() ? u"0"_s : m_fields.password;
+    const QString address = m_fields.address.trimmed();
+    const QString port = m_fields.port.trimmed();
+    const QString brand = sameCamera() ? this->brand() : QString();
+    auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
+    const bool oneSource = choice(Control::VideoSource).shown;
+    const QString reply =
+        oneSource ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand)
+                  : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand);
+    std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, source);
+    if (camera && oneSource) { // the answer need not repeat how many there are
+        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr->iSub_CH_VideoIDCount[index()]);
+    } else if (camera && source > camera->VideoSources) {
+        source = 1;
+        camera = ReadDetectedCamera(reply, source);
+    }
+    if (!camera)
+        return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
+    if (!TakeDetectedText(*camera, *draft.svr, m_channel, draft.states))
+        return refuse(Outcome::FailedPlain(kUnusable));
+    draft.svr->iSub_CH_VideoID[index()] = source;
+    m_probeReply = reply.size() <= kMaxReplySize ? reply : QString();
+    return takeDetected(std::move(draft));
+}
+
+CameraEdit::Outcome CameraEdit::ChannelDetectPro()
+{
+    Draft draft = draftForDetection();
+    const auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
+    const QString reply = SendCmdXml(m_com.web, AddressOf(*draft.svr),
+                                     BuildDetectCamera(m_fields.address.trimmed(), m_fields.port.trimmed().toInt(),
+                                                       m_fields.user, m_fields.password, source));
+    qint16 result = -100;
+    const bool read = Trapped(kDetectSource, [&] {
+        result = ParseDetectedCamera(reply, *draft.svr, *draft.pro, static_cast<qint16>(m_channel));
+    });
+    if (!read || result != 0)
+        return refuse(Outcome::FailedPlain(ProbeMessage(read ? result : qint16(-100))));
+    const ProChannelStreams& streams = draft.pro->Streams[index()];
+    draft.svr->sCH_ResolutionList[index()] =
+        QStringList(streams.sResolutionList.begin(), streams.sResolutionList.end()).join(u';');
+    draft.states = StatesOfStreams(streams);
+    readFishEyeModes(*draft.svr);
+    return takeDetected(std::move(draft));
+}
+
+void CameraEdit::readFishEyeModes(SVRRecord& svr) const
+{
+    Trapped(kDetectSource,
+            [&] { FishEyeModeListPaser(svr.FishEyeModes[index()], svr.sSub_CH_MD_FishEyeModeList[index()]); });
+}
+
+CameraEdit::Outcome CameraEdit::takeDetected(Draft draft)
+{
+    m_draft = std::move(draft);
+    putFields(*m_draft.svr);
+    m_detectedFields = m_fields;
+    m_detected = true;
+    m_changed = true;
+    m_stale = false;
+    m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
+    CamDetailFill();
+    return Outcome::Done(kDetectSuccess);
+}
+
+CameraEdit::Outcome CameraEdit::refuse(Outcome outcome)
+{
+    m_detected = false;
+    CamClear();
+    return outcome;
+}
+
+CameraEdit::Outcome CameraEdit::checkApply() const
+{
+    const QString address = m_fields.address.trimmed();
+    if (m_fields.name.isEmpty() && address.isEmpty()) // a channel to be cleared
+        return Outcome::Done();
+    if (address != m_recorders.SVREdit.sSub_CH_IP[index()]) {
+        // The recorder's own slot counts as it stands on the page, unless the station already knew it fuller.
+        const int known = CameraTotal(m_recorders.SVRWorkList);
+        const int slot = m_recorders.SVREdit.iSVR_Num - 1;
+        const bool own = slot >= 0 && slot < kMaxSVR && !At(m_recorders.SVRWorkList, slot).sSVR_IP.isEmpty();
+        const int edited =
+            known - (own ? CameraCount(At(m_recorders.SVRWorkList, slot)) : 0) + CameraCount(m_recorders.SVREdit);
+        if (std::max(known, edited) + 1 > iChannelLimit + 1)
+            return Outcome::FailedPlain(kTooManyChannels, u"(256)"_s);
+    }
+    if (m_stale || (m_fields != m_detectedFields && !m_detected))
+        return Outcome::FailedPlain(kDetectAgain);
+    return Outcome::Done();
+}
+
+ChannelParameters CameraEdit::parameters() const
+{
+    ChannelParameters out;
+    out.Name = Escape(m_fields.name);
+    out.IP = m_fields.address.trimmed();
+    out.HttpPort = m_fields.port.trimmed();
+    out.UserName = m_fields.user;
+    out.Password = m_fields.password;
+    out.Brand = QString::number(m_draft.svr->iSub_CH_Brand[index()]);
+    if (m_draft.svr->iSub_CH_VideoIDCount[index()] > 1)
+        out.VideoID = QString::number(m_draft.svr->iSub_CH_VideoID[index()]);
+    const QString format = choice(Control::Format).text();
+    out.Format = format.isEmpty() ? QString() : GetFMTNameFromCode(format, 1);
+    out.Resolution = choice(Control::Resolution).text();
+    const auto code = [&](Control control, auto toNumber) {
+        const Choice& row = choice(control);
+        return row.shown && row.text() != kAbsent ? QString::number(toNumber(row.text())) : QString();
+    };
+    const CameraLists lists = this->lists();
+    out.FPS = code(Control::FrameRate, [&](const QString& entry) { return lists.frameRateOf(entry); });
+    out.RateCtrl = code(Control::RateControl, &CameraLists::rateControlOf);
+    out.BitRate = code(Control::BitRate, [&](const QString& entry) { return lists.bitRateOf(entry); });
+    out.Quality = code(Control::Quality, &CameraLists::qualityOf);
+    return out;
+}
+
+ChannelSettings CameraEdit::settings(const Draft& draft) const
+{
+    ChannelSettings out = ChannelSettingsOf(*draft.svr, *draft.pro, static_cast<qint16>(m_channel));
+    if (const int slot = format(); slot >= 0) {
+        const qint16 gop = draft.pro->Streams[index()].iGOP[static_cast<std::size_t>(slot)];
+        out.GOP = gop >= 0 ? gop : out.GOP;
+    }
+    return out;
+}
+
+CameraEdit::Outcome CameraEdit::write(Draft& draft) const
+{
+    const auto number = static_cast<qint16>(m_channel);
+    if (!lists().isPro())
+        return WriteSvrChannel(m_com, *draft.svr, number, parameters());
+    return WriteProChannel(m_com, *draft.svr, *draft.pro, number, settings(draft));
+}
+
+CameraEdit::Outcome CameraEdit::writeBack()
+{
+    if (m_fields.name.isEmpty() && m_fields.address.trimmed().isEmpty()) {
+        const Outcome outcome = ClearRecorderChannel(m_com, m_recorders, m_channel);
+        if (outcome.ok)
+            open(m_channel);
+        return outcome;
+    }
+    if (m_fields.name.contains(u'"')) // no device can be told
+        return Outcome::Failed(kNameQuote, {}, kName);
+    gather();
+    Draft draft = copyOfDraft();
+    putFields(*draft.svr);
+    const Choice& rates = choice(Control::FrameRate);
+    if (rates.shown) {
+        draft.svr->sCH_FPS_Customer[index()] = rates.text();
+        draft.svr->sCH_FPS_List_Customer[index()] = rates.entries.join(u',');
+    }
+    const Outcome outcome = write(draft);
+    if (!outcome.ok) {
+        if (!lists().isPro())
+            refuse(outcome);
+        return outcome;
+    }
+    readFishEyeModes(*draft.svr);
+    draft.svr->bSub_CH_Modified[index()] = true;
+    m_recorders.SVREdit = *draft.svr;
+    m_recorders.SVRProEdit = *draft.pro;
+    open(m_channel);
+    return outcome;
+}
+
+std::vector<FoundCamera> CameraEdit::searchCameras(Outcome& outcome)
+{
+    const DeviceAddress recorder = AddressOf(m_recorders.SVREdit);
+    std::vector<FoundCamera> found;
+    if (IsProFamily(m_recorders.SVREdit.sSVR_DeviceType)) {
+        const QString reply = SendCmdXml(m_com.web, recorder, BuildSearchCameras());
+        if (Accepted(reply))
+            Trapped("Form_NVRSetting - GetSVRCameraSearch", [&] { ParseSearchResult(reply, found); });
+        std::erase_if(found, [](const FoundCamera& camera) { return camera.IP.isEmpty(); });
+        if (found.size() > kMaxFoundCameras)
+            found.resize(kMaxFoundCameras);
+    } else {
+        found = ReadCameraSearch(GetSVRCameraSearch(m_com.web, recorder)).value_or(std::vector<FoundCamera>());
+    }
+    outcome = found.empty() ? Outcome::Failed(kNoCamera) : Outcome::Done();
+    return found;
+}

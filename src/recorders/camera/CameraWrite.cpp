@@ -1,0 +1,73 @@
+#include "recorders/camera/CameraWrite.h"
+
+#include "app/log/Module_Log.h"
+#include "device/bridge/WebBridge.h"
+#include "device/protocol/ReplyParsers.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1String kSource("Form_CameraSetting - cmbeditCam_Click");
+constexpr qsizetype kLoggedReply = 200; // characters
+
+enum Message
+{
+    kConnectionError = 7,
+    kDetectFault = 608,
+    kFormatFault = 615,
+    kSettingFault = 722
+};
+
+// The number of RET="n" in a reply; 0 when there is none.
+int ResultOf(const QString& reply)
+{
+    static const QRegularExpression result(u"RET=\"(-?[0-9]{1,6})\""_s);
+    const QRegularExpressionMatch match = result.match(reply.left(64 * 1024));
+    return match.hasMatch() ? match.capturedView(1).toInt() : 0;
+}
+
+} // namespace
+
+RecorderOutcome RefusedWrite(const QString& reply)
+{
+    LogTrap(kSource, u"Recorder answered '%1'"_s.arg(reply.left(kLoggedReply).simplified()));
+    return RecorderOutcome::Failed(kDetectFault);
+}
+
+RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 channel,
+                                const ChannelParameters& parameters)
+{
+    const bool both = !parameters.Format.isEmpty() && !parameters.Resolution.isEmpty();
+    QString reply;
+    Trapped(kSource, [&] {
+        reply = com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), parameters,
+                                      both ? ChannelForm::Both : ChannelForm::Simple);
+    });
+    if (DeviceBridge::DeviceTook(reply))
+        return RecorderOutcome::Done();
+    if (!both && ResultOf(reply) < 0)
+        return RecorderOutcome::Failed(kFormatFault);
+    return RefusedWrite(reply);
+}
+
+RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro, qint16 channel,
+                                const ChannelSettings& settings)
+{
+    const DeviceAddress recorder = AddressOf(svr);
+    const QString written = SendCmdXml(com.web, recorder, BuildSetChannel(settings));
+    if (written.isEmpty())
+        return RecorderOutcome::Failed(kConnectionError);
+    if (!Accepted(written))
+        return RefusedWrite(written);
+    if (!Accepted(SendCmdXml(com.web, recorder, BuildSaveConfig(kSaveChannels))))
+        return RecorderOutcome::Failed(kSettingFault);
+    const QString read = SendCmdXml(com.web, recorder, BuildGetChannels(true, static_cast<qint16>(channel + 1)));
+    if (read.isEmpty())
+        return RecorderOutcome::Failed(kConnectionError);
+    qint16 result = 0;
+    Trapped(kSource, [&] { result = ParseChannelList(read, svr, pro); });
+    return result == 1 ? RecorderOutcome::Done() : RefusedWrite(read);
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "device/bridge/Form_COM.h"
+#include "device/protocol/Module_XML.h"
+#include "recorders/detect/RecorderCall.h"
+
+// Writes of one channel (from 0) to its recorder. All wait on the replies and change nothing but what they say.
+
+// The outcome of a write that the recorder did not take, with its line in the log.
+RecorderOutcome RefusedWrite(const QString& reply);
+
+// Older family: the channel's parameters in the full form, or without a format in the short one.
+RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 channel,
+                                const ChannelParameters& parameters);
+
+// Pro families: the whole channel, the save, and the channel as the recorder has it now into the pair. On failure the
+// pair may hold a part of the reply: give a copy.
+RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro, qint16 channel,
+                                const ChannelSettings& settings);

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "recorders/detect/NVRDetect.h"
+
+#include <QAbstractTableModel>
+#include <QTimer>
+
+// The running status of the recorders being detected, one row an item. Views are told of changes every 30 ms at most: a
+// quick recorder goes through its steps faster than a screen shows them.
+class DetectStatusModel : public QAbstractTableModel
+{
+    Q_OBJECT
+
+public:
+    enum StatusColumn
+    {
+        DeviceName,
+        Address,
+        Port,
+        Model,
+        Channels,
+        Status,
+        ColumnCount
+    };
+
+    explicit DetectStatusModel(QObject* parent = nullptr);
+    void setItems(std::vector<NVRDetectItem> items); // all waiting
+    const std::vector<NVRDetectItem>& items() const { return m_items; }
+    void setStatus(int row, const DetectStatus& status);
+    void setChannels(int row, int channels);
+    int finishedRows() const; // done or failed
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+private:
+    struct Row
+    {
+        bool started = false;
+        DetectStatus status;
+        int channels = -1;
+    };
+    QVariant text(int row, int column) const;
+    void changed(int row);
+
+    std::vector<NVRDetectItem> m_items;
+    std::vector<Row> m_rows;
+    QTimer m_tell;
+    int m_firstChanged = 0; // rows that the views do not know yet, while m_tell runs
+    int m_lastChanged = 0;
+};

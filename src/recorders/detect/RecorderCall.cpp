@@ -1,0 +1,41 @@
+#include "recorders/detect/RecorderCall.h"
+
+#include "app/language/Languages.h"
+#include "platform/Wait.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kInformation = 570;
+constexpr int kNotice = 965;
+
+// A program that is leaving shows no box any more.
+RecorderOutcome Failure(int message, const QString& suffix, const QString& title, int field)
+{
+    if (Closing())
+        return {};
+    return {false, message, suffix, title, field};
+}
+
+} // namespace
+
+QString RecorderOutcome::text() const
+{
+    return message == 0 ? QString() : GetLangString(message) + suffix;
+}
+
+RecorderOutcome RecorderOutcome::Failed(int message, const QString& suffix, int field)
+{
+    return Failure(message, suffix, GetLangString(kNotice), field);
+}
+
+RecorderOutcome RecorderOutcome::FailedPlain(int message, const QString& suffix)
+{
+    return Failure(message, suffix, GetLangString(kInformation), -1);
+}
+
+RecorderOutcome RecorderOutcome::Done(int message)
+{
+    return {true, message, {}, message == 0 ? QString() : GetLangString(kInformation), -1};
+}
