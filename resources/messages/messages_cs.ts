@@ -181,7 +181,7 @@
     </message>
     <message id="45">
         <source>Main Viewer</source>
-        <translation>Hlavní náhled</translation>
+        <translation>Hlavní prohlížeč</translation>
     </message>
     <message id="46">
         <source>NVR Setting</source>
@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>Chcete skončit a otevřít konfigurátor?</translation>
+        <translation>Chcete skončit a otevřít Rigging Desk?</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -857,7 +857,7 @@
     </message>
     <message id="214">
         <source>STOP</source>
-        <translation>STOP</translation>
+        <translation>ZASTAVIT</translation>
     </message>
     <message id="215">
         <source>PLAY</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Hlavní náhled je otevřen. Nejprve jej zavřete.</translation>
+        <translation>Hlavní prohlížeč je otevřen. Nejprve jej zavřete.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message id="318">
         <source>Main Viewer</source>
-        <translation>Hlavní náhled</translation>
+        <translation>Hlavní prohlížeč</translation>
     </message>
     <message id="319">
         <source>Exit</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
-        <translation>Chcete skončit a otevřít hlavní náhled?</translation>
+        <translation>Chcete skončit a otevřít hlavní prohlížeč?</translation>
     </message>
     <message id="509">
         <source>Do you want to exit?</source>
@@ -2901,7 +2901,7 @@
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Nastavení se změnilo. Otevřete znovu hlavní náhled.</translation>
+        <translation>Nastavení se změnilo. Otevřete znovu hlavní prohlížeč.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -3220,7 +3220,7 @@
         <translation>Tato stránka není v této verzi k dispozici.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Údaje, které pro ni databáze obsahuje, zůstávají beze změny.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Zatím žádný rekordér</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Zadáním adresy přidáte první rekordér stanice.</translation>
     </message>
     <message id="863">
@@ -3240,11 +3240,11 @@
         <translation>Rekordéry této stanice</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
+        <source>Recorders: %1 of %2</source>
         <translation>Rekordéry: %1 z %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
+        <source>Channels: %1 of %2</source>
         <translation>Kanály: %1 z %2</translation>
     </message>
     <message id="867">
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Neuložené změny</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Žádné neuložené změny</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,7 +3272,7 @@
         <translation>Dokončit</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
+        <source>Done: %1 of %2</source>
         <translation>Hotovo: %1 z %2</translation>
     </message>
     <message id="875">
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Stránky</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Konfigurátor hledá rekordéry v této síti.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Zadejte adresu jednoho rekordéru.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Ponecháte-li obě pole prázdná, vyzkoušejí se známé účty zařízení.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Údaje o této instalaci</translation>
+        <source>About this installation</source>
+        <translation>O této instalaci</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Hledání…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>V této síti nebyl nalezen žádný rekordér.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Název a chování této stanice</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Vymazat</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Pozice rekordéru</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Adresa nebo název hostitele</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Stanice</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Značka</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Připojeno</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Nepřipojeno</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Skrýt heslo</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Kdokoli otevře tento program, je jeho správcem, protože zatím není založen žádný uživatel.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Kdokoli otevře Rigging Desk, je jeho správcem, protože zatím není založen žádný uživatel.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Vytvořit prvního správce</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Zatím žádný uživatel</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Dostupné kamery</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Kdo má přístup</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>Odebrat</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>„Živě“ podmiňuje ostatní oprávnění. Mezerník přepíná vybrané buňky; Shift+mezerník vybere řádek, Ctrl+mezerník sloupec.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Ostatní oprávnění vyžadují oprávnění „Živě“. Mezerník přepíná vybrané buňky; Shift+mezerník vybere řádek, Ctrl+mezerník sloupec.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Filtru neodpovídá žádný řádek.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>Nalezeno řádků: %1</translation>
+        <source>Rows found: %1</source>
+        <translation>Nalezené řádky: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Zvolte období a spusťte hledání.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>Export se nezdařil. Stávající soubory zůstaly beze změny.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Přihlášení</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Důvod je uveden v souborech protokolu.</translation>
     </message>
     <message id="950">
@@ -3520,7 +3488,7 @@
         <translation>Žádné zařízení neodpovědělo.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
+        <source>Recorders with those selected: %1 of %2</source>
         <translation>Rekordéry včetně vybraných: %1 z %2</translation>
     </message>
     <message id="956">
@@ -3572,8 +3540,8 @@
         <translation>Detekováno</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Jak je uloženo</translation>
+        <source>Unchanged</source>
+        <translation>Beze změny</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,11 +3556,11 @@
         <translation>Nebyla nalezena žádná kamera.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Rekordér ve své síti nevidí žádnou kameru. Hledejte znovu nebo zadejte adresu.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
+        <source>Cameras found: %1</source>
         <translation>Nalezené kamery: %1</translation>
     </message>
     <message id="975">
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Název kamery nesmí obsahovat uvozovky (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Exportovat</translation>
     </message>
 </context>
 </TS>

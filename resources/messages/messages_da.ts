@@ -93,7 +93,7 @@
     </message>
     <message id="22">
         <source>E-Map Data is loading ...</source>
-        <translation>Indlæser kortdata …</translation>
+        <translation>Indlæser oversigtskort …</translation>
     </message>
     <message id="23">
         <source>Multi-Screen set up is loading ...</source>
@@ -413,7 +413,7 @@
     </message>
     <message id="103">
         <source>E-MAP Monitor</source>
-        <translation>Kortvisning</translation>
+        <translation>Visning af oversigtskort</translation>
     </message>
     <message id="104">
         <source>User Pattern</source>
@@ -1241,7 +1241,7 @@
     </message>
     <message id="310">
         <source>E-Map Config</source>
-        <translation>Kortkonfiguration</translation>
+        <translation>Konfiguration af oversigtskort</translation>
     </message>
     <message id="311">
         <source>Screen Layout Config</source>
@@ -1617,7 +1617,7 @@
     </message>
     <message id="406">
         <source>Select All</source>
-        <translation>Vælg alt</translation>
+        <translation>Vælg alle</translation>
     </message>
     <message id="407">
         <source>High</source>
@@ -1649,7 +1649,7 @@
     </message>
     <message id="414">
         <source>EMap List:</source>
-        <translation>Kortliste:</translation>
+        <translation>Oversigtskort:</translation>
     </message>
     <message id="415">
         <source>Screen List:</source>
@@ -2449,7 +2449,7 @@
     </message>
     <message id="641">
         <source>EMap Setting</source>
-        <translation>Kortindstillinger</translation>
+        <translation>Indstillinger for oversigtskort</translation>
     </message>
     <message id="642">
         <source>*Double Click Windows to change Map images.</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message id="740">
         <source>Export</source>
-        <translation>Eksporter</translation>
+        <translation>Eksport</translation>
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
@@ -3201,7 +3201,7 @@
     </message>
     <message id="855">
         <source>E-Map</source>
-        <translation>Kort</translation>
+        <translation>Oversigtskort</translation>
     </message>
     <message id="856">
         <source>Screen layout</source>
@@ -3220,7 +3220,7 @@
         <translation>Denne side er ikke tilgængelig i denne version.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>De tilhørende data i databasen forbliver uændrede.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Ingen optager endnu</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Indtast adressen på stationens første optager for at tilføje den.</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>Stationens optagere</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 af %2 optagere</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Optagere: %1 af %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 af %2 kanaler</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Kanaler: %1 af %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Ikke-gemte ændringer</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Ingen ikke-gemte ændringer</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Udfør</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 af %2 udført</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Udført: %1 af %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Sider</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Programmet søger efter optagere på dette netværk.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Indtast adressen på én optager.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Lad begge stå tomme for at prøve de kendte enhedskonti.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Oplysninger om denne installation</translation>
+        <source>About this installation</source>
+        <translation>Om denne installation</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Søger …</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>Der blev ikke fundet nogen optager på dette netværk.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Stationens navn og virkemåde</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Ryd</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Optagerplads</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Adresse eller værtsnavn</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Station</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Mærke</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Forbundet</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Ikke forbundet</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Skjul adgangskode</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Enhver, der åbner programmet, er administrator, fordi der endnu ikke er oprettet nogen bruger.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Enhver, der åbner Rigging Desk, er administrator, fordi der endnu ikke er oprettet nogen bruger.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Opret den første administrator</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Ingen bruger endnu</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Tilgængelige kameraer</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Hvem har adgang</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>Fratag</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>»Live« styrer de andre rettigheder. Mellemrum skifter de markerede celler; Skift+Mellemrum markerer en række, Ctrl+Mellemrum en kolonne.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>De andre rettigheder kræver »Live«. Mellemrum skifter de markerede celler; Skift+Mellemrum markerer en række, Ctrl+Mellemrum en kolonne.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Ingen række passer til filteret.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 rækker fundet</translation>
+        <source>Rows found: %1</source>
+        <translation>Fundne rækker: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Vælg en periode, og søg.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>Eksporten mislykkedes. Eksisterende filer er ikke ændret.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Login</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Årsagen står i logfilerne.</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>Ingen enhed har svaret.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 af %2 optagere inkl. de valgte</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Optagere inkl. de valgte: %1 af %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3553,7 +3521,7 @@
     </message>
     <message id="963">
         <source>Stopped</source>
-        <translation>Standset</translation>
+        <translation>Stoppet</translation>
     </message>
     <message id="965">
         <source>Notice</source>
@@ -3572,8 +3540,8 @@
         <translation>Detekteret</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Som gemt</translation>
+        <source>Unchanged</source>
+        <translation>Uændret</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>Intet kamera blev fundet.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Optageren kan ikke se noget kamera på sit netværk. Søg igen, eller indtast en adresse.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 kameraer fundet</translation>
+        <source>Cameras found: %1</source>
+        <translation>Fundne kameraer: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Kameranavnet må ikke indeholde anførselstegn (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Eksporter</translation>
     </message>
 </context>
 </TS>

@@ -1617,7 +1617,7 @@
     </message>
     <message id="406">
         <source>Select All</source>
-        <translation>Alles auswählen</translation>
+        <translation>Alle auswählen</translation>
     </message>
     <message id="407">
         <source>High</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message id="740">
         <source>Export</source>
-        <translation>Exportieren</translation>
+        <translation>Export</translation>
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
@@ -3220,7 +3220,7 @@
         <translation>Diese Seite ist in dieser Version nicht verfügbar.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Die zugehörigen Daten in der Datenbank bleiben unverändert.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Noch kein Rekorder</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Zum Hinzufügen die Adresse des ersten Rekorders der Station eingeben.</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>Rekorder dieser Station</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 von %2 Rekordern</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Rekorder: %1 von %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 von %2 Kanälen</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Kanäle: %1 von %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Ungespeicherte Änderungen</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Keine ungespeicherten Änderungen</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Fertigstellen</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 von %2 erledigt</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Erledigt: %1 von %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Seiten</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Das Programm sucht Rekorder in diesem Netzwerk.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Adresse eines Rekorders eingeben.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Beide Felder leer lassen, um die bekannten Gerätekonten auszuprobieren.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Daten dieser Installation</translation>
+        <source>About this installation</source>
+        <translation>Über diese Installation</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Suche läuft …</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>In diesem Netzwerk wurde kein Rekorder gefunden.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Name und Verhalten dieser Station</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Leeren</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Rekorderplatz</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Adresse oder Hostname</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Station</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Marke</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Verbunden</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Nicht verbunden</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Passwort verbergen</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Wer dieses Programm öffnet, ist Administrator, denn es gibt noch keinen Benutzer.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Wer Rigging Desk öffnet, ist Administrator, denn es gibt noch keinen Benutzer.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Ersten Administrator anlegen</translation>
     </message>
     <message id="902">
@@ -3396,12 +3364,12 @@
         <translation>Noch kein Benutzer</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Zugängliche Kameras</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
-        <translation>Zugriff haben</translation>
+        <source>Who has access</source>
+        <translation>Wer hat Zugriff</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3428,8 +3396,8 @@
         <translation>Entziehen</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>„Live“ bestimmt die übrigen Berechtigungen. Leertaste schaltet die ausgewählten Zellen um; Umschalt+Leertaste wählt eine Zeile aus, Strg+Leertaste eine Spalte.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Die übrigen Berechtigungen setzen „Live“ voraus. Leertaste schaltet die ausgewählten Zellen um; Umschalt+Leertaste wählt eine Zeile aus, Strg+Leertaste eine Spalte.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Keine Zeile entspricht dem Filter.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 Zeilen gefunden</translation>
+        <source>Rows found: %1</source>
+        <translation>Gefundene Zeilen: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Zeitraum wählen und suchen.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>Der Export ist fehlgeschlagen. Vorhandene Dateien wurden nicht verändert.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Anmeldung</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Die Ursache steht in den Protokolldateien.</translation>
     </message>
     <message id="950">
@@ -3505,7 +3473,7 @@
     </message>
     <message id="951">
         <source>Stop</source>
-        <translation>Anhalten</translation>
+        <translation>Stopp</translation>
     </message>
     <message id="952">
         <source>Select all</source>
@@ -3520,8 +3488,8 @@
         <translation>Kein Gerät hat geantwortet.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 von %2 Rekordern einschließlich der Auswahl</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Rekorder mit der Auswahl: %1 von %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3553,7 +3521,7 @@
     </message>
     <message id="963">
         <source>Stopped</source>
-        <translation>Angehalten</translation>
+        <translation>Gestoppt</translation>
     </message>
     <message id="965">
         <source>Notice</source>
@@ -3572,8 +3540,8 @@
         <translation>Erkannt</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Wie gespeichert</translation>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>Keine Kamera gefunden.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Der Rekorder sieht keine Kamera in seinem Netzwerk. Bitte erneut suchen oder eine Adresse eingeben.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 Kameras gefunden</translation>
+        <source>Cameras found: %1</source>
+        <translation>Gefundene Kameras: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Der Kameraname darf kein Anführungszeichen (") enthalten.</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Exportieren</translation>
     </message>
 </context>
 </TS>

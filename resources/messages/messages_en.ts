@@ -3220,16 +3220,16 @@
         <translation>This page is not available in this version.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
-        <translation>What the database holds for it stays as it is.</translation>
+        <source>Its data in the database stays as it is.</source>
+        <translation>Its data in the database stays as it is.</translation>
     </message>
     <message id="861">
         <source>No recorder yet</source>
         <translation>No recorder yet</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
-        <translation>Type the address of the station's first recorder to add it.</translation>
+        <source>Enter the address of the station's first recorder to add it.</source>
+        <translation>Enter the address of the station's first recorder to add it.</translation>
     </message>
     <message id="863">
         <source>Filter name, address, model…</source>
@@ -3240,12 +3240,12 @@
         <translation>Recorders of this station</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 of %2 recorders</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Recorders: %1 of %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 of %2 channels</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Channels: %1 of %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Unsaved changes</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>No unsaved changes</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Finish</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 of %2 done</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Done: %1 of %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,21 +3307,17 @@
         <source>Pages</source>
         <translation>Pages</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>The desk looks for recorders on this network.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
-        <translation>Type the address of one recorder.</translation>
+        <source>Enter the address of one recorder.</source>
+        <translation>Enter the address of one recorder.</translation>
     </message>
     <message id="885">
         <source>Leave both empty to try the known device accounts.</source>
         <translation>Leave both empty to try the known device accounts.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Facts of this installation</translation>
+        <source>About this installation</source>
+        <translation>About this installation</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Searching…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>No recorder was found on this network.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Name and behaviour of this station</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Clear</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Recorder slot</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Address or host name</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Station</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Brand</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Connected</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Not connected</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,12 +3348,12 @@
         <translation>Hide password</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Anyone who opens this desk is its administrator, because it has no user yet.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
-        <translation>Make the first administrator</translation>
+        <source>Create the first administrator</source>
+        <translation>Create the first administrator</translation>
     </message>
     <message id="902">
         <source>Not now</source>
@@ -3396,12 +3364,12 @@
         <translation>No user yet</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
-        <translation>Cameras in reach</translation>
+        <source>Accessible cameras</source>
+        <translation>Accessible cameras</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
-        <translation>Who reaches it</translation>
+        <source>Who has access</source>
+        <translation>Who has access</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3428,8 +3396,8 @@
         <translation>Withdraw</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>No row matches the filter.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 rows found</translation>
+        <source>Rows found: %1</source>
+        <translation>Rows found: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,8 +3436,8 @@
         <translation>Choose a period and search.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
-        <translation>The export failed. Nothing that existed was changed.</translation>
+        <source>The export failed. Existing files were not changed.</source>
+        <translation>The export failed. Existing files were not changed.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3496,8 +3464,8 @@
         <translation>Log in</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
-        <translation>The reason stands in the log files.</translation>
+        <source>The reason is in the log files.</source>
+        <translation>The reason is in the log files.</translation>
     </message>
     <message id="950">
         <source>Find recorders on the network.</source>
@@ -3520,8 +3488,8 @@
         <translation>No device has answered.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 of %2 recorders with those selected</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Recorders with those selected: %1 of %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3572,8 +3540,8 @@
         <translation>Detected</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>As stored</translation>
+        <source>Unchanged</source>
+        <translation>Unchanged</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>No camera was found.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
-        <translation>The recorder sees no camera on its network. Search again, or type the address of one.</translation>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
+        <translation>The recorder sees no camera on its network. Search again, or enter an address.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 cameras found</translation>
+        <source>Cameras found: %1</source>
+        <translation>Cameras found: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>The camera name must not contain a double quote (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Export</translation>
     </message>
 </context>
 </TS>

@@ -541,11 +541,11 @@
     </message>
     <message id="135">
         <source>PRESET</source>
-        <translation>PREAJUSTE</translation>
+        <translation>PRESET</translation>
     </message>
     <message id="136">
         <source>Preset:</source>
-        <translation>Preajuste:</translation>
+        <translation>Preset:</translation>
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
@@ -613,7 +613,7 @@
     </message>
     <message id="153">
         <source>Preset Point Setting</source>
-        <translation>Puntos de preajuste</translation>
+        <translation>Ajustes de presets</translation>
     </message>
     <message id="154">
         <source>When modify setting, the channel of pattern will be changed.</source>
@@ -625,7 +625,7 @@
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
-        <translation>Ronda de preajustes:</translation>
+        <translation>Ronda de presets:</translation>
     </message>
     <message id="157">
         <source>Loading Fullscreen layout data…</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message id="292">
         <source>Preset Sequence Setting</source>
-        <translation>Ajustes de secuencia de preajustes</translation>
+        <translation>Ajustes de secuencia de presets</translation>
     </message>
     <message id="293">
         <source>Get Capability...</source>
@@ -1553,7 +1553,7 @@
     </message>
     <message id="390">
         <source>Preset Info</source>
-        <translation>Datos de preajuste</translation>
+        <translation>Datos del preset</translation>
     </message>
     <message id="391">
         <source>Sync</source>
@@ -1561,15 +1561,15 @@
     </message>
     <message id="392">
         <source>Edit Preset</source>
-        <translation>Editar preajuste</translation>
+        <translation>Editar preset</translation>
     </message>
     <message id="393">
         <source>Preset No</source>
-        <translation>N.º preajuste</translation>
+        <translation>N.º de preset</translation>
     </message>
     <message id="394">
         <source>Preset Name</source>
-        <translation>Nombre de preajuste</translation>
+        <translation>Nombre del preset</translation>
     </message>
     <message id="395">
         <source>PTZ Control</source>
@@ -1989,11 +1989,11 @@
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>Seleccione primero el número de preajuste.</translation>
+        <translation>Seleccione primero el número de preset.</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>El nombre de preajuste ya está en uso.</translation>
+        <translation>El nombre del preset ya está en uso.</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2073,7 +2073,7 @@
     </message>
     <message id="520">
         <source>Preset Sequence</source>
-        <translation>Secuencia de preajustes</translation>
+        <translation>Secuencia de presets</translation>
     </message>
     <message id="521">
         <source>Dwell Time:</source>
@@ -2081,11 +2081,11 @@
     </message>
     <message id="522">
         <source>PTZ Preset</source>
-        <translation>Preajuste PTZ</translation>
+        <translation>Preset PTZ</translation>
     </message>
     <message id="523">
         <source>Preset Sequence</source>
-        <translation>Secuencia de preajustes</translation>
+        <translation>Secuencia de presets</translation>
     </message>
     <message id="524">
         <source>Select a wave file</source>
@@ -2413,7 +2413,7 @@
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
-        <translation>¿Desea seguir editando los puntos de preajuste?</translation>
+        <translation>¿Desea seguir editando los presets?</translation>
     </message>
     <message id="630">
         <source>Group Name</source>
@@ -2733,11 +2733,11 @@
     </message>
     <message id="729">
         <source>Event Export</source>
-        <translation>Exportar eventos</translation>
+        <translation>Exportación de eventos</translation>
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>Exportar registro</translation>
+        <translation>Exportación del registro</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message id="740">
         <source>Export</source>
-        <translation>Exportar</translation>
+        <translation>Exportación</translation>
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
@@ -3220,7 +3220,7 @@
         <translation>Esta página no está disponible en esta versión.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Los datos correspondientes de la base de datos se conservan sin cambios.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Aún no hay grabadores</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Escriba la dirección del primer grabador del puesto para añadirlo.</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>Grabadores de este puesto</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 de %2 grabadores</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Grabadores: %1 de %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 de %2 canales</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Canales: %1 de %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Cambios sin guardar</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Sin cambios pendientes</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Finalizar</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 de %2 terminados</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Terminados: %1 de %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Páginas</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>El programa busca grabadores en esta red.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Escriba la dirección de un grabador.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Deje ambos campos vacíos para probar las cuentas de dispositivo conocidas.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Datos de esta instalación</translation>
+        <source>About this installation</source>
+        <translation>Acerca de esta instalación</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Buscando…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>No se ha encontrado ningún grabador en esta red.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Nombre y comportamiento de este puesto</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Borrar</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Posición de grabador</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Dirección o nombre de host</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Puesto</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Marca</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Conectado</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>No conectado</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Ocultar contraseña</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Cualquiera que abra este programa es su administrador, porque aún no hay usuarios.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Cualquiera que abra Rigging Desk es su administrador, porque aún no hay usuarios.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Crear el primer administrador</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Aún no hay usuarios</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Cámaras accesibles</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Quién tiene acceso</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>Revocar</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>«En directo» condiciona los demás permisos. Espacio cambia las celdas seleccionadas; Mayús+Espacio selecciona una fila, Ctrl+Espacio una columna.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Los demás permisos requieren «En directo». Espacio cambia las celdas seleccionadas; Mayús+Espacio selecciona una fila, Ctrl+Espacio una columna.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Ninguna fila coincide con el filtro.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 filas encontradas</translation>
+        <source>Rows found: %1</source>
+        <translation>Filas encontradas: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Elija un período y busque.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>La exportación ha fallado. Los archivos existentes no se han modificado.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Iniciar sesión</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>El motivo se indica en los archivos de registro.</translation>
     </message>
     <message id="950">
@@ -3509,7 +3477,7 @@
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Seleccionar todos</translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>
@@ -3520,8 +3488,8 @@
         <translation>Ningún dispositivo ha respondido.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 de %2 grabadores, incluida la selección</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Grabadores, selección incluida: %1 de %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3572,8 +3540,8 @@
         <translation>Detectado</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Según lo guardado</translation>
+        <source>Unchanged</source>
+        <translation>Sin cambios</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>No se ha encontrado ninguna cámara.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>El grabador no ve ninguna cámara en su red. Busque de nuevo o escriba una dirección.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 cámaras encontradas</translation>
+        <source>Cameras found: %1</source>
+        <translation>Cámaras encontradas: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>El nombre de cámara no puede contener comillas (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Exportar</translation>
     </message>
 </context>
 </TS>

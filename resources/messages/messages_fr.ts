@@ -193,7 +193,7 @@
     </message>
     <message id="48">
         <source>Auto Search Notice</source>
-        <translation>Avis de recherche automatique</translation>
+        <translation>Notification de recherche automatique</translation>
     </message>
     <message id="49">
         <source>Event Synchronization Manually Update</source>
@@ -257,7 +257,7 @@
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
-        <translation>Avis de recherche automatique</translation>
+        <translation>Notification de recherche automatique</translation>
     </message>
     <message id="65">
         <source>Closing...</source>
@@ -857,7 +857,7 @@
     </message>
     <message id="214">
         <source>STOP</source>
-        <translation>ARRÊT</translation>
+        <translation>ARRÊTER</translation>
     </message>
     <message id="215">
         <source>PLAY</source>
@@ -2733,11 +2733,11 @@
     </message>
     <message id="729">
         <source>Event Export</source>
-        <translation>Exporter les événements</translation>
+        <translation>Exportation des événements</translation>
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>Exporter le journal</translation>
+        <translation>Exportation du journal</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message id="740">
         <source>Export</source>
-        <translation>Exporter</translation>
+        <translation>Exportation</translation>
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
@@ -3220,7 +3220,7 @@
         <translation>Cette page n’est pas disponible dans cette version.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Les données correspondantes de la base restent inchangées.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Aucun enregistreur</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Saisissez l’adresse du premier enregistreur du poste pour l’ajouter.</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>Enregistreurs de ce poste</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 sur %2 enregistreurs</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Enregistreurs : %1 sur %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 sur %2 canaux</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Canaux : %1 sur %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Modifications non enregistrées</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Rien à enregistrer</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Terminer</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 sur %2 terminés</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Terminé : %1 sur %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Pages</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Le programme recherche les enregistreurs sur ce réseau.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Saisissez l’adresse d’un enregistreur.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Laissez les deux champs vides pour essayer les comptes d’appareil connus.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Données de cette installation</translation>
+        <source>About this installation</source>
+        <translation>À propos de cette installation</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Recherche…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>Aucun enregistreur trouvé sur ce réseau.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Nom et comportement de ce poste</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Effacer</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Emplacement d’enregistreur</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Adresse ou nom d’hôte</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Poste</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Marque</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Connecté</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Non connecté</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Masquer le mot de passe</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Toute personne qui ouvre ce programme en est l’administrateur, car aucun utilisateur n’existe encore.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Toute personne qui ouvre Rigging Desk en est l’administrateur, car aucun utilisateur n’existe encore.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Créer le premier administrateur</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Aucun utilisateur</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Caméras accessibles</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Qui a accès</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>Retirer</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>« Direct » conditionne les autres droits. Espace bascule les cellules sélectionnées ; Maj+Espace sélectionne une ligne, Ctrl+Espace une colonne.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Les autres droits exigent « Direct ». Espace bascule les cellules sélectionnées ; Maj+Espace sélectionne une ligne, Ctrl+Espace une colonne.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Aucune ligne ne correspond au filtre.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 lignes trouvées</translation>
+        <source>Rows found: %1</source>
+        <translation>Lignes trouvées : %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Choisissez une période et lancez la recherche.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>L’exportation a échoué. Les fichiers existants n’ont pas été modifiés.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Connexion</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>La raison est indiquée dans les fichiers journaux.</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>Aucun appareil n’a répondu.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 sur %2 enregistreurs, sélection comprise</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Enregistreurs, sélection comprise : %1 sur %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3557,7 +3525,7 @@
     </message>
     <message id="965">
         <source>Notice</source>
-        <translation>Avis</translation>
+        <translation>Remarque</translation>
     </message>
     <message id="966">
         <source>No camera</source>
@@ -3572,8 +3540,8 @@
         <translation>Détecté</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Comme enregistré</translation>
+        <source>Unchanged</source>
+        <translation>Inchangé</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>Aucune caméra trouvée.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>L’enregistreur ne voit aucune caméra sur son réseau. Relancez la recherche ou saisissez une adresse.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 caméras trouvées</translation>
+        <source>Cameras found: %1</source>
+        <translation>Caméras trouvées : %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3613,11 +3581,15 @@
     </message>
     <message id="979">
         <source>Fish-eye view</source>
-        <translation>Vue fisheye</translation>
+        <translation>Vue fish-eye</translation>
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Le nom de la caméra ne peut pas contenir de guillemet (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Exporter</translation>
     </message>
 </context>
 </TS>

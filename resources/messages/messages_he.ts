@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>האם לצאת ולפתוח את תוכנית התצורה?</translation>
+        <translation>האם לצאת ולפתוח את Rigging Desk?</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -409,7 +409,7 @@
     </message>
     <message id="102">
         <source>Playback</source>
-        <translation>ניגון</translation>
+        <translation>צפייה בהקלטות</translation>
     </message>
     <message id="103">
         <source>E-MAP Monitor</source>
@@ -669,7 +669,7 @@
     </message>
     <message id="167">
         <source>Play Time(SYSTEM):</source>
-        <translation>זמן ניגון (מערכת):</translation>
+        <translation>זמן ההקלטה (מערכת):</translation>
     </message>
     <message id="168">
         <source>Current Event List</source>
@@ -741,11 +741,11 @@
     </message>
     <message id="185">
         <source>Play Error</source>
-        <translation>שגיאת ניגון</translation>
+        <translation>שגיאה בצפייה בהקלטה</translation>
     </message>
     <message id="186">
         <source>Play Stop</source>
-        <translation>הניגון נעצר</translation>
+        <translation>הצפייה בהקלטה נעצרה</translation>
     </message>
     <message id="187">
         <source>Live Video</source>
@@ -753,7 +753,7 @@
     </message>
     <message id="188">
         <source>Live Stop</source>
-        <translation>השידור החי נעצר</translation>
+        <translation>הווידאו החי נעצר</translation>
     </message>
     <message id="189">
         <source>Off Line</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>אין משאבי ניגון פנויים ב-NVR!</translation>
+        <translation>אין משאבים פנויים לצפייה בהקלטות ב-NVR!</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>בקשת הניגון נכשלה!</translation>
+        <translation>בקשת הצפייה בהקלטות נכשלה!</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -801,7 +801,7 @@
     </message>
     <message id="200">
         <source>Playback Info</source>
-        <translation>פרטי ניגון</translation>
+        <translation>פרטי צפייה בהקלטות</translation>
     </message>
     <message id="201">
         <source>NVR:</source>
@@ -861,7 +861,7 @@
     </message>
     <message id="215">
         <source>PLAY</source>
-        <translation>ניגון</translation>
+        <translation>הפעלה</translation>
     </message>
     <message id="216">
         <source>PAUSE</source>
@@ -881,7 +881,7 @@
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>הניגון נעצר. יש לבחור זמן חדש!</translation>
+        <translation>הצפייה בהקלטה נעצרה. יש לבחור זמן חדש!</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
@@ -1713,7 +1713,7 @@
     </message>
     <message id="430">
         <source>Playback</source>
-        <translation>ניגון</translation>
+        <translation>צפייה בהקלטות</translation>
     </message>
     <message id="431">
         <source>PTZ</source>
@@ -2121,7 +2121,7 @@
     </message>
     <message id="532">
         <source>Do you want to cancel playback for NVR?</source>
-        <translation>האם לבטל את הניגון עבור ה-NVR?</translation>
+        <translation>האם לבטל את הצפייה בהקלטות של ה-NVR?</translation>
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
@@ -2133,7 +2133,7 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>לא ניתן לקבל מ-NVR זה מזהה קבוצה לניגון!</translation>
+        <translation>לא ניתן לקבל מ-NVR זה מזהה קבוצה לצפייה בהקלטות!</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
@@ -2429,7 +2429,7 @@
     </message>
     <message id="633">
         <source>Playback</source>
-        <translation>ניגון</translation>
+        <translation>צפייה בהקלטות</translation>
     </message>
     <message id="634">
         <source>PTZ Control</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>שם זה פנוי</translation>
+        <translation>שם זה פנוי.</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>שם זה בשימוש</translation>
+        <translation>שם זה בשימוש.</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -3220,7 +3220,7 @@
         <translation>דף זה אינו זמין בגרסה זו.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>הנתונים השמורים עבורו במסד הנתונים נשארים ללא שינוי.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>אין עדיין מקליטים</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>יש להקליד את כתובת המקליט הראשון של התחנה כדי להוסיף אותו.</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>המקליטים של תחנה זו</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 מתוך %2 מקליטים</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>מקליטים: %1 מתוך %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 מתוך %2 ערוצים</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>ערוצים: %1 מתוך %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>יש שינויים שלא נשמרו</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>אין שינויים שלא נשמרו</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>סיום</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 מתוך %2 הושלמו</translation>
+        <source>Done: %1 of %2</source>
+        <translation>הושלמו: %1 מתוך %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>דפים</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>התוכנית מחפשת מקליטים ברשת זו.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>יש להקליד כתובת של מקליט אחד.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>אפשר להשאיר את שני השדות ריקים כדי לנסות את חשבונות ההתקנים המוכרים.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>פרטי התקנה זו</translation>
+        <source>About this installation</source>
+        <translation>אודות התקנה זו</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>מתבצע חיפוש…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>לא נמצא מקליט ברשת זו.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>שם התחנה ואופן פעולתה</translation>
     </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>ניקוי</translation>
-    </message>
     <message id="892">
         <source>Recorder slot</source>
-        <translation>משבצת מקליט</translation>
-    </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>כתובת או שם מארח</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>תחנה</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>יצרן</translation>
+        <translation>מקום למקליט</translation>
     </message>
     <message id="896">
         <source>Connected</source>
         <translation>מחובר</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>לא מחובר</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>הסתרת סיסמה</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>כל מי שפותח תוכנה זו הוא מנהל המערכת, כי עדיין לא הוגדרו בה משתמשים.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>כל מי שפותח את Rigging Desk הוא מנהל המערכת, כי עדיין לא הוגדרו משתמשים.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>יצירת המנהל הראשון</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>אין עדיין משתמשים</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
-        <translation>מצלמות מורשות</translation>
+        <source>Accessible cameras</source>
+        <translation>מצלמות נגישות</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>למי יש גישה</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>שלילה</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>״צפייה חיה״ קובעת את שאר ההרשאות. מקש הרווח מחליף את מצב התאים שנבחרו; Shift+רווח בוחר שורה, Ctrl+רווח בוחר עמודה.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>שאר ההרשאות מחייבות ״צפייה חיה״. מקש הרווח מחליף את מצב התאים שנבחרו; Shift+רווח בוחר שורה, Ctrl+רווח בוחר עמודה.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>אין שורה התואמת למסנן.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>נמצאו %1 שורות</translation>
+        <source>Rows found: %1</source>
+        <translation>שורות שנמצאו: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>יש לבחור תקופה ולחפש.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>הייצוא נכשל. הקבצים הקיימים לא השתנו.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>כניסה</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>הסיבה רשומה בקובצי היומן.</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>אף התקן לא השיב.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 מתוך %2 מקליטים, כולל הנבחרים</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>מקליטים, כולל הנבחרים: %1 מתוך %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3572,8 +3540,8 @@
         <translation>זוהה</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>כפי שנשמר</translation>
+        <source>Unchanged</source>
+        <translation>ללא שינוי</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>לא נמצאה מצלמה.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>המקליט אינו רואה מצלמות ברשת שלו. יש לחפש שוב או להקליד כתובת.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>נמצאו %1 מצלמות</translation>
+        <source>Cameras found: %1</source>
+        <translation>מצלמות שנמצאו: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>שם המצלמה אינו יכול להכיל מירכאות (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>ייצוא</translation>
     </message>
 </context>
 </TS>

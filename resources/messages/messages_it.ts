@@ -2733,11 +2733,11 @@
     </message>
     <message id="729">
         <source>Event Export</source>
-        <translation>Esporta eventi</translation>
+        <translation>Esportazione eventi</translation>
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>Esporta log di sistema</translation>
+        <translation>Esportazione log di sistema</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message id="740">
         <source>Export</source>
-        <translation>Esporta</translation>
+        <translation>Esportazione</translation>
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
@@ -3220,7 +3220,7 @@
         <translation>Questa pagina non è disponibile in questa versione.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>I relativi dati nel database restano invariati.</translation>
     </message>
     <message id="861">
@@ -3228,24 +3228,24 @@
         <translation>Nessun registratore</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Digitare l’indirizzo del primo registratore della postazione per aggiungerlo.</translation>
     </message>
     <message id="863">
         <source>Filter name, address, model…</source>
-        <translation>Filtra nome, indirizzo, modello…</translation>
+        <translation>Filtra per nome, indirizzo, modello…</translation>
     </message>
     <message id="864">
         <source>Recorders of this station</source>
         <translation>Registratori di questa postazione</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 di %2 registratori</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Registratori: %1 di %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 di %2 canali</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Canali: %1 di %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Modifiche non salvate</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Niente da salvare</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Fine</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 di %2 completati</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Completati: %1 di %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Pagine</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Il programma cerca i registratori su questa rete.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Digitare l’indirizzo di un registratore.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Lasciare vuoti entrambi i campi per provare gli account noti dei dispositivi.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Dati di questa installazione</translation>
+        <source>About this installation</source>
+        <translation>Informazioni su questa installazione</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Ricerca…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>Nessun registratore trovato su questa rete.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Nome e comportamento di questa postazione</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Cancella</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Posizione registratore</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Indirizzo o nome host</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Postazione</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Marca</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Connesso</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Non connesso</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Nascondi password</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Chiunque apra questo programma ne è l’amministratore, perché non c’è ancora alcun utente.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Chiunque apra Rigging Desk ne è l’amministratore, perché non c’è ancora alcun utente.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Crea il primo amministratore</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Nessun utente</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Telecamere accessibili</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Chi ha accesso</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>Revoca</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>«Live» condiziona gli altri privilegi. Spazio cambia le celle selezionate; Maiusc+Spazio seleziona una riga, Ctrl+Spazio una colonna.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Gli altri privilegi richiedono «Live». Spazio cambia le celle selezionate; Maiusc+Spazio seleziona una riga, Ctrl+Spazio una colonna.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Nessuna riga corrisponde al filtro.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 righe trovate</translation>
+        <source>Rows found: %1</source>
+        <translation>Righe trovate: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Scegliere un periodo e cercare.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>Esportazione non riuscita. I file esistenti non sono stati modificati.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Accesso</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Il motivo è indicato nei file di log.</translation>
     </message>
     <message id="950">
@@ -3505,11 +3473,11 @@
     </message>
     <message id="951">
         <source>Stop</source>
-        <translation>Interrompi</translation>
+        <translation>Arresta</translation>
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Seleziona tutti</translation>
+        <translation>Seleziona tutto</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>
@@ -3520,8 +3488,8 @@
         <translation>Nessun dispositivo ha risposto.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>%1 di %2 registratori, selezione inclusa</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Registratori, selezione inclusa: %1 di %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3553,7 +3521,7 @@
     </message>
     <message id="963">
         <source>Stopped</source>
-        <translation>Interrotto</translation>
+        <translation>Arrestato</translation>
     </message>
     <message id="965">
         <source>Notice</source>
@@ -3572,8 +3540,8 @@
         <translation>Rilevato</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Come memorizzato</translation>
+        <source>Unchanged</source>
+        <translation>Invariato</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>Nessuna telecamera trovata.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Il registratore non vede telecamere nella sua rete. Ripetere la ricerca o digitare un indirizzo.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 telecamere trovate</translation>
+        <source>Cameras found: %1</source>
+        <translation>Telecamere trovate: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Il nome della telecamera non può contenere virgolette (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Esporta</translation>
     </message>
 </context>
 </TS>

@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>終了して設定プログラムを開きますか？</translation>
+        <translation>終了してRigging Deskを開きますか？</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -1465,7 +1465,7 @@
     </message>
     <message id="368">
         <source>CH IP</source>
-        <translation>CH IP</translation>
+        <translation>CHのIP</translation>
     </message>
     <message id="369">
         <source>CH Port</source>
@@ -1493,7 +1493,7 @@
     </message>
     <message id="375">
         <source>CH PTZ</source>
-        <translation>CH PTZ</translation>
+        <translation>CHのPTZ</translation>
     </message>
     <message id="376">
         <source>CH audio</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>この名前は使用できます</translation>
+        <translation>この名前は使用できます。</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>この名前は使用中です</translation>
+        <translation>この名前は使用中です。</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -3220,7 +3220,7 @@
         <translation>このバージョンではこのページを使用できません。</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>データベース内の関連データはそのまま残ります。</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>レコーダーがありません</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>このステーションの最初のレコーダーのアドレスを入力して追加してください。</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>このステーションのレコーダー</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>レコーダー %1 / %2 台</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>レコーダー：%1 / %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 / %2 チャンネル</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>チャンネル：%1 / %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>未保存の変更あり</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>未保存の変更なし</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>完了</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 / %2 完了</translation>
+        <source>Done: %1 of %2</source>
+        <translation>完了：%1 / %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>ページ</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>このネットワーク上のレコーダーを検索します。</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>レコーダーのアドレスを入力します。</translation>
     </message>
     <message id="885">
@@ -3324,7 +3316,7 @@
         <translation>両方とも空欄にすると、既知のデバイスアカウントを試します。</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
+        <source>About this installation</source>
         <translation>このインストール環境の情報</translation>
     </message>
     <message id="887">
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>検索しています…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>このネットワーク上にレコーダーは見つかりませんでした。</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>このステーションの名前と動作</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>クリア</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>レコーダースロット</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>アドレスまたはホスト名</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>ステーション</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>メーカー</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>接続済み</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>未接続</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>パスワードを隠す</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>ユーザーがまだ登録されていないため、このプログラムを開いた人は誰でも管理者になります。</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>ユーザーがまだ登録されていないため、Rigging Deskを開いた人は誰でも管理者になります。</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>最初の管理者を作成</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>ユーザーがまだいません</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>閲覧できるカメラ</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>閲覧できるユーザー</translation>
     </message>
     <message id="906">
@@ -3421,14 +3389,14 @@
     </message>
     <message id="910">
         <source>Grant</source>
-        <translation>付与</translation>
+        <translation>権限を付与</translation>
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>取り消し</translation>
+        <translation>権限を解除</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
         <translation>「ライブ」は他の権限の前提です。スペースキーで選択したセルを切り替え、Shift+スペースで行、Ctrl+スペースで列を選択します。</translation>
     </message>
     <message id="913">
@@ -3444,8 +3412,8 @@
         <translation>条件に一致する行がありません。</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 行が見つかりました</translation>
+        <source>Rows found: %1</source>
+        <translation>見つかった行：%1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,8 +3436,8 @@
         <translation>期間を選んで検索してください。</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
-        <translation>エクスポートに失敗しました。既存のデータは変更されていません。</translation>
+        <source>The export failed. Existing files were not changed.</source>
+        <translation>エクスポートに失敗しました。既存のファイルは変更されていません。</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3496,7 +3464,7 @@
         <translation>ログイン</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>原因はログファイルに記録されています。</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>応答したデバイスはありません。</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>選択分を含めてレコーダー %1 / %2 台</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>選択分を含むレコーダー：%1 / %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3572,8 +3540,8 @@
         <translation>検出済み</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>保存時のまま</translation>
+        <source>Unchanged</source>
+        <translation>変更なし</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>カメラが見つかりませんでした。</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>レコーダーのネットワークにカメラが見つかりません。もう一度検索するか、アドレスを入力してください。</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>カメラ %1 台が見つかりました</translation>
+        <source>Cameras found: %1</source>
+        <translation>見つかったカメラ：%1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>カメラ名に二重引用符（"）は使用できません。</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>エクスポート</translation>
     </message>
 </context>
 </TS>

@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>Czy zakończyć i otworzyć konfigurator?</translation>
+        <translation>Czy zakończyć i otworzyć Rigging Desk?</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -473,7 +473,7 @@
     </message>
     <message id="118">
         <source>Stop</source>
-        <translation>Stop</translation>
+        <translation>Zatrzymaj</translation>
     </message>
     <message id="119">
         <source>SEQ contents</source>
@@ -713,7 +713,7 @@
     </message>
     <message id="178">
         <source>NO.</source>
-        <translation>Lp.</translation>
+        <translation>Nr</translation>
     </message>
     <message id="179">
         <source>CH</source>
@@ -857,7 +857,7 @@
     </message>
     <message id="214">
         <source>STOP</source>
-        <translation>STOP</translation>
+        <translation>ZATRZYMAJ</translation>
     </message>
     <message id="215">
         <source>PLAY</source>
@@ -3220,7 +3220,7 @@
         <translation>Ta strona nie jest dostępna w tej wersji.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Dane zapisane dla niej w bazie pozostają bez zmian.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Brak rejestratorów</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Wpisz adres pierwszego rejestratora stacji, aby go dodać.</translation>
     </message>
     <message id="863">
@@ -3240,11 +3240,11 @@
         <translation>Rejestratory tej stacji</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
+        <source>Recorders: %1 of %2</source>
         <translation>Rejestratory: %1 z %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
+        <source>Channels: %1 of %2</source>
         <translation>Kanały: %1 z %2</translation>
     </message>
     <message id="867">
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Niezapisane zmiany</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Brak niezapisanych zmian</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,7 +3272,7 @@
         <translation>Zakończ</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
+        <source>Done: %1 of %2</source>
         <translation>Gotowe: %1 z %2</translation>
     </message>
     <message id="875">
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Strony</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Konfigurator wyszukuje rejestratory w tej sieci.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Wpisz adres jednego rejestratora.</translation>
     </message>
     <message id="885">
@@ -3324,7 +3316,7 @@
         <translation>Pozostaw oba pola puste, aby wypróbować znane konta urządzeń.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
+        <source>About this installation</source>
         <translation>Informacje o tej instalacji</translation>
     </message>
     <message id="887">
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Wyszukiwanie…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>W tej sieci nie znaleziono żadnego rejestratora.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Nazwa i działanie tej stacji</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Wyczyść</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Miejsce rejestratora</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Adres lub nazwa hosta</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Stacja</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Marka</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Połączono</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Brak połączenia</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Ukryj hasło</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Każdy, kto otworzy ten program, jest administratorem, ponieważ nie utworzono jeszcze żadnego użytkownika.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Każdy, kto otworzy Rigging Desk, jest jego administratorem, ponieważ nie utworzono jeszcze żadnego użytkownika.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Utwórz pierwszego administratora</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Brak użytkowników</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Dostępne kamery</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Kto ma dostęp</translation>
     </message>
     <message id="906">
@@ -3421,15 +3389,15 @@
     </message>
     <message id="910">
         <source>Grant</source>
-        <translation>Przyznaj</translation>
+        <translation>Przyznaj uprawnienie</translation>
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>Odbierz</translation>
+        <translation>Cofnij uprawnienie</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>„Na żywo” warunkuje pozostałe uprawnienia. Spacja przełącza zaznaczone komórki; Shift+Spacja zaznacza wiersz, Ctrl+Spacja kolumnę.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Pozostałe uprawnienia wymagają uprawnienia „Na żywo”. Spacja przełącza zaznaczone komórki; Shift+Spacja zaznacza wiersz, Ctrl+Spacja kolumnę.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Żaden wiersz nie pasuje do filtra.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>Znaleziono wierszy: %1</translation>
+        <source>Rows found: %1</source>
+        <translation>Znalezione wiersze: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Wybierz okres i rozpocznij wyszukiwanie.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>Eksport nie powiódł się. Istniejące pliki nie zostały zmienione.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Logowanie</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Przyczynę podano w plikach dziennika.</translation>
     </message>
     <message id="950">
@@ -3509,7 +3477,7 @@
     </message>
     <message id="952">
         <source>Select all</source>
-        <translation>Zaznacz wszystkie</translation>
+        <translation>Zaznacz wszystko</translation>
     </message>
     <message id="953">
         <source>Filter found devices</source>
@@ -3520,7 +3488,7 @@
         <translation>Żadne urządzenie nie odpowiedziało.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
+        <source>Recorders with those selected: %1 of %2</source>
         <translation>Rejestratory łącznie z wybranymi: %1 z %2</translation>
     </message>
     <message id="956">
@@ -3572,8 +3540,8 @@
         <translation>Wykryto</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Jak zapisano</translation>
+        <source>Unchanged</source>
+        <translation>Bez zmian</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,11 +3556,11 @@
         <translation>Nie znaleziono żadnej kamery.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Rejestrator nie widzi w swojej sieci żadnej kamery. Wyszukaj ponownie lub wpisz adres.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
+        <source>Cameras found: %1</source>
         <translation>Znalezione kamery: %1</translation>
     </message>
     <message id="975">
@@ -3613,11 +3581,15 @@
     </message>
     <message id="979">
         <source>Fish-eye view</source>
-        <translation>Widok z rybiego oka</translation>
+        <translation>Widok „rybie oko”</translation>
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Nazwa kamery nie może zawierać cudzysłowu (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Eksportuj</translation>
     </message>
 </context>
 </TS>

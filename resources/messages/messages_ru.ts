@@ -181,7 +181,7 @@
     </message>
     <message id="45">
         <source>Main Viewer</source>
-        <translation>Главный просмотр</translation>
+        <translation>Главное окно просмотра</translation>
     </message>
     <message id="46">
         <source>NVR Setting</source>
@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>Выйти и открыть конфигуратор?</translation>
+        <translation>Выйти и открыть Rigging Desk?</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>Открыт главный просмотр. Сначала закройте его.</translation>
+        <translation>Открыто главное окно просмотра. Сначала закройте его.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1273,7 +1273,7 @@
     </message>
     <message id="318">
         <source>Main Viewer</source>
-        <translation>Главный просмотр</translation>
+        <translation>Главное окно просмотра</translation>
     </message>
     <message id="319">
         <source>Exit</source>
@@ -2025,7 +2025,7 @@
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
-        <translation>Выйти и открыть главный просмотр?</translation>
+        <translation>Выйти и открыть главное окно просмотра?</translation>
     </message>
     <message id="509">
         <source>Do you want to exit?</source>
@@ -2545,11 +2545,11 @@
     </message>
     <message id="681">
         <source>Object Loss Reset</source>
-        <translation>Сброс пропажи предмета</translation>
+        <translation>Пропажа предмета: окончание</translation>
     </message>
     <message id="682">
         <source>Threat Detection Reset</source>
-        <translation>Сброс детекции саботажа</translation>
+        <translation>Детекция саботажа: окончание</translation>
     </message>
     <message id="683">
         <source>Image Enhance</source>
@@ -2625,7 +2625,7 @@
     </message>
     <message id="701">
         <source>Foreign Object Reset </source>
-        <translation>Сброс оставленного предмета </translation>
+        <translation>Оставленный предмет: окончание </translation>
     </message>
     <message id="702">
         <source>Manual Recording</source>
@@ -2901,7 +2901,7 @@
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>Настройки изменены. Откройте главный просмотр заново.</translation>
+        <translation>Настройки изменены. Откройте главное окно просмотра заново.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -3220,7 +3220,7 @@
         <translation>Эта страница недоступна в данной версии.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Данные этой страницы в базе данных остаются без изменений.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Регистраторов пока нет</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Введите адрес первого регистратора станции, чтобы добавить его.</translation>
     </message>
     <message id="863">
@@ -3240,11 +3240,11 @@
         <translation>Регистраторы этой станции</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
+        <source>Recorders: %1 of %2</source>
         <translation>Регистраторы: %1 из %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
+        <source>Channels: %1 of %2</source>
         <translation>Каналы: %1 из %2</translation>
     </message>
     <message id="867">
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Несохранённые изменения</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Нет несохранённых изменений</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,7 +3272,7 @@
         <translation>Готово</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
+        <source>Done: %1 of %2</source>
         <translation>Выполнено: %1 из %2</translation>
     </message>
     <message id="875">
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Страницы</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Конфигуратор ищет регистраторы в этой сети.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Введите адрес одного регистратора.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Оставьте оба поля пустыми, чтобы опробовать известные учётные записи устройств.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Сведения об этой установке</translation>
+        <source>About this installation</source>
+        <translation>Об этой установке</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Поиск…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>В этой сети не найдено ни одного регистратора.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Имя и поведение этой станции</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Очистить</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Ячейка регистратора</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Адрес или имя хоста</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>Станция</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Марка</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Подключено</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Не подключено</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Скрыть пароль</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Любой, кто откроет эту программу, становится её администратором: пользователей пока нет.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Любой, кто откроет Rigging Desk, становится администратором: пользователей пока нет.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>Создать первого администратора</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Пользователей пока нет</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Доступные камеры</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>У кого доступ</translation>
     </message>
     <message id="906">
@@ -3428,8 +3396,8 @@
         <translation>Отозвать</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>«Просмотр» определяет остальные права. Пробел переключает выделенные ячейки; Shift+Пробел выделяет строку, Ctrl+Пробел — столбец.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Для остальных прав нужно право «Просмотр». Пробел переключает выделенные ячейки; Shift+Пробел выделяет строку, Ctrl+Пробел — столбец.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,7 +3412,7 @@
         <translation>Нет строк, соответствующих фильтру.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
+        <source>Rows found: %1</source>
         <translation>Найдено строк: %1</translation>
     </message>
     <message id="933">
@@ -3468,8 +3436,8 @@
         <translation>Выберите период и выполните поиск.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
-        <translation>Экспорт не удался. Существующие данные не изменены.</translation>
+        <source>The export failed. Existing files were not changed.</source>
+        <translation>Экспорт не удался. Существующие файлы не изменены.</translation>
     </message>
     <message id="939">
         <source>First page</source>
@@ -3496,7 +3464,7 @@
         <translation>Вход</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Причина указана в файлах журнала.</translation>
     </message>
     <message id="950">
@@ -3505,7 +3473,7 @@
     </message>
     <message id="951">
         <source>Stop</source>
-        <translation>Остановить</translation>
+        <translation>Стоп</translation>
     </message>
     <message id="952">
         <source>Select all</source>
@@ -3520,7 +3488,7 @@
         <translation>Ни одно устройство не ответило.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
+        <source>Recorders with those selected: %1 of %2</source>
         <translation>Регистраторы с учётом выбранных: %1 из %2</translation>
     </message>
     <message id="956">
@@ -3572,8 +3540,8 @@
         <translation>Обнаружено</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Как сохранено</translation>
+        <source>Unchanged</source>
+        <translation>Без изменений</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,11 +3556,11 @@
         <translation>Камеры не найдены.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Регистратор не видит камер в своей сети. Повторите поиск или введите адрес.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
+        <source>Cameras found: %1</source>
         <translation>Найдено камер: %1</translation>
     </message>
     <message id="975">
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Имя камеры не может содержать кавычек (").</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Экспортировать</translation>
     </message>
 </context>
 </TS>

@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>Çıkıp yapılandırma programını açmak istiyor musunuz?</translation>
+        <translation>Çıkıp Rigging Desk programını açmak istiyor musunuz?</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -2733,11 +2733,11 @@
     </message>
     <message id="729">
         <source>Event Export</source>
-        <translation>Olayları Dışa Aktar</translation>
+        <translation>Olay Dışa Aktarma</translation>
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>Sistem Günlüğünü Dışa Aktar</translation>
+        <translation>Sistem Günlüğü Dışa Aktarma</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -2777,7 +2777,7 @@
     </message>
     <message id="740">
         <source>Export</source>
-        <translation>Dışa Aktar</translation>
+        <translation>Dışa Aktarma</translation>
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
@@ -3220,7 +3220,7 @@
         <translation>Bu sayfa bu sürümde kullanılamıyor.</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>Veritabanındaki bu sayfaya ait veriler olduğu gibi kalır.</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>Henüz kayıt cihazı yok</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>Eklemek için istasyonun ilk kayıt cihazının adresini yazın.</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>Bu İstasyonun Kayıt Cihazları</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 / %2 kayıt cihazı</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>Kayıt cihazları: %1 / %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 / %2 kanal</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>Kanallar: %1 / %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>Kaydedilmemiş değişiklikler</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>Kaydedilmemiş değişiklik yok</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>Bitir</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>%1 / %2 tamamlandı</translation>
+        <source>Done: %1 of %2</source>
+        <translation>Tamamlanan: %1 / %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>Sayfalar</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>Yapılandırma programı bu ağdaki kayıt cihazlarını arar.</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>Bir kayıt cihazının adresini yazın.</translation>
     </message>
     <message id="885">
@@ -3324,8 +3316,8 @@
         <translation>Bilinen cihaz hesaplarını denemek için ikisini de boş bırakın.</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
-        <translation>Bu Kuruluma Ait Bilgiler</translation>
+        <source>About this installation</source>
+        <translation>Bu Kurulum Hakkında</translation>
     </message>
     <message id="887">
         <source>Show password</source>
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>Aranıyor…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>Bu ağda kayıt cihazı bulunamadı.</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>Bu İstasyonun Adı ve Davranışı</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>Temizle</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>Kayıt Cihazı Yuvası</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>Adres veya Ana Bilgisayar Adı</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>İstasyon</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>Marka</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>Bağlı</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>Bağlı Değil</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>Parolayı Gizle</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>Henüz kullanıcı olmadığından bu programı açan herkes yönetici olur.</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>Henüz kullanıcı olmadığından Rigging Desk programını açan herkes yönetici olur.</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>İlk Yöneticiyi Oluştur</translation>
     </message>
     <message id="902">
@@ -3396,11 +3364,11 @@
         <translation>Henüz kullanıcı yok</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>Erişilebilir Kameralar</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
+        <source>Who has access</source>
         <translation>Erişebilenler</translation>
     </message>
     <message id="906">
@@ -3421,15 +3389,15 @@
     </message>
     <message id="910">
         <source>Grant</source>
-        <translation>Ver</translation>
+        <translation>Yetki Ver</translation>
     </message>
     <message id="911">
         <source>Withdraw</source>
-        <translation>Geri Al</translation>
+        <translation>Yetkiyi Kaldır</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>“Canlı” diğer yetkileri belirler. Boşluk tuşu seçili hücreleri değiştirir; Shift+Boşluk satırı, Ctrl+Boşluk sütunu seçer.</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>Diğer yetkiler için “Canlı” yetkisi gerekir. Boşluk tuşu seçili hücreleri değiştirir; Shift+Boşluk satırı, Ctrl+Boşluk sütunu seçer.</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>Filtreye uyan satır yok.</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>%1 satır bulundu</translation>
+        <source>Rows found: %1</source>
+        <translation>Bulunan satırlar: %1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>Bir dönem seçip arayın.</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>Dışa aktarma başarısız oldu. Mevcut dosyalar değiştirilmedi.</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>Oturum Açma</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>Nedeni günlük dosyalarında yazılı.</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>Hiçbir cihaz yanıt vermedi.</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>Seçilenlerle birlikte %1 / %2 kayıt cihazı</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>Seçilenlerle birlikte kayıt cihazları: %1 / %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3557,7 +3525,7 @@
     </message>
     <message id="965">
         <source>Notice</source>
-        <translation>Uyarı</translation>
+        <translation>Bildirim</translation>
     </message>
     <message id="966">
         <source>No camera</source>
@@ -3572,8 +3540,8 @@
         <translation>Algılandı</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>Kaydedildiği gibi</translation>
+        <source>Unchanged</source>
+        <translation>Değişmedi</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>Hiç kamera bulunamadı.</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>Kayıt cihazı ağında kamera görmüyor. Yeniden arayın veya bir adres yazın.</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>%1 kamera bulundu</translation>
+        <source>Cameras found: %1</source>
+        <translation>Bulunan kameralar: %1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>Kamera adı çift tırnak (") içeremez.</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>Dışa Aktar</translation>
     </message>
 </context>
 </TS>

@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>是否退出并打开设置程序？</translation>
+        <translation>是否退出并打开 Rigging Desk？</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message id="292">
         <source>Preset Sequence Setting</source>
-        <translation>预置点巡航设置</translation>
+        <translation>预置点序列设置</translation>
     </message>
     <message id="293">
         <source>Get Capability...</source>
@@ -2073,7 +2073,7 @@
     </message>
     <message id="520">
         <source>Preset Sequence</source>
-        <translation>预置点巡航</translation>
+        <translation>预置点序列</translation>
     </message>
     <message id="521">
         <source>Dwell Time:</source>
@@ -2085,7 +2085,7 @@
     </message>
     <message id="523">
         <source>Preset Sequence</source>
-        <translation>预置点巡航</translation>
+        <translation>预置点序列</translation>
     </message>
     <message id="524">
         <source>Select a wave file</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>该名称可以使用</translation>
+        <translation>该名称可以使用。</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>该名称已被使用</translation>
+        <translation>该名称已被使用。</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -3220,7 +3220,7 @@
         <translation>此版本未提供该页面。</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>数据库中的相关数据保持不变。</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>尚无录像机</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>输入本监控站第一台录像机的地址即可添加。</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>本监控站的录像机</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 / %2 台录像机</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>录像机：%1 / %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 / %2 个通道</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>通道：%1 / %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>有未保存的更改</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>没有未保存的更改</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>完成</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>已完成 %1 / %2</translation>
+        <source>Done: %1 of %2</source>
+        <translation>已完成：%1 / %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>页面</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>本工具会搜索此网络上的录像机。</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>输入一台录像机的地址。</translation>
     </message>
     <message id="885">
@@ -3324,7 +3316,7 @@
         <translation>两项均留空时，将尝试已知的设备账号。</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
+        <source>About this installation</source>
         <translation>本机安装信息</translation>
     </message>
     <message id="887">
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>正在搜索…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>在此网络上未找到录像机。</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>本监控站的名称与行为</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>清除</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>录像机槽位</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>地址或主机名</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>监控站</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>品牌</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>已连接</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>未连接</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>隐藏密码</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>目前还没有用户，任何打开本程序的人都是管理员。</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>目前还没有用户，任何打开 Rigging Desk 的人都是管理员。</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>创建第一位管理员</translation>
     </message>
     <message id="902">
@@ -3396,12 +3364,12 @@
         <translation>还没有用户</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>可访问的摄像机</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
-        <translation>可访问者</translation>
+        <source>Who has access</source>
+        <translation>有权访问的用户</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3428,8 +3396,8 @@
         <translation>收回</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>“实时视频”决定其他权限。按空格键切换所选单元格；按 Shift+空格键选择整行，按 Ctrl+空格键选择整列。</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>其他权限都需要“实时视频”权限。按空格键切换所选单元格；按 Shift+空格键选择整行，按 Ctrl+空格键选择整列。</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>没有符合筛选条件的记录。</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>找到 %1 条记录</translation>
+        <source>Rows found: %1</source>
+        <translation>找到的记录：%1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>请选择时段后搜索。</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>导出失败。现有文件未被更改。</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>登录</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>原因请见日志文件。</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>没有设备应答。</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>含所选项共 %1 / %2 台录像机</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>录像机（含所选项）：%1 / %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3572,8 +3540,8 @@
         <translation>已检测</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>与保存的一致</translation>
+        <source>Unchanged</source>
+        <translation>未更改</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>未找到摄像机。</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>录像机在其网络中未发现摄像机。请重新搜索或输入地址。</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>找到 %1 台摄像机</translation>
+        <source>Cameras found: %1</source>
+        <translation>找到的摄像机：%1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>摄像机名称不能包含双引号（"）！</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>导出</translation>
     </message>
 </context>
 </TS>

@@ -253,7 +253,7 @@
     </message>
     <message id="63">
         <source>Do you want to exit and open rigging desk?</source>
-        <translation>是否要結束並開啟設定程式？</translation>
+        <translation>是否要結束並開啟 Rigging Desk？</translation>
     </message>
     <message id="64">
         <source>Auto-Search Notice</source>
@@ -1169,7 +1169,7 @@
     </message>
     <message id="292">
         <source>Preset Sequence Setting</source>
-        <translation>預設點巡航設定</translation>
+        <translation>預設點序列設定</translation>
     </message>
     <message id="293">
         <source>Get Capability...</source>
@@ -2073,7 +2073,7 @@
     </message>
     <message id="520">
         <source>Preset Sequence</source>
-        <translation>預設點巡航</translation>
+        <translation>預設點序列</translation>
     </message>
     <message id="521">
         <source>Dwell Time:</source>
@@ -2085,7 +2085,7 @@
     </message>
     <message id="523">
         <source>Preset Sequence</source>
-        <translation>預設點巡航</translation>
+        <translation>預設點序列</translation>
     </message>
     <message id="524">
         <source>Select a wave file</source>
@@ -2489,11 +2489,11 @@
     </message>
     <message id="652">
         <source>This name not yet use</source>
-        <translation>此名稱可以使用</translation>
+        <translation>此名稱可以使用。</translation>
     </message>
     <message id="653">
         <source>This name in use</source>
-        <translation>此名稱已被使用</translation>
+        <translation>此名稱已被使用。</translation>
     </message>
     <message id="660">
         <source>User&amp;Password</source>
@@ -2733,11 +2733,11 @@
     </message>
     <message id="729">
         <source>Event Export</source>
-        <translation>匯出事件</translation>
+        <translation>事件匯出</translation>
     </message>
     <message id="730">
         <source>System Log Export</source>
-        <translation>匯出系統日誌</translation>
+        <translation>系統日誌匯出</translation>
     </message>
     <message id="731">
         <source>System Log</source>
@@ -3220,7 +3220,7 @@
         <translation>此版本未提供此頁面。</translation>
     </message>
     <message id="860">
-        <source>What the database holds for it stays as it is.</source>
+        <source>Its data in the database stays as it is.</source>
         <translation>資料庫中的相關資料維持不變。</translation>
     </message>
     <message id="861">
@@ -3228,7 +3228,7 @@
         <translation>尚無錄影主機</translation>
     </message>
     <message id="862">
-        <source>Type the address of the station's first recorder to add it.</source>
+        <source>Enter the address of the station's first recorder to add it.</source>
         <translation>輸入本監控站第一台錄影主機的位址即可新增。</translation>
     </message>
     <message id="863">
@@ -3240,12 +3240,12 @@
         <translation>本監控站的錄影主機</translation>
     </message>
     <message id="865">
-        <source>%1 of %2 recorders</source>
-        <translation>%1 / %2 台錄影主機</translation>
+        <source>Recorders: %1 of %2</source>
+        <translation>錄影主機：%1 / %2</translation>
     </message>
     <message id="866">
-        <source>%1 of %2 channels</source>
-        <translation>%1 / %2 個頻道</translation>
+        <source>Channels: %1 of %2</source>
+        <translation>頻道：%1 / %2</translation>
     </message>
     <message id="867">
         <source>No recorder matches the filter.</source>
@@ -3254,10 +3254,6 @@
     <message id="868">
         <source>Unsaved changes</source>
         <translation>有未儲存的變更</translation>
-    </message>
-    <message id="869">
-        <source>No unsaved changes</source>
-        <translation>沒有未儲存的變更</translation>
     </message>
     <message id="870">
         <source>Switch to dark colours</source>
@@ -3276,8 +3272,8 @@
         <translation>完成</translation>
     </message>
     <message id="874">
-        <source>%1 of %2 done</source>
-        <translation>已完成 %1 / %2</translation>
+        <source>Done: %1 of %2</source>
+        <translation>已完成：%1 / %2</translation>
     </message>
     <message id="875">
         <source>Choose</source>
@@ -3311,12 +3307,8 @@
         <source>Pages</source>
         <translation>頁面</translation>
     </message>
-    <message id="883">
-        <source>The desk looks for recorders on this network.</source>
-        <translation>本工具會搜尋此網路上的錄影主機。</translation>
-    </message>
     <message id="884">
-        <source>Type the address of one recorder.</source>
+        <source>Enter the address of one recorder.</source>
         <translation>輸入一台錄影主機的位址。</translation>
     </message>
     <message id="885">
@@ -3324,7 +3316,7 @@
         <translation>兩欄皆留空時，會嘗試已知的裝置帳號。</translation>
     </message>
     <message id="886">
-        <source>Facts of this installation</source>
+        <source>About this installation</source>
         <translation>本機安裝資訊</translation>
     </message>
     <message id="887">
@@ -3335,41 +3327,17 @@
         <source>Searching…</source>
         <translation>正在搜尋…</translation>
     </message>
-    <message id="889">
-        <source>No recorder was found on this network.</source>
-        <translation>在此網路上找不到錄影主機。</translation>
-    </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
         <translation>本監控站的名稱與行為</translation>
-    </message>
-    <message id="891">
-        <source>Clear</source>
-        <translation>清除</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>
         <translation>錄影主機槽位</translation>
     </message>
-    <message id="893">
-        <source>Address or host name</source>
-        <translation>位址或主機名稱</translation>
-    </message>
-    <message id="894">
-        <source>Station</source>
-        <translation>監控站</translation>
-    </message>
-    <message id="895">
-        <source>Brand</source>
-        <translation>廠牌</translation>
-    </message>
     <message id="896">
         <source>Connected</source>
         <translation>已連線</translation>
-    </message>
-    <message id="897">
-        <source>Not connected</source>
-        <translation>未連線</translation>
     </message>
     <message id="898">
         <source>Product:</source>
@@ -3380,11 +3348,11 @@
         <translation>隱藏密碼</translation>
     </message>
     <message id="900">
-        <source>Anyone who opens this desk is its administrator, because it has no user yet.</source>
-        <translation>目前尚無使用者，任何開啟本程式的人都是管理員。</translation>
+        <source>Anyone who opens Rigging Desk is its administrator, because there is no user yet.</source>
+        <translation>目前尚無使用者，任何開啟 Rigging Desk 的人都是管理員。</translation>
     </message>
     <message id="901">
-        <source>Make the first administrator</source>
+        <source>Create the first administrator</source>
         <translation>建立第一位管理員</translation>
     </message>
     <message id="902">
@@ -3396,12 +3364,12 @@
         <translation>尚無使用者</translation>
     </message>
     <message id="904">
-        <source>Cameras in reach</source>
+        <source>Accessible cameras</source>
         <translation>可存取的攝影機</translation>
     </message>
     <message id="905">
-        <source>Who reaches it</source>
-        <translation>可存取者</translation>
+        <source>Who has access</source>
+        <translation>有權存取的使用者</translation>
     </message>
     <message id="906">
         <source>Filter channels…</source>
@@ -3428,8 +3396,8 @@
         <translation>收回</translation>
     </message>
     <message id="912">
-        <source>Live governs the other rights. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
-        <translation>「即時影像」決定其他權限。按空白鍵切換所選儲存格；按 Shift+空白鍵選取整列，按 Ctrl+空白鍵選取整欄。</translation>
+        <source>The other rights need Live. Space switches the selected cells; Shift+Space selects a row, Ctrl+Space a column.</source>
+        <translation>其他權限都需要「即時影像」權限。按空白鍵切換所選儲存格；按 Shift+空白鍵選取整列，按 Ctrl+空白鍵選取整欄。</translation>
     </message>
     <message id="913">
         <source>Administrators have every right on every channel.</source>
@@ -3444,8 +3412,8 @@
         <translation>沒有符合篩選條件的記錄。</translation>
     </message>
     <message id="932">
-        <source>%1 rows found</source>
-        <translation>找到 %1 筆記錄</translation>
+        <source>Rows found: %1</source>
+        <translation>找到的記錄：%1</translation>
     </message>
     <message id="933">
         <source>The log could not be read</source>
@@ -3468,7 +3436,7 @@
         <translation>請選擇時段後搜尋。</translation>
     </message>
     <message id="938">
-        <source>The export failed. Nothing that existed was changed.</source>
+        <source>The export failed. Existing files were not changed.</source>
         <translation>匯出失敗。現有檔案未被變更。</translation>
     </message>
     <message id="939">
@@ -3496,7 +3464,7 @@
         <translation>登入</translation>
     </message>
     <message id="946">
-        <source>The reason stands in the log files.</source>
+        <source>The reason is in the log files.</source>
         <translation>原因請參閱日誌檔。</translation>
     </message>
     <message id="950">
@@ -3520,8 +3488,8 @@
         <translation>沒有裝置回應。</translation>
     </message>
     <message id="955">
-        <source>%1 of %2 recorders with those selected</source>
-        <translation>含所選項目共 %1 / %2 台錄影主機</translation>
+        <source>Recorders with those selected: %1 of %2</source>
+        <translation>錄影主機（含所選項目）：%1 / %2</translation>
     </message>
     <message id="956">
         <source>Connection</source>
@@ -3572,8 +3540,8 @@
         <translation>已偵測</translation>
     </message>
     <message id="969">
-        <source>As stored</source>
-        <translation>與儲存的一致</translation>
+        <source>Unchanged</source>
+        <translation>未變更</translation>
     </message>
     <message id="970">
         <source>Remove the camera of channel %1 from the recorder?</source>
@@ -3588,12 +3556,12 @@
         <translation>找不到攝影機。</translation>
     </message>
     <message id="973">
-        <source>The recorder sees no camera on its network. Search again, or type the address of one.</source>
+        <source>The recorder sees no camera on its network. Search again, or enter an address.</source>
         <translation>錄影主機在其網路中未發現攝影機。請重新搜尋或輸入位址。</translation>
     </message>
     <message id="974">
-        <source>%1 cameras found</source>
-        <translation>找到 %1 台攝影機</translation>
+        <source>Cameras found: %1</source>
+        <translation>找到的攝影機：%1</translation>
     </message>
     <message id="975">
         <source>Asking the camera…</source>
@@ -3618,6 +3586,10 @@
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
         <translation>攝影機名稱不可包含雙引號（"）！</translation>
+    </message>
+    <message id="995">
+        <source>Export</source>
+        <translation>匯出</translation>
     </message>
 </context>
 </TS>

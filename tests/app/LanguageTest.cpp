@@ -3,6 +3,8 @@
 #include "platform/clsOSInfo.h"
 #include "tests/store/StoreFixture.h"
 
+#include <QDirIterator>
+#include <QLocale>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <gtest/gtest.h>
@@ -12,6 +14,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Bank = QMap<int, QString>;
+
+constexpr int kFirstOwn = 850; // numbers below are the station's catalogue
+constexpr auto kProgram = "Rigging Desk"_L1;
 
 // A bank's texts by number, from its source file.
 Bank ReadBank(const QString& file)
@@ -76,6 +81,8 @@ TEST(Banks, HoldTheSameNumbersAndKeepWhatCodeJoins)
             EXPECT_EQ(TrailingBlanks(text), TrailingBlanks(original)) << where;
             EXPECT_EQ(EndsAsLabel(text), EndsAsLabel(original)) << where;
             EXPECT_EQ(text.startsWith(u'*'), original.startsWith(u'*')) << where;
+            EXPECT_EQ(text.contains(kProgram, Qt::CaseInsensitive), original.contains(kProgram, Qt::CaseInsensitive))
+                << where;
             for (const auto* mark : {u"%1", u"%2"})
                 EXPECT_EQ(text.count(QStringView(mark)), original.count(QStringView(mark))) << where;
             if (original.endsWith(u'!') || original.endsWith(u'?')) {
@@ -100,6 +107,49 @@ TEST(Banks, LeaveNoSentenceInEnglish)
                     << file.toStdString() << ' ' << it.key() << ": " << it.value().toStdString();
             }
         }
+    }
+}
+
+// What is one text in English is one in every language, but for the pairs that stand for two things there.
+TEST(Banks, SayTheSameThingInTheSameWords)
+{
+    const QList<int> apart{277, 856, 995}; // next step, not frame; a narrow place; the button of the noun
+    const QDir folder(MessagesFolder());
+    const Bank english = ReadBank(folder.filePath(u"messages_en.ts"_s));
+    for (const QString& file : folder.entryList({u"messages_*.ts"_s})) {
+        const QLocale locale(file.mid(9).chopped(3));
+        const Bank bank = ReadBank(folder.filePath(file));
+        QHash<QString, int> first;
+        for (auto it = english.begin(); it != english.end(); ++it) {
+            const int twin = first.value(it.value().trimmed().toLower(), it.key());
+            first.insert(it.value().trimmed().toLower(), twin);
+            if (!apart.contains(it.key())) {
+                EXPECT_EQ(locale.toLower(bank[it.key()]).trimmed().toStdString(),
+                          locale.toLower(bank[twin]).trimmed().toStdString())
+                    << file.toStdString() << ' ' << twin << ' ' << it.key();
+            }
+        }
+    }
+}
+
+// A count stands apart from its word, so that one reads as well as many; each own text is on show somewhere.
+TEST(Banks, OwnTextsAreUsedAndReadWithAnyCount)
+{
+    const QDir folder(MessagesFolder());
+    const Bank english = ReadBank(folder.filePath(u"messages_en.ts"_s));
+    QSet<QString> numbers;
+    QDirIterator sources(folder.filePath(u"../../src"_s), {u"*.cpp"_s, u"*.h"_s, u"*.ui"_s}, QDir::Files,
+                         QDirIterator::Subdirectories);
+    while (sources.hasNext()) {
+        QFile source(sources.next());
+        ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+        const QStringList words = QString::fromUtf8(source.readAll()).split(QRegularExpression(u"\\D+"_s));
+        numbers.unite(QSet<QString>(words.begin(), words.end()));
+    }
+    const QRegularExpression plural(u"%[12] [a-z]+s\\b"_s);
+    for (auto it = english.lowerBound(kFirstOwn); it != english.end(); ++it) {
+        EXPECT_TRUE(numbers.contains(QString::number(it.key()))) << it.key() << " is not used";
+        EXPECT_FALSE(plural.match(it.value()).hasMatch()) << it.value().toStdString();
     }
 }
 

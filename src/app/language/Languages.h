@@ -18,7 +18,7 @@ qint16 LanguageCharset(); // of the live language; 0 outside 1 to 14
 // The language number of the system's locale; 1 when it is none of the fourteen's.
 int GetOsLang();
 
-// The text of a message number (0 to 999) in the live language; English where the language's bank is missing. A number
+// The text of a message number (0 to 1999) in the live language; English where the language's bank is missing. A number
 // without an entry, or a language outside 1 to 14, gives one log line and the empty text. Settles a language that is
 // not chosen yet from the system first.
 QString GetLangString(int number);

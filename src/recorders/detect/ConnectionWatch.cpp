@@ -13,11 +13,11 @@ enum Message
 {
     kConnected = 896,
     kChecking = 957,
-    kLoginRefused,
-    kNoAnswer,
-    kNotResolved,
-    kConnectionRefused,
-    kUnexpected
+    kLoginRefused = 958,
+    kNoAnswer = 959,
+    kNotResolved = 960,
+    kConnectionRefused = 961,
+    kUnexpected = 962
 };
 
 // What a connection depends on, in one text.
