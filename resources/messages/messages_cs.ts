@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Uloženo</translation>
+        <translation>Uloženo.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -3480,7 +3480,7 @@
         <translation>Vybrat vše</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Filtrovat nalezená zařízení</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Chcete odebrat z rekordéru kameru kanálu %1?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Filtrovat nalezené kamery</translation>
     </message>
     <message id="972">

@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Modtagelse af optagelsesdata mislykkedes</translation>
+        <translation>Modtagelse af optagelsesdata mislykkedes.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Gemt</translation>
+        <translation>Gemt.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -3480,7 +3480,7 @@
         <translation>Vælg alle</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Filtrer fundne enheder</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Vil du fjerne kameraet på kanal %1 fra optageren?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Filtrer fundne kameraer</translation>
     </message>
     <message id="972">

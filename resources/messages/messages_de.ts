@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Empfang der Aufzeichnungsdaten fehlgeschlagen</translation>
+        <translation>Empfang der Aufzeichnungsdaten fehlgeschlagen.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Gespeichert</translation>
+        <translation>Gespeichert.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -3480,7 +3480,7 @@
         <translation>Alle auswählen</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Gefundene Geräte filtern</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Möchten Sie die Kamera von Kanal %1 aus dem Rekorder entfernen?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Gefundene Kameras filtern</translation>
     </message>
     <message id="972">

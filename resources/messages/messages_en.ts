@@ -3480,8 +3480,8 @@
         <translation>Select all</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
-        <translation>Filter found devices</translation>
+        <source>Filter the devices found</source>
+        <translation>Filter the devices found</translation>
     </message>
     <message id="954">
         <source>No device has answered.</source>
@@ -3548,8 +3548,8 @@
         <translation>Remove the camera of channel %1 from the recorder?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
-        <translation>Filter found cameras</translation>
+        <source>Filter the cameras found</source>
+        <translation>Filter the cameras found</translation>
     </message>
     <message id="972">
         <source>No camera was found.</source>

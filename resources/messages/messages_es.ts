@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Error al recibir los datos de grabación</translation>
+        <translation>Error al recibir los datos de grabación.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Guardado</translation>
+        <translation>Guardado.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -3480,7 +3480,7 @@
         <translation>Seleccionar todo</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Filtrar los dispositivos encontrados</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>¿Desea quitar del grabador la cámara del canal %1?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Filtrar las cámaras encontradas</translation>
     </message>
     <message id="972">

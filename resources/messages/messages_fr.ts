@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Échec de la réception des données d’enregistrement</translation>
+        <translation>Échec de la réception des données d’enregistrement.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Enregistré</translation>
+        <translation>Enregistré.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -3480,7 +3480,7 @@
         <translation>Tout sélectionner</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Filtrer les appareils trouvés</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Voulez-vous supprimer de l’enregistreur la caméra du canal %1 ?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Filtrer les caméras trouvées</translation>
     </message>
     <message id="972">

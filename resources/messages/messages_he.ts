@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>אין מזהי CGI פנויים!</translation>
+        <translation>אין מזהי CGI פנויים.</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>שם המשתמש או הסיסמה שגויים!</translation>
+        <translation>שם המשתמש או הסיסמה שגויים.</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>שגיאה בחיבור להתקן!</translation>
+        <translation>שגיאה בחיבור להתקן.</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>יצרן ההתקן אינו נתמך!</translation>
+        <translation>יצרן ההתקן אינו נתמך.</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>שליחת פקודת CGI נכשלה!</translation>
+        <translation>שליחת פקודת CGI נכשלה.</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>התוכנית כבר פתוחה!</translation>
+        <translation>התוכנית כבר פתוחה.</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>תוכנית התצורה פתוחה. יש לסגור אותה תחילה!</translation>
+        <translation>תוכנית התצורה פתוחה. יש לסגור אותה תחילה.</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,11 +61,11 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>גרסת מסד הנתונים שגויה! האם לאפס את מסד הנתונים כעת?</translation>
+        <translation>גרסת מסד הנתונים שגויה. האם לאפס את מסד הנתונים כעת?</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
-        <translation>המערכת לא תוכל להמשיך לפעול!</translation>
+        <translation>המערכת לא תוכל להמשיך לפעול.</translation>
     </message>
     <message id="16">
         <source>Update Database ...</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>תם הזמן הקצוב לזיהוי ההתקן!</translation>
+        <translation>תם הזמן הקצוב לזיהוי ההתקן.</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>הערוץ של ה-SVR הוסר. יש לזהות מחדש את ה-SVR!</translation>
+        <translation>הערוץ של ה-SVR הוסר. יש לזהות מחדש את ה-SVR.</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>יש להפעיל העברת פורטים (UPnP) ב-SVR!</translation>
+        <translation>יש להפעיל העברת פורטים (UPnP) ב-SVR.</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>שדה המשתמש ריק!</translation>
+        <translation>שדה המשתמש ריק.</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>שדה הסיסמה ריק!</translation>
+        <translation>שדה הסיסמה ריק.</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>חשבון המשתמש או הסיסמה שגויים!</translation>
+        <translation>חשבון המשתמש או הסיסמה שגויים.</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>שגיאה בהגדרות שרת האירועים של המצלמה!</translation>
+        <translation>שגיאה בהגדרות שרת האירועים של המצלמה.</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>שגיאה בלכידת תמונה!</translation>
+        <translation>שגיאה בלכידת תמונה.</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>נמצא התקן!</translation>
+        <translation>נמצא התקן.</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>שם המשתמש או הסיסמה שגויים!</translation>
+        <translation>שם המשתמש או הסיסמה שגויים.</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>היצרן אינו נתמך!</translation>
+        <translation>היצרן אינו נתמך.</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>המצלמה אינה נתמכת!</translation>
+        <translation>המצלמה אינה נתמכת.</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>שגיאה בחיבור להתקן!</translation>
+        <translation>שגיאה בחיבור להתקן.</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>תם הזמן הקצוב לזיהוי ההתקן!</translation>
+        <translation>תם הזמן הקצוב לזיהוי ההתקן.</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>לא ניתן להתחבר לשרת!</translation>
+        <translation>לא ניתן להתחבר לשרת.</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>השירות עדיין אינו מחובר!</translation>
+        <translation>השירות עדיין אינו מחובר.</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>לא ניתן להוסיף התקן מסדרה זו יותר מפעם אחת!</translation>
+        <translation>לא ניתן להוסיף התקן מסדרה זו יותר מפעם אחת.</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>סבב ערוצים אינו זמין. יש לבחור יותר מערוץ אחד כדי להשתמש באפשרות זו!</translation>
+        <translation>סבב ערוצים אינו זמין. יש לבחור יותר מערוץ אחד כדי להשתמש באפשרות זו.</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>סבב NVR אינו זמין. יש לבחור יותר מ-NVR אחד כדי להשתמש באפשרות זו!</translation>
+        <translation>סבב NVR אינו זמין. יש לבחור יותר מ-NVR אחד כדי להשתמש באפשרות זו.</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>סבב תבניות אינו זמין. יש לבחור יותר מתבנית אחת כדי להשתמש באפשרות זו!</translation>
+        <translation>סבב תבניות אינו זמין. יש לבחור יותר מתבנית אחת כדי להשתמש באפשרות זו.</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,15 +365,15 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>לא ניתן להגדיר יותר מ-32 אירועי מצלמה!</translation>
+        <translation>לא ניתן להגדיר יותר מ-32 אירועי מצלמה.</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>יש להוסיף תחילה NVR!</translation>
+        <translation>יש להוסיף תחילה NVR.</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>מספר הפורט אינו יכול להיות 0 או גדול מ-65536!</translation>
+        <translation>מספר הפורט אינו יכול להיות 0 או גדול מ-65536.</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -549,11 +549,11 @@
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
-        <translation>אין תמיכה במסך מלא או בשינוי חלוקה במצב סבב!</translation>
+        <translation>אין תמיכה במסך מלא או בשינוי חלוקה במצב סבב.</translation>
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>מסך מלא פועל. יש לסגור אותו תחילה!</translation>
+        <translation>מסך מלא פועל. יש לסגור אותו תחילה.</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -561,11 +561,11 @@
     </message>
     <message id="140">
         <source>Select a channel first.</source>
-        <translation>יש לבחור תחילה ערוץ!</translation>
+        <translation>יש לבחור תחילה ערוץ.</translation>
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>השם כבר קיים!</translation>
+        <translation>השם כבר קיים.</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>לכידת התמונה נכשלה!</translation>
+        <translation>לכידת התמונה נכשלה.</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>אין משאבים פנויים לצפייה בהקלטות ב-NVR!</translation>
+        <translation>אין משאבים פנויים לצפייה בהקלטות ב-NVR.</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>בקשת הצפייה בהקלטות נכשלה!</translation>
+        <translation>בקשת הצפייה בהקלטות נכשלה.</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>קבלת נתוני ההקלטה נכשלה</translation>
+        <translation>קבלת נתוני ההקלטה נכשלה.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,27 +877,27 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>אין הקלטה להצגה!</translation>
+        <translation>אין הקלטה להצגה.</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>הצפייה בהקלטה נעצרה. יש לבחור זמן חדש!</translation>
+        <translation>הצפייה בהקלטה נעצרה. יש לבחור זמן חדש.</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>אין תגובה. ניתן לנסות שוב או לבחור התקן אחר!</translation>
+        <translation>אין תגובה. ניתן לנסות שוב או לבחור התקן אחר.</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>החיבור נותק! </translation>
+        <translation>החיבור נותק. </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>לא ניתן לקבל זרם וידאו. יש לבחור ערוץ אחר!</translation>
+        <translation>לא ניתן לקבל זרם וידאו. יש לבחור ערוץ אחר.</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
-        <translation>אין הקלטה!</translation>
+        <translation>אין הקלטה.</translation>
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
@@ -913,15 +913,15 @@
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>ההמרה לקובץ AVI הושלמה! הקובץ הוא… </translation>
+        <translation>ההמרה לקובץ AVI הושלמה. הקובץ הוא… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>מתבצעת המרה לקובץ AVI!</translation>
+        <translation>מתבצעת המרה לקובץ AVI.</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>ההמרה ל-AVI נכשלה!</translation>
+        <translation>ההמרה ל-AVI נכשלה.</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>לא הוגדר אף SVD. יש להוסיף SVD כדי לשלוט בו!</translation>
+        <translation>לא הוגדר אף SVD. יש להוסיף SVD כדי לשלוט בו.</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>ערוץ זה כבר הוגדר לתצוגה במסך זה!</translation>
+        <translation>ערוץ זה כבר הוגדר לתצוגה במסך זה.</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>יש ללחוץ כאן כדי להתחבר מחדש!</translation>
+        <translation>יש ללחוץ כאן כדי להתחבר מחדש.</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>ההוספה הצליחה!</translation>
+        <translation>ההוספה הצליחה.</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>המציג הראשי פתוח. יש לסגור אותו תחילה!</translation>
+        <translation>המציג הראשי פתוח. יש לסגור אותו תחילה.</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1301,23 +1301,23 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>יש להגדיר שם או רשימת ערוצים!</translation>
+        <translation>יש להגדיר שם או רשימת ערוצים.</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
-        <translation>לא ניתן לפתוח בו-זמנית סבב ומסך מלא בצפייה החיה!</translation>
+        <translation>לא ניתן לפתוח בו-זמנית סבב ומסך מלא בצפייה החיה.</translation>
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>לא נבחר ערוץ!</translation>
+        <translation>לא נבחר ערוץ.</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>הזמן שנבחר מחוץ לטווח הנתונים!</translation>
+        <translation>הזמן שנבחר מחוץ לטווח הנתונים.</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>ה-NVR אינו תקין!</translation>
+        <translation>ה-NVR אינו תקין.</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>ה-NVR מתחבר. יש להמתין רגע ולהתחיל שוב!</translation>
+        <translation>ה-NVR מתחבר. יש להמתין רגע ולהתחיל שוב.</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>ה-NVR אינו מקוון. יש לבחור NVR אחר או לבדוק את סטטוס החיבור שלו!</translation>
+        <translation>ה-NVR אינו מקוון. יש לבחור NVR אחר או לבדוק את סטטוס החיבור שלו.</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>התקן הפלט הוסר!</translation>
+        <translation>התקן הפלט הוסר.</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>הסיסמאות אינן תואמות. יש לבדוק שוב!</translation>
+        <translation>הסיסמאות אינן תואמות. יש לבדוק שוב.</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>הגדרת שרת HTTP נכשלה! האם להסיר את כל שרתי ה-HTTP?</translation>
+        <translation>הגדרת שרת HTTP נכשלה. האם להסיר את כל שרתי ה-HTTP?</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>הכמות אינה יכולה לעלות על 16!</translation>
+        <translation>הכמות אינה יכולה לעלות על 16.</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,71 +1929,71 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>שם השולח אינו יכול להיות ריק!</translation>
+        <translation>שם השולח אינו יכול להיות ריק.</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>שרת הדואר אינו יכול להיות ריק!</translation>
+        <translation>שרת הדואר אינו יכול להיות ריק.</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>שם המשתמש אינו יכול להיות ריק!</translation>
+        <translation>שם המשתמש אינו יכול להיות ריק.</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>הסיסמה אינה יכולה להיות ריקה!</translation>
+        <translation>הסיסמה אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>כתובת הדוא״ל אינה יכולה להיות ריקה!</translation>
+        <translation>כתובת הדוא״ל אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>הודעת הבדיקה נשלחה בהצלחה!</translation>
+        <translation>הודעת הבדיקה נשלחה בהצלחה.</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>שליחת הודעת הבדיקה נכשלה!</translation>
+        <translation>שליחת הודעת הבדיקה נכשלה.</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>כתובת ה-IP של השרת אינה יכולה להיות ריקה!</translation>
+        <translation>כתובת ה-IP של השרת אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>פורט השרת אינו יכול להיות ריק!</translation>
+        <translation>פורט השרת אינו יכול להיות ריק.</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>נתיב השורש אינו יכול להיות ריק!</translation>
+        <translation>נתיב השורש אינו יכול להיות ריק.</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
-        <translation>ההתחברות לשרת ה-FTP הצליחה!</translation>
+        <translation>ההתחברות לשרת ה-FTP הצליחה.</translation>
     </message>
     <message id="495">
         <source>Connecting to ftp server failed.</source>
-        <translation>ההתחברות לשרת ה-FTP נכשלה!</translation>
+        <translation>ההתחברות לשרת ה-FTP נכשלה.</translation>
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>ההודעה אינה יכולה להיות ריקה!</translation>
+        <translation>ההודעה אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>תיאור הצליל אינו יכול להיות ריק!</translation>
+        <translation>תיאור הצליל אינו יכול להיות ריק.</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>נתיב קובץ הצליל אינו יכול להיות ריק!</translation>
+        <translation>נתיב קובץ הצליל אינו יכול להיות ריק.</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>יש לבחור תחילה מספר מיקום!</translation>
+        <translation>יש לבחור תחילה מספר מיקום.</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>שם המיקום כבר בשימוש!</translation>
+        <translation>שם המיקום כבר בשימוש.</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2001,27 +2001,27 @@
     </message>
     <message id="502">
         <source>Can't Delete User.</source>
-        <translation>לא ניתן למחוק את המשתמש!</translation>
+        <translation>לא ניתן למחוק את המשתמש.</translation>
     </message>
     <message id="503">
         <source>Already Set.</source>
-        <translation>כבר הוגדר!</translation>
+        <translation>כבר הוגדר.</translation>
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>לא ניתן להוסיף יותר מ-16 הגדרות אנליטיקה!</translation>
+        <translation>לא ניתן להוסיף יותר מ-16 הגדרות אנליטיקה.</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>הוספת ה-NVR נכשלה. יש להוסיף שוב!</translation>
+        <translation>הוספת ה-NVR נכשלה. יש להוסיף שוב.</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>גודל הקובץ אינו יכול לעלות על 5 MB!</translation>
+        <translation>גודל הקובץ אינו יכול לעלות על 5 MB.</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>השמירה הצליחה!</translation>
+        <translation>השמירה הצליחה.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
-        <translation>הרזולוציה אינה נתמכת!</translation>
+        <translation>הרזולוציה אינה נתמכת.</translation>
     </message>
     <message id="511">
         <source>Do you want to Save?</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>הערוץ אינו תומך בזיהוי תנועה או שאינו מחובר!</translation>
+        <translation>הערוץ אינו תומך בזיהוי תנועה או שאינו מחובר.</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>אין הגדרות!</translation>
+        <translation>אין הגדרות.</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>פעולת האירוע עדיין לא הוגדרה!</translation>
+        <translation>פעולת האירוע עדיין לא הוגדרה.</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>לא ניתן להתחבר לווידאו!</translation>
+        <translation>לא ניתן להתחבר לווידאו.</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>ההודעה נשלחה בהצלחה!</translation>
+        <translation>ההודעה נשלחה בהצלחה.</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>שליחת ההודעה נכשלה!</translation>
+        <translation>שליחת ההודעה נכשלה.</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>אין הקלטה בזמן שנבחר!</translation>
+        <translation>אין הקלטה בזמן שנבחר.</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>לא ניתן לקבל מ-NVR זה מזהה קבוצה לצפייה בהקלטות!</translation>
+        <translation>לא ניתן לקבל מ-NVR זה מזהה קבוצה לצפייה בהקלטות.</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>החיבור ל-SVD שנבחר נותק. יש לסגור את הלוח ולבדוק את סטטוס ה-SVD!</translation>
+        <translation>החיבור ל-SVD שנבחר נותק. יש לסגור את הלוח ולבדוק את סטטוס ה-SVD.</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>שם ה-NVR אינו יכול להיות ריק!</translation>
+        <translation>שם ה-NVR אינו יכול להיות ריק.</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>כתובת ה-IP או שם המארח שגויים!</translation>
+        <translation>כתובת ה-IP או שם המארח שגויים.</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>ה-NVR אינו קיים!</translation>
+        <translation>ה-NVR אינו קיים.</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>הפורט שגוי!</translation>
+        <translation>הפורט שגוי.</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>נבחרו פחות מ-2 פריטים, ולא ניתן לשמור!</translation>
+        <translation>נבחרו פחות מ-2 פריטים, ולא ניתן לשמור.</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>אין מספיק תבניות לבחירה!</translation>
+        <translation>אין מספיק תבניות לבחירה.</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>מסך זה הוקצה לקיר הווידאו!</translation>
+        <translation>מסך זה הוקצה לקיר הווידאו.</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>אין מספיק התקנים לבחירה!</translation>
+        <translation>אין מספיק התקנים לבחירה.</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2301,31 +2301,31 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>כתובת ה-IP של ה-NVR אינה יכולה להיות ריקה!</translation>
+        <translation>כתובת ה-IP של ה-NVR אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
-        <translation>פורט ה-HTTP של ה-NVR אינו יכול להיות ריק!</translation>
+        <translation>פורט ה-HTTP של ה-NVR אינו יכול להיות ריק.</translation>
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>משתמש ה-NVR אינו יכול להיות ריק!</translation>
+        <translation>משתמש ה-NVR אינו יכול להיות ריק.</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
-        <translation>סיסמת ה-NVR אינה יכולה להיות ריקה!</translation>
+        <translation>סיסמת ה-NVR אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>שגיאה בקבלת אזור הזמן. יש לזהות שוב!</translation>
+        <translation>שגיאה בקבלת אזור הזמן. יש לזהות שוב.</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
-        <translation>יש לבחור יצרן!</translation>
+        <translation>יש לבחור יצרן.</translation>
     </message>
     <message id="599">
         <source>IP Timeout.</source>
-        <translation>תם הזמן הקצוב לחיבור לכתובת ה-IP!</translation>
+        <translation>תם הזמן הקצוב לחיבור לכתובת ה-IP.</translation>
     </message>
     <message id="600">
         <source>Quality</source>
@@ -2341,39 +2341,39 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>שם הערוץ אינו יכול להיות ריק!</translation>
+        <translation>שם הערוץ אינו יכול להיות ריק.</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>כתובת ה-IP אינה יכולה להיות ריקה!</translation>
+        <translation>כתובת ה-IP אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>פורט ה-HTTP אינו יכול להיות ריק!</translation>
+        <translation>פורט ה-HTTP אינו יכול להיות ריק.</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>חשבון המשתמש אינו יכול להיות ריק!</translation>
+        <translation>חשבון המשתמש אינו יכול להיות ריק.</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>הסיסמה אינה יכולה להיות ריקה!</translation>
+        <translation>הסיסמה אינה יכולה להיות ריקה.</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>שגיאת זיהוי!</translation>
+        <translation>שגיאת זיהוי.</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>אין מצלמה או שהחיבור נכשל!</translation>
+        <translation>אין מצלמה או שהחיבור נכשל.</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>גרסת קושחה זו של ה-NVR אינה נתמכת. יש לעדכן לגרסה חדשה יותר!</translation>
+        <translation>גרסת קושחה זו של ה-NVR אינה נתמכת. יש לעדכן לגרסה חדשה יותר.</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>לחיצה על הלחצן תשנה את הנתונים ב-NVR!</translation>
+        <translation>לחיצה על הלחצן תשנה את הנתונים ב-NVR.</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>היצרן אינו נתמך!</translation>
+        <translation>היצרן אינו נתמך.</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,15 +2389,15 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>שגיאה בפורמט הווידאו!</translation>
+        <translation>שגיאה בפורמט הווידאו.</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
-        <translation>הגדרות המצלמה השתנו. יש לזהות מחדש!</translation>
+        <translation>הגדרות המצלמה השתנו. יש לזהות מחדש.</translation>
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>הוספת המצלמה נכשלה!</translation>
+        <translation>הוספת המצלמה נכשלה.</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>ההתקן אינו נתמך!</translation>
+        <translation>ההתקן אינו נתמך.</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>חשבון זה כבר הוגדר!</translation>
+        <translation>חשבון זה כבר הוגדר.</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>גודל הקובץ אינו יכול לעלות על 10 MB!</translation>
+        <translation>גודל הקובץ אינו יכול לעלות על 10 MB.</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>לא הוזנו משתמש או סיסמה!</translation>
+        <translation>לא הוזנו משתמש או סיסמה.</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message id="674">
         <source>The account has reached the upper limit, for add new account you need to remove another account.</source>
-        <translation>מספר החשבונות הגיע למגבלה. כדי להוסיף חשבון חדש יש להסיר חשבון אחר!</translation>
+        <translation>מספר החשבונות הגיע למגבלה. כדי להוסיף חשבון חדש יש להסיר חשבון אחר.</translation>
     </message>
     <message id="675">
         <source>Object Loss</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message id="684">
         <source>Port number can't accept more then 32767.</source>
-        <translation>מספר הפורט אינו יכול להיות גדול מ-32767!</translation>
+        <translation>מספר הפורט אינו יכול להיות גדול מ-32767.</translation>
     </message>
     <message id="685">
         <source>Keep Ratio</source>
@@ -2613,7 +2613,7 @@
     </message>
     <message id="698">
         <source>Name can't be empty.</source>
-        <translation>השם אינו יכול להיות ריק!</translation>
+        <translation>השם אינו יכול להיות ריק.</translation>
     </message>
     <message id="699">
         <source>Object Counting</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message id="703">
         <source>Device settings have changes, please re-detect.</source>
-        <translation>הגדרות ההתקן השתנו. יש לזהות מחדש!</translation>
+        <translation>הגדרות ההתקן השתנו. יש לזהות מחדש.</translation>
     </message>
     <message id="704">
         <source>English and Digit Only</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>כמות ההתקנים תעלה על המותר!</translation>
+        <translation>כמות ההתקנים תעלה על המותר.</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>כמות הערוצים הכוללת תעלה על המותר!</translation>
+        <translation>כמות הערוצים הכוללת תעלה על המותר.</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,15 +2693,15 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>שגיאה בקבלת יכולות ההתקן!</translation>
+        <translation>שגיאה בקבלת יכולות ההתקן.</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
-        <translation>להתקן זה אין ערוצים!</translation>
+        <translation>להתקן זה אין ערוצים.</translation>
     </message>
     <message id="720">
         <source>Please add channels  or  re-select the other device.</source>
-        <translation>יש להוסיף ערוצים או לבחור התקן אחר!</translation>
+        <translation>יש להוסיף ערוצים או לבחור התקן אחר.</translation>
     </message>
     <message id="721">
         <source>This device does not has any channel,Do you want to remove the device?</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>ההגדרה נכשלה!</translation>
+        <translation>ההגדרה נכשלה.</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>אין שינוי!</translation>
+        <translation>אין שינוי.</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>יש לבחור נתיב לייצוא!</translation>
+        <translation>יש לבחור נתיב לייצוא.</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>זמן ההתחלה חייב להיות מוקדם מזמן הסיום!</translation>
+        <translation>זמן ההתחלה חייב להיות מוקדם מזמן הסיום.</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>אין אירועים!</translation>
+        <translation>אין אירועים.</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>אין רשומות ביומן המערכת!</translation>
+        <translation>אין רשומות ביומן המערכת.</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>הייצוא ל-CSV הסתיים!</translation>
+        <translation>הייצוא ל-CSV הסתיים.</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>הייצוא ל-MDB הסתיים!</translation>
+        <translation>הייצוא ל-MDB הסתיים.</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>לא ניתן לפתוח, אין מספיק מסכים זמינים!</translation>
+        <translation>לא ניתן לפתוח, אין מספיק מסכים זמינים.</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>לא ניתן לפתוח, קיר הווידאו אינו מופעל! </translation>
+        <translation>לא ניתן לפתוח, קיר הווידאו אינו מופעל. </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>אין מספיק מסכים. הפעולה אינה נתמכת!</translation>
+        <translation>אין מספיק מסכים. הפעולה אינה נתמכת.</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>ההגדרות השתנו. יש לפתוח מחדש את המציג הראשי!</translation>
+        <translation>ההגדרות השתנו. יש לפתוח מחדש את המציג הראשי.</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>אין מספיק שטח אחסון לתמונות אירוע!</translation>
+        <translation>אין מספיק שטח אחסון לתמונות אירוע.</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>אין מספיק מסכים להגדרה!</translation>
+        <translation>אין מספיק מסכים להגדרה.</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>כתובת דוא״ל לא תקינה!</translation>
+        <translation>כתובת דוא״ל לא תקינה.</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>ערך לא תקין!</translation>
+        <translation>ערך לא תקין.</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>לא ניתן להוסיף שוב!</translation>
+        <translation>לא ניתן להוסיף שוב.</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>לא ניתן להוסיף עוד SVD!</translation>
+        <translation>לא ניתן להוסיף עוד SVD.</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>הייצוא הסתיים!</translation>
+        <translation>הייצוא הסתיים.</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3133,11 +3133,11 @@
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
-        <translation>לא נבחר NVR!</translation>
+        <translation>לא נבחר NVR.</translation>
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>הזיהוי הצליח!</translation>
+        <translation>הזיהוי הצליח.</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3145,11 +3145,11 @@
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
-        <translation>פעולת הטריגר בוצעה!</translation>
+        <translation>פעולת הטריגר בוצעה.</translation>
     </message>
     <message id="836">
         <source>Event server has not set.</source>
-        <translation>שרת האירועים לא הוגדר!</translation>
+        <translation>שרת האירועים לא הוגדר.</translation>
     </message>
     <message id="837">
         <source>Privilege Setting</source>
@@ -3169,7 +3169,7 @@
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>אין צג מחובר!</translation>
+        <translation>אין צג מחובר.</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>לכידת תמונות אירוע אינה פועלת!</translation>
+        <translation>לכידת תמונות אירוע אינה פועלת.</translation>
     </message>
     <message id="850">
         <source>System</source>
@@ -3480,7 +3480,7 @@
         <translation>בחירת הכול</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>סינון ההתקנים שנמצאו</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>האם להסיר מהמקליט את המצלמה של ערוץ %1?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>סינון המצלמות שנמצאו</translation>
     </message>
     <message id="972">

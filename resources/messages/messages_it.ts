@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>Ricezione dei dati di registrazione non riuscita</translation>
+        <translation>Ricezione dei dati di registrazione non riuscita.</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Salvato</translation>
+        <translation>Salvato.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -3480,7 +3480,7 @@
         <translation>Seleziona tutto</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Filtra i dispositivi trovati</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Rimuovere dal registratore la telecamera del canale %1?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Filtra le telecamere trovate</translation>
     </message>
     <message id="972">

@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>全画面の初期設定</translation>
+        <translation>起動時の全画面</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -3480,7 +3480,7 @@
         <translation>すべて選択</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>見つかったデバイスを絞り込み</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>チャンネル %1 のカメラをレコーダーから削除しますか？</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>見つかったカメラを絞り込み</translation>
     </message>
     <message id="972">

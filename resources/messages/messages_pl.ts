@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Zapisano</translation>
+        <translation>Zapisano.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>Wyjdź, aby zapisać układ ekranów.</translation>
+        <translation>Układ ekranów zostanie zapisany po opuszczeniu strony.</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -3480,7 +3480,7 @@
         <translation>Zaznacz wszystko</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Filtruj znalezione urządzenia</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Czy usunąć kamerę kanału %1 z rejestratora?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Filtruj znalezione kamery</translation>
     </message>
     <message id="972">

@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Сохранено</translation>
+        <translation>Сохранено.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>Выйдите, чтобы сохранить компоновку экранов.</translation>
+        <translation>Компоновка экранов сохраняется при выходе со страницы.</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -2657,7 +2657,7 @@
     </message>
     <message id="709">
         <source>Parent</source>
-        <translation>Родитель</translation>
+        <translation>Родительская группа</translation>
     </message>
     <message id="710">
         <source>Group Type </source>
@@ -3480,7 +3480,7 @@
         <translation>Выбрать все</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Фильтр найденных устройств</translation>
     </message>
     <message id="954">
@@ -3548,7 +3548,7 @@
         <translation>Удалить камеру канала %1 из регистратора?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Фильтр найденных камер</translation>
     </message>
     <message id="972">

@@ -2021,7 +2021,7 @@
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>Kaydedildi</translation>
+        <translation>Kaydedildi.</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2597,7 +2597,7 @@
     </message>
     <message id="694">
         <source>Leave to save the screen layout.</source>
-        <translation>Ekran düzenini kaydetmek için çıkın.</translation>
+        <translation>Ekran düzeni sayfadan çıkınca kaydedilir.</translation>
     </message>
     <message id="695">
         <source>Function default start</source>
@@ -2969,11 +2969,11 @@
     </message>
     <message id="790">
         <source>Intelligent Event Trigger</source>
-        <translation>Akıllı Olay Tetikleme</translation>
+        <translation>Akıllı Algılama Olayı Tetikleme</translation>
     </message>
     <message id="791">
         <source>NVR Event Trigger</source>
-        <translation>NVR Olay Tetikleme</translation>
+        <translation>NVR Olayı Tetikleme</translation>
     </message>
     <message id="792">
         <source>Trigger Action</source>
@@ -3480,7 +3480,7 @@
         <translation>Tümünü Seç</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>Bulunan cihazları filtrele</translation>
     </message>
     <message id="954">
@@ -3501,23 +3501,23 @@
     </message>
     <message id="958">
         <source>Login refused</source>
-        <translation>Oturum Açma Reddedildi</translation>
+        <translation>Oturum açma reddedildi</translation>
     </message>
     <message id="959">
         <source>No answer</source>
-        <translation>Yanıt Yok</translation>
+        <translation>Yanıt yok</translation>
     </message>
     <message id="960">
         <source>Host name not found</source>
-        <translation>Ana Bilgisayar Adı Bulunamadı</translation>
+        <translation>Ana bilgisayar adı bulunamadı</translation>
     </message>
     <message id="961">
         <source>Connection refused</source>
-        <translation>Bağlantı Reddedildi</translation>
+        <translation>Bağlantı reddedildi</translation>
     </message>
     <message id="962">
         <source>Unexpected answer</source>
-        <translation>Beklenmeyen Yanıt</translation>
+        <translation>Beklenmeyen yanıt</translation>
     </message>
     <message id="963">
         <source>Stopped</source>
@@ -3548,7 +3548,7 @@
         <translation>Kanal %1 kamerasını kayıt cihazından kaldırmak istiyor musunuz?</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>Bulunan kameraları filtrele</translation>
     </message>
     <message id="972">

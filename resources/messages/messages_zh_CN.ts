@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>CGI ID 已用完！</translation>
+        <translation>CGI ID 已用完。</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>用户名或密码错误！</translation>
+        <translation>用户名或密码错误。</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>设备连接错误！</translation>
+        <translation>设备连接错误。</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>不支持该设备品牌！</translation>
+        <translation>不支持该设备品牌。</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>CGI 发送失败！</translation>
+        <translation>CGI 发送失败。</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>程序已在运行！</translation>
+        <translation>程序已在运行。</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>设置程序正在运行，请先将其关闭！</translation>
+        <translation>设置程序正在运行，请先将其关闭。</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,11 +61,11 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>数据库版本不正确！是否立即重置数据库？</translation>
+        <translation>数据库版本不正确。是否立即重置数据库？</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
-        <translation>系统将无法继续工作！</translation>
+        <translation>系统将无法继续工作。</translation>
     </message>
     <message id="16">
         <source>Update Database ...</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>设备检测超时！</translation>
+        <translation>设备检测超时。</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>SVR 的通道已被移除，请重新检测 SVR！</translation>
+        <translation>SVR 的通道已被移除，请重新检测 SVR。</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>请启用 SVR 的 UPnP 端口映射！</translation>
+        <translation>请启用 SVR 的 UPnP 端口映射。</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>用户名为空！</translation>
+        <translation>用户名为空。</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>密码为空！</translation>
+        <translation>密码为空。</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>用户账号或密码不正确！</translation>
+        <translation>用户账号或密码不正确。</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>摄像机事件服务器设置错误！</translation>
+        <translation>摄像机事件服务器设置错误。</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>抓图错误！</translation>
+        <translation>抓图错误。</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>已找到设备！</translation>
+        <translation>已找到设备。</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>用户名或密码错误！</translation>
+        <translation>用户名或密码错误。</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>不支持该品牌！</translation>
+        <translation>不支持该品牌。</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>不支持该摄像机！</translation>
+        <translation>不支持该摄像机。</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>设备连接错误！</translation>
+        <translation>设备连接错误。</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>设备检测超时！</translation>
+        <translation>设备检测超时。</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>无法连接服务器！</translation>
+        <translation>无法连接服务器。</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>服务尚未连接！</translation>
+        <translation>服务尚未连接。</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>该系列设备不允许重复添加！</translation>
+        <translation>该系列设备不允许重复添加。</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>通道轮巡不可用，使用此功能时请至少选择两个通道！</translation>
+        <translation>通道轮巡不可用，使用此功能时请至少选择两个通道。</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>NVR 轮巡不可用，使用此功能时请至少选择两台 NVR！</translation>
+        <translation>NVR 轮巡不可用，使用此功能时请至少选择两台 NVR。</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>视图轮巡不可用，使用此功能时请至少选择两个视图！</translation>
+        <translation>视图轮巡不可用，使用此功能时请至少选择两个视图。</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,15 +365,15 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>摄像机事件设置不能超过 32 个！</translation>
+        <translation>摄像机事件设置不能超过 32 个。</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>请先添加 NVR！</translation>
+        <translation>请先添加 NVR。</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>端口号不能为 0，也不能超过 65536！</translation>
+        <translation>端口号不能为 0，也不能超过 65536。</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -549,11 +549,11 @@
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
-        <translation>轮巡模式下不支持全屏模式，也无法更改分割模式！</translation>
+        <translation>轮巡模式下不支持全屏模式，也无法更改分割模式。</translation>
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>全屏正在运行，请先将其关闭！</translation>
+        <translation>全屏正在运行，请先将其关闭。</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -561,11 +561,11 @@
     </message>
     <message id="140">
         <source>Select a channel first.</source>
-        <translation>请先选择通道！</translation>
+        <translation>请先选择通道。</translation>
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>名称重复！</translation>
+        <translation>名称重复。</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>抓图失败！</translation>
+        <translation>抓图失败。</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR 无可用的回放资源！</translation>
+        <translation>NVR 无可用的回放资源。</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>回放请求失败！</translation>
+        <translation>回放请求失败。</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>接收录像数据失败</translation>
+        <translation>接收录像数据失败。</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,27 +877,27 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>没有可显示的录像数据！</translation>
+        <translation>没有可显示的录像数据。</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>播放已停止，请选择新的时间！</translation>
+        <translation>播放已停止，请选择新的时间。</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>无响应，请重试或选择其他设备！</translation>
+        <translation>无响应，请重试或选择其他设备。</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>连接已断开！ </translation>
+        <translation>连接已断开。 </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>无法获取视频流，请选择其他通道！</translation>
+        <translation>无法获取视频流，请选择其他通道。</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
-        <translation>没有录像数据！</translation>
+        <translation>没有录像数据。</translation>
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
@@ -913,15 +913,15 @@
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>AVI 文件转换完成！文件为… </translation>
+        <translation>AVI 文件转换完成。文件为… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>正在转换 AVI 文件！</translation>
+        <translation>正在转换 AVI 文件。</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>AVI 转换失败！</translation>
+        <translation>AVI 转换失败。</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>尚未设置任何 SVD，请先添加要控制的 SVD！</translation>
+        <translation>尚未设置任何 SVD，请先添加要控制的 SVD。</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>该通道已设置为在此屏幕显示！</translation>
+        <translation>该通道已设置为在此屏幕显示。</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>单击此处重新连接！</translation>
+        <translation>单击此处重新连接。</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>添加成功！</translation>
+        <translation>添加成功。</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>主监控程序已打开，请先将其关闭！</translation>
+        <translation>主监控程序已打开，请先将其关闭。</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1301,23 +1301,23 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>需要设置名称或通道列表！</translation>
+        <translation>需要设置名称或通道列表。</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
-        <translation>实时监控轮巡与全屏不能同时打开！</translation>
+        <translation>实时监控轮巡与全屏不能同时打开。</translation>
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>未选择任何通道！</translation>
+        <translation>未选择任何通道。</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>所选时间超出数据范围！</translation>
+        <translation>所选时间超出数据范围。</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR 无效！</translation>
+        <translation>NVR 无效。</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>NVR 正在连接，请稍候再启动！</translation>
+        <translation>NVR 正在连接，请稍候再启动。</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR 离线，请选择其他 NVR 或确认该 NVR 的连接状态！</translation>
+        <translation>NVR 离线，请选择其他 NVR 或确认该 NVR 的连接状态。</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>输出设备已移除！</translation>
+        <translation>输出设备已移除。</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>两次输入的密码不一致，请重新检查！</translation>
+        <translation>两次输入的密码不一致，请重新检查。</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>设置 HTTP 服务器失败！是否移除所有 HTTP 服务器？</translation>
+        <translation>设置 HTTP 服务器失败。是否移除所有 HTTP 服务器？</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>数量不能超过 16 个！</translation>
+        <translation>数量不能超过 16 个。</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,71 +1929,71 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>发件人名称不能为空！</translation>
+        <translation>发件人名称不能为空。</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>邮件服务器不能为空！</translation>
+        <translation>邮件服务器不能为空。</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>用户不能为空！</translation>
+        <translation>用户不能为空。</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>密码不能为空！</translation>
+        <translation>密码不能为空。</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>邮箱地址不能为空！</translation>
+        <translation>邮箱地址不能为空。</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>测试邮件发送成功！</translation>
+        <translation>测试邮件发送成功。</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>测试邮件发送失败！</translation>
+        <translation>测试邮件发送失败。</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>服务器 IP 不能为空！</translation>
+        <translation>服务器 IP 不能为空。</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>服务器端口不能为空！</translation>
+        <translation>服务器端口不能为空。</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>根路径不能为空！</translation>
+        <translation>根路径不能为空。</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
-        <translation>连接 FTP 服务器成功！</translation>
+        <translation>连接 FTP 服务器成功。</translation>
     </message>
     <message id="495">
         <source>Connecting to ftp server failed.</source>
-        <translation>连接 FTP 服务器失败！</translation>
+        <translation>连接 FTP 服务器失败。</translation>
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>消息不能为空！</translation>
+        <translation>消息不能为空。</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>声音描述不能为空！</translation>
+        <translation>声音描述不能为空。</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>声音文件路径不能为空！</translation>
+        <translation>声音文件路径不能为空。</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>请先选择预置点编号！</translation>
+        <translation>请先选择预置点编号。</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>该预置点名称已被使用！</translation>
+        <translation>该预置点名称已被使用。</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2001,27 +2001,27 @@
     </message>
     <message id="502">
         <source>Can't Delete User.</source>
-        <translation>无法删除用户！</translation>
+        <translation>无法删除用户。</translation>
     </message>
     <message id="503">
         <source>Already Set.</source>
-        <translation>已设置！</translation>
+        <translation>已设置。</translation>
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>智能侦测设置不能超过 16 个！</translation>
+        <translation>智能侦测设置不能超过 16 个。</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>添加 NVR 失败，请重新添加！</translation>
+        <translation>添加 NVR 失败，请重新添加。</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>文件大小不能超过 5MB！</translation>
+        <translation>文件大小不能超过 5MB。</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>保存成功！</translation>
+        <translation>保存成功。</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
-        <translation>不支持该分辨率！</translation>
+        <translation>不支持该分辨率。</translation>
     </message>
     <message id="511">
         <source>Do you want to Save?</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>该通道不支持移动侦测或未连接！</translation>
+        <translation>该通道不支持移动侦测或未连接。</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>无设置！</translation>
+        <translation>无设置。</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>尚未设置事件动作！</translation>
+        <translation>尚未设置事件动作。</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>无法连接视频！</translation>
+        <translation>无法连接视频。</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>消息发送成功！</translation>
+        <translation>消息发送成功。</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>消息发送失败！</translation>
+        <translation>消息发送失败。</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>所选时间没有任何录像数据！</translation>
+        <translation>所选时间没有任何录像数据。</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>该 NVR 无法获取回放所需的组 ID！</translation>
+        <translation>该 NVR 无法获取回放所需的组 ID。</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>所选 SVD 已断开连接，请关闭面板并确认 SVD 状态！</translation>
+        <translation>所选 SVD 已断开连接，请关闭面板并确认 SVD 状态。</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>NVR 名称不能为空！</translation>
+        <translation>NVR 名称不能为空。</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>IP 地址或主机名设置错误！</translation>
+        <translation>IP 地址或主机名设置错误。</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR 不存在！</translation>
+        <translation>NVR 不存在。</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>端口设置错误！</translation>
+        <translation>端口设置错误。</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>所选项目少于 2 个，无法保存！</translation>
+        <translation>所选项目少于 2 个，无法保存。</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>可选择的视图不足！</translation>
+        <translation>可选择的视图不足。</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>该屏幕已分配给电视墙！</translation>
+        <translation>该屏幕已分配给电视墙。</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>可选择的设备不足！</translation>
+        <translation>可选择的设备不足。</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2301,31 +2301,31 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>NVR IP 不能为空！</translation>
+        <translation>NVR IP 不能为空。</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
-        <translation>NVR HTTP 端口不能为空！</translation>
+        <translation>NVR HTTP 端口不能为空。</translation>
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>NVR 用户不能为空！</translation>
+        <translation>NVR 用户不能为空。</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
-        <translation>NVR 密码不能为空！</translation>
+        <translation>NVR 密码不能为空。</translation>
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>获取时区错误，请重新检测！</translation>
+        <translation>获取时区错误，请重新检测。</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
-        <translation>请选择品牌！</translation>
+        <translation>请选择品牌。</translation>
     </message>
     <message id="599">
         <source>IP Timeout.</source>
-        <translation>IP 连接超时！</translation>
+        <translation>IP 连接超时。</translation>
     </message>
     <message id="600">
         <source>Quality</source>
@@ -2341,39 +2341,39 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>通道名称不能为空！</translation>
+        <translation>通道名称不能为空。</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>IP 地址不能为空！</translation>
+        <translation>IP 地址不能为空。</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>HTTP 端口不能为空！</translation>
+        <translation>HTTP 端口不能为空。</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>用户账号不能为空！</translation>
+        <translation>用户账号不能为空。</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>密码不能为空！</translation>
+        <translation>密码不能为空。</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>检测错误！</translation>
+        <translation>检测错误。</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>无摄像机或连接失败！</translation>
+        <translation>无摄像机或连接失败。</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>不支持该 NVR 固件版本，请更新到较新版本！</translation>
+        <translation>不支持该 NVR 固件版本，请更新到较新版本。</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>按下此按钮后，NVR 内的数据将会更改！</translation>
+        <translation>按下此按钮后，NVR 内的数据将会更改。</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>不支持该品牌！</translation>
+        <translation>不支持该品牌。</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,15 +2389,15 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>视频格式错误！</translation>
+        <translation>视频格式错误。</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
-        <translation>摄像机设置已更改，请重新检测！</translation>
+        <translation>摄像机设置已更改，请重新检测。</translation>
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>添加摄像机失败！</translation>
+        <translation>添加摄像机失败。</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>不支持该设备！</translation>
+        <translation>不支持该设备。</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>该账号已设置！</translation>
+        <translation>该账号已设置。</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>文件大小不能超过 10MB！</translation>
+        <translation>文件大小不能超过 10MB。</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>未输入用户或密码！</translation>
+        <translation>未输入用户或密码。</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message id="674">
         <source>The account has reached the upper limit, for add new account you need to remove another account.</source>
-        <translation>账号数已达上限，如需添加新账号，请先移除其他账号！</translation>
+        <translation>账号数已达上限，如需添加新账号，请先移除其他账号。</translation>
     </message>
     <message id="675">
         <source>Object Loss</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message id="684">
         <source>Port number can't accept more then 32767.</source>
-        <translation>端口号不能超过 32767！</translation>
+        <translation>端口号不能超过 32767。</translation>
     </message>
     <message id="685">
         <source>Keep Ratio</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>全屏初始设置</translation>
+        <translation>启动时全屏</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -2613,7 +2613,7 @@
     </message>
     <message id="698">
         <source>Name can't be empty.</source>
-        <translation>名称不能为空！</translation>
+        <translation>名称不能为空。</translation>
     </message>
     <message id="699">
         <source>Object Counting</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message id="703">
         <source>Device settings have changes, please re-detect.</source>
-        <translation>设备设置已更改，请重新检测！</translation>
+        <translation>设备设置已更改，请重新检测。</translation>
     </message>
     <message id="704">
         <source>English and Digit Only</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>设备数量将超过上限！</translation>
+        <translation>设备数量将超过上限。</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>通道总数将超过上限！</translation>
+        <translation>通道总数将超过上限。</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,15 +2693,15 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>获取设备能力错误！</translation>
+        <translation>获取设备能力错误。</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
-        <translation>该设备没有任何通道！</translation>
+        <translation>该设备没有任何通道。</translation>
     </message>
     <message id="720">
         <source>Please add channels  or  re-select the other device.</source>
-        <translation>请添加通道或重新选择其他设备！</translation>
+        <translation>请添加通道或重新选择其他设备。</translation>
     </message>
     <message id="721">
         <source>This device does not has any channel,Do you want to remove the device?</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>设置失败！</translation>
+        <translation>设置失败。</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>无更改！</translation>
+        <translation>无更改。</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>必须选择导出路径！</translation>
+        <translation>必须选择导出路径。</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>开始时间必须早于结束时间！</translation>
+        <translation>开始时间必须早于结束时间。</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>没有事件！</translation>
+        <translation>没有事件。</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>没有系统日志！</translation>
+        <translation>没有系统日志。</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>CSV 导出完成！</translation>
+        <translation>CSV 导出完成。</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>MDB 导出完成！</translation>
+        <translation>MDB 导出完成。</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>可用屏幕数量不足，无法打开！</translation>
+        <translation>可用屏幕数量不足，无法打开。</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>电视墙未启用，无法打开！ </translation>
+        <translation>电视墙未启用，无法打开。 </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>屏幕数量不足，不支持此功能！</translation>
+        <translation>屏幕数量不足，不支持此功能。</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>设置已更改，请重新打开主监控程序！</translation>
+        <translation>设置已更改，请重新打开主监控程序。</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>事件抓图存储空间不足！</translation>
+        <translation>事件抓图存储空间不足。</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>可设置的屏幕不足！</translation>
+        <translation>可设置的屏幕不足。</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>邮箱地址无效！</translation>
+        <translation>邮箱地址无效。</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>值无效！</translation>
+        <translation>值无效。</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>不能重复添加！</translation>
+        <translation>不能重复添加。</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>无法再添加 SVD！</translation>
+        <translation>无法再添加 SVD。</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>导出完成！</translation>
+        <translation>导出完成。</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3133,11 +3133,11 @@
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
-        <translation>未选择任何 NVR！</translation>
+        <translation>未选择任何 NVR。</translation>
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>检测成功！</translation>
+        <translation>检测成功。</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3145,11 +3145,11 @@
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
-        <translation>触发动作已完成！</translation>
+        <translation>触发动作已完成。</translation>
     </message>
     <message id="836">
         <source>Event server has not set.</source>
-        <translation>尚未设置事件服务器！</translation>
+        <translation>尚未设置事件服务器。</translation>
     </message>
     <message id="837">
         <source>Privilege Setting</source>
@@ -3169,7 +3169,7 @@
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>未连接显示器！</translation>
+        <translation>未连接显示器。</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>事件抓图不起作用！</translation>
+        <translation>事件抓图不起作用。</translation>
     </message>
     <message id="850">
         <source>System</source>
@@ -3480,7 +3480,7 @@
         <translation>全选</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>筛选找到的设备</translation>
     </message>
     <message id="954">
@@ -3525,7 +3525,7 @@
     </message>
     <message id="965">
         <source>Notice</source>
-        <translation>注意</translation>
+        <translation>提示</translation>
     </message>
     <message id="966">
         <source>No camera</source>
@@ -3548,7 +3548,7 @@
         <translation>是否从录像机中移除通道 %1 的摄像机？</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>筛选找到的摄像机</translation>
     </message>
     <message id="972">
@@ -3585,7 +3585,7 @@
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
-        <translation>摄像机名称不能包含双引号（"）！</translation>
+        <translation>摄像机名称不能包含双引号（"）。</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -25,31 +25,31 @@
     </message>
     <message id="5">
         <source>CGI ID is full !</source>
-        <translation>CGI ID 已用盡！</translation>
+        <translation>CGI ID 已用盡。</translation>
     </message>
     <message id="6">
         <source>User Name or Password Error !</source>
-        <translation>使用者名稱或密碼錯誤！</translation>
+        <translation>使用者名稱或密碼錯誤。</translation>
     </message>
     <message id="7">
         <source>Device Connection Error !</source>
-        <translation>裝置連線錯誤！</translation>
+        <translation>裝置連線錯誤。</translation>
     </message>
     <message id="8">
         <source>Device brand not supported !</source>
-        <translation>不支援此裝置廠牌！</translation>
+        <translation>不支援此裝置廠牌。</translation>
     </message>
     <message id="9">
         <source>Sending CGI failed !</source>
-        <translation>CGI 傳送失敗！</translation>
+        <translation>CGI 傳送失敗。</translation>
     </message>
     <message id="10">
         <source>Program has been opened !</source>
-        <translation>程式已在執行中！</translation>
+        <translation>程式已在執行中。</translation>
     </message>
     <message id="11">
         <source>Application of Setup has been Opening . Please turn it off !</source>
-        <translation>設定程式正在執行，請先將其關閉！</translation>
+        <translation>設定程式正在執行，請先將其關閉。</translation>
     </message>
     <message id="12">
         <source>Database initialization ...</source>
@@ -61,11 +61,11 @@
     </message>
     <message id="14">
         <source>Incorrect database version ! Do you want to reset the databse now ?</source>
-        <translation>資料庫版本不正確！是否要立即重設資料庫？</translation>
+        <translation>資料庫版本不正確。是否要立即重設資料庫？</translation>
     </message>
     <message id="15">
         <source>System will not be able to continue to work .</source>
-        <translation>系統將無法繼續運作！</translation>
+        <translation>系統將無法繼續運作。</translation>
     </message>
     <message id="16">
         <source>Update Database ...</source>
@@ -133,15 +133,15 @@
     </message>
     <message id="33">
         <source>Device detect timeout !</source>
-        <translation>裝置偵測逾時！</translation>
+        <translation>裝置偵測逾時。</translation>
     </message>
     <message id="34">
         <source>The channel of SVR has been removed. Please re-detect the SVR!</source>
-        <translation>SVR 的頻道已移除，請重新偵測 SVR！</translation>
+        <translation>SVR 的頻道已移除，請重新偵測 SVR。</translation>
     </message>
     <message id="35">
         <source>Please enable SVR upnp port forwarding!</source>
-        <translation>請啟用 SVR 的 UPnP 連接埠轉送！</translation>
+        <translation>請啟用 SVR 的 UPnP 連接埠轉送。</translation>
     </message>
     <message id="36">
         <source>Video Wall Setting</source>
@@ -169,15 +169,15 @@
     </message>
     <message id="42">
         <source>User Field is Blank !</source>
-        <translation>使用者欄位為空白！</translation>
+        <translation>使用者欄位為空白。</translation>
     </message>
     <message id="43">
         <source>Password Field is Blank !</source>
-        <translation>密碼欄位為空白！</translation>
+        <translation>密碼欄位為空白。</translation>
     </message>
     <message id="44">
         <source>Incorrect User Account or Password !</source>
-        <translation>使用者帳號或密碼不正確！</translation>
+        <translation>使用者帳號或密碼不正確。</translation>
     </message>
     <message id="45">
         <source>Main Viewer</source>
@@ -241,11 +241,11 @@
     </message>
     <message id="60">
         <source>Camera Event Server Setting Error!</source>
-        <translation>攝影機事件伺服器設定錯誤！</translation>
+        <translation>攝影機事件伺服器設定錯誤。</translation>
     </message>
     <message id="61">
         <source>Snapshot Error!</source>
-        <translation>快照錯誤！</translation>
+        <translation>快照錯誤。</translation>
     </message>
     <message id="62">
         <source>Event Notification is still ongoing.</source>
@@ -265,7 +265,7 @@
     </message>
     <message id="66">
         <source>Devcie is Found!</source>
-        <translation>已找到裝置！</translation>
+        <translation>已找到裝置。</translation>
     </message>
     <message id="67">
         <source>Fix display mode</source>
@@ -285,35 +285,35 @@
     </message>
     <message id="71">
         <source>User Name or Password error !</source>
-        <translation>使用者名稱或密碼錯誤！</translation>
+        <translation>使用者名稱或密碼錯誤。</translation>
     </message>
     <message id="72">
         <source>Brand not supported!</source>
-        <translation>不支援此廠牌！</translation>
+        <translation>不支援此廠牌。</translation>
     </message>
     <message id="73">
         <source>Camera not supported!</source>
-        <translation>不支援此攝影機！</translation>
+        <translation>不支援此攝影機。</translation>
     </message>
     <message id="74">
         <source>Device connection error!</source>
-        <translation>裝置連線錯誤！</translation>
+        <translation>裝置連線錯誤。</translation>
     </message>
     <message id="75">
         <source>Device detection timeout!</source>
-        <translation>裝置偵測逾時！</translation>
+        <translation>裝置偵測逾時。</translation>
     </message>
     <message id="76">
         <source>Unable to connect to the server!</source>
-        <translation>無法連線至伺服器！</translation>
+        <translation>無法連線至伺服器。</translation>
     </message>
     <message id="77">
         <source>Service has not connect yet!</source>
-        <translation>服務尚未連線！</translation>
+        <translation>服務尚未連線。</translation>
     </message>
     <message id="78">
         <source>This series of device does not allow repeat add!</source>
-        <translation>此系列裝置不可重複新增！</translation>
+        <translation>此系列裝置不可重複新增。</translation>
     </message>
     <message id="79">
         <source>SEQ by Channel</source>
@@ -341,15 +341,15 @@
     </message>
     <message id="85">
         <source>Channel SEQ not available! Please select more than one channel when using this function.</source>
-        <translation>無法使用頻道輪播，使用此功能時請至少選擇兩個頻道！</translation>
+        <translation>無法使用頻道輪播，使用此功能時請至少選擇兩個頻道。</translation>
     </message>
     <message id="86">
         <source>NVR SEQ not available! Please select more than one NVR when using this function.</source>
-        <translation>無法使用 NVR 輪播，使用此功能時請至少選擇兩台 NVR！</translation>
+        <translation>無法使用 NVR 輪播，使用此功能時請至少選擇兩台 NVR。</translation>
     </message>
     <message id="87">
         <source>Pattern SEQ not available! Please select more than one patterns when using this function.</source>
-        <translation>無法使用畫面組合輪播，使用此功能時請至少選擇兩個畫面組合！</translation>
+        <translation>無法使用畫面組合輪播，使用此功能時請至少選擇兩個畫面組合。</translation>
     </message>
     <message id="88">
         <source>Do you want to enable SEQ by Channel?</source>
@@ -365,15 +365,15 @@
     </message>
     <message id="91">
         <source>Camera event setting can't exceed 32!</source>
-        <translation>攝影機事件設定不可超過 32 個！</translation>
+        <translation>攝影機事件設定不可超過 32 個。</translation>
     </message>
     <message id="92">
         <source>Please add a NVR first!</source>
-        <translation>請先新增 NVR！</translation>
+        <translation>請先新增 NVR。</translation>
     </message>
     <message id="93">
         <source>Port number can't accept 0 or more than 65536.</source>
-        <translation>連接埠號不可為 0，也不可超過 65536！</translation>
+        <translation>連接埠號不可為 0，也不可超過 65536。</translation>
     </message>
     <message id="94">
         <source>Drive</source>
@@ -549,11 +549,11 @@
     </message>
     <message id="137">
         <source>Unable to support full screen mode or to change split mode under SEQ mode.</source>
-        <translation>輪播模式下不支援全螢幕模式，也無法變更分割模式！</translation>
+        <translation>輪播模式下不支援全螢幕模式，也無法變更分割模式。</translation>
     </message>
     <message id="138">
         <source>Full screen is running. close it first!</source>
-        <translation>全螢幕執行中，請先將其關閉！</translation>
+        <translation>全螢幕執行中，請先將其關閉。</translation>
     </message>
     <message id="139">
         <source>Unauthorised</source>
@@ -561,11 +561,11 @@
     </message>
     <message id="140">
         <source>Select a channel first.</source>
-        <translation>請先選擇頻道！</translation>
+        <translation>請先選擇頻道。</translation>
     </message>
     <message id="141">
         <source>Name Repeat!</source>
-        <translation>名稱重複！</translation>
+        <translation>名稱重複。</translation>
     </message>
     <message id="142">
         <source>MENU</source>
@@ -621,7 +621,7 @@
     </message>
     <message id="155">
         <source>Snapshot fail !</source>
-        <translation>快照失敗！</translation>
+        <translation>快照失敗。</translation>
     </message>
     <message id="156">
         <source>Preset Patrol:</source>
@@ -777,11 +777,11 @@
     </message>
     <message id="194">
         <source>NVR no playback resource!</source>
-        <translation>NVR 無可用的回放資源！</translation>
+        <translation>NVR 無可用的回放資源。</translation>
     </message>
     <message id="195">
         <source>Playback request failed!</source>
-        <translation>回放要求失敗！</translation>
+        <translation>回放要求失敗。</translation>
     </message>
     <message id="196">
         <source>Reset Event List</source>
@@ -849,7 +849,7 @@
     </message>
     <message id="212">
         <source>Receiving recording data failed</source>
-        <translation>接收錄影資料失敗</translation>
+        <translation>接收錄影資料失敗。</translation>
     </message>
     <message id="213">
         <source>RF</source>
@@ -877,27 +877,27 @@
     </message>
     <message id="219">
         <source>No recording data can be Displayed !</source>
-        <translation>沒有可顯示的錄影資料！</translation>
+        <translation>沒有可顯示的錄影資料。</translation>
     </message>
     <message id="220">
         <source>Play Stop ! Need to select new time.</source>
-        <translation>播放已停止，請選擇新的時間！</translation>
+        <translation>播放已停止，請選擇新的時間。</translation>
     </message>
     <message id="221">
         <source>No response! you can try again or select another device !</source>
-        <translation>無回應，請重試或選擇其他裝置！</translation>
+        <translation>無回應，請重試或選擇其他裝置。</translation>
     </message>
     <message id="222">
         <source>Disconnection ! </source>
-        <translation>已斷線！ </translation>
+        <translation>已斷線。 </translation>
     </message>
     <message id="223">
         <source>Can not get video stream ! please select other Channel.</source>
-        <translation>無法取得影像串流，請選擇其他頻道！</translation>
+        <translation>無法取得影像串流，請選擇其他頻道。</translation>
     </message>
     <message id="224">
         <source>No recording data.</source>
-        <translation>沒有錄影資料！</translation>
+        <translation>沒有錄影資料。</translation>
     </message>
     <message id="225">
         <source>Recording data is updating, please wait .</source>
@@ -913,15 +913,15 @@
     </message>
     <message id="228">
         <source>AVI file conversion complete! File is... </source>
-        <translation>AVI 檔案轉換完成！檔案為… </translation>
+        <translation>AVI 檔案轉換完成。檔案為… </translation>
     </message>
     <message id="229">
         <source>Converting AVI file!</source>
-        <translation>正在轉換 AVI 檔案！</translation>
+        <translation>正在轉換 AVI 檔案。</translation>
     </message>
     <message id="230">
         <source>AVI Conversion Fail !</source>
-        <translation>AVI 轉換失敗！</translation>
+        <translation>AVI 轉換失敗。</translation>
     </message>
     <message id="231">
         <source>Auto Pan:</source>
@@ -941,11 +941,11 @@
     </message>
     <message id="235">
         <source>No any SVD has been set, you need to add any SVD to control!</source>
-        <translation>尚未設定任何 SVD，請先新增要控制的 SVD！</translation>
+        <translation>尚未設定任何 SVD，請先新增要控制的 SVD。</translation>
     </message>
     <message id="236">
         <source>This channel has been set to display in this screen!</source>
-        <translation>此頻道已設定於此螢幕顯示！</translation>
+        <translation>此頻道已設定於此螢幕顯示。</translation>
     </message>
     <message id="237">
         <source>Are you sure to exit SVD console monitor?</source>
@@ -953,7 +953,7 @@
     </message>
     <message id="238">
         <source>Click here to reconnect again!</source>
-        <translation>按一下這裡重新連線！</translation>
+        <translation>按一下這裡重新連線。</translation>
     </message>
     <message id="239">
         <source>SVD UI is changing…</source>
@@ -1189,7 +1189,7 @@
     </message>
     <message id="297">
         <source>Add Success!</source>
-        <translation>新增成功！</translation>
+        <translation>新增成功。</translation>
     </message>
     <message id="298">
         <source>Channel List</source>
@@ -1201,7 +1201,7 @@
     </message>
     <message id="300">
         <source>MainViewer opened. Close it First!</source>
-        <translation>主監看程式已開啟，請先將其關閉！</translation>
+        <translation>主監看程式已開啟，請先將其關閉。</translation>
     </message>
     <message id="301">
         <source>System &amp; Setting</source>
@@ -1301,23 +1301,23 @@
     </message>
     <message id="325">
         <source>Name or Channel list need to be set!</source>
-        <translation>必須設定名稱或頻道清單！</translation>
+        <translation>必須設定名稱或頻道清單。</translation>
     </message>
     <message id="326">
         <source>Live Monitor SEQ and full screen can not be opened at the same time.</source>
-        <translation>即時監看輪播與全螢幕無法同時開啟！</translation>
+        <translation>即時監看輪播與全螢幕無法同時開啟。</translation>
     </message>
     <message id="327">
         <source>No channel is selected!</source>
-        <translation>未選擇任何頻道！</translation>
+        <translation>未選擇任何頻道。</translation>
     </message>
     <message id="328">
         <source>Select time is out of data range!</source>
-        <translation>所選時間超出資料範圍！</translation>
+        <translation>所選時間超出資料範圍。</translation>
     </message>
     <message id="329">
         <source>NVR is invalid!</source>
-        <translation>NVR 無效！</translation>
+        <translation>NVR 無效。</translation>
     </message>
     <message id="330">
         <source>System Setting</source>
@@ -1417,19 +1417,19 @@
     </message>
     <message id="356">
         <source>NVR is connecting, wait a moment and start again!</source>
-        <translation>NVR 連線中，請稍候再啟動！</translation>
+        <translation>NVR 連線中，請稍候再啟動。</translation>
     </message>
     <message id="357">
         <source>NVR is offline, please choose another NVR or confirm this NVR connection status!</source>
-        <translation>NVR 離線，請選擇其他 NVR 或確認此 NVR 的連線狀態！</translation>
+        <translation>NVR 離線，請選擇其他 NVR 或確認此 NVR 的連線狀態。</translation>
     </message>
     <message id="358">
         <source>Output device has been removed!</source>
-        <translation>輸出裝置已移除！</translation>
+        <translation>輸出裝置已移除。</translation>
     </message>
     <message id="359">
         <source>Password confirm inconsistency, Please check again!</source>
-        <translation>兩次輸入的密碼不一致，請重新檢查！</translation>
+        <translation>兩次輸入的密碼不一致，請重新檢查。</translation>
     </message>
     <message id="360">
         <source>List:</source>
@@ -1917,11 +1917,11 @@
     </message>
     <message id="481">
         <source>Set HTTP Server failed! Do you want to remove all HTTP Servers?</source>
-        <translation>設定 HTTP 伺服器失敗！是否要移除所有 HTTP 伺服器？</translation>
+        <translation>設定 HTTP 伺服器失敗。是否要移除所有 HTTP 伺服器？</translation>
     </message>
     <message id="482">
         <source>The amount cannot be more than 16!</source>
-        <translation>數量不可超過 16 個！</translation>
+        <translation>數量不可超過 16 個。</translation>
     </message>
     <message id="483">
         <source>Do you want to delete the selected NVR?</source>
@@ -1929,71 +1929,71 @@
     </message>
     <message id="484">
         <source>Sender name can't be empty!</source>
-        <translation>寄件者名稱不可為空白！</translation>
+        <translation>寄件者名稱不可為空白。</translation>
     </message>
     <message id="485">
         <source>Mail Server can't be empty!</source>
-        <translation>郵件伺服器不可為空白！</translation>
+        <translation>郵件伺服器不可為空白。</translation>
     </message>
     <message id="486">
         <source>User can't be empty!</source>
-        <translation>使用者不可為空白！</translation>
+        <translation>使用者不可為空白。</translation>
     </message>
     <message id="487">
         <source>Password can't be empty!</source>
-        <translation>密碼不可為空白！</translation>
+        <translation>密碼不可為空白。</translation>
     </message>
     <message id="488">
         <source>Mail Address can't be empty!</source>
-        <translation>電子郵件地址不可為空白！</translation>
+        <translation>電子郵件地址不可為空白。</translation>
     </message>
     <message id="489">
         <source>Test mail sent success.</source>
-        <translation>測試郵件傳送成功！</translation>
+        <translation>測試郵件傳送成功。</translation>
     </message>
     <message id="490">
         <source>Test mail sent failed.</source>
-        <translation>測試郵件傳送失敗！</translation>
+        <translation>測試郵件傳送失敗。</translation>
     </message>
     <message id="491">
         <source>Server IP can't be empty!</source>
-        <translation>伺服器 IP 不可為空白！</translation>
+        <translation>伺服器 IP 不可為空白。</translation>
     </message>
     <message id="492">
         <source>Server Port can't be empty!</source>
-        <translation>伺服器連接埠不可為空白！</translation>
+        <translation>伺服器連接埠不可為空白。</translation>
     </message>
     <message id="493">
         <source>Root Path can't be empty!</source>
-        <translation>根目錄路徑不可為空白！</translation>
+        <translation>根目錄路徑不可為空白。</translation>
     </message>
     <message id="494">
         <source>Connecting to ftp server success.</source>
-        <translation>連線至 FTP 伺服器成功！</translation>
+        <translation>連線至 FTP 伺服器成功。</translation>
     </message>
     <message id="495">
         <source>Connecting to ftp server failed.</source>
-        <translation>連線至 FTP 伺服器失敗！</translation>
+        <translation>連線至 FTP 伺服器失敗。</translation>
     </message>
     <message id="496">
         <source>Message can't be empty!</source>
-        <translation>訊息不可為空白！</translation>
+        <translation>訊息不可為空白。</translation>
     </message>
     <message id="497">
         <source>Sound Description can't be empty!</source>
-        <translation>音效說明不可為空白！</translation>
+        <translation>音效說明不可為空白。</translation>
     </message>
     <message id="498">
         <source>Sound file Path can't be empty!</source>
-        <translation>音效檔路徑不可為空白！</translation>
+        <translation>音效檔路徑不可為空白。</translation>
     </message>
     <message id="499">
         <source>Preset number select first.</source>
-        <translation>請先選擇預設點編號！</translation>
+        <translation>請先選擇預設點編號。</translation>
     </message>
     <message id="500">
         <source>The Preset Name has been used.</source>
-        <translation>此預設點名稱已被使用！</translation>
+        <translation>此預設點名稱已被使用。</translation>
     </message>
     <message id="501">
         <source>Do you want to delete the selected User?</source>
@@ -2001,27 +2001,27 @@
     </message>
     <message id="502">
         <source>Can't Delete User.</source>
-        <translation>無法刪除使用者！</translation>
+        <translation>無法刪除使用者。</translation>
     </message>
     <message id="503">
         <source>Already Set.</source>
-        <translation>已設定！</translation>
+        <translation>已設定。</translation>
     </message>
     <message id="504">
         <source>Intelligent setting can't exceed 16</source>
-        <translation>智慧偵測設定不可超過 16 個！</translation>
+        <translation>智慧偵測設定不可超過 16 個。</translation>
     </message>
     <message id="505">
         <source>Add NVR failed! Please add again.</source>
-        <translation>新增 NVR 失敗，請重新新增！</translation>
+        <translation>新增 NVR 失敗，請重新新增。</translation>
     </message>
     <message id="506">
         <source>File Size can't more than 5MB</source>
-        <translation>檔案大小不可超過 5MB！</translation>
+        <translation>檔案大小不可超過 5MB。</translation>
     </message>
     <message id="507">
         <source>Save OK</source>
-        <translation>儲存成功！</translation>
+        <translation>儲存成功。</translation>
     </message>
     <message id="508">
         <source>Exit and Open MainViewer?</source>
@@ -2033,7 +2033,7 @@
     </message>
     <message id="510">
         <source>Resolution Not Support .</source>
-        <translation>不支援此解析度！</translation>
+        <translation>不支援此解析度。</translation>
     </message>
     <message id="511">
         <source>Do you want to Save?</source>
@@ -2041,11 +2041,11 @@
     </message>
     <message id="512">
         <source>The Channel does not support motion detection or is no connection !</source>
-        <translation>此頻道不支援位移偵測或未連線！</translation>
+        <translation>此頻道不支援位移偵測或未連線。</translation>
     </message>
     <message id="513">
         <source>No setting !</source>
-        <translation>無設定！</translation>
+        <translation>無設定。</translation>
     </message>
     <message id="514">
         <source>Settings have changed , Do you want to save ?</source>
@@ -2053,11 +2053,11 @@
     </message>
     <message id="515">
         <source>Not yet set of Event Action config!</source>
-        <translation>尚未設定事件動作！</translation>
+        <translation>尚未設定事件動作。</translation>
     </message>
     <message id="516">
         <source>Video can't connection.</source>
-        <translation>無法連線至影像！</translation>
+        <translation>無法連線至影像。</translation>
     </message>
     <message id="517">
         <source>Submit</source>
@@ -2097,11 +2097,11 @@
     </message>
     <message id="526">
         <source>Message sent successfully!</source>
-        <translation>訊息傳送成功！</translation>
+        <translation>訊息傳送成功。</translation>
     </message>
     <message id="527">
         <source>Sending Message fail!</source>
-        <translation>訊息傳送失敗！</translation>
+        <translation>訊息傳送失敗。</translation>
     </message>
     <message id="528">
         <source>MAX Video</source>
@@ -2125,7 +2125,7 @@
     </message>
     <message id="533">
         <source>The selected time doesn't have any recording data!</source>
-        <translation>所選時間沒有任何錄影資料！</translation>
+        <translation>所選時間沒有任何錄影資料。</translation>
     </message>
     <message id="534">
         <source>Select channel you want to change and reset the relational data information?</source>
@@ -2133,11 +2133,11 @@
     </message>
     <message id="535">
         <source>This NVR cannot get group ID to playback!</source>
-        <translation>此 NVR 無法取得回放所需的群組 ID！</translation>
+        <translation>此 NVR 無法取得回放所需的群組 ID。</translation>
     </message>
     <message id="536">
         <source>Select the SVD has been disconnected, so close the panel and make sure that SVD status!</source>
-        <translation>所選的 SVD 已斷線，請關閉面板並確認 SVD 狀態！</translation>
+        <translation>所選的 SVD 已斷線，請關閉面板並確認 SVD 狀態。</translation>
     </message>
     <message id="550">
         <source>IP Address</source>
@@ -2153,19 +2153,19 @@
     </message>
     <message id="553">
         <source>NVR Name can't be empty!</source>
-        <translation>NVR 名稱不可為空白！</translation>
+        <translation>NVR 名稱不可為空白。</translation>
     </message>
     <message id="554">
         <source>IP address or hostname set incorrectly!</source>
-        <translation>IP 位址或主機名稱設定錯誤！</translation>
+        <translation>IP 位址或主機名稱設定錯誤。</translation>
     </message>
     <message id="555">
         <source>NVR don't exist!</source>
-        <translation>NVR 不存在！</translation>
+        <translation>NVR 不存在。</translation>
     </message>
     <message id="556">
         <source>Port set incorrectly!</source>
-        <translation>連接埠設定錯誤！</translation>
+        <translation>連接埠設定錯誤。</translation>
     </message>
     <message id="557">
         <source>Add</source>
@@ -2189,7 +2189,7 @@
     </message>
     <message id="562">
         <source>Select item is less than 2 items, it can not be saved!</source>
-        <translation>所選項目少於 2 個，無法儲存！</translation>
+        <translation>所選項目少於 2 個，無法儲存。</translation>
     </message>
     <message id="563">
         <source>Functions that were originally assigned on this screen will be moved to screen #1 automatically.</source>
@@ -2197,15 +2197,15 @@
     </message>
     <message id="564">
         <source>Has not enough pattern can be selected!</source>
-        <translation>可選擇的畫面組合不足！</translation>
+        <translation>可選擇的畫面組合不足。</translation>
     </message>
     <message id="565">
         <source>This screen has been assigned to Video Wall!</source>
-        <translation>此螢幕已指派給電視牆！</translation>
+        <translation>此螢幕已指派給電視牆。</translation>
     </message>
     <message id="566">
         <source>Has not enough device can be selected!</source>
-        <translation>可選擇的裝置不足！</translation>
+        <translation>可選擇的裝置不足。</translation>
     </message>
     <message id="570">
         <source>Information</source>
@@ -2301,31 +2301,31 @@
     </message>
     <message id="593">
         <source>NVR IP can't be empty.</source>
-        <translation>NVR IP 不可為空白！</translation>
+        <translation>NVR IP 不可為空白。</translation>
     </message>
     <message id="594">
         <source>NVR Http Port can't be empty.</source>
-        <translation>NVR HTTP 連接埠不可為空白！</translation>
+        <translation>NVR HTTP 連接埠不可為空白。</translation>
     </message>
     <message id="595">
         <source>NVR User can't be empty.</source>
-        <translation>NVR 使用者不可為空白！</translation>
+        <translation>NVR 使用者不可為空白。</translation>
     </message>
     <message id="596">
         <source>NVR Password can't be empty.</source>
-        <translation>NVR 密碼不可為空白！</translation>
+        <translation>NVR 密碼不可為空白。</translation>
     </message>
     <message id="597">
         <source>Request Time Zone ERR! Please Detect again.</source>
-        <translation>取得時區錯誤，請重新偵測！</translation>
+        <translation>取得時區錯誤，請重新偵測。</translation>
     </message>
     <message id="598">
         <source>Please Select Brand.</source>
-        <translation>請選擇廠牌！</translation>
+        <translation>請選擇廠牌。</translation>
     </message>
     <message id="599">
         <source>IP Timeout.</source>
-        <translation>IP 連線逾時！</translation>
+        <translation>IP 連線逾時。</translation>
     </message>
     <message id="600">
         <source>Quality</source>
@@ -2341,39 +2341,39 @@
     </message>
     <message id="603">
         <source>CH name can't be empty!</source>
-        <translation>頻道名稱不可為空白！</translation>
+        <translation>頻道名稱不可為空白。</translation>
     </message>
     <message id="604">
         <source>IP address can't be empty!</source>
-        <translation>IP 位址不可為空白！</translation>
+        <translation>IP 位址不可為空白。</translation>
     </message>
     <message id="605">
         <source>Http Port can't be empty!</source>
-        <translation>HTTP 連接埠不可為空白！</translation>
+        <translation>HTTP 連接埠不可為空白。</translation>
     </message>
     <message id="606">
         <source>User account can't be empty!</source>
-        <translation>使用者帳號不可為空白！</translation>
+        <translation>使用者帳號不可為空白。</translation>
     </message>
     <message id="607">
         <source>Password can't be empty!</source>
-        <translation>密碼不可為空白！</translation>
+        <translation>密碼不可為空白。</translation>
     </message>
     <message id="608">
         <source>Detection Error!</source>
-        <translation>偵測錯誤！</translation>
+        <translation>偵測錯誤。</translation>
     </message>
     <message id="609">
         <source>No Camera or connect failed !</source>
-        <translation>無攝影機或連線失敗！</translation>
+        <translation>無攝影機或連線失敗。</translation>
     </message>
     <message id="610">
         <source>This firmware version of NVR is not supported , please update newer Version.</source>
-        <translation>不支援此 NVR 韌體版本，請更新至較新版本！</translation>
+        <translation>不支援此 NVR 韌體版本，請更新至較新版本。</translation>
     </message>
     <message id="611">
         <source>If you press the button, data inside NVR will be changed!</source>
-        <translation>按下此按鈕後，NVR 內的資料將會變更！</translation>
+        <translation>按下此按鈕後，NVR 內的資料將會變更。</translation>
     </message>
     <message id="612">
         <source>Camera Search</source>
@@ -2381,7 +2381,7 @@
     </message>
     <message id="613">
         <source>Brand not Support!</source>
-        <translation>不支援此廠牌！</translation>
+        <translation>不支援此廠牌。</translation>
     </message>
     <message id="614">
         <source>FPS</source>
@@ -2389,15 +2389,15 @@
     </message>
     <message id="615">
         <source>Video Format Error!</source>
-        <translation>影像格式錯誤！</translation>
+        <translation>影像格式錯誤。</translation>
     </message>
     <message id="616">
         <source>Camera settings have changes, please re-detect.</source>
-        <translation>攝影機設定已變更，請重新偵測！</translation>
+        <translation>攝影機設定已變更，請重新偵測。</translation>
     </message>
     <message id="617">
         <source>Add Camera Fail!</source>
-        <translation>新增攝影機失敗！</translation>
+        <translation>新增攝影機失敗。</translation>
     </message>
     <message id="618">
         <source>DIS Setting</source>
@@ -2405,11 +2405,11 @@
     </message>
     <message id="619">
         <source>Device not supported!</source>
-        <translation>不支援此裝置！</translation>
+        <translation>不支援此裝置。</translation>
     </message>
     <message id="620">
         <source>This account is already set!</source>
-        <translation>此帳號已設定！</translation>
+        <translation>此帳號已設定。</translation>
     </message>
     <message id="621">
         <source>Do you want to continue edit preset point?</source>
@@ -2445,7 +2445,7 @@
     </message>
     <message id="640">
         <source>File Size can't more than 10MB</source>
-        <translation>檔案大小不可超過 10MB！</translation>
+        <translation>檔案大小不可超過 10MB。</translation>
     </message>
     <message id="641">
         <source>EMap Setting</source>
@@ -2501,7 +2501,7 @@
     </message>
     <message id="661">
         <source>User or Password is not input!</source>
-        <translation>未輸入使用者或密碼！</translation>
+        <translation>未輸入使用者或密碼。</translation>
     </message>
     <message id="671">
         <source>DIS Service Setting</source>
@@ -2517,7 +2517,7 @@
     </message>
     <message id="674">
         <source>The account has reached the upper limit, for add new account you need to remove another account.</source>
-        <translation>帳號數已達上限，若要新增帳號，請先移除其他帳號！</translation>
+        <translation>帳號數已達上限，若要新增帳號，請先移除其他帳號。</translation>
     </message>
     <message id="675">
         <source>Object Loss</source>
@@ -2557,7 +2557,7 @@
     </message>
     <message id="684">
         <source>Port number can't accept more then 32767.</source>
-        <translation>連接埠號不可超過 32767！</translation>
+        <translation>連接埠號不可超過 32767。</translation>
     </message>
     <message id="685">
         <source>Keep Ratio</source>
@@ -2589,7 +2589,7 @@
     </message>
     <message id="692">
         <source>FullScreen Initial</source>
-        <translation>全螢幕初始設定</translation>
+        <translation>啟動時全螢幕</translation>
     </message>
     <message id="693">
         <source>Startup Screen Layout</source>
@@ -2613,7 +2613,7 @@
     </message>
     <message id="698">
         <source>Name can't be empty.</source>
-        <translation>名稱不可為空白！</translation>
+        <translation>名稱不可為空白。</translation>
     </message>
     <message id="699">
         <source>Object Counting</source>
@@ -2633,7 +2633,7 @@
     </message>
     <message id="703">
         <source>Device settings have changes, please re-detect.</source>
-        <translation>裝置設定已變更，請重新偵測！</translation>
+        <translation>裝置設定已變更，請重新偵測。</translation>
     </message>
     <message id="704">
         <source>English and Digit Only</source>
@@ -2681,11 +2681,11 @@
     </message>
     <message id="715">
         <source>The amount of device will be over default value!</source>
-        <translation>裝置數量將超過上限！</translation>
+        <translation>裝置數量將超過上限。</translation>
     </message>
     <message id="716">
         <source>The amount of total channels will be over default value!</source>
-        <translation>頻道總數將超過上限！</translation>
+        <translation>頻道總數將超過上限。</translation>
     </message>
     <message id="717">
         <source>Channel selection</source>
@@ -2693,15 +2693,15 @@
     </message>
     <message id="718">
         <source>Get device capability error!</source>
-        <translation>取得裝置功能錯誤！</translation>
+        <translation>取得裝置功能錯誤。</translation>
     </message>
     <message id="719">
         <source>This device does not has any channel.</source>
-        <translation>此裝置沒有任何頻道！</translation>
+        <translation>此裝置沒有任何頻道。</translation>
     </message>
     <message id="720">
         <source>Please add channels  or  re-select the other device.</source>
-        <translation>請新增頻道或重新選擇其他裝置！</translation>
+        <translation>請新增頻道或重新選擇其他裝置。</translation>
     </message>
     <message id="721">
         <source>This device does not has any channel,Do you want to remove the device?</source>
@@ -2709,7 +2709,7 @@
     </message>
     <message id="722">
         <source>Setting fail!</source>
-        <translation>設定失敗！</translation>
+        <translation>設定失敗。</translation>
     </message>
     <message id="723">
         <source>Do you want to stop SEQ mode?</source>
@@ -2721,7 +2721,7 @@
     </message>
     <message id="726">
         <source>No change!</source>
-        <translation>沒有變更！</translation>
+        <translation>沒有變更。</translation>
     </message>
     <message id="727">
         <source>Face Counting</source>
@@ -2781,27 +2781,27 @@
     </message>
     <message id="741">
         <source>You must select a path to export!</source>
-        <translation>必須選擇匯出路徑！</translation>
+        <translation>必須選擇匯出路徑。</translation>
     </message>
     <message id="742">
         <source>Start Time must less than End time!</source>
-        <translation>開始時間必須早於結束時間！</translation>
+        <translation>開始時間必須早於結束時間。</translation>
     </message>
     <message id="743">
         <source>No Event!</source>
-        <translation>沒有事件！</translation>
+        <translation>沒有事件。</translation>
     </message>
     <message id="744">
         <source>No System Log!</source>
-        <translation>沒有系統日誌！</translation>
+        <translation>沒有系統日誌。</translation>
     </message>
     <message id="745">
         <source>CSV Export finish!</source>
-        <translation>CSV 匯出完成！</translation>
+        <translation>CSV 匯出完成。</translation>
     </message>
     <message id="746">
         <source>MDB Export finish!</source>
-        <translation>MDB 匯出完成！</translation>
+        <translation>MDB 匯出完成。</translation>
     </message>
     <message id="747">
         <source>Custom</source>
@@ -2889,19 +2889,19 @@
     </message>
     <message id="768">
         <source>It could not be opened, the insufficient number of available screens!</source>
-        <translation>可用螢幕數量不足，無法開啟！</translation>
+        <translation>可用螢幕數量不足，無法開啟。</translation>
     </message>
     <message id="769">
         <source>It could not be opened, The Video Wall is not enabled! </source>
-        <translation>電視牆未啟用，無法開啟！ </translation>
+        <translation>電視牆未啟用，無法開啟。 </translation>
     </message>
     <message id="770">
         <source>The quantity of screen is not enough! Not support!</source>
-        <translation>螢幕數量不足，不支援此功能！</translation>
+        <translation>螢幕數量不足，不支援此功能。</translation>
     </message>
     <message id="772">
         <source>Settings have changed , Please re-open MainViewer!</source>
-        <translation>設定已變更，請重新開啟主監看程式！</translation>
+        <translation>設定已變更，請重新開啟主監看程式。</translation>
     </message>
     <message id="773">
         <source>Preview</source>
@@ -2921,7 +2921,7 @@
     </message>
     <message id="777">
         <source>Event snapshot storage space is not enough!</source>
-        <translation>事件快照儲存空間不足！</translation>
+        <translation>事件快照儲存空間不足。</translation>
     </message>
     <message id="779">
         <source>Intelligent Mode</source>
@@ -2993,7 +2993,7 @@
     </message>
     <message id="796">
         <source>No Enough screen can be set!</source>
-        <translation>可設定的螢幕不足！</translation>
+        <translation>可設定的螢幕不足。</translation>
     </message>
     <message id="797">
         <source>SVD Management</source>
@@ -3093,19 +3093,19 @@
     </message>
     <message id="821">
         <source>Invalid E-mail Address!</source>
-        <translation>電子郵件地址無效！</translation>
+        <translation>電子郵件地址無效。</translation>
     </message>
     <message id="822">
         <source>Invalid Value!</source>
-        <translation>數值無效！</translation>
+        <translation>數值無效。</translation>
     </message>
     <message id="823">
         <source>Can't add repeatedly!</source>
-        <translation>不可重複新增！</translation>
+        <translation>不可重複新增。</translation>
     </message>
     <message id="824">
         <source>Can't add SVD anymore!</source>
-        <translation>無法再新增 SVD！</translation>
+        <translation>無法再新增 SVD。</translation>
     </message>
     <message id="826">
         <source>Do you want to remove this SVD?</source>
@@ -3117,7 +3117,7 @@
     </message>
     <message id="828">
         <source>Export finish!</source>
-        <translation>匯出完成！</translation>
+        <translation>匯出完成。</translation>
     </message>
     <message id="829">
         <source>Brand:</source>
@@ -3133,11 +3133,11 @@
     </message>
     <message id="832">
         <source>No any NVR has been selected.</source>
-        <translation>未選擇任何 NVR！</translation>
+        <translation>未選擇任何 NVR。</translation>
     </message>
     <message id="833">
         <source>Detect successful!</source>
-        <translation>偵測成功！</translation>
+        <translation>偵測成功。</translation>
     </message>
     <message id="834">
         <source>Failed configuring camera detection on channel:</source>
@@ -3145,11 +3145,11 @@
     </message>
     <message id="835">
         <source>Trigger action has done.</source>
-        <translation>觸發動作已完成！</translation>
+        <translation>觸發動作已完成。</translation>
     </message>
     <message id="836">
         <source>Event server has not set.</source>
-        <translation>尚未設定事件伺服器！</translation>
+        <translation>尚未設定事件伺服器。</translation>
     </message>
     <message id="837">
         <source>Privilege Setting</source>
@@ -3169,7 +3169,7 @@
     </message>
     <message id="841">
         <source>No Monitor connect!</source>
-        <translation>未連接顯示器！</translation>
+        <translation>未連接顯示器。</translation>
     </message>
     <message id="842">
         <source>Do you want to remove this intelligent setting?</source>
@@ -3177,7 +3177,7 @@
     </message>
     <message id="843">
         <source>Event snapshot doesn't work!</source>
-        <translation>事件快照無法運作！</translation>
+        <translation>事件快照無法運作。</translation>
     </message>
     <message id="850">
         <source>System</source>
@@ -3480,7 +3480,7 @@
         <translation>全選</translation>
     </message>
     <message id="953">
-        <source>Filter found devices</source>
+        <source>Filter the devices found</source>
         <translation>篩選找到的裝置</translation>
     </message>
     <message id="954">
@@ -3525,7 +3525,7 @@
     </message>
     <message id="965">
         <source>Notice</source>
-        <translation>注意</translation>
+        <translation>提示</translation>
     </message>
     <message id="966">
         <source>No camera</source>
@@ -3548,7 +3548,7 @@
         <translation>是否從錄影主機中移除頻道 %1 的攝影機？</translation>
     </message>
     <message id="971">
-        <source>Filter found cameras</source>
+        <source>Filter the cameras found</source>
         <translation>篩選找到的攝影機</translation>
     </message>
     <message id="972">
@@ -3585,7 +3585,7 @@
     </message>
     <message id="980">
         <source>The camera name must not contain a double quote (").</source>
-        <translation>攝影機名稱不可包含雙引號（"）！</translation>
+        <translation>攝影機名稱不可包含雙引號（"）。</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -85,6 +85,7 @@ TEST(Banks, HoldTheSameNumbersAndKeepWhatCodeJoins)
                 << where;
             for (const auto* mark : {u"%1", u"%2"})
                 EXPECT_EQ(text.count(QStringView(mark)), original.count(QStringView(mark))) << where;
+            EXPECT_FALSE(bank != english && (text.contains(u'!') || text.contains(u'！'))) << where << ", not shouted";
             if (original.endsWith(u'!') || original.endsWith(u'?')) {
                 EXPECT_TRUE(text.trimmed().back().isPunct()) << where;
             }
