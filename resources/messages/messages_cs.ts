@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Exportovat</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Uložené heslo se nezobrazuje. Psaním je nahradíte.</translation>
+    </message>
 </context>
 </TS>

@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Eksporter</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>En gemt adgangskode vises ikke. Indtastning erstatter den.</translation>
+    </message>
 </context>
 </TS>

@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Ein gespeichertes Passwort wird nicht angezeigt. Eine Eingabe ersetzt es.</translation>
+    </message>
 </context>
 </TS>

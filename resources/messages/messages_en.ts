@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Export</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>A stored password is not shown. Typing replaces it.</translation>
+    </message>
 </context>
 </TS>

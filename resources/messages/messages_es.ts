@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Exportar</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Una contraseña guardada no se muestra. Al escribir se sustituye.</translation>
+    </message>
 </context>
 </TS>

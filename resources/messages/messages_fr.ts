@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Exporter</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Un mot de passe enregistré n’est pas affiché. La saisie le remplace.</translation>
+    </message>
 </context>
 </TS>

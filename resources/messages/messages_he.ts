@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>ייצוא</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>סיסמה שמורה אינה מוצגת. הקלדה מחליפה אותה.</translation>
+    </message>
 </context>
 </TS>

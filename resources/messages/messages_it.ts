@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Esporta</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Una password salvata non viene mostrata. Digitando la si sostituisce.</translation>
+    </message>
 </context>
 </TS>

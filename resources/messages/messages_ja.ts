@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>エクスポート</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>保存済みのパスワードは表示されません。入力すると置き換わります。</translation>
+    </message>
 </context>
 </TS>

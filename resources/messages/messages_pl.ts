@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Eksportuj</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Zapisane hasło nie jest pokazywane. Wpisanie tekstu je zastąpi.</translation>
+    </message>
 </context>
 </TS>

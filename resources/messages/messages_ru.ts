@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Экспортировать</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Сохранённый пароль не показывается. Ввод заменит его.</translation>
+    </message>
 </context>
 </TS>

@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>Dışa Aktar</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>Kayıtlı parola gösterilmez. Yazmaya başlayınca değiştirilir.</translation>
+    </message>
 </context>
 </TS>

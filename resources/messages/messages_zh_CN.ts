@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>导出</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>已保存的密码不会显示，输入即可替换。</translation>
+    </message>
 </context>
 </TS>

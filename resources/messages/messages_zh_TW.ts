@@ -3591,5 +3591,9 @@
         <source>Export</source>
         <translation>匯出</translation>
     </message>
+    <message id="1080">
+        <source>A stored password is not shown. Typing replaces it.</source>
+        <translation>已儲存的密碼不會顯示，輸入即可取代。</translation>
+    </message>
 </context>
 </TS>

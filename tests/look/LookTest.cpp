@@ -8,10 +8,12 @@
 #include "look/widgets/Fields.h"
 #include "look/widgets/NavRail.h"
 #include "look/widgets/PageHeader.h"
+#include "look/widgets/PasswordField.h"
 #include "look/widgets/StatusLabel.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QPainter>
@@ -314,20 +316,47 @@ TEST(LookNavRail, DotHasWords)
     EXPECT_TRUE(entry->grab().toImage() == clean);
 }
 
-TEST(LookFields, EyeShowsAndHidesThePassword)
+// However a stored password is edited, the eye never shows a letter of it.
+TEST(LookFields, TheEyeShowsTypedPasswordsOnly)
 {
-    QLineEdit field(u"secret"_s);
-    AddEye(&field, u"Show"_s, u"Hide"_s);
-    field.resize(200, 32);
-    auto* eye = field.findChild<QToolButton*>();
-    ASSERT_TRUE(eye);
-    EXPECT_EQ(field.echoMode(), QLineEdit::Password);
-    EXPECT_EQ(eye->accessibleName(), u"Show"_s);
-    QTest::keyClick(eye, Qt::Key_Space);
-    EXPECT_EQ(field.echoMode(), QLineEdit::Normal);
-    EXPECT_EQ(eye->accessibleName(), u"Hide"_s);
-    eye->click();
-    EXPECT_EQ(field.echoMode(), QLineEdit::Password);
+    QGuiApplication::clipboard()->setText(u"new"_s);
+    const struct
+    {
+        const char* what;
+        QList<QKeyCombination> keys;
+        QString expected;
+    } cases[]{{"typed at the end", {Qt::Key_End, Qt::Key_X}, u"x"_s},
+              {"typed into a part chosen", {Qt::Key_Home, Qt::SHIFT | Qt::Key_Right, Qt::Key_X}, u"x"_s},
+              {"one letter removed", {Qt::Key_Backspace}, {}},
+              {"pasted", {Qt::Key_Home, Qt::CTRL | Qt::Key_V}, u"new"_s},
+              {"undone", {Qt::Key_X, Qt::CTRL | Qt::Key_Z}, {}}};
+    for (const auto& test : cases) {
+        SCOPED_TRACE(test.what);
+        PasswordField field;
+        field.setEyeTexts(u"Show"_s, u"Hide"_s, u"Stored"_s);
+        field.show();
+        field.setFocus();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&field));
+        auto* eye = field.findChild<QToolButton*>();
+        field.setText(u"secret"_s);
+        QTest::mouseClick(&field, Qt::LeftButton, {}, QPoint(20, field.height() / 2));
+        eye->click();
+        field.setRevealed(true);
+        EXPECT_EQ(field.echoMode(), QLineEdit::Password);
+        EXPECT_EQ(eye->toolTip(), u"Stored"_s);
+        EXPECT_EQ(field.text(), u"secret"_s);
+        for (const QKeyCombination& key : test.keys)
+            QTest::keyClick(&field, key.key(), key.keyboardModifiers());
+        EXPECT_EQ(field.text(), test.expected);
+        QTest::keyClick(eye, Qt::Key_Space);
+        EXPECT_EQ(field.echoMode(), QLineEdit::Normal);
+        EXPECT_EQ(eye->accessibleName(), u"Hide"_s);
+        for (int i = 0; i < 4; ++i)
+            QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_FALSE(field.text().contains(u's')) << field.text().toStdString();
+        field.setText(u"other"_s);
+        EXPECT_EQ(field.echoMode(), QLineEdit::Password) << "another stored one";
+    }
 }
 
 // One pixel of every state: hovered, selected, plain; the hover covers the whole row.

@@ -418,14 +418,14 @@ TEST_F(NVRSettingWindow, TabLeadsThroughEveryControlInItsOrder)
     openRecorder(0);
     step(u"Grid_ChannelList"_s, [] {
         EXPECT_EQ(TabOrder(u"TextNVRDetail_0"_s).toStdString(),
-                  "TextNVRDetail_0 TextNVRDetail_1 TextNVRDetail_2 TextNVRDetail_3 TextNVRDetail_4 - lbNVRDetect"
+                  "TextNVRDetail_0 TextNVRDetail_1 TextNVRDetail_2 TextNVRDetail_3 TextNVRDetail_4 lbNVRDetect"
                   " txtChannelFilter Grid_ChannelList lbModifyApply_1 lbModifyApply_0");
         Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name);
     });
     step(u"txtCam_0"_s, [] {
         EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
         EXPECT_EQ(TabOrder(u"txtCam_0"_s).toStdString(),
-                  "txtCam_0 txtCam_1 txtCam_2 txtCam_3 txtCam_4 - lbCamSearch lbCamDetect cmbFormat cmbResolution"
+                  "txtCam_0 txtCam_1 txtCam_2 txtCam_3 txtCam_4 lbCamSearch lbCamDetect cmbFormat cmbResolution"
                   " cmbCameraDetail_0 cmbCameraDetail_1 cmbCameraDetail_2 lbCamModifyApply_1 lbCamModifyApply_0");
         Driver::click(u"lbCamSearch"_s);
     });

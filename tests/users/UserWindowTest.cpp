@@ -193,6 +193,10 @@ TEST_F(UserWindowTest, TheLastAdministratorStaysAndOthersGo)
     step(u"Form_UserSetting"_s, [] {
         EXPECT_FALSE(Driver::find(u"cmbUser"_s)->isEnabled());
         EXPECT_EQ(Driver::find<QLabel>(u"Text_Filename"_s)->text(), u"gone.png"_s);
+        auto* password = Driver::find<QLineEdit>(u"txtUser_1"_s);
+        for (auto* eye : password->findChildren<QAbstractButton*>())
+            eye->click();
+        EXPECT_EQ(password->echoMode(), QLineEdit::Password) << "a stored password is not shown";
         Driver::click(u"lbUserApply_1"_s);
     });
     waitClosed(u"Form_UserSetting"_s);

@@ -9,6 +9,7 @@
 #include "look/widgets/DeskMessageBox.h"
 #include "look/widgets/EmptyState.h"
 #include "look/widgets/Fields.h"
+#include "look/widgets/PasswordField.h"
 #include "look/widgets/ProgressWindow.h"
 #include "look/widgets/StatusLabel.h"
 #include "look/widgets/StepStrip.h"
@@ -280,8 +281,9 @@ QWidget* MakeFormPage(bool german)
     rtsp->setRange(1, 65535);
     rtsp->setValue(554);
     auto* name = new QLineEdit(u"admin"_s);
-    auto* password = new QLineEdit(u"secret12"_s);
-    AddEye(password, u"Show"_s, u"Hide"_s);
+    auto* password = new PasswordField;
+    password->setText(u"secret12"_s);
+    password->setEyeTexts(u"Show"_s, u"Hide"_s, u"Stored"_s);
     auto* host = new QLineEdit(u"192.168.10.999"_s);
     host->setFont(MonoFont());
     SetFaulty(host, true);

@@ -21,8 +21,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 };
 
-// Puts an eye behind a password field: pressed, it shows what is typed. It is reached by Tab and says what it will do.
-void AddEye(QLineEdit* field, const QString& showText, const QString& hideText);
 // Gives a date or time field its format, the figures face and a calendar. It reads from left to right in every desk: a
 // right-to-left field would turn the order of its parts round.
 void SetTimeFormat(QDateTimeEdit* field, const QString& format);

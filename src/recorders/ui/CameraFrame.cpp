@@ -2,7 +2,6 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
-#include "look/widgets/Fields.h"
 #include "platform/MsgBox.h"
 #include "recorders/ui/HeldBack.h"
 #include "recorders/ui/RecorderFields.h"
@@ -55,7 +54,6 @@ CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
     // Addresses and ports read from the left in every language.
     m_ui->txtCam_1->setLayoutDirection(Qt::LeftToRight);
     m_ui->txtCam_2->setLayoutDirection(Qt::LeftToRight);
-    AddEye(m_ui->txtCam_4, GetLangString(887), GetLangString(899));
     for (const Row& row : m_rows) {
         connect(row.box, &QComboBox::activated, this, [this, control = row.control](int index) {
             Trapped("Form_NVRSetting - cmbCameraDetail_Click", [&] { m_edit.choose(control, index); });

@@ -1,7 +1,6 @@
 #include "recorders/ui/RecorderFields.h"
 
 #include "app/language/Languages.h"
-#include "look/widgets/Fields.h"
 #include "platform/MsgBox.h"
 #include "support/Conversions.h"
 
@@ -21,7 +20,6 @@ RecorderFields::RecorderFields(const std::array<QLineEdit*, kCount>& fields)
     // Addresses and ports read from the left in every language.
     field(ManualField::Address)->setLayoutDirection(Qt::LeftToRight);
     port->setLayoutDirection(Qt::LeftToRight);
-    AddEye(field(ManualField::Password), GetLangString(887), GetLangString(899));
 }
 
 QLineEdit* RecorderFields::field(ManualField which) const

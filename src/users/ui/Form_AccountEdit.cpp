@@ -6,6 +6,7 @@
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/ActionBar.h"
+#include "look/widgets/PasswordField.h"
 #include "platform/MsgBox.h"
 #include "users/AccountStore.h"
 #include "users/ui/FieldCaption.h"
@@ -29,7 +30,7 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
     , m_model(new QStandardItemModel(this))
     , Grid_Account(new QTableView)
     , m_user(new QLineEdit)
-    , m_password(new QLineEdit)
+    , m_password(new PasswordField)
 {
     setObjectName(u"Form_AccountEdit"_s);
     setWindowTitle(GetLangString(831));
@@ -41,13 +42,12 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
     Grid_Account->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_user->setObjectName(u"Text_Account_0"_s);
     m_password->setObjectName(u"Text_Account_1"_s);
-    m_password->setEchoMode(QLineEdit::Password);
     auto* mask = new QCheckBox;
     mask->setObjectName(u"Chk_PasswordMask"_s);
     mask->setProperty("tag", u"Caption:830"_s);
     mask->setChecked(true);
-    connect(mask, &QCheckBox::toggled, this,
-            [this](bool on) { m_password->setEchoMode(on ? QLineEdit::Password : QLineEdit::Normal); });
+    connect(mask, &QCheckBox::toggled, m_password, [this](bool on) { m_password->setRevealed(!on); });
+    connect(m_password, &PasswordField::revealedChanged, mask, [mask](bool revealed) { mask->setChecked(!revealed); });
 
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(0, 0, 0, 0);
@@ -100,7 +100,7 @@ void Form_AccountEdit::refill()
 void Form_AccountEdit::lbAccountApply_Click()
 {
     Trapped("Form_AccountEdit - lbAccountApply_Click", [&] {
-        for (auto [field, message] : {std::pair{m_user, 595}, std::pair{m_password, 596}}) {
+        for (auto [field, message] : {std::pair<QLineEdit*, int>{m_user, 595}, {m_password, 596}}) {
             if (!field->text().isEmpty())
                 continue;
             MsgBox(GetLangString(message), InfoBoxStyle(), GetLangString(965));

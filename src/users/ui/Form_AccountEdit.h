@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class PasswordField;
 class QLineEdit;
 class QStandardItemModel;
 class QTableView;
@@ -27,7 +28,7 @@ private:
     QStandardItemModel* m_model;
     QTableView* Grid_Account;
     QLineEdit* m_user;
-    QLineEdit* m_password;
+    PasswordField* m_password;
 };
 
 // Opens the dialog; whoever has a button for it calls this.

@@ -7,6 +7,7 @@
 #include "look/style/Theme.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/Fields.h"
+#include "look/widgets/PasswordField.h"
 #include "platform/AppPath.h"
 #include "platform/MsgBox.h"
 #include "users/ui/FieldCaption.h"
@@ -30,7 +31,7 @@ Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
     , m_users(users)
     , m_logo(new QLabel)
     , m_name(new QLineEdit)
-    , m_password(new QLineEdit)
+    , m_password(new PasswordField)
 {
     setObjectName(u"Form_Login"_s);
     setClosable(false);
@@ -43,7 +44,6 @@ Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
     SetRole(title, "title"_L1);
     m_name->setObjectName(u"txtLogin_0"_s);
     m_password->setObjectName(u"txtLogin_1"_s);
-    m_password->setEchoMode(QLineEdit::Password);
     m_password->installEventFilter(this);
     SelectOnFocus(m_name);
     SelectOnFocus(m_password);

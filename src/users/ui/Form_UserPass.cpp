@@ -5,6 +5,7 @@
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/DialogFrame.h"
 #include "look/widgets/Fields.h"
+#include "look/widgets/PasswordField.h"
 #include "users/ui/FieldCaption.h"
 
 #include <QFormLayout>
@@ -21,10 +22,8 @@ DeviceAccount Form_UserPass(QWidget* parent)
     dialog.setCloseText(GetLangString(881));
     auto* user = new QLineEdit;
     user->setObjectName(u"Text1"_s);
-    auto* password = new QLineEdit;
+    auto* password = new PasswordField;
     password->setObjectName(u"Text2"_s);
-    password->setEchoMode(QLineEdit::Password);
-    AddEye(password, GetLangString(887), GetLangString(899));
     SelectOnFocus(user);
     SelectOnFocus(password);
     auto* form = new QFormLayout(dialog.content());

@@ -7,7 +7,7 @@
 #include "look/style/Theme.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/ElidedLabel.h"
-#include "look/widgets/Fields.h"
+#include "look/widgets/PasswordField.h"
 #include "platform/AppPath.h"
 #include "platform/FileChooser.h"
 #include "platform/MsgBox.h"
@@ -68,7 +68,7 @@ void Form_UserSetting::build(const QStringList& groups)
     form->setHorizontalSpacing(16);
     row->addLayout(form, 1);
     for (const TextField which : order) {
-        auto* field = new QLineEdit;
+        QLineEdit* field = which == Password || which == PasswordAgain ? new PasswordField : new QLineEdit;
         field->setObjectName(u"txtUser_%1"_s.arg(static_cast<int>(which)));
         field->setMaxLength(kLongestText);
         txtUser[which] = field;
@@ -76,10 +76,6 @@ void Form_UserSetting::build(const QStringList& groups)
         // Numbers and mail addresses read from the left in every language.
         if (which == Telephone || which == Mobile || which == Mail1 || which == Mail2)
             field->setLayoutDirection(Qt::LeftToRight);
-        if (which == Password || which == PasswordAgain) {
-            field->setEchoMode(QLineEdit::Password);
-            AddEye(field, GetLangString(887), GetLangString(899));
-        }
         if (which != Name) {
             form->addRow(FieldCaption(captions[which], field), field);
             continue;

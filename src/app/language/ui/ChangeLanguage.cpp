@@ -3,6 +3,7 @@
 #include "app/language/CutText.h"
 #include "app/language/Languages.h"
 #include "look/style/Theme.h"
+#include "look/widgets/PasswordField.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -153,6 +154,9 @@ void ApplyLanguage(QWidget* window)
     SettleToolkit(window);
     ApplyTag(window);
     const QList<QWidget*> controls = window->findChildren<QWidget*>();
-    for (QWidget* control : controls)
+    for (QWidget* control : controls) {
         ApplyTag(control);
+        if (auto* password = qobject_cast<PasswordField*>(control))
+            password->setEyeTexts(GetLangString(887), GetLangString(899), GetLangString(1080));
+    }
 }
