@@ -653,7 +653,7 @@
     </message>
     <message id="163">
         <source>Event Mode:</source>
-        <translation>מצב אירוע:</translation>
+        <translation>סוג אירוע:</translation>
     </message>
     <message id="164">
         <source>Event Trigger Time:</source>
@@ -721,7 +721,7 @@
     </message>
     <message id="180">
         <source>Event Mode</source>
-        <translation>מצב אירוע</translation>
+        <translation>סוג אירוע</translation>
     </message>
     <message id="181">
         <source>Process</source>

@@ -2289,7 +2289,7 @@
     </message>
     <message id="590">
         <source>Max. Bitrate</source>
-        <translation>Bit rate max</translation>
+        <translation>Bit rate max.</translation>
     </message>
     <message id="591">
         <source>Apply</source>

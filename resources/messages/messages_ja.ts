@@ -653,7 +653,7 @@
     </message>
     <message id="163">
         <source>Event Mode:</source>
-        <translation>イベントモード：</translation>
+        <translation>イベントの種類：</translation>
     </message>
     <message id="164">
         <source>Event Trigger Time:</source>
@@ -721,7 +721,7 @@
     </message>
     <message id="180">
         <source>Event Mode</source>
-        <translation>イベントモード</translation>
+        <translation>イベントの種類</translation>
     </message>
     <message id="181">
         <source>Process</source>

@@ -653,7 +653,7 @@
     </message>
     <message id="163">
         <source>Event Mode:</source>
-        <translation>Режим события:</translation>
+        <translation>Тип события:</translation>
     </message>
     <message id="164">
         <source>Event Trigger Time:</source>
@@ -721,7 +721,7 @@
     </message>
     <message id="180">
         <source>Event Mode</source>
-        <translation>Режим события</translation>
+        <translation>Тип события</translation>
     </message>
     <message id="181">
         <source>Process</source>
@@ -3329,7 +3329,7 @@
     </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
-        <translation>Имя и поведение этой станции</translation>
+        <translation>Имя и параметры этой станции</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>

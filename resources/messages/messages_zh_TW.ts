@@ -653,7 +653,7 @@
     </message>
     <message id="163">
         <source>Event Mode:</source>
-        <translation>事件模式：</translation>
+        <translation>事件類型：</translation>
     </message>
     <message id="164">
         <source>Event Trigger Time:</source>
@@ -721,7 +721,7 @@
     </message>
     <message id="180">
         <source>Event Mode</source>
-        <translation>事件模式</translation>
+        <translation>事件類型</translation>
     </message>
     <message id="181">
         <source>Process</source>
@@ -3329,7 +3329,7 @@
     </message>
     <message id="890">
         <source>Name and behaviour of this station</source>
-        <translation>本監控站的名稱與行為</translation>
+        <translation>本監控站的名稱與運作方式</translation>
     </message>
     <message id="892">
         <source>Recorder slot</source>

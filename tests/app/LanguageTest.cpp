@@ -83,7 +83,7 @@ TEST(Banks, HoldTheSameNumbersAndKeepWhatCodeJoins)
             EXPECT_EQ(text.startsWith(u'*'), original.startsWith(u'*')) << where;
             EXPECT_EQ(text.contains(kProgram, Qt::CaseInsensitive), original.contains(kProgram, Qt::CaseInsensitive))
                 << where;
-            for (const auto* mark : {u"%1", u"%2"})
+            for (const auto* mark : {u"%1", u"%2", u"%3"})
                 EXPECT_EQ(text.count(QStringView(mark)), original.count(QStringView(mark))) << where;
             EXPECT_FALSE(bank != english && (text.contains(u'!') || text.contains(u'！'))) << where << ", not shouted";
             if (original.endsWith(u'!') || original.endsWith(u'?')) {
