@@ -4,8 +4,9 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/setup.sh
 
-echo "== Formatting"
+echo "== Sources"
 git ls-files -- '*.cpp' '*.h' | xargs -r clang-format --dry-run -Werror
+scripts/check_sources.sh
 
 echo "== Build"
 cmake --preset sanitize >/dev/null

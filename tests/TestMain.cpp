@@ -22,14 +22,15 @@ QByteArray TemporaryStation::read(QStringView literal) const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-// Windows need a QApplication: their test programs name the factory of theirs here.
-std::unique_ptr<QCoreApplication> (*g_applicationFactory)(int&, char**) = nullptr;
-
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleMock(&argc, argv);
+    if (GTEST_FLAG_GET(list_tests))
+        return RUN_ALL_TESTS();
     QStandardPaths::setTestModeEnabled(true);
-    const auto application =
-        g_applicationFactory ? g_applicationFactory(argc, argv) : std::make_unique<QCoreApplication>(argc, argv);
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("RIGGING_DESK_FINDER", "lo");
+    const std::unique_ptr<QCoreApplication> application = MakeApplication(argc, argv);
     return RUN_ALL_TESTS();
 }

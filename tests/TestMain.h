@@ -16,5 +16,5 @@ private:
     QTemporaryDir m_directory;
 };
 
-// Set by a test program that needs a QApplication (before main runs).
-extern std::unique_ptr<QCoreApplication> (*g_applicationFactory)(int&, char**);
+// The application that a test program runs in: a plain one, or one with windows in the desk's look.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv);

@@ -23,15 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
-{
-    auto application = std::make_unique<QApplication>(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    ApplyTheme(*application, Scheme::Light);
-    return application;
-}
-const bool g_registered = (g_applicationFactory = MakeApplication, true);
-
 class CaptionTest : public StoreFixture
 {
 protected:

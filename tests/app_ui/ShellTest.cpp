@@ -20,15 +20,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
-{
-    auto application = std::make_unique<QApplication>(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    ApplyTheme(*application, Scheme::Dark);
-    return application;
-}
-const bool g_registered = (g_applicationFactory = MakeApplication, true);
-
 // The desk started on a station of its own; boxes are answered from a list unless a test shows them.
 class ShellTest : public StoreFixture
 {

@@ -33,15 +33,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-[[maybe_unused]] const bool kFactorySet = [] {
-    g_applicationFactory = [](int& argc, char** argv) -> std::unique_ptr<QCoreApplication> {
-        auto application = std::make_unique<QApplication>(argc, argv);
-        ApplyTheme(*application, Scheme::Light);
-        return application;
-    };
-    return true;
-}();
-
 // WCAG 2 relative luminance and contrast.
 double Luminance(const QColor& colour)
 {

@@ -26,15 +26,6 @@ using simulators::Site;
 
 namespace {
 
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
-{
-    auto application = std::make_unique<QApplication>(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    ApplyTheme(*application, InitialScheme());
-    return application;
-}
-const bool g_registered = (g_applicationFactory = MakeApplication, true);
-
 DeviceDescription Recorder(Family family, int channels, int cameras)
 {
     DeviceDescription device;

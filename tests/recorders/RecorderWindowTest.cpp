@@ -28,17 +28,8 @@ using simulators::Site;
 
 namespace {
 
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
-{
-    auto application = std::make_unique<QApplication>(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    ApplyTheme(*application, InitialScheme());
-    return application;
-}
 // Searches may meet devices of other sites on the same machine: the test's own are told by their network.
 const QString kNetwork = simulators::ownNetwork();
-
-const bool g_registered = (g_applicationFactory = MakeApplication, true);
 
 // Recorders in a thread, and the desk's windows over them.
 class RecorderWindows : public ::testing::Test

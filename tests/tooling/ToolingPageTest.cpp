@@ -19,14 +19,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv)
-{
-    auto application = std::make_unique<QApplication>(argc, argv);
-    ApplyTheme(*application, Scheme::Dark);
-    return application;
-}
-const bool g_registered = (g_applicationFactory = MakeApplication, true);
-
 // The page over an audit log of 40 rows of today, driven by the keyboard.
 class ToolingPageTest : public StoreFixture
 {

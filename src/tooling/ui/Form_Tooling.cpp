@@ -81,7 +81,7 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     StyleTable(grid);
     MonospaceColumn(grid, SystemLogModel::Time);
     grid->setColumnWidth(SystemLogModel::Time, 150);
-    grid->setColumnWidth(SystemLogModel::User, 170);
+    grid->setColumnWidth(SystemLogModel::User, 150);
     grid->verticalHeader()->setDefaultSectionSize(TableRowHeight() - 2); // a page fits the smallest desk
     grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
 
