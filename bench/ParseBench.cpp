@@ -73,7 +73,7 @@ int main()
     const QString text = QString::fromUtf8(bytes);
     const auto svr = std::make_unique<SVRRecord>();
     const auto pro = std::make_unique<SVRProRecord>();
-    if (ParseChannelList(bytes, *svr, *pro) != 1 || svr->sSub_CH_IP[63].isEmpty())
+    if (ParseChannelList(bytes, *svr, *pro) != 1 || svr->channels[63].sSub_CH_IP.isEmpty())
         return std::fprintf(stderr, "the reply was not read\n"), 1;
 
     const auto [floor, fromBytes, fromText] = Best(

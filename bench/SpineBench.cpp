@@ -64,20 +64,18 @@ void FillRecorders(RecorderSet& set)
         for (int channel = 0; channel < kMaxChannel; ++channel) {
             ClearChannel(svr, pro, channel);
             const auto c = static_cast<std::size_t>(channel);
-            svr.sSub_CH_Name[c] = u"Camera %1"_s.arg(channel + 1);
-            svr.sSub_CH_IP[c] = u"192.168.20.%1"_s.arg(channel + 1);
-            svr.sSub_CH_UserName[c] = svr.sSub_CH_Password[c] = u"admin"_s;
-            svr.sSub_CH_VideoFormat[c] = u"H264"_s;
-            svr.sSub_CH_Resolution[c] = u"1920x1080"_s;
-            svr.sCH_ResolutionList[c] = u"1920x1080,1280x720,640x480;640x480;1920x1080"_s;
-            svr.sCH_PTZ_Speed_Range[c] = u"1,10,1"_s;
-            pro.sCH_Pro_Mac[c] = u"02:1a:4f:00:00:06"_s;
-            ProChannelStreams& streams = pro.Streams[c];
-            for (std::size_t stream = 0; stream < kMaxStream; ++stream) {
-                streams.sResolutionList[stream] = u"1920x1080,1280x720,640x480,320x240"_s;
-                for (auto member : {&ProChannelStreams::iFPSUpper, &ProChannelStreams::iFPSLower,
-                                    &ProChannelStreams::iBPSUpper, &ProChannelStreams::iBPSLower})
-                    (streams.*member)[stream] = {30, 25, 15, 5};
+            svr.channels[c].sSub_CH_Name = u"Camera %1"_s.arg(channel + 1);
+            svr.channels[c].sSub_CH_IP = u"192.168.20.%1"_s.arg(channel + 1);
+            svr.channels[c].sSub_CH_UserName = svr.channels[c].sSub_CH_Password = u"admin"_s;
+            svr.channels[c].sSub_CH_VideoFormat = u"H264"_s;
+            svr.channels[c].sSub_CH_Resolution = u"1920x1080"_s;
+            svr.channels[c].sCH_ResolutionList = u"1920x1080,1280x720,640x480;640x480;1920x1080"_s;
+            svr.channels[c].sCH_PTZ_Speed_Range = u"1,10,1"_s;
+            pro.channels[c].sCH_Pro_Mac = u"02:1a:4f:00:00:06"_s;
+            for (SVRProStream& stream : pro.channels[c].streams) {
+                stream.sResolutionList = u"1920x1080,1280x720,640x480,320x240"_s;
+                for (auto* bounds : {&stream.iFPSUpper, &stream.iFPSLower, &stream.iBPSUpper, &stream.iBPSLower})
+                    *bounds = {30, 25, 15, 5};
             }
         }
     }
@@ -195,7 +193,7 @@ void BenchStore(const QString& floorFile)
         ours.push_back(Milliseconds([&] { GetSVREx(station->databases, *back); }));
         floor.push_back(Milliseconds([&] { sum += ReadAllColumns(raw); }));
     }
-    if (back->SVRList[15].sSub_CH_Name[63] != u"Camera 64"_s || sum == 0)
+    if (back->SVRList[15].channels[63].sSub_CH_Name != u"Camera 64"_s || sum == 0)
         std::abort();
     Report("load 16 recorders, 1,024 rows", ours, floor, 3.0);
     sqlite3_close(raw);
@@ -223,7 +221,7 @@ int StartOnce(QApplication& application, const QString& what)
     if (!QTest::qWaitForWindowExposed(&window))
         return 1;
     window.grab();
-    return station->recorders.SVRList[15].sSub_CH_Name[63] == u"Camera 64"_s ? 0 : 1;
+    return station->recorders.SVRList[15].channels[63].sSub_CH_Name == u"Camera 64"_s ? 0 : 1;
 }
 
 void BenchStart()

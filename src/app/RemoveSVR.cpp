@@ -33,7 +33,7 @@ void ClearChannels(RecorderSet& recorders, int slot)
     SVRRecord& record = At(recorders.SVRWorkList, slot);
     for (int channel = 0; channel < kMaxChannel; ++channel) {
         ClearChannel(record, At(recorders.SVRProWorkList, slot), channel);
-        At(record.iPower, channel) = 1;
+        At(record.channels, channel).iPower = 1;
     }
 }
 

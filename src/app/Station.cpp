@@ -38,7 +38,7 @@ void NotifyChannel(Station& station, int key, const QString& text)
 {
     const int slot = key / kMaxChannel;
     const int channel = key % kMaxChannel;
-    const QString name = At(At(station.recorders.SVRList, slot).sSub_CH_Name, channel);
+    const QString name = At(At(station.recorders.SVRList, slot).channels, channel).sSub_CH_Name;
     if (name.isEmpty())
         return;
     station.notifications->SendQueueStr_Set(

@@ -76,7 +76,7 @@ void RenameRecorderMap(EMapSet& set, int slot, const QString& name)
     if (!map || map->sName == name)
         return;
     EMapIconRecord& icons = At(set.iconsEdit, slot);
-    for (QString& parent : icons.sParent) {
+    for (auto& [parent, mapX, mapY, infoX, infoY, position] : icons.channels) {
         if (parent == map->sName && !parent.isEmpty())
             parent = name;
     }

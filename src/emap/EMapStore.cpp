@@ -12,23 +12,9 @@ namespace {
 
 constexpr int kPage = 6;
 
-EMapIconRow IconAt(const EMapIconRecord& icons, int slot, int channel)
+EMapIcon& IconOf(EMapIconTable& table, const EMapIconRow& row)
 {
-    return {static_cast<qint16>(slot + 1), static_cast<qint16>(channel + 1), At(icons.sParent, channel),
-            At(icons.dMapX, channel),      At(icons.dMapY, channel),         At(icons.dInfoX, channel),
-            At(icons.dInfoY, channel),     At(icons.iInfo_Position, channel)};
-}
-
-void SetIcon(EMapIconTable& table, const EMapIconRow& row)
-{
-    EMapIconRecord& icons = At(table, row.iSVR - 1);
-    const int channel = row.iChannel - 1;
-    At(icons.sParent, channel) = row.sParent;
-    At(icons.dMapX, channel) = row.dMapX;
-    At(icons.dMapY, channel) = row.dMapY;
-    At(icons.dInfoX, channel) = row.dInfoX;
-    At(icons.dInfoY, channel) = row.dInfoY;
-    At(icons.iInfo_Position, channel) = row.iInfo_Position;
+    return At(At(table, row.iSVR - 1).channels, row.iChannel - 1);
 }
 
 } // namespace
@@ -80,7 +66,7 @@ void GetEMapIconEx(Databases& databases, EMapSet& set)
             Trapped(source, [&] {
                 EMapIconRow row;
                 access.read(row);
-                SetIcon(set.iconsStored, row);
+                IconOf(set.iconsStored, row) = row;
             });
         }
     });
@@ -97,11 +83,12 @@ void SaveEMapIcon(Databases& databases, const EMapSet& set, const RecorderSet& r
             for (int slot = 0; slot < kMaxSVR; ++slot) {
                 const SVRRecord& recorder = At(recorders.SVRList, slot);
                 for (int channel = 0; channel < kMaxChannel && !recorder.sSVR_Name.isEmpty(); ++channel) {
-                    if (At(recorder.sSub_CH_Name, channel).isEmpty())
+                    if (At(recorder.channels, channel).sSub_CH_Name.isEmpty())
                         continue;
                     Trapped(source, [&] {
                         rows.addNew();
-                        access.write(IconAt(At(set.iconsStored, slot), slot, channel));
+                        access.write({At(At(set.iconsStored, slot).channels, channel), static_cast<qint16>(slot + 1),
+                                      static_cast<qint16>(channel + 1)});
                         rows.update();
                     });
                 }

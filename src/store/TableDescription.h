@@ -116,12 +116,12 @@ struct MemberOf<T C::*>
 
 } // namespace table_detail
 
-// A plain member: Field<&UserRecord::sUser>("sUser"). The member's type decides the column's.
-template <auto Member>
+// A plain member: Field<&UserRecord::sUser>("sUser"). The member's type decides the column's. Row is named where the
+// member is one of its base.
+template <auto Member, class Row = typename table_detail::MemberOf<decltype(Member)>::Class>
 constexpr auto Field(const char* name)
 {
     using M = table_detail::MemberOf<decltype(Member)>;
-    using Row = typename M::Class;
     using T = typename M::Type;
     return Column<Row>{{name, table_detail::TypeOf<T>(), table_detail::DefaultOf<T>()},
                        [](Row& row, const QVariant& value) { row.*Member = table_detail::FromVariant<T>(value); },

@@ -63,7 +63,7 @@ QString FormCHPrivilege(const ChannelRights& rights, const SVRRecord& recorder)
 {
     QStringList masks;
     for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
-        const bool named = !At(recorder.sSub_CH_Name, channel).isEmpty();
+        const bool named = !At(recorder.channels, channel).sSub_CH_Name.isEmpty();
         masks << QString::number(named ? At(rights.masks, channel) : kAllRights);
     }
     return QString::number(rights.all ? 1 : 0) + u':' + masks.join(u',');
@@ -111,7 +111,7 @@ std::vector<ReachedCamera> CamerasOf(const GroupSet& groups, int groupIndex,
             continue;
         const auto masks = EffectiveRights(groups, groupIndex, slot);
         for (int channel = 0; channel < kMaxChannel; ++channel) {
-            if (!At(recorder.sSub_CH_Name, channel).isEmpty() && At(masks, channel) != 0)
+            if (!At(recorder.channels, channel).sSub_CH_Name.isEmpty() && At(masks, channel) != 0)
                 cameras.push_back({slot, channel, At(masks, channel)});
         }
     }

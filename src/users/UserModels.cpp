@@ -162,7 +162,7 @@ ChannelRightsModel::ChannelRightsModel(const GroupSet& groups, const UserSet& us
         m_rights.masks.fill(kAllRights);
     }
     for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
-        if (!At(recorder.sSub_CH_Name, channel).isEmpty())
+        if (!At(recorder.channels, channel).sSub_CH_Name.isEmpty())
             m_channels.push_back(channel);
     }
     for (int other = 0; other < kGroups; ++other)
@@ -221,7 +221,7 @@ QVariant ChannelRightsModel::data(const QModelIndex& index, int role) const
         if (role == Qt::CheckStateRole)
             return isOn(index) ? Qt::Checked : Qt::Unchecked;
         if (role == Qt::AccessibleTextRole)
-            return QString(At(m_recorder.sSub_CH_Name, channel) + u", "_s +
+            return QString(At(m_recorder.channels, channel).sSub_CH_Name + u", "_s +
                            headerData(column, Qt::Horizontal, Qt::DisplayRole).toString() + u": "_s +
                            GetLangString(isOn(index) ? 878 : 879));
         return {};
@@ -233,7 +233,7 @@ QVariant ChannelRightsModel::data(const QModelIndex& index, int role) const
     case Channel:
         return channel + 1;
     case Name:
-        return At(m_recorder.sSub_CH_Name, channel);
+        return At(m_recorder.channels, channel).sSub_CH_Name;
     default:
         return reach(channel);
     }

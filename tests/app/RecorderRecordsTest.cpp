@@ -38,8 +38,8 @@ protected:
             ClearChannel(work, At(desk->recorders.SVRProWorkList, slot), channel);
             if (channel >= cameras)
                 continue;
-            At(work.sSub_CH_Name, channel) = u"%1 camera %2"_s.arg(name).arg(channel + 1);
-            At(work.sSub_CH_IP, channel) = u"10.0.0.1"_s;
+            At(work.channels, channel).sSub_CH_Name = u"%1 camera %2"_s.arg(name).arg(channel + 1);
+            At(work.channels, channel).sSub_CH_IP = u"10.0.0.1"_s;
         }
         work.bSVR_Changed = true;
         RecorderDetected(*desk, slot, work, DetectMode::Add);
@@ -158,26 +158,26 @@ TEST_F(RecorderRecords, ARecordersMapComesFollowsItsNameAndGoes)
     EXPECT_FALSE(AddRecorderMap(desk->emap, 1, u"again"_s));
     EXPECT_EQ(rows(u"SELECT iSVR, iChannel, sParent FROM EMapIcon"_s), u"1,1, 2,1, 2,2,"_s);
 
-    desk->emap.iconsEdit[1].sParent[0] = u"North"_s;
-    desk->emap.iconsEdit[1].sParent[1] = u"Cellar"_s;
-    desk->emap.iconsEdit[1].dMapX[1] = 0.5;
-    desk->emap.iconsEdit[0].sParent[0] = u"North"_s; // another recorder's, whatever it names
+    desk->emap.iconsEdit[1].channels[0].sParent = u"North"_s;
+    desk->emap.iconsEdit[1].channels[1].sParent = u"Cellar"_s;
+    desk->emap.iconsEdit[1].channels[1].dMapX = 0.5;
+    desk->emap.iconsEdit[0].channels[0].sParent = u"North"_s; // another recorder's, whatever it names
     RenameRecorderMap(desk->emap, 1, u"Far North"_s);
     SaveCheck(*desk);
     start();
     EXPECT_EQ(maps(), u"0,0,MainMap, 1,1,Group,MainMap 2,2,Far North, 2,1,South, 3,2,Cellar,S2 3,3,Attic,S1"_s);
     EXPECT_EQ(rows(u"SELECT iSVR, iChannel, sParent, dMapX FROM EMapIcon"_s),
               u"1,1,North,0 2,1,Far North,0 2,2,Cellar,0.5"_s);
-    EXPECT_EQ(desk->emap.iconsEdit[1].dMapX[1], 0.5);
+    EXPECT_EQ(desk->emap.iconsEdit[1].channels[1].dMapX, 0.5);
 
     RemoveRecorderMaps(desk->emap, 1);
     SaveCheck(*desk);
     EXPECT_EQ(maps(), u"0,0,MainMap, 1,1,Group,MainMap 2,1,South, 3,3,Attic,S1"_s);
-    EXPECT_EQ(desk->emap.iconsStored[1].sParent[1], QString());
+    EXPECT_EQ(desk->emap.iconsStored[1].channels[1].sParent, QString());
     statement(u"INSERT INTO EMapIcon (iSVR, iChannel, sParent) VALUES (17, 1, 'x'), (1, 65, 'x'), (1, 64, 'y')"_s);
     GetEMapIconEx(desk->databases, desk->emap);
     EXPECT_EQ(logLines("Module_DB_Access - GetEMapIconEx"), 2);
-    EXPECT_EQ(desk->emap.iconsStored[0].sParent[63], u"y"_s);
+    EXPECT_EQ(desk->emap.iconsStored[0].channels[63].sParent, u"y"_s);
 }
 
 TEST_F(RecorderRecords, DetectionRowsBelongToTheChannelOfTheirAnalysisId)
@@ -187,13 +187,13 @@ TEST_F(RecorderRecords, DetectionRowsBelongToTheChannelOfTheirAnalysisId)
     addRecorder(3, u"b"_s, 2);
     EXPECT_EQ(audit(), u"NVR,Emap,NVR,Emap"_s) << "new cameras have no analysis: no row, no line";
     for (const auto& [slot, channel, id] : {std::tuple(0, 0, 0), {0, 1, 7}, {3, 1, 9}}) {
-        At(At(desk->recorders.SVRWorkList, slot).lSub_CH_IntelligentID, channel) = id;
+        At(At(desk->recorders.SVRWorkList, slot).channels, channel).lSub_CH_IntelligentID = id;
         At(desk->recorders.SVRWorkList, slot).bSVR_Changed = true;
     }
     IntelligentSettings& settings = desk->channelEvents.edit[3];
-    settings.bMotionEnable[1] = -1;
-    settings.iTripwireSensitivity[1] = 33;
-    settings.bChanged[1] = true;
+    settings.channels[1].bMotionEnable = -1;
+    settings.channels[1].iTripwireSensitivity = 33;
+    settings.channels[1].bChanged = true;
     SaveCheck(*desk);
     EXPECT_EQ(audit(), u"NVR,Emap,NVR,Emap,NVR,Intelligent"_s);
     statement(u"INSERT INTO MotionSettings VALUES (0, -1, 1), (8, -1, 1)"_s);
@@ -201,12 +201,12 @@ TEST_F(RecorderRecords, DetectionRowsBelongToTheChannelOfTheirAnalysisId)
     start();
     EXPECT_EQ(rows(u"SELECT * FROM MotionSettings"_s), u"7,0,50 9,-1,50 0,-1,1 8,-1,1"_s);
     const auto& edit = desk->channelEvents.edit;
-    EXPECT_EQ(edit[3].bMotionEnable[1], -1);
-    EXPECT_EQ(edit[3].iTripwireSensitivity[1], 33);
-    EXPECT_EQ(edit[0].iTripwireSensitivity[1], 80) << "an unreadable field keeps its default";
-    EXPECT_EQ(edit[0].bMotionEnable[0], 0) << "an id of 0 is none";
-    desk->channelEvents.edit[0].bThreatEnable[1] = -1;
-    desk->channelEvents.edit[0].bChanged[1] = true;
+    EXPECT_EQ(edit[3].channels[1].bMotionEnable, -1);
+    EXPECT_EQ(edit[3].channels[1].iTripwireSensitivity, 33);
+    EXPECT_EQ(edit[0].channels[1].iTripwireSensitivity, 80) << "an unreadable field keeps its default";
+    EXPECT_EQ(edit[0].channels[0].bMotionEnable, 0) << "an id of 0 is none";
+    desk->channelEvents.edit[0].channels[1].bThreatEnable = -1;
+    desk->channelEvents.edit[0].channels[1].bChanged = true;
     SaveCheck(*desk);
     EXPECT_EQ(rows(u"SELECT * FROM MotionSettings"_s), u"7,0,50 9,-1,50"_s) << "rows without a channel are gone";
     EXPECT_EQ(rows(u"SELECT * FROM MaliciousAttackSettings"_s), u"7,-1,50 9,0,50"_s);
@@ -233,12 +233,12 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     work.sSVR_UserName = work.sSVR_Password = u"admin"_s;
     work.sSVR_DeviceType = kFamilyTXR632;
     work.bSVR_CEventSupport = true;
-    work.lSub_CH_IntelligentID[2] = 4;
+    work.channels[2].lSub_CH_IntelligentID = 4;
     work.bSVR_Changed = true;
-    desk->recorders.SVRWorkList[5].lSub_CH_IntelligentID[1] = 6;
+    desk->recorders.SVRWorkList[5].channels[1].lSub_CH_IntelligentID = 6;
     desk->recorders.SVRWorkList[5].bSVR_Changed = true;
-    desk->channelEvents.edit[0].bMotionEnable[2] = -1;
-    desk->channelEvents.edit[0].bChanged[2] = true;
+    desk->channelEvents.edit[0].channels[2].bMotionEnable = -1;
+    desk->channelEvents.edit[0].channels[2].bChanged = true;
     addMap(kMapSub, 3, u"Cellar"_s, u"S1"_s);
     for (GroupPrivilegeRecord& group : desk->groups.edit)
         group.CHPrivilege[0] = u"1:0,0"_s;
@@ -267,9 +267,9 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     EXPECT_EQ(audit(), u"NVR,Intelligent,Emap"_s);
     EXPECT_TRUE(desk->recorders.SVRList[0].sSVR_IP.isEmpty());
     EXPECT_EQ(FirstFreeSlot(desk->recorders.SVRWorkList), 0);
-    EXPECT_EQ(work.iPower[63], 1);
+    EXPECT_EQ(work.channels[63].iPower, 1);
     EXPECT_EQ(desk->channelEvents.events[0][2].sName, QString());
-    EXPECT_EQ(desk->channelEvents.stored[0].bMotionEnable[2], 0);
+    EXPECT_EQ(desk->channelEvents.stored[0].channels[2].bMotionEnable, 0);
     EXPECT_FALSE(desk->families.ExitCheck());
 
     // One that takes no custom events is not asked; one that is gone does not hold its removal up.

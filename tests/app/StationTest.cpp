@@ -137,8 +137,8 @@ TEST_F(StationTest, EachTouchedPageIsSavedOnceAndAudited)
     work.sSVR_IP = u"10.0.0.1"_s;
     work.iSVR_Num = 1;
     work.iSVR_Maxchannel = 1;
-    work.sSub_CH_IP[0] = u"10.0.0.9"_s;
-    work.iSub_Channel[0] = 1;
+    work.channels[0].sSub_CH_IP = u"10.0.0.9"_s;
+    work.channels[0].iSub_Channel = 1;
     work.bSVR_Changed = true;
     fresh->basicDefault.edit.sSystemName = u"renamed"_s;
     fresh->basicDefault.edit.bStartup = true;
@@ -354,8 +354,8 @@ TEST(SavingChild, Runs)
     work.iSVR_Num = 1;
     work.iSVR_Maxchannel = 64;
     for (std::size_t channel = 0; channel < kMaxChannel; ++channel) {
-        work.sSub_CH_IP[channel] = u"10.0.0.9"_s;
-        work.iSub_Channel[channel] = static_cast<qint16>(channel + 1);
+        work.channels[channel].sSub_CH_IP = u"10.0.0.9"_s;
+        work.channels[channel].iSub_Channel = static_cast<qint16>(channel + 1);
     }
     std::puts("saving");
     std::fflush(stdout);

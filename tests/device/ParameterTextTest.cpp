@@ -10,57 +10,48 @@ using ::testing::ElementsAre;
 
 TEST(ParameterTexts, LinesFillTheChannel)
 {
-    const auto record = std::make_unique<SVRRecord>();
-    SVRRecord& svr = *record;
-    svr.iCH_MultiStream[3] = -1;
+    SVRChannel svr;
     CHImageInfoPaser(svr,
                      u"OK\r\ncamera_c4.image.resolution=640x480\r\ncamera_c4.image.liveformat=768\n"
                      "camera_c4.image.fps=15\r\ncamera_c4.image.jpegquality=3\ncamera_c4.image.qualityrange=1,5\n"
                      "camera_c4.image.ratectrlmode=1\ncamera_c4.image.maxbitrate=6\ncamera_c4.image.goplength=30\n"
                      "camera_c4.image.resolutionlist=640x480,320x240;;=x\ncamera_c4.image.formatlist=256;768\n"
                      "camera_c4.image.fpsrange=0,5\ncamera_c4.image.customfpslist=1,2\ncamera_c4.image.customfps=2\n"
-                     "camera_c4.image.rotation= 90 "_s,
-                     3);
-    EXPECT_THAT((QStringList{svr.sSub_CH_Resolution[3], svr.sSub_CH_VideoFormat[3], svr.sCH_Quality_Range[3],
-                             svr.sCH_ResolutionList[3], svr.sCH_FMTList[3], svr.sCH_FPS_Range[3],
-                             svr.sCH_FPS_List_Customer[3], svr.sCH_FPS_Customer[3]}),
-                ElementsAre(u"640x480"_s, u"768"_s, u"1,5"_s, u"640x480,320x240;;"_s, u"256;768"_s, u"0,5"_s, u"1,2"_s,
-                            u"2"_s));
-    EXPECT_THAT((std::vector<qint16>{svr.iCH_FPS[3], svr.iCH_Quality[3], svr.iCH_RateCtrl[3], svr.iCH_BitRate[3],
-                                     svr.iCH_GOP[3], svr.iCH_Rotation[3], svr.iCH_MultiStream[3]}),
+                     "camera_c4.image.rotation= 90 "_s);
+    EXPECT_THAT(
+        (QStringList{svr.sSub_CH_Resolution, svr.sSub_CH_VideoFormat, svr.sCH_Quality_Range, svr.sCH_ResolutionList,
+                     svr.sCH_FMTList, svr.sCH_FPS_Range, svr.sCH_FPS_List_Customer, svr.sCH_FPS_Customer}),
+        ElementsAre(u"640x480"_s, u"768"_s, u"1,5"_s, u"640x480,320x240;;"_s, u"256;768"_s, u"0,5"_s, u"1,2"_s,
+                    u"2"_s));
+    EXPECT_THAT((std::vector<qint16>{svr.iCH_FPS, svr.iCH_Quality, svr.iCH_RateCtrl, svr.iCH_BitRate, svr.iCH_GOP,
+                                     svr.iCH_Rotation, svr.iCH_MultiStream}),
                 ElementsAre(15, 3, 1, 6, 30, 90, -1));
 
-    CHPTZInfoPaser(svr,
-                   u"camera_c4.ptz.speedrange=1,9\ncamera_c4.ptz.moverange=8\ncamera_c4.ptz.movecontcap=1\n"
-                   "camera_c4.ptz.zoomcontcap=2\ncamera_c4.ptz.focuscontcap=3\ncamera_c4.ptz.iriscontcap=4\n"_s,
-                   3);
-    EXPECT_EQ(svr.sCH_PTZ_Speed_Range[3] + svr.sCH_PTZ_PanTilt_Range[3], u"1,98"_s);
-    EXPECT_THAT((std::vector<qint16>{svr.iCH_PTZ_MoveContCap[3], svr.iCH_PTZ_ZoomContCap[3],
-                                     svr.iCH_PTZ_FocusContCap[3], svr.iCH_PTZ_IrisContCap[3]}),
+    CHPTZInfoPaser(svr, u"camera_c4.ptz.speedrange=1,9\ncamera_c4.ptz.moverange=8\ncamera_c4.ptz.movecontcap=1\n"
+                        "camera_c4.ptz.zoomcontcap=2\ncamera_c4.ptz.focuscontcap=3\ncamera_c4.ptz.iriscontcap=4\n"_s);
+    EXPECT_EQ(svr.sCH_PTZ_Speed_Range + svr.sCH_PTZ_PanTilt_Range, u"1,98"_s);
+    EXPECT_THAT((std::vector<qint16>{svr.iCH_PTZ_MoveContCap, svr.iCH_PTZ_ZoomContCap, svr.iCH_PTZ_FocusContCap,
+                                     svr.iCH_PTZ_IrisContCap}),
                 ElementsAre(1, 2, 3, 4));
 
     CHOnvifInfoPaser(svr,
                      u"camera_c4.onvif.qualityrange=1\ncamera_c4.onvif.jpegfpsrange=2\ncamera_c4.onvif.mpegfpsrange=3\n"
                      "camera_c4.onvif.h264fpsrange=4\ncamera_c4.onvif.jpegresolution=5\n"
-                     "camera_c4.onvif.mpegresolution=6\ncamera_c4.onvif.h264resolution=7"_s,
-                     3);
-    EXPECT_THAT((QStringList{svr.sCH_Onvif_Quality[3], svr.sCH_Onvif_JPEG_FPS[3], svr.sCH_Onvif_MPEG_FPS[3],
-                             svr.sCH_Onvif_H264_FPS[3], svr.sCH_Onvif_JPEG_Resolution[3],
-                             svr.sCH_Onvif_MPEG_Resolution[3], svr.sCH_Onvif_H264_Resolution[3]}),
-                ElementsAre(u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s));
+                     "camera_c4.onvif.mpegresolution=6\ncamera_c4.onvif.h264resolution=7"_s);
+    EXPECT_THAT(
+        (QStringList{svr.sCH_Onvif_Quality, svr.sCH_Onvif_JPEG_FPS, svr.sCH_Onvif_MPEG_FPS, svr.sCH_Onvif_H264_FPS,
+                     svr.sCH_Onvif_JPEG_Resolution, svr.sCH_Onvif_MPEG_Resolution, svr.sCH_Onvif_H264_Resolution}),
+        ElementsAre(u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s));
 }
 
 TEST(ParameterTexts, ABadNumberStopsAndKeepsWhatWasRead)
 {
-    const auto svr = std::make_unique<SVRRecord>();
-    EXPECT_THROW(CHImageInfoPaser(
-                     *svr, u"camera_c1.image.fps=15\ncamera_c1.image.quality=best\ncamera_c1.image.rotation=1"_s, 0),
-                 ConversionError);
-    EXPECT_EQ(svr->iCH_FPS[0], 15);
-    EXPECT_EQ(svr->iCH_Rotation[0], 0);
-    EXPECT_THROW(CHPTZInfoPaser(*svr, u"camera_c1.ptz.speedrange=1"_s, 64), ConversionError);
-    EXPECT_THROW(CHPTZInfoPaser(*svr, {}, -1), ConversionError);
-    EXPECT_NO_THROW(CHImageInfoPaser(*svr, {}, 63));
+    SVRChannel svr;
+    EXPECT_THROW(
+        CHImageInfoPaser(svr, u"camera_c1.image.fps=15\ncamera_c1.image.quality=best\ncamera_c1.image.rotation=1"_s),
+        ConversionError);
+    EXPECT_EQ(svr.iCH_FPS, 15);
+    EXPECT_EQ(svr.iCH_Rotation, -1);
 }
 
 TEST(ParameterTexts, CodesAndNames)

@@ -20,6 +20,15 @@ QByteArray Channel(const QByteArray& number, const QByteArray& content)
     return R"(<CH ID=")" + number + R"(">)" + content + "</CH>";
 }
 
+template <class T>
+std::vector<T> OfAll(const SVRProStreams& streams, T SVRProStream::*member)
+{
+    std::vector<T> values;
+    for (const SVRProStream& stream : streams)
+        values.push_back(stream.*member);
+    return values;
+}
+
 class ChannelReplies : public ::testing::Test
 {
 protected:
@@ -27,9 +36,9 @@ protected:
     {
         return ParseChannelList(Response("<CHList>" + channels + "</CHList>"), *svr, *pro);
     }
-    qint16 probe(const QByteArray& content, qint16 channel = 2)
+    qint16 probe(const QByteArray& content)
     {
-        return ParseDetectedCamera(Response(content), *svr, *pro, channel);
+        return ParseDetectedCamera(Response(content), svr->channels[2], pro->channels[2]);
     }
     std::unique_ptr<SVRRecord> svr = std::make_unique<SVRRecord>();
     std::unique_ptr<SVRProRecord> pro = std::make_unique<SVRProRecord>();
@@ -46,8 +55,8 @@ const QByteArray kFormats =
 
 TEST_F(ChannelReplies, AFullChannelLandsInItsCells)
 {
-    svr->sSub_CH_Name[0] = u"kept"_s;
-    svr->iCH_Rotation[1] = 90;
+    svr->channels[0].sSub_CH_Name = u"kept"_s;
+    svr->channels[1].iCH_Rotation = 90;
     ASSERT_EQ(
         list(Channel("2", R"(<Name>Tor &amp;lt;S&#252;d&amp;gt; "2"</Name><IP>10.0.0.9</IP><HTTPPort>70000</HTTPPort>
         <StartConfig>x</StartConfig><System><UserName>root</UserName><Password>p&lt;&amp;w</Password>
@@ -62,55 +71,61 @@ TEST_F(ChannelReplies, AFullChannelLandsInItsCells)
         <IrisCont>4</IrisCont><SyncPreset>1</SyncPreset><Move> 08</Move><SetPreset>1</SetPreset>
         <ModeList4FishEye>1O:1,2,3</ModeList4FishEye><Mode4FishEye>1O</Mode4FishEye></PTZ>)")),
         1);
-    EXPECT_EQ(svr->sSub_CH_Name[0], u"kept"_s);
-    EXPECT_EQ(svr->sSub_CH_Name[1], u"Tor <Süd&gt; \"2\""_s);
-    EXPECT_EQ(svr->sSub_CH_Password[1], u"p<&w"_s);
+    EXPECT_EQ(svr->channels[0].sSub_CH_Name, u"kept"_s);
+    EXPECT_EQ(svr->channels[1].sSub_CH_Name, u"Tor <Süd&gt; \"2\""_s);
+    EXPECT_EQ(svr->channels[1].sSub_CH_Password, u"p<&w"_s);
     EXPECT_THAT(
-        (std::vector<qint32>{svr->iSub_CH_HttpPort[1], pro->lCH_Pro_RTPSPort[1], svr->iSub_CH_VideoIDCount[1],
-                             svr->iSub_CH_VideoID[1], svr->iSub_CH_Brand[1], svr->iCH_FPS[1], svr->iCH_Quality[1],
-                             svr->iCH_RateCtrl[1], svr->iCH_BitRate[1], svr->iCH_GOP[1], svr->iCH_Rotation[1]}),
+        (std::vector<qint32>{svr->channels[1].iSub_CH_HttpPort, pro->channels[1].lCH_Pro_RTPSPort,
+                             svr->channels[1].iSub_CH_VideoIDCount, svr->channels[1].iSub_CH_VideoID,
+                             svr->channels[1].iSub_CH_Brand, svr->channels[1].iCH_FPS, svr->channels[1].iCH_Quality,
+                             svr->channels[1].iCH_RateCtrl, svr->channels[1].iCH_BitRate, svr->channels[1].iCH_GOP,
+                             svr->channels[1].iCH_Rotation}),
         ElementsAre(70000, 65536, 4, 2, 55, 15, 3, 1, 6, 30, 90));
-    EXPECT_THAT((std::vector<qint16>{svr->iCH_PTZ_MoveContCap[1], svr->iCH_PTZ_ZoomContCap[1],
-                                     svr->iCH_PTZ_FocusContCap[1], svr->iCH_PTZ_IrisContCap[1]}),
+    EXPECT_THAT((std::vector<qint16>{svr->channels[1].iCH_PTZ_MoveContCap, svr->channels[1].iCH_PTZ_ZoomContCap,
+                                     svr->channels[1].iCH_PTZ_FocusContCap, svr->channels[1].iCH_PTZ_IrisContCap}),
                 ElementsAre(1, 2, 3, 4));
     EXPECT_THAT(
-        (QStringList{svr->sSub_CH_IP[1], svr->sSub_CH_UserName[1], pro->sCH_Pro_Model[1], pro->sCH_Pro_Mac[1],
-                     svr->sSub_CH_VideoFormat[1], svr->sSub_CH_Resolution[1], pro->sCH_Pro_LensMode[1],
-                     pro->sCH_Pro_LeftDisplayMode[1], pro->sCH_Pro_AudioType[1]}),
+        (QStringList{svr->channels[1].sSub_CH_IP, svr->channels[1].sSub_CH_UserName, pro->channels[1].sCH_Pro_Model,
+                     pro->channels[1].sCH_Pro_Mac, svr->channels[1].sSub_CH_VideoFormat,
+                     svr->channels[1].sSub_CH_Resolution, pro->channels[1].sCH_Pro_LensMode,
+                     pro->channels[1].sCH_Pro_LeftDisplayMode, pro->channels[1].sCH_Pro_AudioType}),
         ElementsAre(u"10.0.0.9"_s, u"root"_s, u"M1"_s, u"00:11"_s, u"h264"_s, u"640x480"_s, u"L"_s, u"a"_s, u"g711"_s));
-    EXPECT_THAT((QStringList{svr->sCH_FMTList[1], pro->sCH_Pro_LensModeList[1], pro->sCH_Pro_RightDisplayModeList[1],
-                             svr->sCH_ResolutionList[1], svr->sCH_PTZ_Speed_Range[1], svr->sCH_PTZ_PanTilt_Range[1],
-                             svr->sSub_CH_MD_FishEyeModeList[1], svr->sSub_CH_Mode4FishEye[1]}),
+    EXPECT_THAT((QStringList{svr->channels[1].sCH_FMTList, pro->channels[1].sCH_Pro_LensModeList,
+                             pro->channels[1].sCH_Pro_RightDisplayModeList, svr->channels[1].sCH_ResolutionList,
+                             svr->channels[1].sCH_PTZ_Speed_Range, svr->channels[1].sCH_PTZ_PanTilt_Range,
+                             svr->channels[1].sSub_CH_MD_FishEyeModeList, svr->channels[1].sSub_CH_Mode4FishEye}),
                 ElementsAre(u"jpeg,mpeg4,h264"_s, u"L,R"_s, u""_s, u"640x480,320x240;;1920x1080"_s, u"1,9,2"_s, u"8"_s,
                             u"1O:1,2,3"_s, u"1O"_s));
-    EXPECT_TRUE(svr->bSub_CH_PTZ[1] && pro->bCH_Pro_ABS[1] && pro->bCH_Pro_SetPreset[1]);
-    EXPECT_EQ(pro->iCH_Pro_AutoPanMode[1], 2);
-    EXPECT_EQ(pro->iCH_Pro_SyncPreset[1], 1);
+    EXPECT_TRUE(svr->channels[1].bSub_CH_PTZ && pro->channels[1].bCH_Pro_ABS && pro->channels[1].bCH_Pro_SetPreset);
+    EXPECT_EQ(pro->channels[1].iCH_Pro_AutoPanMode, 2);
+    EXPECT_EQ(pro->channels[1].iCH_Pro_SyncPreset, 1);
 }
 
 TEST_F(ChannelReplies, FormatAttributesLandInTheSlotThatThePreviousFormatLeft)
 {
     ASSERT_EQ(list(Channel("1", "<Video>" + kFormats + "</Video>")), 1);
-    const ProChannelStreams& formats = pro->Streams[0];
+    const SVRProStreams& formats = pro->channels[0].streams;
     // jpeg and mpeg4 both in slot 0, h264 in slot 1; only the sizes go by the format's own name.
-    EXPECT_THAT(formats.iQualityLower, ElementsAre(2, 3, 0));
-    EXPECT_THAT(formats.iQualityUpper, ElementsAre(20, 30, 0));
-    EXPECT_THAT(formats.bRateControlCap, ElementsAre(true, true, false));
-    EXPECT_THAT(formats.sResolutionList, ElementsAre(u"640x480,320x240"_s, u""_s, u"1920x1080"_s));
-    EXPECT_THAT(formats.iFPSLower[0], ElementsAre(1, 0));
-    EXPECT_THAT(formats.iFPSUpper[0], ElementsAre(25, 30));
-    EXPECT_THAT(formats.iBPSUpper[0], ElementsAre(8, 0));
-    EXPECT_THAT(formats.iFPSUpper[2], ElementsAre(15));
+    EXPECT_THAT(OfAll(formats, &SVRProStream::iQualityLower), ElementsAre(2, 3, -1));
+    EXPECT_THAT(OfAll(formats, &SVRProStream::iQualityUpper), ElementsAre(20, 30, -1));
+    EXPECT_THAT(OfAll(formats, &SVRProStream::bRateControlCap), ElementsAre(true, true, false));
+    EXPECT_THAT(OfAll(formats, &SVRProStream::sResolutionList),
+                ElementsAre(u"640x480,320x240"_s, u""_s, u"1920x1080"_s));
+    EXPECT_THAT(formats[0].iFPSLower, ElementsAre(1, 0));
+    EXPECT_THAT(formats[0].iFPSUpper, ElementsAre(25, 30));
+    EXPECT_THAT(formats[0].iBPSUpper, ElementsAre(8, 0));
+    EXPECT_THAT(formats[2].iFPSUpper, ElementsAre(15));
 
     // A new reading starts from empty lists and one bound, also for what it does not mention.
     ASSERT_EQ(list(Channel("1", "<Video/>")), 1);
-    EXPECT_EQ(svr->sCH_ResolutionList[0], u";;"_s);
-    for (const auto* bounds : {&formats.iFPSLower, &formats.iFPSUpper, &formats.iBPSLower, &formats.iBPSUpper})
-        EXPECT_THAT(*bounds, ElementsAre(ElementsAre(0), ElementsAre(0), ElementsAre(0)));
-    EXPECT_THAT(formats.iQualityUpper, ElementsAre(20, 30, 0));
+    EXPECT_EQ(svr->channels[0].sCH_ResolutionList, u";;"_s);
+    for (const auto bounds :
+         {&SVRProStream::iFPSLower, &SVRProStream::iFPSUpper, &SVRProStream::iBPSLower, &SVRProStream::iBPSUpper})
+        EXPECT_THAT(OfAll(formats, bounds), ElementsAre(ElementsAre(0), ElementsAre(0), ElementsAre(0)));
+    EXPECT_THAT(OfAll(formats, &SVRProStream::iQualityUpper), ElementsAre(20, 30, -1));
 
     qint16 slot = 1;
-    ParseSupportFmt(pro->Streams[0], pugi::xml_node(), slot);
+    ParseSupportFmt(pro->channels[0].streams, pugi::xml_node(), slot);
     EXPECT_EQ(slot, 1);
 }
 
@@ -128,66 +143,68 @@ TEST_F(ChannelReplies, OrderOfAudioAndSpeedElementsMatters)
         {"<CapAudioOut>0</CapAudioOut>", 7},
     };
     for (const auto& [audio, result] : cases) {
-        svr->iSub_CH_Audio[0] = 7;
+        svr->channels[0].iSub_CH_Audio = 7;
         ASSERT_EQ(list(Channel("1", "<Audio>" + QByteArray(audio) + "</Audio>")), 1);
-        EXPECT_EQ(svr->iSub_CH_Audio[0], result) << audio;
+        EXPECT_EQ(svr->channels[0].iSub_CH_Audio, result) << audio;
     }
     ASSERT_EQ(
         list(Channel("1", "<PTZ><SpeedLower>1</SpeedLower><SpeedUpper>9</SpeedUpper><SpeedStep>1</SpeedStep></PTZ>") +
              Channel("2", "<PTZ><SpeedStep>3</SpeedStep><SpeedUpper>5</SpeedUpper></PTZ>")),
         1);
-    EXPECT_EQ(svr->sCH_PTZ_Speed_Range[1], u"1,9,3"_s); // bounds of the channel before
+    EXPECT_EQ(svr->channels[1].sCH_PTZ_Speed_Range, u"1,9,3"_s); // bounds of the channel before
 }
 
 TEST_F(ChannelReplies, FailuresLeaveWhatWasNotRead)
 {
-    svr->sSub_CH_Name[0] = u"kept"_s;
-    pro->Streams[0].sResolutionList[0] = u"kept"_s;
+    svr->channels[0].sSub_CH_Name = u"kept"_s;
+    pro->channels[0].streams[0].sResolutionList = u"kept"_s;
     for (const char* reply :
          {R"(<RESPONSE RET="3"><CHList><CH ID="1"><Name>x</Name></CH></CHList></RESPONSE>)",
           R"(<RESPONSE><CHList><CH ID="1"><Name>x</Name></CH></CHList></RESPONSE>)",
           R"(<RESPONSE RET="0"><CHList><CH ID="1"><Name>x</Name></CH></CHList>)", "", "OK", "<a/>"}) {
         EXPECT_EQ(ParseChannelList(QByteArray(reply), *svr, *pro), 0) << reply;
-        EXPECT_EQ(svr->sSub_CH_Name[0] + pro->Streams[0].sResolutionList[0], u"keptkept"_s) << reply;
+        EXPECT_EQ(svr->channels[0].sSub_CH_Name + pro->channels[0].streams[0].sResolutionList, u"keptkept"_s) << reply;
     }
     for (const char* channel :
          {R"(<CH ID="65"/>)", R"(<CH ID="0"/>)", R"(<CH ID="x"/>)", "<CH/>",
           R"(<CH ID="3"><Name>read</Name><Video><FPS>many</FPS></Video></CH>)",
           R"(<CH ID="3"><Video><FPS>40000</FPS></Video></CH>)", R"(<CH ID="3"><Video><GOP></GOP></Video></CH>)"})
         EXPECT_THROW(list(channel), ConversionError) << channel;
-    EXPECT_EQ(svr->sSub_CH_Name[2], u"read"_s);
+    EXPECT_EQ(svr->channels[2].sSub_CH_Name, u"read"_s);
 }
 
 TEST_F(ChannelReplies, AProbeFillsTheStreamSlots)
 {
-    ProChannelStreams& streams = pro->Streams[2];
-    streams.sFMT = {u"old"_s, u"old"_s, u"old"_s};
-    streams.iGOP = {5, 5, 5};
-    svr->sCH_ResolutionList[2] = u"kept"_s;
+    SVRProStreams& streams = pro->channels[2].streams;
+    for (SVRProStream& stream : streams) {
+        stream.sFMT = u"old"_s;
+        stream.iGOP = 5;
+    }
+    svr->channels[2].sCH_ResolutionList = u"kept"_s;
     ASSERT_EQ(probe("<System><BrandCode>20</BrandCode></System><Video>" + kFormats + R"(<CurrentSettingsList>
         <S><FMT>H264</FMT><Size>1920x1080</Size><FPS>15</FPS><Quality>4</Quality><RateControl>CBR</RateControl>
         <Bitrate>7</Bitrate><GOP>0</GOP></S>
         <S><FMT>mjpeg</FMT><Size>640x480</Size></S></CurrentSettingsList></Video>
         <PTZ><Zoom>1</Zoom><Focus>2</Focus><Iris>3</Iris><MoveCont>9</MoveCont><Move>4</Move></PTZ>)"),
               0);
-    EXPECT_THAT(streams.sFMT, ElementsAre(u"mjpeg"_s, u""_s, u"H264"_s)); // two streams: slots 0 and 1 were cleared
-    EXPECT_THAT(streams.sResolution, ElementsAre(u"640x480"_s, u""_s, u"1920x1080"_s));
-    EXPECT_THAT(streams.sRateControl, ElementsAre(u"-1"_s, u"-1"_s, u"CBR"_s));
-    EXPECT_THAT(streams.iFrameRate, ElementsAre(-1, -1, 15));
-    EXPECT_THAT(streams.iGOP, ElementsAre(-1, -1, 0));
-    EXPECT_THAT(streams.bGOPCap, ElementsAre(false, true, false));
-    EXPECT_EQ(streams.sResolutionList[2], u"1920x1080"_s);
-    EXPECT_EQ(svr->sCH_ResolutionList[2], u"kept"_s);
-    EXPECT_EQ(svr->iSub_CH_Brand[2], 20);
-    EXPECT_THAT((std::vector<qint16>{svr->iCH_PTZ_ZoomContCap[2], svr->iCH_PTZ_FocusContCap[2],
-                                     svr->iCH_PTZ_IrisContCap[2], svr->iCH_PTZ_MoveContCap[2]}),
+    EXPECT_THAT(OfAll(streams, &SVRProStream::sFMT),
+                ElementsAre(u"mjpeg"_s, u""_s, u"H264"_s)); // two streams: slots 0 and 1 were cleared
+    EXPECT_THAT(OfAll(streams, &SVRProStream::sResolution), ElementsAre(u"640x480"_s, u""_s, u"1920x1080"_s));
+    EXPECT_THAT(OfAll(streams, &SVRProStream::sRateControl), ElementsAre(u"-1"_s, u"-1"_s, u"CBR"_s));
+    EXPECT_THAT(OfAll(streams, &SVRProStream::iFrameRate), ElementsAre(-1, -1, 15));
+    EXPECT_THAT(OfAll(streams, &SVRProStream::iGOP), ElementsAre(-1, -1, 0));
+    EXPECT_THAT(OfAll(streams, &SVRProStream::bGOPCap), ElementsAre(false, true, false));
+    EXPECT_EQ(streams[2].sResolutionList, u"1920x1080"_s);
+    EXPECT_EQ(svr->channels[2].sCH_ResolutionList, u"kept"_s);
+    EXPECT_EQ(svr->channels[2].iSub_CH_Brand, 20);
+    EXPECT_THAT((std::vector<qint16>{svr->channels[2].iCH_PTZ_ZoomContCap, svr->channels[2].iCH_PTZ_FocusContCap,
+                                     svr->channels[2].iCH_PTZ_IrisContCap, svr->channels[2].iCH_PTZ_MoveContCap}),
                 ElementsAre(1, 2, 3, 0));
 
     ASSERT_EQ(probe("<CH><System><BrandCode>21</BrandCode></System></CH>"), 0); // one wrapper deeper
-    EXPECT_EQ(svr->iSub_CH_Brand[2], 21);
-    EXPECT_EQ(ParseDetectedCamera(QByteArray(R"(<RESPONSE RET="5"/>)"), *svr, *pro, 2), 5);
-    EXPECT_EQ(ParseDetectedCamera(QByteArray("<RESPONSE"), *svr, *pro, 2), -100);
-    EXPECT_THROW(probe("", 64), ConversionError);
+    EXPECT_EQ(svr->channels[2].iSub_CH_Brand, 21);
+    EXPECT_EQ(ParseDetectedCamera(QByteArray(R"(<RESPONSE RET="5"/>)"), svr->channels[2], pro->channels[2]), 5);
+    EXPECT_EQ(ParseDetectedCamera(QByteArray("<RESPONSE"), svr->channels[2], pro->channels[2]), -100);
 }
 
 TEST(Replies, RecorderFacts)
@@ -343,7 +360,7 @@ TEST(Replies, HostileTextsEndInTheFailureValue)
                         QByteArray("</a>").repeated(depth) + "</Name></CH></CHList>");
     };
     EXPECT_EQ(ParseChannelList(nested(190'000), *svr, *pro), 1);
-    EXPECT_EQ(svr->sSub_CH_Name[0], u"deep"_s);
+    EXPECT_EQ(svr->channels[0].sSub_CH_Name, u"deep"_s);
     EXPECT_EQ(ParseChannelList(nested(210'000), *svr, *pro), 0); // too much markup
     EXPECT_EQ(ParseChannelList(Response("<a" + QByteArray(" b=\"\"").repeated(400'001) + "/>"), *svr, *pro), 0);
     EXPECT_EQ(ParseChannelList(Response(QByteArray(kMaxReplySize, 'x')), *svr, *pro), 0);

@@ -175,7 +175,6 @@ TEST(Requests, ChannelsAndRecordersOutOfRangeAreRefused)
         EXPECT_THROW(BuildPtz(CMD_PTZ_MOVE, channel, 1, 1, 1, {}), ConversionError);
         EXPECT_THROW(BuildSetPresetList(presets, channel), ConversionError);
         EXPECT_THROW(BuildSetPresetSeq(channel, u"1,2"_s, 5), ConversionError);
-        EXPECT_THROW(ChannelSettingsOf(recorders[0], {}, channel), ConversionError);
     }
     EXPECT_THROW(BuildSetMotionDetect(recorders, 1, {}), ConversionError);
     EXPECT_THROW(BuildSetMotionDetect(recorders, 0, {}), ConversionError);
@@ -225,7 +224,8 @@ protected:
     void SetUp() override
     {
         recorders[1].iSVR_Maxchannel = 4;
-        recorders[1].bSub_CH_Cam_MD_Enabled.fill(true);
+        for (SVRChannel& channel : recorders[1].channels)
+            channel.bSub_CH_Cam_MD_Enabled = true;
     }
     TemporaryStation station;
     std::vector<SVRRecord> recorders = std::vector<SVRRecord>(2);
@@ -259,8 +259,10 @@ TEST_F(EventSettings, RefusedChannelsLoseTheirSwitchAndAreTold)
         "<CH ID=\"99\" DIRet=\"1\"/><CH ID=\"4\" MDRet=\"0\" DIRet=\"-1\"/></CHList></RESPONSE>"_s;
     EXPECT_EQ(apply(true, {{CMD_GET_MOTION_DI_RESULT, reply}}), 1);
     EXPECT_EQ(told, QStringList(u"2,99,4"_s));
-    const auto& on = recorders[1].bSub_CH_Cam_MD_Enabled;
-    EXPECT_THAT((std::vector<bool>{on[0], on[1], on[2], on[3]}), ElementsAre(true, false, true, false));
+    std::vector<bool> on;
+    for (const SVRChannel& channel : recorders[1].channels)
+        on.push_back(channel.bSub_CH_Cam_MD_Enabled);
+    EXPECT_THAT(std::vector(on.begin(), on.begin() + 4), ElementsAre(true, false, true, false));
     EXPECT_EQ(sent.back(), CMD_SAVE_CONFIG);
 
     EXPECT_EQ(apply(true, {{CMD_GET_MOTION_DI_RESULT, kRefused}}), 1); // the question itself is no write

@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
 {
     const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    const auto record = std::make_unique<SVRRecord>();
+    SVRChannel channel;
     for (auto* parser : {CHImageInfoPaser, CHPTZInfoPaser, CHOnvifInfoPaser}) {
         try {
-            parser(*record, text, 63);
+            parser(channel, text);
         } catch (const ConversionError&) {
             // what the caller's trap would log
         }

@@ -38,16 +38,16 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, std::size_t size)
         std::abort();
 
     Attempt([&] {
-        svr->sSub_CH_Name.fill(QStringLiteral("kept"));
-        if (ParseChannelList(reply, *svr, *pro) == 0 && svr->sSub_CH_Name[0] != QStringLiteral("kept"))
+        svr->channels[0].sSub_CH_Name = QStringLiteral("kept");
+        if (ParseChannelList(reply, *svr, *pro) == 0 && svr->channels[0].sSub_CH_Name != QStringLiteral("kept"))
             std::abort(); // a refused reply changes nothing
     });
-    Attempt([&] { ParseDetectedCamera(reply, *svr, *pro, 63); });
-    for (const ProChannelStreams& streams : pro->Streams) {
-        for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
-            const std::size_t sizes = streams.iFPSUpper[slot].size();
-            if (streams.iFPSLower[slot].size() != sizes || streams.iBPSUpper[slot].size() != sizes ||
-                streams.iBPSLower[slot].size() != sizes)
+    Attempt([&] { ParseDetectedCamera(reply, svr->channels[63], pro->channels[63]); });
+    for (const SVRProChannel& channel : pro->channels) {
+        for (const SVRProStream& stream : channel.streams) {
+            const std::size_t sizes = stream.iFPSUpper.size();
+            if (stream.iFPSLower.size() != sizes || stream.iBPSUpper.size() != sizes ||
+                stream.iBPSLower.size() != sizes)
                 std::abort(); // the four bound lists of a format stay of one length
         }
     }

@@ -22,18 +22,18 @@ protected:
             ClearChannel(recorders->SVREdit, recorders->SVRProEdit, channel);
         SVRRecord& svr = recorders->SVREdit;
         svr.sSVR_DeviceType = kFamilySVR;
-        svr.sSub_CH_IP[0] = u"10.0.0.1"_s;
-        svr.sSub_CH_VideoFormat[0] = u"H.264"_s;
-        svr.sSub_CH_Resolution[0] = u"640x480"_s;
-        svr.sCH_FMTList[0] = u"MJPEG,H.264"_s;
-        svr.sCH_ResolutionList[0] = u"320x240;;1280x720,640x480"_s;
-        svr.sCH_FPS_Range[0] = u"0,1,2;;0,1,2,3,4,5"_s;
-        svr.sCH_BitRate_Range[0] = u"-1;;1,2,3"_s;
-        svr.sCH_RateCtrl_Range[0] = u"-1;;0,1"_s;
-        svr.sCH_Quality_Range[0] = u"0,1,2;;1,2"_s;
-        svr.iCH_FPS[0] = 3;
-        svr.iCH_BitRate[0] = 2;
-        svr.iCH_RateCtrl[0] = 1;
+        svr.channels[0].sSub_CH_IP = u"10.0.0.1"_s;
+        svr.channels[0].sSub_CH_VideoFormat = u"H.264"_s;
+        svr.channels[0].sSub_CH_Resolution = u"640x480"_s;
+        svr.channels[0].sCH_FMTList = u"MJPEG,H.264"_s;
+        svr.channels[0].sCH_ResolutionList = u"320x240;;1280x720,640x480"_s;
+        svr.channels[0].sCH_FPS_Range = u"0,1,2;;0,1,2,3,4,5"_s;
+        svr.channels[0].sCH_BitRate_Range = u"-1;;1,2,3"_s;
+        svr.channels[0].sCH_RateCtrl_Range = u"-1;;0,1"_s;
+        svr.channels[0].sCH_Quality_Range = u"0,1,2;;1,2"_s;
+        svr.channels[0].iCH_FPS = 3;
+        svr.channels[0].iCH_BitRate = 2;
+        svr.channels[0].iCH_RateCtrl = 1;
         make(svr, recorders->SVRProEdit);
         page = std::make_unique<CameraEdit>(com, *recorders);
         page->open(0);
@@ -98,7 +98,7 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
         page->setFields(fields);
         EXPECT_EQ(page->checkApply().message, 616);
         EXPECT_EQ(page->detect().message, 833);
-        EXPECT_TRUE(recorders->SVREdit.sSub_CH_IP[11].isEmpty()); // the edit record waits for the write
+        EXPECT_TRUE(recorders->SVREdit.channels[11].sSub_CH_IP.isEmpty()); // the edit record waits for the write
 
         EXPECT_TRUE(choose(Control::Format, pro ? u"h264"_s : u"H.264"_s));
         EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
@@ -134,13 +134,13 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
         EXPECT_EQ(deviceCamera(12).ip, fields.address);
 
         const SVRRecord& edit = recorders->SVREdit;
-        EXPECT_TRUE(edit.bSub_CH_Modified[11]);
-        EXPECT_EQ(edit.sSub_CH_Name[11], fields.name);
-        EXPECT_EQ(edit.sSub_CH_Resolution[11], u"640x480"_s);
-        EXPECT_EQ(edit.iCH_FPS[11], pro ? 10 : 3);
-        EXPECT_EQ(edit.sCH_FPS_Customer[11], u"10"_s);
-        EXPECT_EQ(edit.iSub_Channel[11], 12);
-        EXPECT_FALSE(edit.bSub_CH_Modified[0]);
+        EXPECT_TRUE(edit.channels[11].bSub_CH_Modified);
+        EXPECT_EQ(edit.channels[11].sSub_CH_Name, fields.name);
+        EXPECT_EQ(edit.channels[11].sSub_CH_Resolution, u"640x480"_s);
+        EXPECT_EQ(edit.channels[11].iCH_FPS, pro ? 10 : 3);
+        EXPECT_EQ(edit.channels[11].sCH_FPS_Customer, u"10"_s);
+        EXPECT_EQ(edit.channels[11].iSub_Channel, 12);
+        EXPECT_FALSE(edit.channels[0].bSub_CH_Modified);
         EXPECT_FALSE(page->changed());
         EXPECT_EQ(chosen(Control::FrameRate), u"10"_s);
     }
@@ -198,7 +198,7 @@ TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
         running = row.family;
         fault(row.fault);
         page->open(1);
-        const QString stored = recorders->SVREdit.sCH_ResolutionList[1];
+        const QString stored = recorders->SVREdit.channels[1].sCH_ResolutionList;
         CameraEdit::Fields fields = fieldsOf(row.camera);
         if (row.wrongPassword)
             fields.password = u"wrong"_s;
@@ -208,7 +208,7 @@ TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
         EXPECT_EQ(outcome.message, row.message) << row.camera << ' ' << row.fault.path.constData();
         EXPECT_EQ(outcome.suffix, row.suffix);
         EXPECT_EQ(outcome.title, row.title);
-        EXPECT_EQ(recorders->SVREdit.sCH_ResolutionList[1], stored);
+        EXPECT_EQ(recorders->SVREdit.channels[1].sCH_ResolutionList, stored);
         EXPECT_EQ(page->checkApply().message, 616);
         EXPECT_EQ(page->fields(), fields); // what was typed can be corrected
         if (row.message != 609) {
@@ -239,24 +239,24 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
     EXPECT_EQ(chosen(Control::BitRate), u"1024K"_s);
     EXPECT_TRUE(page->writeBack().ok);
     const SVRRecord& edit = recorders->SVREdit;
-    EXPECT_EQ(edit.iSub_CH_Brand[11], 12);
-    EXPECT_EQ(edit.sCH_FMTList[11], u"MJPEG,H.264"_s);
-    EXPECT_EQ(edit.sCH_Relativeformat[11], u"{}{}{}"_s);
-    EXPECT_EQ(edit.sCH_PTZ_Speed_Range[11], u"1,9,1"_s);
-    EXPECT_EQ(edit.sCH_FPS_List_Customer[11], u"Full,15"_s);
-    EXPECT_EQ(edit.iCH_PTZ_ZoomContCap[11], 1);
-    EXPECT_EQ(edit.iCH_PTZ_MoveContCap[11], 0);
-    EXPECT_EQ(edit.iCH_BitRate[11], 6);
+    EXPECT_EQ(edit.channels[11].iSub_CH_Brand, 12);
+    EXPECT_EQ(edit.channels[11].sCH_FMTList, u"MJPEG,H.264"_s);
+    EXPECT_EQ(edit.channels[11].sCH_Relativeformat, u"{}{}{}"_s);
+    EXPECT_EQ(edit.channels[11].sCH_PTZ_Speed_Range, u"1,9,1"_s);
+    EXPECT_EQ(edit.channels[11].sCH_FPS_List_Customer, u"Full,15"_s);
+    EXPECT_EQ(edit.channels[11].iCH_PTZ_ZoomContCap, 1);
+    EXPECT_EQ(edit.channels[11].iCH_PTZ_MoveContCap, 0);
+    EXPECT_EQ(edit.channels[11].iCH_BitRate, 6);
     EXPECT_EQ(deviceCamera(12).brandCode, 12);
 
     // "N/A" is not sent, and the stored rate stays.
-    recorders->SVREdit.sCH_Relativeformat[11] = u"{}{}{640x480<-1|1><6>}"_s;
+    recorders->SVREdit.channels[11].sCH_Relativeformat = u"{}{}{640x480<-1|1><6>}"_s;
     page->open(11);
     EXPECT_EQ(chosen(Control::FrameRate), u"N/A"_s);
     requests();
     EXPECT_TRUE(page->writeBack().ok);
     EXPECT_FALSE(requests().back().target.contains(".fps="));
-    EXPECT_EQ(edit.iCH_FPS[11], 4);
+    EXPECT_EQ(edit.channels[11].iCH_FPS, 4);
 }
 
 TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
@@ -280,7 +280,7 @@ TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
         {u"{}{}{640x480<-1|1><-1>}"_s, {u"N/A"_s, u"1"_s}, u"N/A"_s, 3, {u"N/A"_s}},
     };
     for (const Case& row : cases) {
-        show([&](SVRRecord& svr, SVRProRecord&) { svr.sCH_Relativeformat[0] = row.rule; });
+        show([&](SVRRecord& svr, SVRProRecord&) { svr.channels[0].sCH_Relativeformat = row.rule; });
         EXPECT_EQ(entries(Control::FrameRate), row.rates) << qPrintable(row.rule);
         EXPECT_EQ(chosen(Control::FrameRate), row.rate) << qPrintable(row.rule);
         EXPECT_EQ(entries(Control::BitRate), row.bits) << qPrintable(row.rule);
@@ -288,9 +288,11 @@ TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
         // Another size and back: the stored rate is the one that the list left.
         EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
         EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
-        EXPECT_EQ(recorders->SVREdit.iCH_FPS[0], 3);
+        EXPECT_EQ(recorders->SVREdit.channels[0].iCH_FPS, 3);
     }
-    show([](SVRRecord& svr, SVRProRecord&) { svr.sCH_Relativeformat[0] = u"{}{}{640x480<1><1>,1280x720<2|1><1>}"_s; });
+    show([](SVRRecord& svr, SVRProRecord&) {
+        svr.channels[0].sCH_Relativeformat = u"{}{}{640x480<1><1>,1280x720<2|1><1>}"_s;
+    });
     EXPECT_EQ(chosen(Control::FrameRate), u"1"_s); // has taken the place of 10
     EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
     EXPECT_EQ(chosen(Control::FrameRate), u"1"_s);
@@ -320,12 +322,12 @@ TEST_F(CameraPage, OnvifCameraGoesByItsOwnRanges)
 {
     const auto onvif = [](qint16 brand) {
         return [brand](SVRRecord& svr, SVRProRecord&) {
-            svr.iSub_CH_Brand[0] = brand;
-            svr.sCH_Onvif_JPEG_Resolution[0] = u"352x288"_s;
-            svr.sCH_Onvif_H264_Resolution[0] = u"640x480,1920x1080"_s;
-            svr.sCH_Onvif_H264_FPS[0] = u"2,12"_s;
-            svr.sCH_Onvif_Quality[0] = u"3,5"_s;
-            svr.iCH_RateCtrl[0] = 0;
+            svr.channels[0].iSub_CH_Brand = brand;
+            svr.channels[0].sCH_Onvif_JPEG_Resolution = u"352x288"_s;
+            svr.channels[0].sCH_Onvif_H264_Resolution = u"640x480,1920x1080"_s;
+            svr.channels[0].sCH_Onvif_H264_FPS = u"2,12"_s;
+            svr.channels[0].sCH_Onvif_Quality = u"3,5"_s;
+            svr.channels[0].iCH_RateCtrl = 0;
         };
     };
     show(onvif(55));
@@ -363,7 +365,7 @@ TEST_F(CameraPage, SourcesOfOneCameraHaveListsOfTheirOwn)
     EXPECT_EQ(chosen(Control::VideoSource), u"2"_s);
     EXPECT_TRUE(page->writeBack().ok);
     EXPECT_EQ(deviceCamera(12).videoNumber, 2);
-    EXPECT_EQ(recorders->SVREdit.iSub_CH_VideoID[11], 2);
+    EXPECT_EQ(recorders->SVREdit.channels[11].iSub_CH_VideoID, 2);
 
     // The lists of a source that no answer tells of want a detection, though no field has changed.
     EXPECT_TRUE(choose(Control::VideoSource, u"1"_s));
@@ -399,12 +401,12 @@ TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
     EXPECT_EQ(camera.live.fps, 29);
     EXPECT_EQ(camera.lensMode, u"both"_s);
     EXPECT_EQ(camera.rightDisplayMode, u"normal"_s);
-    EXPECT_EQ(recorders->SVRProEdit.Streams[11].sResolution[0], u"320x240"_s);
-    EXPECT_EQ(recorders->SVRProEdit.Streams[11].iFrameRate[2], 29);
+    EXPECT_EQ(recorders->SVRProEdit.channels[11].streams[0].sResolution, u"320x240"_s);
+    EXPECT_EQ(recorders->SVRProEdit.channels[11].streams[2].iFrameRate, 29);
 
     // A size that allows less brings the rate down to what it allows; the other streams come within theirs.
-    recorders->SVRProEdit.Streams[11].iFPSUpper[2] = {15, 20, 30};
-    recorders->SVRProEdit.Streams[11].sResolution[0] = u"9x9"_s;
+    recorders->SVRProEdit.channels[11].streams[2].iFPSUpper = {15, 20, 30};
+    recorders->SVRProEdit.channels[11].streams[0].sResolution = u"9x9"_s;
     page->open(11);
     EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
     EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
@@ -423,16 +425,16 @@ TEST_F(CameraPage, SettingsOfANewerRecorderStayUnlessTheSizeForbidsThem)
     for (const auto& [bits, shownBits, rate, shownRate] : cases) {
         show([&](SVRRecord& svr, SVRProRecord& pro) {
             svr.sSVR_DeviceType = kFamilyOmluPro;
-            svr.sCH_FMTList[0] = u"jpeg,h264"_s;
-            svr.sSub_CH_VideoFormat[0] = u"h264"_s;
-            svr.iCH_BitRate[0] = bits;
-            svr.iCH_FPS[0] = rate;
-            ProChannelStreams& streams = pro.Streams[0];
-            streams.sResolutionList[2] = u"1280x720,640x480"_s;
-            streams.iFPSLower[2] = streams.iFPSUpper[2] = {30, 5};
-            streams.iFPSUpper[2][1] = 25;
-            streams.iBPSLower[2] = {64, 64};
-            streams.iBPSUpper[2] = {8192, 4000};
+            svr.channels[0].sCH_FMTList = u"jpeg,h264"_s;
+            svr.channels[0].sSub_CH_VideoFormat = u"h264"_s;
+            svr.channels[0].iCH_BitRate = bits;
+            svr.channels[0].iCH_FPS = rate;
+            SVRProStreams& streams = pro.channels[0].streams;
+            streams[2].sResolutionList = u"1280x720,640x480"_s;
+            streams[2].iFPSLower = streams[2].iFPSUpper = {30, 5};
+            streams[2].iFPSUpper[1] = 25;
+            streams[2].iBPSLower = {64, 64};
+            streams[2].iBPSUpper = {8192, 4000};
         });
         EXPECT_EQ(chosen(Control::BitRate), shownBits);
         EXPECT_EQ(chosen(Control::FrameRate), shownRate);
@@ -455,17 +457,18 @@ TEST_F(CameraPage, StationHoldsNoMoreThanItsCameras)
     start(Family::Svr);
     for (std::size_t slot = 1; slot < 5; ++slot) {
         recorders->SVRWorkList[slot].sSVR_IP = u"10.0.0.%1"_s.arg(slot);
-        recorders->SVRWorkList[slot].sSub_CH_IP.fill(u"10.1.1.1"_s);
+        for (SVRChannel& channel : recorders->SVRWorkList[slot].channels)
+            channel.sSub_CH_IP = u"10.1.1.1"_s;
     }
-    SVRRecord& last = recorders->SVRWorkList[4]; // 7 of this recorder, 192 of three others
-    std::fill(last.sSub_CH_IP.begin() + 57, last.sSub_CH_IP.end(), QString()); // and 57: 256
+    SVRRecord& last = recorders->SVRWorkList[4];                              // 7 of this recorder, 192 of three others
+    std::fill(last.channels.begin() + 57, last.channels.end(), SVRChannel()); // and 57: 256
     page->open(11);
     page->setFields(fieldsOf(101));
     EXPECT_EQ(page->checkApply().message, 716);
     EXPECT_EQ(page->checkApply().suffix, u"(256)"_s);
-    last.sSub_CH_IP[56].clear();
-    EXPECT_EQ(page->checkApply().message, 616);        // there is room; the camera is not detected yet
-    recorders->SVREdit.sSub_CH_IP[10] = u"10.1.1.1"_s; // added on this page and not applied yet
+    last.channels[56].sSub_CH_IP.clear();
+    EXPECT_EQ(page->checkApply().message, 616);                 // there is room; the camera is not detected yet
+    recorders->SVREdit.channels[10].sSub_CH_IP = u"10.1.1.1"_s; // added on this page and not applied yet
     EXPECT_EQ(page->checkApply().message, 716);
     page->open(1);
     EXPECT_TRUE(page->checkApply().ok); // a camera that is there already may be tuned
@@ -501,7 +504,7 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
         running = row.family;
         const qsizetype before = log().count("Form_CameraSetting - cmbeditCam_Click");
         page->open(1);
-        const QString size = recorders->SVREdit.sSub_CH_Resolution[1];
+        const QString size = recorders->SVREdit.channels[1].sSub_CH_Resolution;
         EXPECT_TRUE(choose(Control::Resolution, u"320x240"_s));
         fault(row.fault);
         const CameraEdit::Outcome outcome = page->writeBack();
@@ -509,15 +512,15 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
         EXPECT_EQ(outcome.message, row.message) << row.fault.cmd;
         EXPECT_EQ(outcome.title, u"Notice"_s);
         EXPECT_EQ(log().count("Form_CameraSetting - cmbeditCam_Click") > before, row.logged) << row.fault.cmd;
-        EXPECT_EQ(recorders->SVREdit.sSub_CH_Resolution[1], size);
-        EXPECT_FALSE(recorders->SVREdit.bSub_CH_Modified[1]);
+        EXPECT_EQ(recorders->SVREdit.channels[1].sSub_CH_Resolution, size);
+        EXPECT_FALSE(recorders->SVREdit.channels[1].bSub_CH_Modified);
         EXPECT_EQ(entries(Control::Format).isEmpty(), row.family == Family::Svr); // emptied
     }
 
     // Without a format the short form goes out; a name that cannot be written is not sent at all.
     start(Family::Svr);
-    recorders->SVREdit.sCH_FMTList[1].clear();
-    recorders->SVREdit.sCH_ResolutionList[1].clear();
+    recorders->SVREdit.channels[1].sCH_FMTList.clear();
+    recorders->SVREdit.channels[1].sCH_ResolutionList.clear();
     page->open(1);
     fault({FaultKind::Refuse, -3, "/param.cgi"});
     EXPECT_EQ(page->writeBack().message, 615);

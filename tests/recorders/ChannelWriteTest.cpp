@@ -27,9 +27,9 @@ TEST_F(ChannelWrite, ClearedChannelIsEmptyOnTheRecorderAndOnThePage)
         onDevice([](simulators::Device& device) { device.reboot(); });
         for (const std::size_t channel : {2U, 3U}) {
             EXPECT_TRUE(deviceCamera(static_cast<int>(channel) + 1).ip.isEmpty());
-            EXPECT_TRUE(recorders->SVREdit.sSub_CH_IP[channel].isEmpty());
-            EXPECT_EQ(recorders->SVREdit.iSub_Channel[channel], channel + 1);
-            EXPECT_TRUE(recorders->SVREdit.bSub_CH_Modified[channel]);
+            EXPECT_TRUE(recorders->SVREdit.channels[channel].sSub_CH_IP.isEmpty());
+            EXPECT_EQ(recorders->SVREdit.channels[channel].iSub_Channel, channel + 1);
+            EXPECT_TRUE(recorders->SVREdit.channels[channel].bSub_CH_Modified);
         }
         EXPECT_FALSE(deviceCamera(2).ip.isEmpty());
         const std::vector<simulators::LoggedRequest> sent = requests();
@@ -59,8 +59,8 @@ TEST_F(ChannelWrite, FailedClearingLeavesTheChannel)
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.message, message);
         EXPECT_EQ(outcome.title, u"Notice"_s);
-        EXPECT_FALSE(recorders->SVREdit.sSub_CH_IP[1].isEmpty());
-        EXPECT_FALSE(recorders->SVREdit.bSub_CH_Modified[1]);
+        EXPECT_FALSE(recorders->SVREdit.channels[1].sSub_CH_IP.isEmpty());
+        EXPECT_FALSE(recorders->SVREdit.channels[1].bSub_CH_Modified);
     }
 }
 
@@ -77,8 +77,8 @@ TEST_F(ChannelWrite, CameraEventsAreReadBackAsWritten)
         SVRRecord& svr = recorders->SVREdit;
         const CameraEventBits bits{3, 2, 1, 0, 0, 1}; // channel 6 has no camera
         EXPECT_TRUE(WriteRecorderCameraEvents(com, svr, bits).ok);
-        EXPECT_TRUE(svr.bSub_CH_Cam_MD_Enabled[0] && svr.bSub_CH_Cam_MD_Enabled[2]);
-        EXPECT_FALSE(svr.bSub_CH_Cam_MD_Enabled[3] || svr.bSub_CH_Cam_MD_Enabled[5]);
+        EXPECT_TRUE(svr.channels[0].bSub_CH_Cam_MD_Enabled && svr.channels[2].bSub_CH_Cam_MD_Enabled);
+        EXPECT_FALSE(svr.channels[3].bSub_CH_Cam_MD_Enabled || svr.channels[5].bSub_CH_Cam_MD_Enabled);
         CameraEventBits read;
         read.fill(9);
         EXPECT_TRUE(ReadRecorderCameraEvents(com, svr, read).ok);
@@ -111,8 +111,8 @@ TEST_F(ChannelWrite, RefusedCameraEventsAreNamed)
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.message, 834);
         EXPECT_EQ(outcome.suffix, u" SVR:1 CH: 2,4"_s);
-        EXPECT_TRUE(svr.bSub_CH_Cam_MD_Enabled[0] && svr.bSub_CH_Cam_MD_Enabled[2]);
-        EXPECT_FALSE(svr.bSub_CH_Cam_MD_Enabled[1] || svr.bSub_CH_Cam_MD_Enabled[3]);
+        EXPECT_TRUE(svr.channels[0].bSub_CH_Cam_MD_Enabled && svr.channels[2].bSub_CH_Cam_MD_Enabled);
+        EXPECT_FALSE(svr.channels[1].bSub_CH_Cam_MD_Enabled || svr.channels[3].bSub_CH_Cam_MD_Enabled);
     }
 }
 
@@ -124,12 +124,13 @@ TEST_F(ChannelWrite, EachAnswerToCameraEventsHasItsMessage)
     start(Family::Svr, 8, 3);
     SVRRecord& svr = recorders->SVREdit;
     for (const auto& [answer, message] : answers) {
-        svr.bSub_CH_Cam_MD_Enabled.fill(false);
+        for (SVRChannel& channel : svr.channels)
+            channel.bSub_CH_Cam_MD_Enabled = false;
         fault({FaultKind::Body, 0, "/event/basicevent.cgi", 0, answer});
         const RecorderOutcome outcome = WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 0, 2});
         EXPECT_EQ(outcome.message, message) << answer.constData();
         EXPECT_EQ(outcome.ok, message == 0);
-        EXPECT_EQ(svr.bSub_CH_Cam_MD_Enabled[0], message == 0);
+        EXPECT_EQ(svr.channels[0].bSub_CH_Cam_MD_Enabled, message == 0);
         EXPECT_EQ(requests().back().target,
                   "/event/basicevent.cgi?action=set&svr=1&camera_c1=1&camera_c2=&camera_c3=2&httpenabled=1");
     }
@@ -141,7 +142,7 @@ TEST_F(ChannelWrite, EachAnswerToCameraEventsHasItsMessage)
         start(Family::OmluPro, 8, 3);
         fault({FaultKind::Reset, 0, "/cmd.cgi", cmd});
         EXPECT_EQ(WriteRecorderCameraEvents(com, recorders->SVREdit, CameraEventBits{1}).message, 9) << cmd;
-        EXPECT_FALSE(recorders->SVREdit.bSub_CH_Cam_MD_Enabled[0]);
+        EXPECT_FALSE(recorders->SVREdit.channels[0].bSub_CH_Cam_MD_Enabled);
     }
 }
 

@@ -24,7 +24,7 @@ protected:
         work.sSVR_UserName = u"admin"_s;
         work.iSVR_Maxchannel = 8;
         for (std::size_t c = 0; c < 2; ++c)
-            work.sSub_CH_IP[c] = u"10.1.0.%1"_s.arg(c + 1);
+            work.channels[c].sSub_CH_IP = u"10.1.0.%1"_s.arg(c + 1);
         OpenEditPair(*set, 3);
         hooks.RemoveSVR = [this](int slot) { called << u"remove %1"_s.arg(slot); };
         hooks.recorderRenamed = [this](int slot, const QString& name) { called << u"renamed %1 "_s.arg(slot) + name; };
@@ -46,17 +46,17 @@ protected:
 
 TEST_F(Applying, TakesTheEditPairOverAndTellsOfARename)
 {
-    edit().sSub_CH_IP[4] = u"10.1.0.5"_s;
-    edit().bSub_CH_Modified[4] = true;
-    set->SVRProEdit.sCH_Pro_Model[4] = u"M"_s;
+    edit().channels[4].sSub_CH_IP = u"10.1.0.5"_s;
+    edit().channels[4].bSub_CH_Modified = true;
+    set->SVRProEdit.channels[4].sCH_Pro_Model = u"M"_s;
     ASSERT_TRUE(ModifyApply(*set, 3, u"Yard"_s, hooks));
     EXPECT_EQ(called, QStringList({u"patterns"_s, u"starts"_s}));
     EXPECT_EQ(CameraCount(work()), 3);
     EXPECT_EQ(work().iSVR_ValidCH, 3);
     EXPECT_TRUE(work().bSVR_Changed);
     EXPECT_FALSE(work().bSVR_ConnChanged);
-    EXPECT_FALSE(work().bSub_CH_Modified[4]);
-    EXPECT_EQ(set->SVRProWorkList[3].sCH_Pro_Model[4], u"M"_s);
+    EXPECT_FALSE(work().channels[4].bSub_CH_Modified);
+    EXPECT_EQ(set->SVRProWorkList[3].channels[4].sCH_Pro_Model, u"M"_s);
 
     called.clear();
     ASSERT_TRUE(ModifyApply(*set, 3, u"Depot"_s, hooks));
@@ -68,8 +68,8 @@ TEST_F(Applying, TakesTheEditPairOverAndTellsOfARename)
 
 TEST_F(Applying, RecorderWithoutCamerasIsRemovedOrKeptButNeverSavedEmpty)
 {
-    edit().sSub_CH_IP.fill(QString());
-    edit().sSub_CH_IP[8] = u"10.1.0.9"_s; // beyond the recorder's channels
+    edit().channels = SVRRecord().channels;
+    edit().channels[8].sSub_CH_IP = u"10.1.0.9"_s; // beyond the recorder's channels
     answer = MsgResult::No;
     EXPECT_FALSE(ModifyApply(*set, 3, u"Depot"_s, hooks));
     EXPECT_EQ(called, QStringList());
@@ -87,7 +87,7 @@ TEST_F(Applying, WrittenChannelsFollowAtOnceButNotTheLoginOrAnotherDevice)
 {
     edit().sSVR_Name = u"Depot"_s;
     edit().sSVR_UserName = u"operator"_s;
-    edit().sSub_CH_IP[1].clear();
+    edit().channels[1].sSub_CH_IP.clear();
     ASSERT_TRUE(TakeOverWritten(*set, 3));
     EXPECT_EQ(work().sSVR_Name, u"Yard"_s);
     EXPECT_EQ(work().sSVR_UserName, u"admin"_s);
@@ -96,21 +96,21 @@ TEST_F(Applying, WrittenChannelsFollowAtOnceButNotTheLoginOrAnotherDevice)
     EXPECT_EQ(called, QStringList({u"patterns"_s, u"starts"_s, u"save"_s}));
 
     edit().iSVR_HttpPort = 8080; // detected anew elsewhere
-    edit().sSub_CH_IP[1] = u"10.1.0.2"_s;
+    edit().channels[1].sSub_CH_IP = u"10.1.0.2"_s;
     EXPECT_FALSE(TakeOverWritten(*set, 3));
     EXPECT_EQ(CameraCount(work()), 1);
 }
 
 TEST_F(Applying, ChannelListSortsAddressesByNumberAndCountsSwitchesOverTheStation)
 {
-    edit().sSub_CH_IP[0] = u"10.1.0.20"_s;
-    edit().sSub_CH_IP[2] = u"10.1.0.100"_s;
-    edit().sSub_CH_IP[3] = u"lobby.lan"_s;
+    edit().channels[0].sSub_CH_IP = u"10.1.0.20"_s;
+    edit().channels[2].sSub_CH_IP = u"10.1.0.100"_s;
+    edit().channels[3].sSub_CH_IP = u"lobby.lan"_s;
     for (std::size_t c = 0; c < 31; ++c) {
-        set->SVRWorkList[5].sSub_CH_IP[c] = u"x"_s;
-        set->SVRWorkList[5].bSub_CH_Cam_MD_Enabled[c] = true;
+        set->SVRWorkList[5].channels[c].sSub_CH_IP = u"x"_s;
+        set->SVRWorkList[5].channels[c].bSub_CH_Cam_MD_Enabled = true;
     }
-    set->SVRWorkList[5].bSub_CH_Cam_MD_Enabled[40] = true; // without a camera
+    set->SVRWorkList[5].channels[40].bSub_CH_Cam_MD_Enabled = true; // without a camera
     set->SVRWorkList[5].sSVR_IP = u"10.0.0.6"_s;
     ChannelListModel model(*set);
     model.setCameraEvents(true);
@@ -135,9 +135,9 @@ TEST_F(Applying, ChannelListSortsAddressesByNumberAndCountsSwitchesOverTheStatio
     EXPECT_TRUE(set1(0, Qt::Unchecked));
     EXPECT_TRUE(set1(1, Qt::Checked));
     EXPECT_EQ(model.switched(), (std::vector<std::pair<int, bool>>{{1, true}}));
-    edit().sSub_CH_IP[1].clear(); // cleared meanwhile: its switch goes with it
+    edit().channels[1].sSub_CH_IP.clear(); // cleared meanwhile: its switch goes with it
     model.refreshChannel(1);
-    edit().sSub_CH_IP[1] = u"10.1.0.2"_s;
+    edit().channels[1].sSub_CH_IP = u"10.1.0.2"_s;
     EXPECT_TRUE(model.switched().empty());
 }
 

@@ -98,8 +98,8 @@ TEST_F(Detecting, EveryFamilyIsAddedWithItsCamerasAndSystemFacts)
         for (qint16 c = 0; c < cameras[i]; ++c) {
             const auto index = static_cast<std::size_t>(c);
             const simulators::Camera camera = simulators::exampleCamera(c + 1, i == 2 ? Family::Svr : Family::Txr632);
-            EXPECT_EQ(record.sSub_CH_IP[index], camera.ip);
-            EXPECT_EQ(record.iSub_Channel[index], c + 1);
+            EXPECT_EQ(record.channels[index].sSub_CH_IP, camera.ip);
+            EXPECT_EQ(record.channels[index].iSub_Channel, c + 1);
         }
     }
 }
@@ -171,14 +171,14 @@ TEST_F(Detecting, OlderRecorderGivesPictureMovementAndOnvifValues)
     start({Recorder(Family::Svr, 16, 8)});
     ASSERT_EQ(detect(item(0)), 297);
     const SVRRecord& record = recorders->SVRWorkList[0];
-    EXPECT_EQ(record.sSub_CH_Name[3], u"正門"_s); // escaped on the wire
-    EXPECT_EQ(record.sSub_CH_VideoFormat[0], u"MJPEG"_s);
-    EXPECT_EQ(record.sSub_CH_VideoFormat[1], u"H.264"_s);
-    EXPECT_EQ(record.iCH_FPS[1], 4);
-    EXPECT_EQ(record.sCH_PTZ_Speed_Range[3], u"1,10,1"_s);
-    EXPECT_EQ(record.sCH_Onvif_JPEG_FPS[5], u"1,15"_s); // the sixth camera speaks Onvif
-    EXPECT_TRUE(record.sCH_Onvif_JPEG_FPS[4].isEmpty());
-    EXPECT_EQ(record.iCH_FPS[8], -1); // no camera
+    EXPECT_EQ(record.channels[3].sSub_CH_Name, u"正門"_s); // escaped on the wire
+    EXPECT_EQ(record.channels[0].sSub_CH_VideoFormat, u"MJPEG"_s);
+    EXPECT_EQ(record.channels[1].sSub_CH_VideoFormat, u"H.264"_s);
+    EXPECT_EQ(record.channels[1].iCH_FPS, 4);
+    EXPECT_EQ(record.channels[3].sCH_PTZ_Speed_Range, u"1,10,1"_s);
+    EXPECT_EQ(record.channels[5].sCH_Onvif_JPEG_FPS, u"1,15"_s); // the sixth camera speaks Onvif
+    EXPECT_TRUE(record.channels[4].sCH_Onvif_JPEG_FPS.isEmpty());
+    EXPECT_EQ(record.channels[8].iCH_FPS, -1); // no camera
 }
 
 TEST_F(Detecting, EachFaultHasItsMessageAndLeavesTheSlotFree)
@@ -225,10 +225,11 @@ TEST_F(Detecting, ChannelLimitCountsWhatTheStationHasAlready)
     start({Recorder(Family::Svr, 8, 8)});
     for (std::size_t slot = 0; slot < 4; ++slot) {
         recorders->SVRWorkList[slot].sSVR_IP = u"10.0.0.%1"_s.arg(slot);
-        recorders->SVRWorkList[slot].sSub_CH_IP.fill(u"10.1.1.1"_s);
+        for (SVRChannel& channel : recorders->SVRWorkList[slot].channels)
+            channel.sSub_CH_IP = u"10.1.1.1"_s;
     }
     EXPECT_EQ(detect(item(0)), 716); // 256 cameras
-    recorders->SVRWorkList[0].sSub_CH_IP[0].clear();
+    recorders->SVRWorkList[0].channels[0].sSub_CH_IP.clear();
     EXPECT_EQ(detect(item(0)), 297); // 255 do not refuse yet
 }
 
@@ -238,15 +239,15 @@ TEST_F(Detecting, NewDetectionKeepsWhatOnlyTheStationKnows)
     ASSERT_EQ(detect(item(0)), 297);
     recorders->SVREdit = recorders->SVRWorkList[0];
     recorders->SVRProEdit = recorders->SVRProWorkList[0];
-    recorders->SVREdit.lSub_CH_IntelligentID[0] = 5;
-    recorders->SVREdit.lSub_CH_IntelligentID[1] = 6;
-    recorders->SVREdit.sSub_CH_IP[1] = u"10.9.9.9"_s; // another camera since
+    recorders->SVREdit.channels[0].lSub_CH_IntelligentID = 5;
+    recorders->SVREdit.channels[1].lSub_CH_IntelligentID = 6;
+    recorders->SVREdit.channels[1].sSub_CH_IP = u"10.9.9.9"_s; // another camera since
     NVRDetectItem again = item(0);
     again.iSlot = 0;
     EXPECT_EQ(detect(again, DetectMode::Modify), 833);
-    EXPECT_EQ(recorders->SVREdit.lSub_CH_IntelligentID[0], 5);
-    EXPECT_EQ(recorders->SVREdit.lSub_CH_IntelligentID[1], -1);
-    EXPECT_NE(recorders->SVREdit.sSub_CH_IP[1], u"10.9.9.9"_s);
+    EXPECT_EQ(recorders->SVREdit.channels[0].lSub_CH_IntelligentID, 5);
+    EXPECT_EQ(recorders->SVREdit.channels[1].lSub_CH_IntelligentID, -1);
+    EXPECT_NE(recorders->SVREdit.channels[1].sSub_CH_IP, u"10.9.9.9"_s);
 }
 
 TEST_F(Detecting, StopEndsTheRunAtItsNextStepAndChangesNothing)

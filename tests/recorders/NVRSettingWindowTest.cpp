@@ -205,7 +205,7 @@ TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
             running.device(0).addFault(slow);
         });
         Driver::click(u"lbNVRDetect"_s);
-        EXPECT_EQ(recorders().SVREdit.sSub_CH_IP[2], u"192.168.10.23"_s);
+        EXPECT_EQ(recorders().SVREdit.channels[2].sSub_CH_IP, u"192.168.10.23"_s);
         Driver::click(u"lbModifyApply_0"_s);
     });
     driver.add(
@@ -495,7 +495,7 @@ TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
         running.device(0).channel(1).cameraEvents = 1;
         running.device(0).state().refusedEventChannels = {3};
     });
-    recorders().SVRWorkList[0].bSub_CH_Cam_MD_Enabled[0] = true;
+    recorders().SVRWorkList[0].channels[0].bSub_CH_Cam_MD_Enabled = true;
     const auto toggle = [](int row) {
         auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
         grid->setFocus();

@@ -31,13 +31,11 @@ protected:
                 assign(column, row, seed);
             for (const auto& column : SVRProColumns)
                 assign(column, row, seed);
-            svr.iSub_Channel[channel] = static_cast<qint16>(channel + 1);
-            svr.sSub_CH_MD_FishEyeModeList[channel] = u"Quad:3,4,4097;Pano:1,0,2"_s;
-            for (std::size_t preset = 0; preset < 8; ++preset)
-                svr.Presets[channel].iPresetID[preset] = static_cast<qint16>(preset + 1);
-            svr.Presets[channel].iPresetID[4] = 7;
-            svr.Presets[channel].sPresetName[4] = u"Tür"_s;
-            svr.Presets[channel].sPresetImage[4] = u"a.jpg"_s;
+            svr.channels[channel].iSub_Channel = static_cast<qint16>(channel + 1);
+            svr.channels[channel].sSub_CH_MD_FishEyeModeList = u"Quad:3,4,4097;Pano:1,0,2"_s;
+            svr.channels[channel].presets[4].iPresetID = 7;
+            svr.channels[channel].presets[4].sPresetName = u"Tür"_s;
+            svr.channels[channel].presets[4].sPresetImage = u"a.jpg"_s;
         }
         svr.sSVR_IP = u"127.0.0.2"_s;
         svr.sSVR_DeviceType = family;
@@ -105,11 +103,11 @@ TEST_F(SVRStoreTest, ARecorderComesBackAsItWasSavedForBothKindsOfFamily)
         EXPECT_EQ(rowValues(*back, 2, 63, pro), rowValues(*set, 2, 63, pro));
         EXPECT_EQ(back->SVRList[2].iSVR_Num, 3);
         EXPECT_EQ(back->SVRList[2].iSVRId, 3);
-        EXPECT_EQ(back->SVRList[2].iPower[0], 0) << "never read back";
+        EXPECT_EQ(back->SVRList[2].channels[0].iPower, 0) << "never read back";
         EXPECT_EQ(back->iSVR_MaxChannelAll, 64);
         EXPECT_EQ(CameraCount(back->SVRList[2]), 2);
-        ASSERT_EQ(back->SVRList[2].FishEyeModes[0].size(), 2u);
-        EXPECT_TRUE(back->SVRList[2].FishEyeModes[0][0].bModeFlag[12]);
+        ASSERT_EQ(back->SVRList[2].channels[0].FishEyeModes.size(), 2u);
+        EXPECT_TRUE(back->SVRList[2].channels[0].FishEyeModes[0].bModeFlag[12]);
         EXPECT_EQ(value(u"SELECT COUNT(*) FROM SVR"_s).toInt(), 2);
         EXPECT_EQ(value(u"SELECT sCH_Pro_Mac FROM SVR"_s).toString().isEmpty(), !pro);
         EXPECT_EQ(value(u"SELECT sSub_CH_Preset5||'|'||sSub_CH_Preset6 FROM SVR"_s).toString(), u"7,Tür,a.jpg|6"_s);
@@ -146,10 +144,11 @@ TEST_F(SVRStoreTest, BadValuesCostTheirFieldAndAChannelOutsideTheBoundsEndsTheLo
     GetSVREx(databases, *back);
     const SVRRecord& svr = back->SVRList[2];
     EXPECT_EQ(svr.iSVR_TimeZoneNum, set->SVRList[2].iSVR_TimeZoneNum) << "the second row's value";
-    EXPECT_EQ(svr.Presets[0].iPresetID[2], 3) << "a short text means the preset's own number";
-    EXPECT_EQ(svr.iCH_FPS[0], 0);
-    EXPECT_EQ(back->SVRProList[2].Streams[0].iFPSLower[0], (std::vector<qint16>{7, 8}));
-    EXPECT_TRUE(back->SVRProList[2].Streams[0].iFPSLower[1].empty()) << "an empty part keeps what was there";
+    EXPECT_EQ(svr.channels[0].presets[2].iPresetID, 3) << "a short text means the preset's own number";
+    EXPECT_EQ(svr.channels[0].iCH_FPS, -1);
+    EXPECT_EQ(back->SVRProList[2].channels[0].streams[0].iFPSLower, (std::vector<qint16>{7, 8}));
+    EXPECT_EQ(back->SVRProList[2].channels[0].streams[1].iFPSLower, std::vector<qint16>{-1})
+        << "an empty part keeps what was there";
     EXPECT_EQ(svr.iSVRId, 3);
     EXPECT_EQ(back->SVRList[1].sSVR_Name, QString()) << "rows behind the bad one are not read";
     EXPECT_EQ(logLines("Module_DB_Access - GetSVREx"), 4) << allLogs().toStdString();
@@ -172,15 +171,15 @@ TEST_F(SVRStoreTest, WorkingChannelsWithoutCameraGetTheEmptyChannel)
     open();
     fill(kFamilySVR);
     SaveMySVR(databases, *set, 2);
-    back->SVRWorkList[2].sCH_FMTList[5] = u"stale"_s;
+    back->SVRWorkList[2].channels[5].sCH_FMTList = u"stale"_s;
     GetSVREx(databases, *back);
     const SVRRecord& work = back->SVRWorkList[2];
-    EXPECT_EQ(work.sCH_FMTList[5], QString());
-    EXPECT_EQ(work.iSub_Channel[5], 6);
-    EXPECT_EQ(work.iCH_GOP[5], -1);
-    EXPECT_EQ(work.lSub_CH_IntelligentID[5], -1);
-    EXPECT_EQ(work.iSub_CH_HttpPort[5], 80);
-    EXPECT_EQ(back->SVRProWorkList[2].Streams[5].iBPSLower[2], std::vector<qint16>{-1});
+    EXPECT_EQ(work.channels[5].sCH_FMTList, QString());
+    EXPECT_EQ(work.channels[5].iSub_Channel, 6);
+    EXPECT_EQ(work.channels[5].iCH_GOP, -1);
+    EXPECT_EQ(work.channels[5].lSub_CH_IntelligentID, -1);
+    EXPECT_EQ(work.channels[5].iSub_CH_HttpPort, 80);
+    EXPECT_EQ(back->SVRProWorkList[2].channels[5].streams[2].iBPSLower, std::vector<qint16>{-1});
 }
 
 TEST(Families, FollowTheTextAndTheHdNumber)

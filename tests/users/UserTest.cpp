@@ -33,7 +33,7 @@ SVRRecord Recorder(qint16 channels, std::initializer_list<int> named)
     recorder.sSVR_Name = u"Gatehouse"_s;
     recorder.iSVR_Maxchannel = channels;
     for (const int channel : named)
-        recorder.sSub_CH_Name[static_cast<std::size_t>(channel)] = u"Camera"_s;
+        recorder.channels[static_cast<std::size_t>(channel)].sSub_CH_Name = u"Camera"_s;
     return recorder;
 }
 
@@ -181,7 +181,8 @@ TEST_F(UserTest, ADamagedTextCostsOneLine)
 {
     const SVRRecord recorder = [] {
         SVRRecord made = Recorder(64, {});
-        made.sSub_CH_Name.fill(u"Camera"_s);
+        for (SVRChannel& channel : made.channels)
+            channel.sSub_CH_Name = u"Camera"_s;
         return made;
     }();
     GroupSet groups;

@@ -205,7 +205,7 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     recorder.iSVR_Maxchannel = 64;
     for (int channel = 0; channel < 64; ++channel) {
         if (channel != 2)
-            recorder.sSub_CH_Name[static_cast<std::size_t>(channel)] = u"Camera %1"_s.arg(channel + 1);
+            recorder.channels[static_cast<std::size_t>(channel)].sSub_CH_Name = u"Camera %1"_s.arg(channel + 1);
     }
     step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
     step(u"Grid_GroupList"_s, [] { Driver::clickCell(u"Grid_GroupList"_s, 4, GroupListModel::Edit); });

@@ -128,8 +128,8 @@ void Visitor::furnish()
         recorder.sSVR_DeviceType = kFamilyTXR632;
         recorder.iSVR_Maxchannel = 32;
         for (std::size_t channel = 0; channel < 12; ++channel) {
-            recorder.sSub_CH_Name[channel] = u"Camera %1"_s.arg(channel + 1);
-            recorder.sSub_CH_IP[channel] = u"192.168.10.%1"_s.arg(channel + 100);
+            recorder.channels[channel].sSub_CH_Name = u"Camera %1"_s.arg(channel + 1);
+            recorder.channels[channel].sSub_CH_IP = u"192.168.10.%1"_s.arg(channel + 100);
         }
         m_station.recorders.SVRList[static_cast<std::size_t>(slot)] = recorder;
     }

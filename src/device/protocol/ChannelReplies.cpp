@@ -14,9 +14,8 @@ namespace {
 
 struct ChannelTarget
 {
-    SVRRecord& svr;
-    SVRProRecord& pro;
-    std::size_t index = 0; // channel, from 0
+    SVRChannel* svr = nullptr;
+    SVRProChannel* pro = nullptr;
     // Bounds of the PTZ speed wait here for SpeedStep; they are not reset between channels.
     qint16 speedLower = 0;
     qint16 speedUpper = 0;
@@ -24,18 +23,16 @@ struct ChannelTarget
     std::size_t slot = 0;
     std::string scratch = {};
 
-    ProChannelStreams& streams() { return pro.Streams[index]; }
+    SVRProStreams& streams() { return pro->streams; }
 };
 
-template <class T>
-T& Cell(ChannelTarget& target, PerChannel<T> SVRRecord::*field)
+template <class Class, class T>
+T& Cell(ChannelTarget& target, T Class::*field)
 {
-    return (target.svr.*field)[target.index];
-}
-template <class T>
-T& Cell(ChannelTarget& target, PerChannel<T> SVRProRecord::*field)
-{
-    return (target.pro.*field)[target.index];
+    if constexpr (std::is_base_of_v<Class, SVRChannel>)
+        return target.svr->*field;
+    else
+        return target.pro->*field;
 }
 
 // The texts of the children with `separator` between, before the second decoding: no reference can span two of them.
@@ -89,27 +86,27 @@ void TextList(ChannelTarget& target, pugi::xml_node node)
 using Reader = ElementReader<ChannelTarget>;
 
 constexpr auto kSystem = Elements<ChannelTarget>({
-    {"UserName", Text<&SVRRecord::sSub_CH_UserName>},
-    {"Password", Text<&SVRRecord::sSub_CH_Password>},
-    {"Model", Text<&SVRProRecord::sCH_Pro_Model>},
-    {"MACAddress", Text<&SVRProRecord::sCH_Pro_Mac>},
-    {"NumberVideo", Int16<&SVRRecord::iSub_CH_VideoIDCount>},
-    {"VideoNumber", Int16<&SVRRecord::iSub_CH_VideoID>},
-    {"RtspPort", Int32<&SVRProRecord::lCH_Pro_RTPSPort>},
-    {"BrandCode", Int16<&SVRRecord::iSub_CH_Brand>},
+    {"UserName", Text<&SVRChannel::sSub_CH_UserName>},
+    {"Password", Text<&SVRChannel::sSub_CH_Password>},
+    {"Model", Text<&SVRProChannel::sCH_Pro_Model>},
+    {"MACAddress", Text<&SVRProChannel::sCH_Pro_Mac>},
+    {"NumberVideo", Int16<&SVRChannel::iSub_CH_VideoIDCount>},
+    {"VideoNumber", Int16<&SVRChannel::iSub_CH_VideoID>},
+    {"RtspPort", Int32<&SVRProChannel::lCH_Pro_RTPSPort>},
+    {"BrandCode", Int16<&SVRChannel::iSub_CH_Brand>},
 });
 
 // CapAudioIn decides both ways, CapAudioOut only raises: their order in the reply matters.
 constexpr auto kAudio = Elements<ChannelTarget>({
-    {"FMT", Text<&SVRProRecord::sCH_Pro_AudioType>},
+    {"FMT", Text<&SVRProChannel::sCH_Pro_AudioType>},
     {"CapAudioIn",
      [](ChannelTarget& target, pugi::xml_node node) {
-         Cell(target, &SVRRecord::iSub_CH_Audio) = DecodedText(node) == "1"_L1 ? 1 : 0;
+         Cell(target, &SVRChannel::iSub_CH_Audio) = DecodedText(node) == "1"_L1 ? 1 : 0;
      }},
     {"CapAudioOut",
      [](ChannelTarget& target, pugi::xml_node node) {
          if (DecodedText(node) == "1"_L1)
-             Cell(target, &SVRRecord::iSub_CH_Audio) = 2;
+             Cell(target, &SVRChannel::iSub_CH_Audio) = 2;
      }},
 });
 
@@ -121,45 +118,45 @@ constexpr Reader kSpeedStep{"SpeedStep", [](ChannelTarget& target, pugi::xml_nod
                                 std::array<char, 32> range;
                                 std::snprintf(range.data(), range.size(), "%d,%d,%d", target.speedLower,
                                               target.speedUpper, Int16Of(node));
-                                Decode(range.data(), Cell(target, &SVRRecord::sCH_PTZ_Speed_Range));
+                                Decode(range.data(), Cell(target, &SVRChannel::sCH_PTZ_Speed_Range));
                             }};
 constexpr Reader kMove{"Move", [](ChannelTarget& target, pugi::xml_node node) {
-                           Cell(target, &SVRRecord::sCH_PTZ_PanTilt_Range) = QString::number(Int16Of(node));
+                           Cell(target, &SVRChannel::sCH_PTZ_PanTilt_Range) = QString::number(Int16Of(node));
                        }};
 
 constexpr auto kPtz = Elements<ChannelTarget>({
-    {"PTZEnable", Flag<&SVRRecord::bSub_CH_PTZ>},
-    {"PTZABS", Flag<&SVRProRecord::bCH_Pro_ABS>},
-    {"AutoPan", Int16<&SVRProRecord::iCH_Pro_AutoPanMode>},
+    {"PTZEnable", Flag<&SVRChannel::bSub_CH_PTZ>},
+    {"PTZABS", Flag<&SVRProChannel::bCH_Pro_ABS>},
+    {"AutoPan", Int16<&SVRProChannel::iCH_Pro_AutoPanMode>},
     kSpeedLower,
     kSpeedUpper,
     kSpeedStep,
-    {"MoveCont", Int16<&SVRRecord::iCH_PTZ_MoveContCap>},
-    {"ZoomCont", Int16<&SVRRecord::iCH_PTZ_ZoomContCap>},
-    {"FocusCont", Int16<&SVRRecord::iCH_PTZ_FocusContCap>},
-    {"IrisCont", Int16<&SVRRecord::iCH_PTZ_IrisContCap>},
-    {"SyncPreset", Int16<&SVRProRecord::iCH_Pro_SyncPreset>},
+    {"MoveCont", Int16<&SVRChannel::iCH_PTZ_MoveContCap>},
+    {"ZoomCont", Int16<&SVRChannel::iCH_PTZ_ZoomContCap>},
+    {"FocusCont", Int16<&SVRChannel::iCH_PTZ_FocusContCap>},
+    {"IrisCont", Int16<&SVRChannel::iCH_PTZ_IrisContCap>},
+    {"SyncPreset", Int16<&SVRProChannel::iCH_Pro_SyncPreset>},
     kMove,
-    {"SetPreset", Flag<&SVRProRecord::bCH_Pro_SetPreset>},
-    {"ModeList4FishEye", Text<&SVRRecord::sSub_CH_MD_FishEyeModeList>},
-    {"Mode4FishEye", Text<&SVRRecord::sSub_CH_Mode4FishEye>},
+    {"SetPreset", Flag<&SVRProChannel::bCH_Pro_SetPreset>},
+    {"ModeList4FishEye", Text<&SVRChannel::sSub_CH_MD_FishEyeModeList>},
+    {"Mode4FishEye", Text<&SVRChannel::sSub_CH_Mode4FishEye>},
 });
 
 constexpr auto kProbePtz = Elements<ChannelTarget>({
-    {"PTZEnable", Flag<&SVRRecord::bSub_CH_PTZ>},
-    {"PTZABS", Flag<&SVRProRecord::bCH_Pro_ABS>},
-    {"AutoPan", Int16<&SVRProRecord::iCH_Pro_AutoPanMode>},
+    {"PTZEnable", Flag<&SVRChannel::bSub_CH_PTZ>},
+    {"PTZABS", Flag<&SVRProChannel::bCH_Pro_ABS>},
+    {"AutoPan", Int16<&SVRProChannel::iCH_Pro_AutoPanMode>},
     kSpeedLower,
     kSpeedUpper,
     kSpeedStep,
-    {"Zoom", Int16<&SVRRecord::iCH_PTZ_ZoomContCap>},
-    {"Focus", Int16<&SVRRecord::iCH_PTZ_FocusContCap>},
-    {"Iris", Int16<&SVRRecord::iCH_PTZ_IrisContCap>},
-    {"SyncPreset", Int16<&SVRProRecord::iCH_Pro_SyncPreset>},
+    {"Zoom", Int16<&SVRChannel::iCH_PTZ_ZoomContCap>},
+    {"Focus", Int16<&SVRChannel::iCH_PTZ_FocusContCap>},
+    {"Iris", Int16<&SVRChannel::iCH_PTZ_IrisContCap>},
+    {"SyncPreset", Int16<&SVRProChannel::iCH_Pro_SyncPreset>},
     kMove,
-    {"SetPreset", Flag<&SVRProRecord::bCH_Pro_SetPreset>},
-    {"ModeList4FishEye", Text<&SVRRecord::sSub_CH_MD_FishEyeModeList>},
-    {"Mode4FishEye", Text<&SVRRecord::sSub_CH_Mode4FishEye>},
+    {"SetPreset", Flag<&SVRProChannel::bCH_Pro_SetPreset>},
+    {"ModeList4FishEye", Text<&SVRChannel::sSub_CH_MD_FishEyeModeList>},
+    {"Mode4FishEye", Text<&SVRChannel::sSub_CH_Mode4FishEye>},
 });
 
 constexpr Reader kSupportFmt{
@@ -168,27 +165,27 @@ constexpr Reader kSupportFmt{
         ForEachElement(node, [&](pugi::xml_node child) { ParseSupportFmt(target.streams(), child, slot); });
     }};
 constexpr Reader kFmtList{"FMTList", [](ChannelTarget& target, pugi::xml_node node) {
-                              QString& list = Cell(target, &SVRRecord::sCH_FMTList);
+                              QString& list = Cell(target, &SVRChannel::sCH_FMTList);
                               Decode(RawText(node, target.scratch), list);
                               list.replace(u' ', u',');
                           }};
 
 constexpr auto kVideo = Elements<ChannelTarget>({
-    {"FMT", Text<&SVRRecord::sSub_CH_VideoFormat>},
-    {"Size", Text<&SVRRecord::sSub_CH_Resolution>},
-    {"FPS", Int16<&SVRRecord::iCH_FPS>},
-    {"Quality", Int16<&SVRRecord::iCH_Quality>},
-    {"RateControl", Int16<&SVRRecord::iCH_RateCtrl>},
-    {"Bitrate", Int16<&SVRRecord::iCH_BitRate>},
-    {"GOP", Int16<&SVRRecord::iCH_GOP>},
-    {"LensMode", Text<&SVRProRecord::sCH_Pro_LensMode>},
-    {"LeftDisplayMode", Text<&SVRProRecord::sCH_Pro_LeftDisplayMode>},
-    {"RightDisplayMode", Text<&SVRProRecord::sCH_Pro_RightDisplayMode>},
+    {"FMT", Text<&SVRChannel::sSub_CH_VideoFormat>},
+    {"Size", Text<&SVRChannel::sSub_CH_Resolution>},
+    {"FPS", Int16<&SVRChannel::iCH_FPS>},
+    {"Quality", Int16<&SVRChannel::iCH_Quality>},
+    {"RateControl", Int16<&SVRChannel::iCH_RateCtrl>},
+    {"Bitrate", Int16<&SVRChannel::iCH_BitRate>},
+    {"GOP", Int16<&SVRChannel::iCH_GOP>},
+    {"LensMode", Text<&SVRProChannel::sCH_Pro_LensMode>},
+    {"LeftDisplayMode", Text<&SVRProChannel::sCH_Pro_LeftDisplayMode>},
+    {"RightDisplayMode", Text<&SVRProChannel::sCH_Pro_RightDisplayMode>},
     kSupportFmt,
     kFmtList,
-    {"LensModeList", TextList<&SVRProRecord::sCH_Pro_LensModeList>},
-    {"LeftDisplayModeList", TextList<&SVRProRecord::sCH_Pro_LeftDisplayModeList>},
-    {"RightDisplayModeList", TextList<&SVRProRecord::sCH_Pro_RightDisplayModeList>},
+    {"LensModeList", TextList<&SVRProChannel::sCH_Pro_LensModeList>},
+    {"LeftDisplayModeList", TextList<&SVRProChannel::sCH_Pro_LeftDisplayModeList>},
+    {"RightDisplayModeList", TextList<&SVRProChannel::sCH_Pro_RightDisplayModeList>},
 });
 
 // The present settings of one stream of a probed camera.
@@ -203,60 +200,60 @@ constexpr auto kStream = Elements<ChannelTarget>({
              target.slot = 1;
          else if (lower == "h264"_L1)
              target.slot = 2;
-         target.streams().sFMT[target.slot] = format;
+         target.streams()[target.slot].sFMT = format;
      }},
     {"Size",
-     [](ChannelTarget& target, pugi::xml_node node) { target.streams().sResolution[target.slot] = DecodedText(node); }},
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams()[target.slot].sResolution = DecodedText(node); }},
     {"FPS",
-     [](ChannelTarget& target, pugi::xml_node node) { target.streams().iFrameRate[target.slot] = Int16Of(node); }},
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams()[target.slot].iFrameRate = Int16Of(node); }},
     {"Quality",
-     [](ChannelTarget& target, pugi::xml_node node) { target.streams().iQuality[target.slot] = Int16Of(node); }},
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams()[target.slot].iQuality = Int16Of(node); }},
     {"RateControl", [](ChannelTarget& target,
-                       pugi::xml_node node) { target.streams().sRateControl[target.slot] = DecodedText(node); }},
+                       pugi::xml_node node) { target.streams()[target.slot].sRateControl = DecodedText(node); }},
     {"Bitrate",
-     [](ChannelTarget& target, pugi::xml_node node) { target.streams().iBitRate[target.slot] = Int16Of(node); }},
-    {"GOP", [](ChannelTarget& target, pugi::xml_node node) { target.streams().iGOP[target.slot] = Int16Of(node); }},
+     [](ChannelTarget& target, pugi::xml_node node) { target.streams()[target.slot].iBitRate = Int16Of(node); }},
+    {"GOP", [](ChannelTarget& target, pugi::xml_node node) { target.streams()[target.slot].iGOP = Int16Of(node); }},
 });
 
 void ReadCurrentSettings(ChannelTarget& target, pugi::xml_node list)
 {
     ForEachElement(list, [&](pugi::xml_node stream) { ReadElements(kStream, target, stream); });
-    ProChannelStreams& streams = target.streams();
-    for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
-        const QString format = streams.sFMT[slot].toLower();
+    for (SVRProStream& stream : target.streams()) {
+        const QString format = stream.sFMT.toLower();
         if (format == "mjpeg"_L1)
-            streams.bGOPCap[slot] = false;
+            stream.bGOPCap = false;
         else if (format == "mpeg4"_L1 || format == "h264"_L1)
-            streams.bGOPCap[slot] = streams.iGOP[slot] >= 1;
+            stream.bGOPCap = stream.iGOP >= 1;
     }
 }
 
 constexpr auto kProbeVideo = Elements<ChannelTarget>({
     {"CurrentSettingsList", ReadCurrentSettings},
-    {"LensMode", Text<&SVRProRecord::sCH_Pro_LensMode>},
-    {"LeftDisplayMode", Text<&SVRProRecord::sCH_Pro_LeftDisplayMode>},
-    {"RightDisplayMode", Text<&SVRProRecord::sCH_Pro_RightDisplayMode>},
+    {"LensMode", Text<&SVRProChannel::sCH_Pro_LensMode>},
+    {"LeftDisplayMode", Text<&SVRProChannel::sCH_Pro_LeftDisplayMode>},
+    {"RightDisplayMode", Text<&SVRProChannel::sCH_Pro_RightDisplayMode>},
     kSupportFmt,
     kFmtList,
-    {"LensModeList", TextList<&SVRProRecord::sCH_Pro_LensModeList>},
-    {"LeftDisplayModeList", TextList<&SVRProRecord::sCH_Pro_LeftDisplayModeList>},
-    {"RightDisplayModeList", TextList<&SVRProRecord::sCH_Pro_RightDisplayModeList>},
+    {"LensModeList", TextList<&SVRProChannel::sCH_Pro_LensModeList>},
+    {"LeftDisplayModeList", TextList<&SVRProChannel::sCH_Pro_LeftDisplayModeList>},
+    {"RightDisplayModeList", TextList<&SVRProChannel::sCH_Pro_RightDisplayModeList>},
 });
 
 void ReadProbeVideo(ChannelTarget& target, pugi::xml_node video)
 {
-    ProChannelStreams& streams = target.streams();
+    SVRProStreams& streams = target.streams();
     const std::size_t count = std::min<std::size_t>(ElementCount(video.child("CurrentSettingsList")), kMaxStream);
     for (std::size_t slot = 0; slot < count; ++slot) {
-        streams.sFMT[slot].clear();
-        streams.sResolution[slot].clear();
-        streams.sRateControl[slot] = u"-1"_s;
-        streams.iFrameRate[slot] = -1;
-        streams.iQuality[slot] = -1;
-        streams.iBitRate[slot] = -1;
-        streams.iGOP[slot] = -1;
+        streams[slot].sFMT.clear();
+        streams[slot].sResolution.clear();
+        streams[slot].sRateControl = u"-1"_s;
+        streams[slot].iFrameRate = -1;
+        streams[slot].iQuality = -1;
+        streams[slot].iBitRate = -1;
+        streams[slot].iGOP = -1;
     }
-    streams.bGOPCap = {false, true, true};
+    for (SVRProStream& stream : streams)
+        stream.bGOPCap = &stream != &streams.front();
     ReadElements(kProbeVideo, target, video);
 }
 
@@ -267,9 +264,9 @@ void Section(ChannelTarget& target, pugi::xml_node node)
 }
 
 constexpr auto kChannel = Elements<ChannelTarget>({
-    {"Name", Text<&SVRRecord::sSub_CH_Name>},
-    {"IP", Text<&SVRRecord::sSub_CH_IP>},
-    {"HTTPPort", Int32<&SVRRecord::iSub_CH_HttpPort>},
+    {"Name", Text<&SVRChannel::sSub_CH_Name>},
+    {"IP", Text<&SVRChannel::sSub_CH_IP>},
+    {"HTTPPort", Int32<&SVRChannel::iSub_CH_HttpPort>},
     {"System", Section<kSystem>},
     {"Video", Section<kVideo>},
     {"Audio", Section<kAudio>},
@@ -283,39 +280,64 @@ constexpr auto kProbe = Elements<ChannelTarget>({
     {"PTZ", Section<kProbePtz>},
 });
 
-void ClearFormats(ProChannelStreams& streams)
+void ClearFormats(SVRProStreams& streams)
 {
-    for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
-        streams.sResolutionList[slot].clear();
-        for (auto* bounds : {&streams.iFPSUpper, &streams.iFPSLower, &streams.iBPSUpper, &streams.iBPSLower})
-            (*bounds)[slot].assign(1, 0);
+    for (SVRProStream& stream : streams) {
+        stream.sResolutionList.clear();
+        for (auto* bounds : {&stream.iFPSUpper, &stream.iFPSLower, &stream.iBPSUpper, &stream.iBPSLower})
+            bounds->assign(1, 0);
     }
 }
 
-} // namespace
-
-qint16 ParseChannelList(ReplyText reply, SVRRecord& channels, SVRProRecord& formats)
+// Reads the listed channels into the records that `find` puts into the target for their indexes (from 0); where it
+// answers false one is passed over.
+template <class Find>
+qint16 ReadChannelList(ReplyText reply, Find&& find)
 {
     const XmlReply document(std::move(reply));
     const pugi::xml_node response = document.response();
     if (!response || Int32Of(FirstAttribute(response)) != 0)
         return 0;
-    ChannelTarget target{channels, formats};
+    ChannelTarget target;
     ForEachElement(response, "CHList", [&](pugi::xml_node list) {
         ForEachElement(list, [&](pugi::xml_node channel) {
             const int index = Int16Of(FirstAttribute(channel)) - 1;
-            ProChannelStreams& streams = At(formats.Streams, index);
-            target.index = static_cast<std::size_t>(index);
+            if (!find(index, target))
+                return;
+            SVRProStreams& streams = target.streams();
             ClearFormats(streams);
             ReadElements(kChannel, target, channel);
-            channels.sCH_ResolutionList[target.index] =
-                streams.sResolutionList[0] + u';' + streams.sResolutionList[1] + u';' + streams.sResolutionList[2];
+            target.svr->sCH_ResolutionList =
+                streams[0].sResolutionList + u';' + streams[1].sResolutionList + u';' + streams[2].sResolutionList;
         });
     });
     return 1;
 }
 
-void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& slot)
+} // namespace
+
+qint16 ParseChannelList(ReplyText reply, SVRRecord& svr, SVRProRecord& pro)
+{
+    return ReadChannelList(std::move(reply), [&](int index, ChannelTarget& target) {
+        target.svr = &At(svr.channels, index);
+        target.pro = &At(pro.channels, index);
+        return true;
+    });
+}
+
+qint16 ParseChannel(ReplyText reply, qint16 channel, SVRChannel& svr, SVRProChannel& pro)
+{
+    bool listed = false;
+    const qint16 result = ReadChannelList(std::move(reply), [&](int index, ChannelTarget& target) {
+        target.svr = &svr;
+        target.pro = &pro;
+        listed = listed || index == channel;
+        return index == channel;
+    });
+    return listed ? result : qint16(0);
+}
+
+void ParseSupportFmt(SVRProStreams& formats, pugi::xml_node child, qint16& slot)
 {
     const char* format = "";
     const qint16 present = slot;
@@ -326,11 +348,11 @@ void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& s
             format = value;
             slot = qstricmp(value, "JPEG") == 0 ? 0 : qstricmp(value, "MPEG4") == 0 ? 1 : 2;
         } else if (SameName(name, "QualityLower")) {
-            At(formats.iQualityLower, present) = Int16Of(value);
+            At(formats, present).iQualityLower = Int16Of(value);
         } else if (SameName(name, "QualityUpper")) {
-            At(formats.iQualityUpper, present) = Int16Of(value);
+            At(formats, present).iQualityUpper = Int16Of(value);
         } else if (SameName(name, "RateControl")) {
-            At(formats.bRateControlCap, present) = Int32Of(value) != 0;
+            At(formats, present).bRateControlCap = Int32Of(value) != 0;
         }
     }
 
@@ -343,13 +365,13 @@ void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& s
         return;
     const auto own = static_cast<std::size_t>(named - names.begin());
     std::ranges::replace(sizes, ' ', ',');
-    Decode(sizes.constData(), formats.sResolutionList[own]);
+    Decode(sizes.constData(), formats[own].sResolutionList);
 
     const std::array<std::pair<const char*, std::vector<qint16>*>, 4> bounds = {{
-        {"FPSLower", &formats.iFPSLower[own]},
-        {"FPSUpper", &formats.iFPSUpper[own]},
-        {"BPSLower", &formats.iBPSLower[own]},
-        {"BPSUpper", &formats.iBPSUpper[own]},
+        {"FPSLower", &formats[own].iFPSLower},
+        {"FPSUpper", &formats[own].iFPSUpper},
+        {"BPSLower", &formats[own].iBPSLower},
+        {"BPSUpper", &formats[own].iBPSUpper},
     }};
     for (const auto& [name, values] : bounds)
         values->assign(count, 0);
@@ -372,7 +394,7 @@ void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& s
     });
 }
 
-qint16 ParseDetectedCamera(ReplyText reply, SVRRecord& channels, SVRProRecord& formats, qint16 channel)
+qint16 ParseDetectedCamera(ReplyText reply, SVRChannel& channel, SVRProChannel& pro)
 {
     const XmlReply document(std::move(reply));
     const pugi::xml_node response = document.response();
@@ -380,8 +402,7 @@ qint16 ParseDetectedCamera(ReplyText reply, SVRRecord& channels, SVRProRecord& f
         return -100;
     if (const qint16 result = Int16Of(FirstAttribute(response)); result != 0)
         return result;
-    At(formats.Streams, channel);
-    ChannelTarget target{channels, formats, static_cast<std::size_t>(channel)};
+    ChannelTarget target{&channel, &pro};
     // Recorders differ in whether a wrapper stands round the sections.
     ForEachElement(response, [&](pugi::xml_node child) {
         if (const std::size_t index = IndexOf(kProbe, child.name()); index < kProbe.size())

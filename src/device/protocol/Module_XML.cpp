@@ -75,32 +75,31 @@ QString ChannelElement(qint16 channel)
 
 } // namespace
 
-ChannelSettings ChannelSettingsOf(const SVRRecord& svr, const SVRProRecord& pro, qint16 channel)
+ChannelSettings ChannelSettingsOf(const SVRChannel& svr, const SVRProChannel& pro)
 {
-    const auto c = static_cast<std::size_t>(WireChannel(channel) - 1);
-    return {.CH = svr.iSub_Channel[c],
-            .Name = svr.sSub_CH_Name[c],
-            .IP = svr.sSub_CH_IP[c],
-            .HTTPPort = svr.iSub_CH_HttpPort[c],
-            .UserName = svr.sSub_CH_UserName[c],
-            .Password = svr.sSub_CH_Password[c],
-            .VideoNumber = svr.iSub_CH_VideoID[c],
-            .BrandCode = svr.iSub_CH_Brand[c],
-            .Model = pro.sCH_Pro_Model[c],
-            .MACAddress = pro.sCH_Pro_Mac[c],
-            .RtspPort = pro.lCH_Pro_RTPSPort[c],
+    return {.CH = svr.iSub_Channel,
+            .Name = svr.sSub_CH_Name,
+            .IP = svr.sSub_CH_IP,
+            .HTTPPort = svr.iSub_CH_HttpPort,
+            .UserName = svr.sSub_CH_UserName,
+            .Password = svr.sSub_CH_Password,
+            .VideoNumber = svr.iSub_CH_VideoID,
+            .BrandCode = svr.iSub_CH_Brand,
+            .Model = pro.sCH_Pro_Model,
+            .MACAddress = pro.sCH_Pro_Mac,
+            .RtspPort = pro.lCH_Pro_RTPSPort,
             .StartConfig = 0,
-            .FMT = svr.sSub_CH_VideoFormat[c],
-            .Size = svr.sSub_CH_Resolution[c],
-            .FPS = svr.iCH_FPS[c],
-            .Quality = svr.iCH_Quality[c],
-            .RateControl = svr.iCH_RateCtrl[c],
-            .Bitrate = svr.iCH_BitRate[c],
-            .GOP = svr.iCH_GOP[c],
-            .LensMode = pro.sCH_Pro_LensMode[c],
-            .LeftDisplayMode = pro.sCH_Pro_LeftDisplayMode[c],
-            .RightDisplayMode = pro.sCH_Pro_RightDisplayMode[c],
-            .AudioFMT = pro.sCH_Pro_AudioType[c]};
+            .FMT = svr.sSub_CH_VideoFormat,
+            .Size = svr.sSub_CH_Resolution,
+            .FPS = svr.iCH_FPS,
+            .Quality = svr.iCH_Quality,
+            .RateControl = svr.iCH_RateCtrl,
+            .Bitrate = svr.iCH_BitRate,
+            .GOP = svr.iCH_GOP,
+            .LensMode = pro.sCH_Pro_LensMode,
+            .LeftDisplayMode = pro.sCH_Pro_LeftDisplayMode,
+            .RightDisplayMode = pro.sCH_Pro_RightDisplayMode,
+            .AudioFMT = pro.sCH_Pro_AudioType};
 }
 
 QString BuildGetSystemInfo()
@@ -336,7 +335,7 @@ qint16 ApplyEventSettings(std::span<SVRRecord> recorders, qint16 svr, bool motio
         if (!channels.isEmpty()) {
             for (const QString& number : channels.split(u',')) {
                 Trapped("Form_NVRSetting - ApplyEventSettings",
-                        [&] { At(At(recorders, svr).bSub_CH_Cam_MD_Enabled, ToInt16(number) - 1) = false; });
+                        [&] { At(At(recorders, svr).channels, ToInt16(number) - 1).bSub_CH_Cam_MD_Enabled = false; });
             }
             refused(channels);
         }

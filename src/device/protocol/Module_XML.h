@@ -75,8 +75,8 @@ struct ChannelSettings
     QString AudioFMT;
 };
 
-// The present settings of channel `channel` (from 0) as the records hold them.
-ChannelSettings ChannelSettingsOf(const SVRRecord& svr, const SVRProRecord& pro, qint16 channel);
+// The present settings of a channel as its records hold them.
+ChannelSettings ChannelSettingsOf(const SVRChannel& svr, const SVRProChannel& pro);
 
 // --- Device ---
 QString BuildGetSystemInfo();

@@ -12,15 +12,15 @@ namespace {
 struct Key
 {
     QLatin1String key;
-    PerChannel<QString> SVRRecord::*text = nullptr;
-    PerChannel<qint16> SVRRecord::*number = nullptr;
+    QString SVRChannel::*text = nullptr;
+    qint16 SVRChannel::*number = nullptr;
 
-    constexpr Key(QLatin1String name, PerChannel<QString> SVRRecord::*field)
+    constexpr Key(QLatin1String name, QString SVRChannel::*field)
         : key(name)
         , text(field)
     {
     }
-    constexpr Key(QLatin1String name, PerChannel<qint16> SVRRecord::*field)
+    constexpr Key(QLatin1String name, qint16 SVRChannel::*field)
         : key(name)
         , number(field)
     {
@@ -29,45 +29,43 @@ struct Key
 
 // A key without its leading point also matches a longer name that ends in it.
 constexpr Key kImageKeys[] = {
-    {".resolution="_L1, &SVRRecord::sSub_CH_Resolution},
-    {"multistream="_L1, &SVRRecord::iCH_MultiStream},
-    {"liveformat="_L1, &SVRRecord::sSub_CH_VideoFormat},
-    {".fps="_L1, &SVRRecord::iCH_FPS},
-    {"quality="_L1, &SVRRecord::iCH_Quality},
-    {"rotation="_L1, &SVRRecord::iCH_Rotation},
-    {"ratectrlmode="_L1, &SVRRecord::iCH_RateCtrl},
-    {"bitrate="_L1, &SVRRecord::iCH_BitRate},
-    {"resolutionlist="_L1, &SVRRecord::sCH_ResolutionList},
-    {".formatlist="_L1, &SVRRecord::sCH_FMTList},
-    {"goplength="_L1, &SVRRecord::iCH_GOP},
-    {"fpsrange="_L1, &SVRRecord::sCH_FPS_Range},
-    {"qualityrange="_L1, &SVRRecord::sCH_Quality_Range},
-    {"ratectrlrange="_L1, &SVRRecord::sCH_RateCtrl_Range},
-    {"bitraterange="_L1, &SVRRecord::sCH_BitRate_Range},
-    {"customfpslist="_L1, &SVRRecord::sCH_FPS_List_Customer},
-    {"customfps="_L1, &SVRRecord::sCH_FPS_Customer},
+    {".resolution="_L1, &SVRChannel::sSub_CH_Resolution},
+    {"multistream="_L1, &SVRChannel::iCH_MultiStream},
+    {"liveformat="_L1, &SVRChannel::sSub_CH_VideoFormat},
+    {".fps="_L1, &SVRChannel::iCH_FPS},
+    {"quality="_L1, &SVRChannel::iCH_Quality},
+    {"rotation="_L1, &SVRChannel::iCH_Rotation},
+    {"ratectrlmode="_L1, &SVRChannel::iCH_RateCtrl},
+    {"bitrate="_L1, &SVRChannel::iCH_BitRate},
+    {"resolutionlist="_L1, &SVRChannel::sCH_ResolutionList},
+    {".formatlist="_L1, &SVRChannel::sCH_FMTList},
+    {"goplength="_L1, &SVRChannel::iCH_GOP},
+    {"fpsrange="_L1, &SVRChannel::sCH_FPS_Range},
+    {"qualityrange="_L1, &SVRChannel::sCH_Quality_Range},
+    {"ratectrlrange="_L1, &SVRChannel::sCH_RateCtrl_Range},
+    {"bitraterange="_L1, &SVRChannel::sCH_BitRate_Range},
+    {"customfpslist="_L1, &SVRChannel::sCH_FPS_List_Customer},
+    {"customfps="_L1, &SVRChannel::sCH_FPS_Customer},
 };
 
 constexpr Key kPtzKeys[] = {
-    {"speedrange="_L1, &SVRRecord::sCH_PTZ_Speed_Range},    {"moverange="_L1, &SVRRecord::sCH_PTZ_PanTilt_Range},
-    {"movecontcap="_L1, &SVRRecord::iCH_PTZ_MoveContCap},   {"zoomcontcap="_L1, &SVRRecord::iCH_PTZ_ZoomContCap},
-    {"focuscontcap="_L1, &SVRRecord::iCH_PTZ_FocusContCap}, {"iriscontcap="_L1, &SVRRecord::iCH_PTZ_IrisContCap},
+    {"speedrange="_L1, &SVRChannel::sCH_PTZ_Speed_Range},    {"moverange="_L1, &SVRChannel::sCH_PTZ_PanTilt_Range},
+    {"movecontcap="_L1, &SVRChannel::iCH_PTZ_MoveContCap},   {"zoomcontcap="_L1, &SVRChannel::iCH_PTZ_ZoomContCap},
+    {"focuscontcap="_L1, &SVRChannel::iCH_PTZ_FocusContCap}, {"iriscontcap="_L1, &SVRChannel::iCH_PTZ_IrisContCap},
 };
 
 constexpr Key kOnvifKeys[] = {
-    {".qualityrange="_L1, &SVRRecord::sCH_Onvif_Quality},
-    {".jpegfpsrange="_L1, &SVRRecord::sCH_Onvif_JPEG_FPS},
-    {".mpegfpsrange="_L1, &SVRRecord::sCH_Onvif_MPEG_FPS},
-    {".h264fpsrange="_L1, &SVRRecord::sCH_Onvif_H264_FPS},
-    {".jpegresolution="_L1, &SVRRecord::sCH_Onvif_JPEG_Resolution},
-    {".mpegresolution="_L1, &SVRRecord::sCH_Onvif_MPEG_Resolution},
-    {".h264resolution="_L1, &SVRRecord::sCH_Onvif_H264_Resolution},
+    {".qualityrange="_L1, &SVRChannel::sCH_Onvif_Quality},
+    {".jpegfpsrange="_L1, &SVRChannel::sCH_Onvif_JPEG_FPS},
+    {".mpegfpsrange="_L1, &SVRChannel::sCH_Onvif_MPEG_FPS},
+    {".h264fpsrange="_L1, &SVRChannel::sCH_Onvif_H264_FPS},
+    {".jpegresolution="_L1, &SVRChannel::sCH_Onvif_JPEG_Resolution},
+    {".mpegresolution="_L1, &SVRChannel::sCH_Onvif_MPEG_Resolution},
+    {".h264resolution="_L1, &SVRChannel::sCH_Onvif_H264_Resolution},
 };
 
-void ReadKeys(std::span<const Key> keys, SVRRecord& record, const QString& reply, qint16 channel)
+void ReadKeys(std::span<const Key> keys, SVRChannel& channel, const QString& reply)
 {
-    At(record.sSub_CH_Name, channel);
-    const auto index = static_cast<std::size_t>(channel);
     for (const QStringView piece : QStringView(reply).split(u"camera")) {
         for (const Key& key : keys) {
             if (!piece.contains(key.key))
@@ -75,9 +73,9 @@ void ReadKeys(std::span<const Key> keys, SVRRecord& record, const QString& reply
             QString value = At(piece.split(u'='), 1).toString();
             value.remove(u'\n').remove(u'\r');
             if (key.text)
-                (record.*key.text)[index] = value;
+                channel.*key.text = value;
             else
-                (record.*key.number)[index] = ToInt16(value);
+                channel.*key.number = ToInt16(value);
         }
     }
 }
@@ -155,19 +153,19 @@ void RefuseQuote(const QString& text)
 
 } // namespace
 
-void CHImageInfoPaser(SVRRecord& record, const QString& reply, qint16 channel)
+void CHImageInfoPaser(SVRChannel& channel, const QString& reply)
 {
-    ReadKeys(kImageKeys, record, reply, channel);
+    ReadKeys(kImageKeys, channel, reply);
 }
 
-void CHPTZInfoPaser(SVRRecord& record, const QString& reply, qint16 channel)
+void CHPTZInfoPaser(SVRChannel& channel, const QString& reply)
 {
-    ReadKeys(kPtzKeys, record, reply, channel);
+    ReadKeys(kPtzKeys, channel, reply);
 }
 
-void CHOnvifInfoPaser(SVRRecord& record, const QString& reply, qint16 channel)
+void CHOnvifInfoPaser(SVRChannel& channel, const QString& reply)
 {
-    ReadKeys(kOnvifKeys, record, reply, channel);
+    ReadKeys(kOnvifKeys, channel, reply);
 }
 
 QString GetFMTNameFromCode(const QString& text, qint16 mode)

@@ -7,12 +7,11 @@
 // The parameter text of recorders of family "SVR", lines of `camera_c<n>.key=value`, and the small translations
 // between device codes and the names the pages show.
 
-// Fill the image, PTZ and ONVIF fields of channel `channel` (from 0) from a reply. A key that the text does not hold
-// leaves its field alone. Throws ConversionError for a channel above 63 and for a number that is none; what was read
-// before stays.
-void CHImageInfoPaser(SVRRecord& record, const QString& reply, qint16 channel);
-void CHPTZInfoPaser(SVRRecord& record, const QString& reply, qint16 channel);
-void CHOnvifInfoPaser(SVRRecord& record, const QString& reply, qint16 channel);
+// Fill the image, PTZ and ONVIF fields of a channel from its reply. A key that the text does not hold leaves its field
+// alone. Throws ConversionError for a number that is none; what was read before stays.
+void CHImageInfoPaser(SVRChannel& channel, const QString& reply);
+void CHPTZInfoPaser(SVRChannel& channel, const QString& reply);
+void CHOnvifInfoPaser(SVRChannel& channel, const QString& reply);
 
 // Device code (a number as text, mode 0) to name, or name to code (mode 1). The empty text counts as "N/A". No match,
 // any other mode, and a code that is not a number (which is logged) give the empty text.

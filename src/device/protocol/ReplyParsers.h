@@ -35,16 +35,18 @@ void ParseDeviceInfo(ReplyText reply, DeviceInfo& info);
 // All settings of the listed channels. 1 on success; 0 when the reply cannot be read or RET is not 0 (nothing is
 // changed then). Each channel that the reply lists loses its three size lists and twelve bound lists first.
 // Channel 65 and above, or 0, is out of range.
-qint16 ParseChannelList(ReplyText reply, SVRRecord& channels, SVRProRecord& formats);
+qint16 ParseChannelList(ReplyText reply, SVRRecord& svr, SVRProRecord& pro);
+// The same for one channel (from 0); 0 also when the reply does not list it.
+qint16 ParseChannel(ReplyText reply, qint16 channel, SVRChannel& svr, SVRProChannel& pro);
 
 // One child of SupportFMT. `slot` goes in as the format slot that the previous child left (0 for the first): quality
 // bounds and rate control of this child land there. It comes out as 0 for JPEG, 1 for MPEG4, 2 for anything else (in
 // any case of letters). Sizes and their bounds go by the format's name itself, lower case only.
-void ParseSupportFmt(ProChannelStreams& formats, pugi::xml_node child, qint16& slot);
+void ParseSupportFmt(SVRProStreams& formats, pugi::xml_node child, qint16& slot);
 
-// The answer to a camera probe into channel `channel` (from 0). 0 on success, RET when that is not 0, -100 when the
+// The answer to a camera probe into its channel. 0 on success, RET when that is not 0, -100 when the
 // reply cannot be read. The current settings of as many slots as the reply has streams are cleared first.
-qint16 ParseDetectedCamera(ReplyText reply, SVRRecord& channels, SVRProRecord& formats, qint16 channel);
+qint16 ParseDetectedCamera(ReplyText reply, SVRChannel& channel, SVRProChannel& pro);
 
 // One row per camera found; one empty row when none was, or the reply cannot be read.
 void ParseSearchResult(ReplyText reply, std::vector<FoundCamera>& found);

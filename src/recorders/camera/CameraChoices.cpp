@@ -53,41 +53,40 @@ void CameraEdit::setEntries(Choice& choice, QStringList entries, const QStringLi
 
 FormatState CameraEdit::presentState() const
 {
-    const SVRRecord& svr = *m_draft.svr;
-    return {svr.sSub_CH_Resolution[index()], svr.iCH_FPS[index()], svr.iCH_RateCtrl[index()], svr.iCH_Quality[index()],
-            svr.iCH_BitRate[index()]};
+    const SVRChannel& svr = m_draft.svr;
+    return {svr.sSub_CH_Resolution, svr.iCH_FPS, svr.iCH_RateCtrl, svr.iCH_Quality, svr.iCH_BitRate};
 }
 
 // What is unknown leaves the channel's own value.
 void CameraEdit::putState(const FormatState& state)
 {
-    SVRRecord& svr = *m_draft.svr;
+    SVRChannel& svr = m_draft.svr;
     if (!state.resolution.isEmpty())
-        svr.sSub_CH_Resolution[index()] = state.resolution;
-    const std::pair<PerChannel<qint16>&, qint16> numbers[] = {{svr.iCH_FPS, state.frameRate},
-                                                              {svr.iCH_RateCtrl, state.rateControl},
-                                                              {svr.iCH_Quality, state.quality},
-                                                              {svr.iCH_BitRate, state.bitRate}};
+        svr.sSub_CH_Resolution = state.resolution;
+    const std::pair<qint16&, qint16> numbers[] = {{svr.iCH_FPS, state.frameRate},
+                                                  {svr.iCH_RateCtrl, state.rateControl},
+                                                  {svr.iCH_Quality, state.quality},
+                                                  {svr.iCH_BitRate, state.bitRate}};
     for (const auto& [field, value] : numbers) {
         if (value >= 0)
-            field[index()] = value;
+            field = value;
     }
 }
 
 // Takes over what the shown rows say; "N/A" says nothing.
 void CameraEdit::gather()
 {
-    SVRRecord& svr = *m_draft.svr;
+    SVRChannel& svr = m_draft.svr;
     const CameraLists lists = this->lists();
     const auto take = [&](Control control, qint16& value, auto toNumber) {
         const Choice& row = choice(control);
         if (row.shown && row.current >= 0 && row.text() != kAbsent)
             value = toNumber(row.text());
     };
-    take(Control::FrameRate, svr.iCH_FPS[index()], [&](const QString& entry) { return lists.frameRateOf(entry); });
-    take(Control::RateControl, svr.iCH_RateCtrl[index()], &CameraLists::rateControlOf);
-    take(Control::Quality, svr.iCH_Quality[index()], &CameraLists::qualityOf);
-    take(Control::BitRate, svr.iCH_BitRate[index()], [&](const QString& entry) { return lists.bitRateOf(entry); });
+    take(Control::FrameRate, svr.iCH_FPS, [&](const QString& entry) { return lists.frameRateOf(entry); });
+    take(Control::RateControl, svr.iCH_RateCtrl, &CameraLists::rateControlOf);
+    take(Control::Quality, svr.iCH_Quality, &CameraLists::qualityOf);
+    take(Control::BitRate, svr.iCH_BitRate, [&](const QString& entry) { return lists.bitRateOf(entry); });
 
     const int slot = format();
     if (slot < 0)
@@ -96,8 +95,8 @@ void CameraEdit::gather()
     m_draft.states[at] = presentState();
     if (!lists.isPro())
         return;
-    ProChannelStreams& streams = m_draft.pro->Streams[index()];
-    streams.sFMT[at] = svr.sSub_CH_VideoFormat[index()];
+    SVRProStreams& streams = m_draft.pro.streams;
+    streams[at].sFMT = svr.sSub_CH_VideoFormat;
     PutState(streams, at, m_draft.states[at]);
 }
 
@@ -110,15 +109,15 @@ void CameraEdit::CamClear()
 
 void CameraEdit::CamDetailFill()
 {
-    const SVRRecord& svr = *m_draft.svr;
-    const int sources = std::min<int>(svr.iSub_CH_VideoIDCount[index()], kMaxChannel);
+    const SVRChannel& svr = m_draft.svr;
+    const int sources = std::min<int>(svr.iSub_CH_VideoIDCount, kMaxChannel);
     QStringList numbers;
     for (int number = 1; sources > 1 && number <= sources; ++number)
         numbers += QString::number(number);
-    setEntries(at(Control::VideoSource), numbers, {QString::number(svr.iSub_CH_VideoID[index()])});
+    setEntries(at(Control::VideoSource), numbers, {QString::number(svr.iSub_CH_VideoID)});
 
     // The channel's format in the camera's spelling.
-    const QString present = svr.sSub_CH_VideoFormat[index()];
+    const QString present = svr.sSub_CH_VideoFormat;
     QStringList formats = lists().formats();
     QStringList wanted{present};
     for (const QString& name : formats) {
@@ -133,12 +132,12 @@ void CameraEdit::CamDetailFill()
 
 void CameraEdit::fillFormat()
 {
-    SVRRecord& svr = *m_draft.svr;
+    SVRChannel& svr = m_draft.svr;
     if (const int slot = format(); slot >= 0) {
-        svr.sSub_CH_VideoFormat[index()] = choice(Control::Format).text();
+        svr.sSub_CH_VideoFormat = choice(Control::Format).text();
         putState(m_draft.states[static_cast<std::size_t>(slot)]);
     }
-    QString& present = svr.sSub_CH_Resolution[index()];
+    QString& present = svr.sSub_CH_Resolution;
     Choice& sizes = at(Control::Resolution);
     setEntries(sizes, lists().resolutions(format()), {present});
     if (sizes.current >= 0)
@@ -148,24 +147,23 @@ void CameraEdit::fillFormat()
 
 void CameraEdit::CameraDetailVauleAssign()
 {
-    const SVRRecord& svr = *m_draft.svr;
+    const SVRChannel& svr = m_draft.svr;
     const CameraLists lists = this->lists();
     const QString resolution = choice(Control::Resolution).text();
     const QStringList frameRates = lists.frameRates(format(), resolution);
     const QStringList bitRates = lists.bitRates(format(), resolution);
-    QStringList frameRate{lists.frameRateText(svr.iCH_FPS[index()])};
-    QStringList bitRate{lists.bitRateText(svr.iCH_BitRate[index()])};
+    QStringList frameRate{lists.frameRateText(svr.iCH_FPS)};
+    QStringList bitRate{lists.bitRateText(svr.iCH_BitRate)};
     if (lists.isPro()) {
-        frameRate +=
-            HighestUpTo(frameRates, svr.iCH_FPS[index()], [&](auto& entry) { return lists.frameRateOf(entry); });
-        bitRate += HighestUpTo(bitRates, svr.iCH_BitRate[index()], [&](auto& entry) { return lists.bitRateOf(entry); });
+        frameRate += HighestUpTo(frameRates, svr.iCH_FPS, [&](auto& entry) { return lists.frameRateOf(entry); });
+        bitRate += HighestUpTo(bitRates, svr.iCH_BitRate, [&](auto& entry) { return lists.bitRateOf(entry); });
     }
     setEntries(at(Control::FrameRate), frameRates, frameRate);
     setEntries(at(Control::RateControl), lists.rateControls(format()),
-               {CameraLists::rateControlText(svr.iCH_RateCtrl[index()])});
-    setEntries(at(Control::Quality), lists.qualities(format()), {CameraLists::qualityText(svr.iCH_Quality[index()])});
+               {CameraLists::rateControlText(svr.iCH_RateCtrl)});
+    setEntries(at(Control::Quality), lists.qualities(format()), {CameraLists::qualityText(svr.iCH_Quality)});
     setEntries(at(Control::BitRate), bitRates, bitRate);
-    if (HasRelativeFormat(svr.sCH_Relativeformat[index()])) {
+    if (HasRelativeFormat(svr.sCH_Relativeformat)) {
         CheckRelativeformat(RelativeList::FrameRate);
         CheckRelativeformat(RelativeList::BitRate);
     }
@@ -174,9 +172,8 @@ void CameraEdit::CameraDetailVauleAssign()
 
 void CameraEdit::CheckRelativeformat(RelativeList list)
 {
-    SVRRecord& svr = *m_draft.svr;
-    const auto codes =
-        RelativeFormatValues(svr.sCH_Relativeformat[index()], format(), choice(Control::Resolution).text(), list);
+    SVRChannel& svr = m_draft.svr;
+    const auto codes = RelativeFormatValues(svr.sCH_Relativeformat, format(), choice(Control::Resolution).text(), list);
     if (!codes)
         return;
     const bool rates = list == RelativeList::FrameRate;
@@ -190,7 +187,7 @@ void CameraEdit::CheckRelativeformat(RelativeList list)
         if (!name.isEmpty() && !names.contains(name))
             names += name;
     }
-    qint16& stored = rates ? svr.iCH_FPS[index()] : svr.iCH_BitRate[index()];
+    qint16& stored = rates ? svr.iCH_FPS : svr.iCH_BitRate;
     Choice& row = at(rates ? Control::FrameRate : Control::BitRate);
     const QString present = nameOf(stored);
     setEntries(row, names, {present});
@@ -211,21 +208,20 @@ void CameraEdit::showRateRows()
 
 void CameraEdit::fillModes()
 {
-    const SVRRecord& svr = *m_draft.svr;
-    const SVRProRecord& pro = *m_draft.pro;
+    const SVRChannel& svr = m_draft.svr;
+    const SVRProChannel& pro = m_draft.pro;
     const auto fillFrom = [&](Control control, const QString& list, const QString& present) {
         setEntries(at(control), list.split(u',', Qt::SkipEmptyParts), {present});
     };
-    fillFrom(Control::LensMode, pro.sCH_Pro_LensModeList[index()], pro.sCH_Pro_LensMode[index()]);
-    fillFrom(Control::LeftMode, pro.sCH_Pro_LeftDisplayModeList[index()], pro.sCH_Pro_LeftDisplayMode[index()]);
-    fillFrom(Control::RightMode, pro.sCH_Pro_RightDisplayModeList[index()], pro.sCH_Pro_RightDisplayMode[index()]);
+    fillFrom(Control::LensMode, pro.sCH_Pro_LensModeList, pro.sCH_Pro_LensMode);
+    fillFrom(Control::LeftMode, pro.sCH_Pro_LeftDisplayModeList, pro.sCH_Pro_LeftDisplayMode);
+    fillFrom(Control::RightMode, pro.sCH_Pro_RightDisplayModeList, pro.sCH_Pro_RightDisplayMode);
     std::vector<FishEyeMode> modes;
-    Trapped("Form_CameraSetting - CamDetailFill",
-            [&] { FishEyeModeListPaser(modes, svr.sSub_CH_MD_FishEyeModeList[index()]); });
+    Trapped("Form_CameraSetting - CamDetailFill", [&] { FishEyeModeListPaser(modes, svr.sSub_CH_MD_FishEyeModeList); });
     QStringList views;
     for (const FishEyeMode& mode : modes)
         views += mode.sModeName;
-    setEntries(at(Control::FishEyeMode), lists().isPro() ? views : QStringList(), {svr.sSub_CH_Mode4FishEye[index()]});
+    setEntries(at(Control::FishEyeMode), lists().isPro() ? views : QStringList(), {svr.sSub_CH_Mode4FishEye});
 }
 
 void CameraEdit::choose(Control control, int entry)
@@ -233,8 +229,8 @@ void CameraEdit::choose(Control control, int entry)
     Choice& chosen = at(control);
     if (entry < 0 || entry >= chosen.entries.size() || entry == chosen.current)
         return;
-    SVRRecord& svr = *m_draft.svr;
-    SVRProRecord& pro = *m_draft.pro;
+    SVRChannel& svr = m_draft.svr;
+    SVRProChannel& pro = m_draft.pro;
     gather(); // before a list changes under what is chosen in it
     chosen.current = entry;
     const QString text = chosen.text();
@@ -247,37 +243,37 @@ void CameraEdit::choose(Control control, int entry)
         fillFormat();
         break;
     case Control::Resolution:
-        svr.sSub_CH_Resolution[index()] = text;
+        svr.sSub_CH_Resolution = text;
         fitOtherStreams();
         CameraDetailVauleAssign();
         break;
     case Control::FrameRate:
-        svr.iCH_FPS[index()] = lists().frameRateOf(text);
+        svr.iCH_FPS = lists().frameRateOf(text);
         break;
     case Control::RateControl:
-        svr.iCH_RateCtrl[index()] = CameraLists::rateControlOf(text);
+        svr.iCH_RateCtrl = CameraLists::rateControlOf(text);
         if (fitOtherStreams())
             CameraDetailVauleAssign();
         else
             showRateRows();
         break;
     case Control::Quality:
-        svr.iCH_Quality[index()] = CameraLists::qualityOf(text);
+        svr.iCH_Quality = CameraLists::qualityOf(text);
         break;
     case Control::BitRate:
-        svr.iCH_BitRate[index()] = lists().bitRateOf(text);
+        svr.iCH_BitRate = lists().bitRateOf(text);
         break;
     case Control::LensMode:
-        pro.sCH_Pro_LensMode[index()] = text;
+        pro.sCH_Pro_LensMode = text;
         break;
     case Control::LeftMode:
-        pro.sCH_Pro_LeftDisplayMode[index()] = text;
+        pro.sCH_Pro_LeftDisplayMode = text;
         break;
     case Control::RightMode:
-        pro.sCH_Pro_RightDisplayMode[index()] = text;
+        pro.sCH_Pro_RightDisplayMode = text;
         break;
     case Control::FishEyeMode:
-        svr.sSub_CH_Mode4FishEye[index()] = text;
+        svr.sSub_CH_Mode4FishEye = text;
         break;
     }
     emit choicesChanged();
@@ -286,10 +282,10 @@ void CameraEdit::choose(Control control, int entry)
 // A newer recorder tells of all streams of a camera: those beside the chosen one come within what their lists offer.
 bool CameraEdit::fitOtherStreams()
 {
-    if (m_draft.svr->sSVR_DeviceType != kFamilyTXR632 || format() < 0)
+    if (recorder().sSVR_DeviceType != kFamilyTXR632 || format() < 0)
         return false;
     const auto chosen = static_cast<std::size_t>(format());
-    ProChannelStreams& streams = m_draft.pro->Streams[index()];
+    SVRProStreams& streams = m_draft.pro.streams;
     FitStreams(streams, chosen);
     const FormatState present = m_draft.states[chosen];
     m_draft.states = StatesOfStreams(streams);
@@ -300,17 +296,17 @@ bool CameraEdit::fitOtherStreams()
 // The lists of another video source, as far as the recorder's answer tells of it.
 void CameraEdit::chooseSource(qint16 source)
 {
-    m_draft.svr->iSub_CH_VideoID[index()] = source;
+    m_draft.svr.iSub_CH_VideoID = source;
     if (m_probeReply.isEmpty() || !DescribesSource(m_probeReply, source)) {
         m_stale = source != m_source;
         return;
     }
     std::optional<DetectedCameraText> camera = ReadDetectedCamera(m_probeReply, source);
     if (camera)
-        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr->iSub_CH_VideoIDCount[index()]);
-    Draft draft = copyOfDraft();
-    ForgetCamera(*draft.svr, *draft.pro, m_channel);
-    if (!camera || !TakeDetectedText(*camera, *draft.svr, m_channel, draft.states)) {
+        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr.iSub_CH_VideoIDCount);
+    Draft draft = m_draft;
+    ForgetCamera(draft.svr, draft.pro);
+    if (!camera || !TakeDetectedText(*camera, draft.svr, draft.states)) {
         refuse({});
         return;
     }

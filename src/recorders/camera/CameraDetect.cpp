@@ -64,61 +64,37 @@ void Fit(qint16& value, const std::vector<qint16>& lower, const std::vector<qint
 
 } // namespace
 
-void ForgetCamera(SVRRecord& svr, SVRProRecord& pro, int channel)
+void ForgetCamera(SVRChannel& svr, SVRProChannel& pro)
 {
-    const auto c = static_cast<std::size_t>(channel);
-    for (auto member :
-         {&SVRRecord::sCH_ResolutionList, &SVRRecord::sCH_FMTList, &SVRRecord::sCH_FPS_Range,
-          &SVRRecord::sCH_Quality_Range, &SVRRecord::sCH_RateCtrl_Range, &SVRRecord::sCH_BitRate_Range,
-          &SVRRecord::sCH_Relativeformat, &SVRRecord::sCH_FPS_List_Customer, &SVRRecord::sCH_PTZ_Speed_Range,
-          &SVRRecord::sCH_PTZ_PanTilt_Range, &SVRRecord::sSub_CH_MD_FishEyeModeList, &SVRRecord::sSub_CH_Mode4FishEye,
-          &SVRRecord::sCH_Onvif_Quality, &SVRRecord::sCH_Onvif_JPEG_FPS, &SVRRecord::sCH_Onvif_MPEG_FPS,
-          &SVRRecord::sCH_Onvif_H264_FPS, &SVRRecord::sCH_Onvif_JPEG_Resolution, &SVRRecord::sCH_Onvif_MPEG_Resolution,
-          &SVRRecord::sCH_Onvif_H264_Resolution})
-        (svr.*member)[c].clear();
-    for (auto member : {&SVRRecord::iCH_PTZ_MoveContCap, &SVRRecord::iCH_PTZ_ZoomContCap,
-                        &SVRRecord::iCH_PTZ_FocusContCap, &SVRRecord::iCH_PTZ_IrisContCap})
-        (svr.*member)[c] = 0;
-    svr.FishEyeModes[c].clear();
-    for (auto member : {&SVRProRecord::sCH_Pro_LensModeList, &SVRProRecord::sCH_Pro_LensMode,
-                        &SVRProRecord::sCH_Pro_LeftDisplayModeList, &SVRProRecord::sCH_Pro_LeftDisplayMode,
-                        &SVRProRecord::sCH_Pro_RightDisplayModeList, &SVRProRecord::sCH_Pro_RightDisplayMode})
-        (pro.*member)[c].clear();
-    ProChannelStreams streams;
-    for (std::size_t slot = 0; slot < kMaxStream; ++slot)
-        PutState(streams, slot, {});
-    streams.iGOP.fill(-1);
-    streams.iQualityLower.fill(-1);
-    streams.iQualityUpper.fill(-1);
-    pro.Streams[c] = std::move(streams);
+    static_cast<SVRCameraFacts&>(svr) = {};
+    static_cast<SVRProCameraFacts&>(pro) = {};
 }
 
-bool TakeDetectedText(const DetectedCameraText& camera, SVRRecord& svr, int channel, FormatStates& states)
+bool TakeDetectedText(const DetectedCameraText& camera, SVRChannel& svr, FormatStates& states)
 {
-    const auto c = static_cast<std::size_t>(channel);
-    svr.sCH_Relativeformat[c] = camera.RelativeFormat;
-    svr.sCH_ResolutionList[c] = camera.ResolutionList;
-    svr.sCH_FMTList[c] = FormatNames(camera);
-    svr.sCH_FPS_Range[c] = camera.FPSRange;
-    svr.sCH_Quality_Range[c] = camera.QualityRange;
-    svr.sCH_RateCtrl_Range[c] = camera.RateCtrlRange;
-    svr.sCH_BitRate_Range[c] = camera.BitRateRange;
-    svr.sCH_PTZ_Speed_Range[c] = camera.SpeedRange;
-    svr.sCH_PTZ_PanTilt_Range[c] = camera.MoveRange;
-    svr.iCH_PTZ_MoveContCap[c] = NumberOr(camera.MoveContCap, 0);
-    svr.iCH_PTZ_ZoomContCap[c] = NumberOr(camera.ZoomContCap, 0);
-    svr.iCH_PTZ_FocusContCap[c] = NumberOr(camera.FocusContCap, 0);
-    svr.iCH_PTZ_IrisContCap[c] = NumberOr(camera.IrisContCap, 0);
-    svr.sCH_Onvif_Quality[c] = camera.OnvifQuality;
-    svr.sCH_Onvif_JPEG_FPS[c] = camera.OnvifJpegFPS;
-    svr.sCH_Onvif_MPEG_FPS[c] = camera.OnvifMpegFPS;
-    svr.sCH_Onvif_H264_FPS[c] = camera.OnvifH264FPS;
-    svr.sCH_Onvif_JPEG_Resolution[c] = camera.OnvifJpegResolution;
-    svr.sCH_Onvif_MPEG_Resolution[c] = camera.OnvifMpegResolution;
-    svr.sCH_Onvif_H264_Resolution[c] = camera.OnvifH264Resolution;
-    svr.iSub_CH_Brand[c] = BrandOf(camera, svr.iSub_CH_Brand[c]);
-    svr.iSub_CH_VideoIDCount[c] = camera.VideoSources;
-    svr.iCH_MultiStream[c] = camera.MultiStream ? 1 : 0;
+    svr.sCH_Relativeformat = camera.RelativeFormat;
+    svr.sCH_ResolutionList = camera.ResolutionList;
+    svr.sCH_FMTList = FormatNames(camera);
+    svr.sCH_FPS_Range = camera.FPSRange;
+    svr.sCH_Quality_Range = camera.QualityRange;
+    svr.sCH_RateCtrl_Range = camera.RateCtrlRange;
+    svr.sCH_BitRate_Range = camera.BitRateRange;
+    svr.sCH_PTZ_Speed_Range = camera.SpeedRange;
+    svr.sCH_PTZ_PanTilt_Range = camera.MoveRange;
+    svr.iCH_PTZ_MoveContCap = NumberOr(camera.MoveContCap, 0);
+    svr.iCH_PTZ_ZoomContCap = NumberOr(camera.ZoomContCap, 0);
+    svr.iCH_PTZ_FocusContCap = NumberOr(camera.FocusContCap, 0);
+    svr.iCH_PTZ_IrisContCap = NumberOr(camera.IrisContCap, 0);
+    svr.sCH_Onvif_Quality = camera.OnvifQuality;
+    svr.sCH_Onvif_JPEG_FPS = camera.OnvifJpegFPS;
+    svr.sCH_Onvif_MPEG_FPS = camera.OnvifMpegFPS;
+    svr.sCH_Onvif_H264_FPS = camera.OnvifH264FPS;
+    svr.sCH_Onvif_JPEG_Resolution = camera.OnvifJpegResolution;
+    svr.sCH_Onvif_MPEG_Resolution = camera.OnvifMpegResolution;
+    svr.sCH_Onvif_H264_Resolution = camera.OnvifH264Resolution;
+    svr.iSub_CH_Brand = BrandOf(camera, svr.iSub_CH_Brand);
+    svr.iSub_CH_VideoIDCount = camera.VideoSources;
+    svr.iCH_MultiStream = camera.MultiStream ? 1 : 0;
     for (int format = 0; format < kMaxStream; ++format) {
         FormatState& state = states[static_cast<std::size_t>(format)];
         state.resolution = FormatPart(camera.ResolutionState, format).trimmed();
@@ -130,34 +106,34 @@ bool TakeDetectedText(const DetectedCameraText& camera, SVRRecord& svr, int chan
     return !MarksUnusableCamera(camera.RelativeFormat) && (camera.ResolutionList != ";;"_L1 || HasOnvifSizes(camera));
 }
 
-FormatStates StatesOfStreams(const ProChannelStreams& streams)
+FormatStates StatesOfStreams(const SVRProStreams& streams)
 {
     FormatStates states;
     for (std::size_t slot = 0; slot < kMaxStream; ++slot)
-        states[slot] = {streams.sResolution[slot], streams.iFrameRate[slot], NumberOr(streams.sRateControl[slot], -1),
-                        streams.iQuality[slot], streams.iBitRate[slot]};
+        states[slot] = {streams[slot].sResolution, streams[slot].iFrameRate, NumberOr(streams[slot].sRateControl, -1),
+                        streams[slot].iQuality, streams[slot].iBitRate};
     return states;
 }
 
-void PutState(ProChannelStreams& streams, std::size_t slot, const FormatState& state)
+void PutState(SVRProStreams& streams, std::size_t slot, const FormatState& state)
 {
-    streams.sResolution[slot] = state.resolution;
-    streams.iFrameRate[slot] = state.frameRate;
-    streams.sRateControl[slot] = QString::number(state.rateControl);
-    streams.iQuality[slot] = state.quality;
-    streams.iBitRate[slot] = state.bitRate;
+    streams[slot].sResolution = state.resolution;
+    streams[slot].iFrameRate = state.frameRate;
+    streams[slot].sRateControl = QString::number(state.rateControl);
+    streams[slot].iQuality = state.quality;
+    streams[slot].iBitRate = state.bitRate;
 }
 
-void FitStreams(ProChannelStreams& streams, std::size_t except)
+void FitStreams(SVRProStreams& streams, std::size_t except)
 {
     for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
-        if (slot == except || streams.sFMT[slot].isEmpty())
+        if (slot == except || streams[slot].sFMT.isEmpty())
             continue;
-        const QStringList sizes = streams.sResolutionList[slot].split(u',', Qt::SkipEmptyParts);
-        Fit(streams.sResolution[slot], sizes);
-        const qsizetype position = sizes.indexOf(streams.sResolution[slot]);
-        Fit(streams.iFrameRate[slot], streams.iFPSLower[slot], streams.iFPSUpper[slot], position);
-        Fit(streams.iBitRate[slot], streams.iBPSLower[slot], streams.iBPSUpper[slot], position);
+        const QStringList sizes = streams[slot].sResolutionList.split(u',', Qt::SkipEmptyParts);
+        Fit(streams[slot].sResolution, sizes);
+        const qsizetype position = sizes.indexOf(streams[slot].sResolution);
+        Fit(streams[slot].iFrameRate, streams[slot].iFPSLower, streams[slot].iFPSUpper, position);
+        Fit(streams[slot].iBitRate, streams[slot].iBPSLower, streams[slot].iBPSUpper, position);
     }
 }
 

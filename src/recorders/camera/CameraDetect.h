@@ -5,7 +5,7 @@
 
 #include <array>
 
-// What a probe of a camera puts into the records of its channel. Pure; channels count from 0.
+// What a probe of a camera puts into the records of its channel. Pure.
 
 struct FormatState // what a format is set to; -1 and empty: unknown
 {
@@ -19,19 +19,19 @@ using FormatStates = std::array<FormatState, kMaxStream>;
 
 // Empties everything that a probe tells of a camera. Its name, address and login, its present settings and what the
 // station keeps of its own stay.
-void ForgetCamera(SVRRecord& svr, SVRProRecord& pro, int channel);
+void ForgetCamera(SVRChannel& svr, SVRProChannel& pro);
 
 // Takes the answer of a recorder of the older family. False for a camera that cannot be used.
-bool TakeDetectedText(const DetectedCameraText& camera, SVRRecord& svr, int channel, FormatStates& states);
+bool TakeDetectedText(const DetectedCameraText& camera, SVRChannel& svr, FormatStates& states);
 
 // The settings of the three streams of a Pro channel.
-FormatStates StatesOfStreams(const ProChannelStreams& streams);
+FormatStates StatesOfStreams(const SVRProStreams& streams);
 
 // The other way round, for one stream.
-void PutState(ProChannelStreams& streams, std::size_t slot, const FormatState& state);
+void PutState(SVRProStreams& streams, std::size_t slot, const FormatState& state);
 
 // Brings the settings of every stream but `except` within what its lists offer.
-void FitStreams(ProChannelStreams& streams, std::size_t except);
+void FitStreams(SVRProStreams& streams, std::size_t except);
 
 // Message number of a result of CMD_DETECT_CAMERA other than 0.
 int ProbeMessage(qint16 result);

@@ -65,7 +65,6 @@ CameraEdit::CameraEdit(Form_COM& com, RecorderSet& recorders, QObject* parent)
     : QObject(parent)
     , m_com(com)
     , m_recorders(recorders)
-    , m_draft{std::make_unique<SVRRecord>(), std::make_unique<SVRProRecord>(), {}}
 {
 }
 
@@ -73,30 +72,29 @@ CameraEdit::~CameraEdit() = default;
 
 void CameraEdit::open(int channel)
 {
-    At(m_recorders.SVREdit.sSub_CH_IP, channel);
+    m_draft.svr = At(m_recorders.SVREdit.channels, channel);
+    m_draft.pro = At(m_recorders.SVRProEdit.channels, channel);
     m_channel = channel;
-    *m_draft.svr = m_recorders.SVREdit;
-    *m_draft.pro = m_recorders.SVRProEdit;
-    m_draft.svr->iSub_Channel[index()] = static_cast<qint16>(channel + 1);
+    m_draft.svr.iSub_Channel = static_cast<qint16>(channel + 1);
     m_fields = storedFields();
     m_detectedFields = m_fields;
     m_detected = m_changed = m_stale = false;
-    m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
+    m_source = std::max<qint16>(m_draft.svr.iSub_CH_VideoID, 1);
     m_probeReply.clear();
-    m_draft.states = lists().isPro() ? StatesOfStreams(m_draft.pro->Streams[index()]) : FormatStates();
-    if (const int present = FormatIndex(m_draft.svr->sSub_CH_VideoFormat[index()]); present >= 0) {
+    m_draft.states = lists().isPro() ? StatesOfStreams(m_draft.pro.streams) : FormatStates();
+    if (const int present = FormatIndex(m_draft.svr.sSub_CH_VideoFormat); present >= 0) {
         const auto slot = static_cast<std::size_t>(present);
         m_draft.states[slot] = presentState();
-        PutState(m_draft.pro->Streams[index()], slot, m_draft.states[slot]);
+        PutState(m_draft.pro.streams, slot, m_draft.states[slot]);
     }
     CamDetailFill();
 }
 
 CameraEdit::Fields CameraEdit::storedFields() const
 {
-    const SVRRecord& svr = m_recorders.SVREdit;
-    return {svr.sSub_CH_Name[index()], svr.sSub_CH_IP[index()], QString::number(svr.iSub_CH_HttpPort[index()]),
-            svr.sSub_CH_UserName[index()], svr.sSub_CH_Password[index()]};
+    const SVRChannel& svr = editChannel();
+    return {svr.sSub_CH_Name, svr.sSub_CH_IP, QString::number(svr.iSub_CH_HttpPort), svr.sSub_CH_UserName,
+            svr.sSub_CH_Password};
 }
 
 void CameraEdit::setFields(const Fields& fields)
@@ -114,18 +112,18 @@ void CameraEdit::setFields(const Fields& fields)
     emit choicesChanged();
 }
 
-void CameraEdit::putFields(SVRRecord& svr) const
+void CameraEdit::putFields(SVRChannel& svr) const
 {
-    svr.sSub_CH_Name[index()] = m_fields.name;
-    svr.sSub_CH_IP[index()] = m_fields.address.trimmed();
-    svr.iSub_CH_HttpPort[index()] = m_fields.port.trimmed().toInt();
-    svr.sSub_CH_UserName[index()] = m_fields.user;
-    svr.sSub_CH_Password[index()] = m_fields.password;
+    svr.sSub_CH_Name = m_fields.name;
+    svr.sSub_CH_IP = m_fields.address.trimmed();
+    svr.iSub_CH_HttpPort = m_fields.port.trimmed().toInt();
+    svr.sSub_CH_UserName = m_fields.user;
+    svr.sSub_CH_Password = m_fields.password;
 }
 
 QString CameraEdit::brand() const
 {
-    const qint16 number = m_draft.svr->iSub_CH_Brand[index()];
+    const qint16 number = m_draft.svr.iSub_CH_Brand;
     return number > 0 ? QString::number(number) : QString();
 }
 
@@ -156,21 +154,15 @@ CameraEdit::Outcome CameraEdit::detect()
     if (const Outcome fault = checkFields(); !fault.ok)
         return fault;
     const bool pro = lists().isPro();
-    const bool ownSource = m_draft.svr->iSub_CH_VideoID[index()] == m_recorders.SVREdit.iSub_CH_VideoID[index()];
-    if (!pro && ownSource && m_fields == storedFields() &&
-        HasStoredDetection(m_recorders.SVREdit, m_recorders.SVRProEdit, m_channel)) {
+    const bool ownSource = m_draft.svr.iSub_CH_VideoID == editChannel().iSub_CH_VideoID;
+    if (!pro && ownSource && m_fields == storedFields() && HasStoredDetection({editChannel(), editProChannel(), pro})) {
         open(m_channel);
         m_detected = true;
         return Outcome::Done(kDetectSuccess);
     }
-    if (!CgiGetGid(m_com.web, AddressOf(*m_draft.svr)))
+    if (!CgiGetGid(m_com.web, AddressOf(recorder())))
         return Outcome::Failed(kNoCamera);
     return pro ? ChannelDetectPro() : detectSvr();
-}
-
-CameraEdit::Draft CameraEdit::copyOfDraft() const
-{
-    return {std::make_unique<SVRRecord>(*m_draft.svr), std::make_unique<SVRProRecord>(*m_draft.pro), m_draft.states};
 }
 
 bool CameraEdit::sameCamera() const
@@ -182,43 +174,43 @@ bool CameraEdit::sameCamera() const
 // What an earlier camera has left would pass for what the asked one says.
 CameraEdit::Draft CameraEdit::draftForDetection() const
 {
-    Draft draft = copyOfDraft();
-    ForgetCamera(*draft.svr, *draft.pro, m_channel);
+    Draft draft = m_draft;
+    ForgetCamera(draft.svr, draft.pro);
     if (sameCamera())
         return draft;
-    draft.svr->iSub_CH_Brand[index()] = 0;
-    draft.svr->iSub_CH_VideoID[index()] = 1;
-    draft.pro->sCH_Pro_Model[index()].clear();
-    draft.pro->sCH_Pro_Mac[index()].clear();
-    draft.pro->lCH_Pro_RTPSPort[index()] = 0;
+    draft.svr.iSub_CH_Brand = 0;
+    draft.svr.iSub_CH_VideoID = 1;
+    draft.pro.sCH_Pro_Model.clear();
+    draft.pro.sCH_Pro_Mac.clear();
+    draft.pro.lCH_Pro_RTPSPort = 0;
     return draft;
 }
 
 CameraEdit::Outcome CameraEdit::detectSvr()
 {
     Draft draft = draftForDetection();
-    const DeviceAddress recorder = AddressOf(*draft.svr);
+    const DeviceAddress recorder = AddressOf(this->recorder());
     const QString password = m_fields.password.trimmed().isEmpty() ? u"0"_s : m_fields.password;
     const QString address = m_fields.address.trimmed();
     const QString port = m_fields.port.trimmed();
     const QString brand = sameCamera() ? this->brand() : QString();
-    auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
+    auto source = std::max<qint16>(draft.svr.iSub_CH_VideoID, 1);
     const bool oneSource = choice(Control::VideoSource).shown;
     const QString reply =
         oneSource ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand)
                   : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand);
     std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, source);
     if (camera && oneSource) { // the answer need not repeat how many there are
-        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr->iSub_CH_VideoIDCount[index()]);
+        camera->VideoSources = std::max(camera->VideoSources, m_draft.svr.iSub_CH_VideoIDCount);
     } else if (camera && source > camera->VideoSources) {
         source = 1;
         camera = ReadDetectedCamera(reply, source);
     }
     if (!camera)
         return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
-    if (!TakeDetectedText(*camera, *draft.svr, m_channel, draft.states))
+    if (!TakeDetectedText(*camera, draft.svr, draft.states))
         return refuse(Outcome::FailedPlain(kUnusable));
-    draft.svr->iSub_CH_VideoID[index()] = source;
+    draft.svr.iSub_CH_VideoID = source;
     m_probeReply = reply.size() <= kMaxReplySize ? reply : QString();
     return takeDetected(std::move(draft));
 }
@@ -226,39 +218,36 @@ CameraEdit::Outcome CameraEdit::detectSvr()
 CameraEdit::Outcome CameraEdit::ChannelDetectPro()
 {
     Draft draft = draftForDetection();
-    const auto source = std::max<qint16>(draft.svr->iSub_CH_VideoID[index()], 1);
-    const QString reply = SendCmdXml(m_com.web, AddressOf(*draft.svr),
+    const auto source = std::max<qint16>(draft.svr.iSub_CH_VideoID, 1);
+    const QString reply = SendCmdXml(m_com.web, AddressOf(recorder()),
                                      BuildDetectCamera(m_fields.address.trimmed(), m_fields.port.trimmed().toInt(),
                                                        m_fields.user, m_fields.password, source));
     qint16 result = -100;
-    const bool read = Trapped(kDetectSource, [&] {
-        result = ParseDetectedCamera(reply, *draft.svr, *draft.pro, static_cast<qint16>(m_channel));
-    });
+    const bool read = Trapped(kDetectSource, [&] { result = ParseDetectedCamera(reply, draft.svr, draft.pro); });
     if (!read || result != 0)
         return refuse(Outcome::FailedPlain(ProbeMessage(read ? result : qint16(-100))));
-    const ProChannelStreams& streams = draft.pro->Streams[index()];
-    draft.svr->sCH_ResolutionList[index()] =
-        QStringList(streams.sResolutionList.begin(), streams.sResolutionList.end()).join(u';');
+    const SVRProStreams& streams = draft.pro.streams;
+    draft.svr.sCH_ResolutionList =
+        streams[0].sResolutionList + u';' + streams[1].sResolutionList + u';' + streams[2].sResolutionList;
     draft.states = StatesOfStreams(streams);
-    readFishEyeModes(*draft.svr);
+    readFishEyeModes(draft.svr);
     return takeDetected(std::move(draft));
 }
 
-void CameraEdit::readFishEyeModes(SVRRecord& svr) const
+void CameraEdit::readFishEyeModes(SVRChannel& svr) const
 {
-    Trapped(kDetectSource,
-            [&] { FishEyeModeListPaser(svr.FishEyeModes[index()], svr.sSub_CH_MD_FishEyeModeList[index()]); });
+    Trapped(kDetectSource, [&] { FishEyeModeListPaser(svr.FishEyeModes, svr.sSub_CH_MD_FishEyeModeList); });
 }
 
 CameraEdit::Outcome CameraEdit::takeDetected(Draft draft)
 {
     m_draft = std::move(draft);
-    putFields(*m_draft.svr);
+    putFields(m_draft.svr);
     m_detectedFields = m_fields;
     m_detected = true;
     m_changed = true;
     m_stale = false;
-    m_source = std::max<qint16>(m_draft.svr->iSub_CH_VideoID[index()], 1);
+    m_source = std::max<qint16>(m_draft.svr.iSub_CH_VideoID, 1);
     CamDetailFill();
     return Outcome::Done(kDetectSuccess);
 }
@@ -275,7 +264,7 @@ CameraEdit::Outcome CameraEdit::checkApply() const
     const QString address = m_fields.address.trimmed();
     if (m_fields.name.isEmpty() && address.isEmpty()) // a channel to be cleared
         return Outcome::Done();
-    if (address != m_recorders.SVREdit.sSub_CH_IP[index()]) {
+    if (address != editChannel().sSub_CH_IP) {
         // The recorder's own slot counts as it stands on the page, unless the station already knew it fuller.
         const int known = CameraTotal(m_recorders.SVRWorkList);
         const int slot = m_recorders.SVREdit.iSVR_Num - 1;
@@ -298,9 +287,9 @@ ChannelParameters CameraEdit::parameters() const
     out.HttpPort = m_fields.port.trimmed();
     out.UserName = m_fields.user;
     out.Password = m_fields.password;
-    out.Brand = QString::number(m_draft.svr->iSub_CH_Brand[index()]);
-    if (m_draft.svr->iSub_CH_VideoIDCount[index()] > 1)
-        out.VideoID = QString::number(m_draft.svr->iSub_CH_VideoID[index()]);
+    out.Brand = QString::number(m_draft.svr.iSub_CH_Brand);
+    if (m_draft.svr.iSub_CH_VideoIDCount > 1)
+        out.VideoID = QString::number(m_draft.svr.iSub_CH_VideoID);
     const QString format = choice(Control::Format).text();
     out.Format = format.isEmpty() ? QString() : GetFMTNameFromCode(format, 1);
     out.Resolution = choice(Control::Resolution).text();
@@ -318,9 +307,9 @@ ChannelParameters CameraEdit::parameters() const
 
 ChannelSettings CameraEdit::settings(const Draft& draft) const
 {
-    ChannelSettings out = ChannelSettingsOf(*draft.svr, *draft.pro, static_cast<qint16>(m_channel));
+    ChannelSettings out = ChannelSettingsOf(draft.svr, draft.pro);
     if (const int slot = format(); slot >= 0) {
-        const qint16 gop = draft.pro->Streams[index()].iGOP[static_cast<std::size_t>(slot)];
+        const qint16 gop = draft.pro.streams[static_cast<std::size_t>(slot)].iGOP;
         out.GOP = gop >= 0 ? gop : out.GOP;
     }
     return out;
@@ -330,8 +319,8 @@ CameraEdit::Outcome CameraEdit::write(Draft& draft) const
 {
     const auto number = static_cast<qint16>(m_channel);
     if (!lists().isPro())
-        return WriteSvrChannel(m_com, *draft.svr, number, parameters());
-    return WriteProChannel(m_com, *draft.svr, *draft.pro, number, settings(draft));
+        return WriteSvrChannel(m_com, AddressOf(recorder()), number, parameters());
+    return WriteProChannel(m_com, AddressOf(recorder()), draft.svr, draft.pro, number, settings(draft));
 }
 
 CameraEdit::Outcome CameraEdit::writeBack()
@@ -345,12 +334,12 @@ CameraEdit::Outcome CameraEdit::writeBack()
     if (m_fields.name.contains(u'"')) // no device can be told
         return Outcome::Failed(kNameQuote, {}, kName);
     gather();
-    Draft draft = copyOfDraft();
-    putFields(*draft.svr);
+    Draft draft = m_draft;
+    putFields(draft.svr);
     const Choice& rates = choice(Control::FrameRate);
     if (rates.shown) {
-        draft.svr->sCH_FPS_Customer[index()] = rates.text();
-        draft.svr->sCH_FPS_List_Customer[index()] = rates.entries.join(u',');
+        draft.svr.sCH_FPS_Customer = rates.text();
+        draft.svr.sCH_FPS_List_Customer = rates.entries.join(u',');
     }
     const Outcome outcome = write(draft);
     if (!outcome.ok) {
@@ -358,10 +347,10 @@ CameraEdit::Outcome CameraEdit::writeBack()
             refuse(outcome);
         return outcome;
     }
-    readFishEyeModes(*draft.svr);
-    draft.svr->bSub_CH_Modified[index()] = true;
-    m_recorders.SVREdit = *draft.svr;
-    m_recorders.SVRProEdit = *draft.pro;
+    readFishEyeModes(draft.svr);
+    draft.svr.bSub_CH_Modified = true;
+    editChannel() = draft.svr;
+    editProChannel() = draft.pro;
     open(m_channel);
     return outcome;
 }

@@ -7,10 +7,10 @@
 #include "recorders/camera/CameraLists.h"
 #include "recorders/data/RecorderSet.h"
 #include "recorders/detect/RecorderCall.h"
+#include "support/Conversions.h"
 
 #include <QObject>
 #include <array>
-#include <memory>
 #include <vector>
 
 // The page of one camera without its window. Works on a draft of the channel; the edit pair (SVREdit, SVRProEdit)
@@ -89,25 +89,26 @@ private:
     // The draft of the channel with everything that a detection brings.
     struct Draft
     {
-        std::unique_ptr<SVRRecord> svr;
-        std::unique_ptr<SVRProRecord> pro;
+        SVRChannel svr;
+        SVRProChannel pro;
         FormatStates states;
     };
 
-    CameraLists lists() const { return {*m_draft.svr, *m_draft.pro, index()}; }
-    std::size_t index() const { return static_cast<std::size_t>(m_channel); }
+    CameraLists lists() const { return {m_draft.svr, m_draft.pro, IsProFamily(recorder().sSVR_DeviceType)}; }
+    const SVRRecord& recorder() const { return m_recorders.SVREdit; }
+    SVRChannel& editChannel() const { return At(m_recorders.SVREdit.channels, m_channel); }
+    SVRProChannel& editProChannel() const { return At(m_recorders.SVRProEdit.channels, m_channel); }
     Choice& at(Control control) { return m_choices[static_cast<std::size_t>(control)]; }
     FormatState presentState() const;
     void putState(const FormatState& state);
-    Draft copyOfDraft() const;
     Fields storedFields() const;
-    void putFields(SVRRecord& svr) const;
+    void putFields(SVRChannel& svr) const;
     Outcome checkFields() const;
     Outcome detectSvr();
     Outcome ChannelDetectPro();
     bool sameCamera() const; // the lists are those of the address on the page
     Draft draftForDetection() const;
-    void readFishEyeModes(SVRRecord& svr) const;
+    void readFishEyeModes(SVRChannel& svr) const;
     Outcome takeDetected(Draft draft);
     Outcome refuse(Outcome outcome);
     Outcome write(Draft& draft) const;

@@ -32,7 +32,7 @@ std::vector<int> CameraChannels(const SVRRecord& svr)
 {
     std::vector<int> channels;
     for (int channel = 0; channel < qBound(0, int(svr.iSVR_Maxchannel), kMaxChannel); ++channel) {
-        if (!At(svr.sSub_CH_IP, channel).isEmpty())
+        if (!At(svr.channels, channel).sSub_CH_IP.isEmpty())
             channels.push_back(channel);
     }
     return channels;
@@ -74,7 +74,7 @@ void PutSwitches(std::vector<ActionRecord>& actions, const CameraEventBits& bits
 void TakeSwitches(SVRRecord& svr, const CameraEventBits& bits, const std::vector<int>& channels)
 {
     for (const int channel : channels)
-        At(svr.bSub_CH_Cam_MD_Enabled, channel) = At(bits, channel) != 0;
+        At(svr.channels, channel).bSub_CH_Cam_MD_Enabled = At(bits, channel) != 0;
 }
 
 RecorderOutcome WritePro(Form_COM& com, SVRRecord& svr, const CameraEventBits& bits, const std::vector<int>& channels)
@@ -92,7 +92,7 @@ RecorderOutcome WritePro(Form_COM& com, SVRRecord& svr, const CameraEventBits& b
         [&](const QString& list) { refused = list; });
     if (result < 0)
         return RecorderOutcome::FailedPlain(kSendFault);
-    svr.bSub_CH_Cam_MD_Enabled = written->bSub_CH_Cam_MD_Enabled;
+    svr.channels = written->channels;
     return refused.isEmpty() ? RecorderOutcome::Done() : Refused(svr, refused);
 }
 
@@ -108,7 +108,7 @@ RecorderOutcome WriteSvr(Form_COM& com, SVRRecord& svr, const CameraEventBits& b
     TakeSwitches(svr, bits, channels);
     QStringList refused;
     for (const int number : RefusedChannels(reply)) {
-        At(svr.bSub_CH_Cam_MD_Enabled, number - 1) = false;
+        At(svr.channels, number - 1).bSub_CH_Cam_MD_Enabled = false;
         refused += QString::number(number);
     }
     return refused.isEmpty() ? RecorderOutcome::Done() : Refused(svr, refused.join(u','));

@@ -103,10 +103,10 @@ QStringList Qualities(const Bounds& bounds)
     return list;
 }
 
-bool HasOnvifSizes(const SVRRecord& svr, std::size_t c)
+bool HasOnvifSizes(const SVRChannel& svr)
 {
-    return !svr.sCH_Onvif_JPEG_Resolution[c].isEmpty() || !svr.sCH_Onvif_MPEG_Resolution[c].isEmpty() ||
-           !svr.sCH_Onvif_H264_Resolution[c].isEmpty();
+    return !svr.sCH_Onvif_JPEG_Resolution.isEmpty() || !svr.sCH_Onvif_MPEG_Resolution.isEmpty() ||
+           !svr.sCH_Onvif_H264_Resolution.isEmpty();
 }
 
 } // namespace
@@ -129,7 +129,7 @@ QString FormatPart(const QString& list, int format)
 QStringList CameraLists::formats() const
 {
     QStringList list;
-    for (const QString& entry : ListOf(QString(svr.sCH_FMTList[c]).replace(u';', u','))) {
+    for (const QString& entry : ListOf(QString(svr.sCH_FMTList).replace(u';', u','))) {
         const QString name = !isPro() && NumberOf(entry) ? GetFMTNameFromCode(entry, 0) : entry;
         const int index = FormatIndex(name);
         if (index < 0)
@@ -151,15 +151,15 @@ QStringList CameraLists::resolutions(int format) const
     if (format < 0 || format >= kMaxStream)
         return {};
     if (isPro()) {
-        const QString& sizes = pro.Streams[c].sResolutionList[static_cast<std::size_t>(format)];
-        return ListOf(sizes.isEmpty() ? FormatPart(svr.sCH_ResolutionList[c], format) : sizes);
+        const QString& sizes = pro.streams[static_cast<std::size_t>(format)].sResolutionList;
+        return ListOf(sizes.isEmpty() ? FormatPart(svr.sCH_ResolutionList, format) : sizes);
     }
-    if (isOnvif() && HasOnvifSizes(svr, c)) {
+    if (isOnvif() && HasOnvifSizes(svr)) {
         const std::array<const QString*, kMaxStream> sizes{
-            &svr.sCH_Onvif_JPEG_Resolution[c], &svr.sCH_Onvif_MPEG_Resolution[c], &svr.sCH_Onvif_H264_Resolution[c]};
+            &svr.sCH_Onvif_JPEG_Resolution, &svr.sCH_Onvif_MPEG_Resolution, &svr.sCH_Onvif_H264_Resolution};
         return ListOf(*sizes[static_cast<std::size_t>(format)]);
     }
-    return ListOf(FormatPart(svr.sCH_ResolutionList[c], format));
+    return ListOf(FormatPart(svr.sCH_ResolutionList, format));
 }
 
 QStringList CameraLists::frameRates(int format, const QString& resolution) const
@@ -168,16 +168,15 @@ QStringList CameraLists::frameRates(int format, const QString& resolution) const
         return {};
     const auto slot = static_cast<std::size_t>(format);
     if (isPro()) {
-        const ProChannelStreams& streams = pro.Streams[c];
-        const auto bounds =
-            BoundsOfSize(streams.sResolutionList[slot], resolution, streams.iFPSLower[slot], streams.iFPSUpper[slot]);
+        const SVRProStream& stream = pro.streams[slot];
+        const auto bounds = BoundsOfSize(stream.sResolutionList, resolution, stream.iFPSLower, stream.iFPSUpper);
         return bounds ? Numbers(std::max(bounds->lower, 1), std::min(bounds->upper, kHighestFrameRate)) : QStringList();
     }
-    QStringList names = NamesOf(FormatPart(svr.sCH_FPS_Range[c], format), GetFPSMapping);
+    QStringList names = NamesOf(FormatPart(svr.sCH_FPS_Range, format), GetFPSMapping);
     if (isOnvif()) {
         // An ONVIF camera tells its bounds in frames per second; the steps that lie between them remain.
-        const std::array<const QString*, kMaxStream> ranges{&svr.sCH_Onvif_JPEG_FPS[c], &svr.sCH_Onvif_MPEG_FPS[c],
-                                                            &svr.sCH_Onvif_H264_FPS[c]};
+        const std::array<const QString*, kMaxStream> ranges{&svr.sCH_Onvif_JPEG_FPS, &svr.sCH_Onvif_MPEG_FPS,
+                                                            &svr.sCH_Onvif_H264_FPS};
         if (const auto bounds = BoundsOf(*ranges[slot])) {
             if (names.isEmpty())
                 names = NamesOf(u"0,1,2,3,4,5"_s, GetFPSMapping);
@@ -195,18 +194,17 @@ QStringList CameraLists::bitRates(int format, const QString& resolution) const
     if (format < 0 || format >= kMaxStream)
         return {};
     if (!isPro())
-        return NamesOf(FormatPart(svr.sCH_BitRate_Range[c], format), GetsBitrate);
+        return NamesOf(FormatPart(svr.sCH_BitRate_Range, format), GetsBitrate);
     if (format == kMjpeg) // single pictures: the quality alone decides
         return {};
     const auto slot = static_cast<std::size_t>(format);
-    const ProChannelStreams& streams = pro.Streams[c];
-    const auto bounds =
-        BoundsOfSize(streams.sResolutionList[slot], resolution, streams.iBPSLower[slot], streams.iBPSUpper[slot]);
+    const SVRProStream& stream = pro.streams[slot];
+    const auto bounds = BoundsOfSize(stream.sResolutionList, resolution, stream.iBPSLower, stream.iBPSUpper);
     if (!bounds)
         return {};
     std::vector<qint16> rates(std::begin(kProBitRates), std::end(kProBitRates));
     // What the device has set stays among them, and bounds between two steps leave something to choose.
-    for (const int rate : {int(streams.iBitRate[slot]), bounds->upper}) {
+    for (const int rate : {int(stream.iBitRate), bounds->upper}) {
         const auto place = std::lower_bound(rates.begin(), rates.end(), static_cast<qint16>(rate));
         if (rate > 0 && (place == rates.end() || *place != rate))
             rates.insert(place, static_cast<qint16>(rate));
@@ -224,11 +222,10 @@ QStringList CameraLists::rateControls(int format) const
     if (format < 0 || format >= kMaxStream)
         return {};
     if (!isPro())
-        return NamesOf(FormatPart(svr.sCH_RateCtrl_Range[c], format), GetsRateControl);
-    const auto slot = static_cast<std::size_t>(format);
-    const ProChannelStreams& streams = pro.Streams[c];
+        return NamesOf(FormatPart(svr.sCH_RateCtrl_Range, format), GetsRateControl);
+    const SVRProStream& stream = pro.streams[static_cast<std::size_t>(format)];
     // A stream that has a rate control set can change it, whatever the table of capabilities says.
-    const bool has = streams.bRateControlCap[slot] || NumberOf(streams.sRateControl[slot]).value_or(-1) >= 0;
+    const bool has = stream.bRateControlCap || NumberOf(stream.sRateControl).value_or(-1) >= 0;
     return format != kMjpeg && has ? QStringList{u"VBR"_s, u"CBR"_s} : QStringList();
 }
 
@@ -238,20 +235,20 @@ QStringList CameraLists::qualities(int format) const
         return {};
     const auto slot = static_cast<std::size_t>(format);
     if (isPro()) {
-        const ProChannelStreams& streams = pro.Streams[c];
         // Devices differ in which slot the bounds of the last format land; the nearest one below that has any holds.
         for (std::size_t at = slot + 1; at-- > 0;) {
-            if (streams.iQualityUpper[at] > 0 && streams.iQualityUpper[at] >= streams.iQualityLower[at])
-                return Qualities({streams.iQualityLower[at], streams.iQualityUpper[at]});
+            const SVRProStream& stream = pro.streams[at];
+            if (stream.iQualityUpper > 0 && stream.iQualityUpper >= stream.iQualityLower)
+                return Qualities({stream.iQualityLower, stream.iQualityUpper});
         }
         return {};
     }
     if (isOnvif()) {
-        if (const auto bounds = BoundsOf(svr.sCH_Onvif_Quality[c]))
+        if (const auto bounds = BoundsOf(svr.sCH_Onvif_Quality))
             return Qualities(*bounds);
     }
     QStringList list;
-    for (const QString& entry : ListOf(FormatPart(svr.sCH_Quality_Range[c], format))) {
+    for (const QString& entry : ListOf(FormatPart(svr.sCH_Quality_Range, format))) {
         if (const std::optional<qint16> number = NumberOf(entry))
             list += qualityText(*number);
     }
@@ -304,12 +301,10 @@ QString CameraLists::qualityText(qint16 value)
     return value == 0 ? QString(kFullQuality) : QString::number(value);
 }
 
-bool HasStoredDetection(const SVRRecord& svr, const SVRProRecord& pro, int channel)
+bool HasStoredDetection(const CameraLists& lists)
 {
-    const auto c = static_cast<std::size_t>(channel);
-    if (svr.sSub_CH_IP[c].isEmpty())
+    if (lists.svr.sSub_CH_IP.isEmpty())
         return false;
-    const CameraLists lists{svr, pro, c};
     for (int format = 0; format < kMaxStream; ++format) {
         if (!lists.resolutions(format).isEmpty())
             return true;

@@ -4,8 +4,8 @@
 
 #include <QStringList>
 
-// What the lists of one channel's page offer, from what the records say of its camera. Pure. Entries are the texts that
-// the page shows; channels and formats count from 0.
+// What the lists of one channel's page offer, from what its records say of its camera. Pure. Entries are the texts that
+// the page shows; formats count from 0.
 
 inline constexpr qint16 kOnvifBrand = 55; // a camera driven over ONVIF
 inline constexpr QLatin1String kAbsent("N/A");
@@ -16,14 +16,13 @@ int FormatIndex(const QString& format);
 // Part `format` of a text with one ";" part a format; a text without ";" is every format's.
 QString FormatPart(const QString& list, int format);
 
-// One channel of a pair of records.
 struct CameraLists
 {
-    const SVRRecord& svr;
-    const SVRProRecord& pro;
-    std::size_t c; // channel, 0 to 63
+    const SVRChannel& svr;
+    const SVRProChannel& pro;
+    bool proFamily; // of the recorder
 
-    bool isPro() const { return IsProFamily(svr.sSVR_DeviceType); }
+    bool isPro() const { return proFamily; }
 
     // Formats in the device's own spelling (older family: "MJPEG", "MPEG4", "H.264"), each once.
     QStringList formats() const;
@@ -47,8 +46,8 @@ struct CameraLists
     static QString qualityText(qint16 value);
 
 private:
-    bool isOnvif() const { return svr.iSub_CH_Brand[c] == kOnvifBrand; }
+    bool isOnvif() const { return svr.iSub_CH_Brand == kOnvifBrand; }
 };
 
 // Whether the records hold the lists of an earlier detection of this channel's camera.
-bool HasStoredDetection(const SVRRecord& svr, const SVRProRecord& pro, int channel);
+bool HasStoredDetection(const CameraLists& lists);

@@ -37,13 +37,13 @@ RecorderOutcome RefusedWrite(const QString& reply)
     return RecorderOutcome::Failed(kDetectFault);
 }
 
-RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 channel,
+RecorderOutcome WriteSvrChannel(Form_COM& com, const DeviceAddress& recorder, qint16 channel,
                                 const ChannelParameters& parameters)
 {
     const bool both = !parameters.Format.isEmpty() && !parameters.Resolution.isEmpty();
     QString reply;
     Trapped(kSource, [&] {
-        reply = com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), parameters,
+        reply = com.device.SetChannel(recorder, static_cast<qint16>(channel + 1), parameters,
                                       both ? ChannelForm::Both : ChannelForm::Simple);
     });
     if (DeviceBridge::DeviceTook(reply))
@@ -53,10 +53,9 @@ RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 chan
     return RefusedWrite(reply);
 }
 
-RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro, qint16 channel,
-                                const ChannelSettings& settings)
+RecorderOutcome WriteProChannel(Form_COM& com, const DeviceAddress& recorder, SVRChannel& svr, SVRProChannel& pro,
+                                qint16 channel, const ChannelSettings& settings)
 {
-    const DeviceAddress recorder = AddressOf(svr);
     const QString written = SendCmdXml(com.web, recorder, BuildSetChannel(settings));
     if (written.isEmpty())
         return RecorderOutcome::Failed(kConnectionError);
@@ -68,6 +67,6 @@ RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro
     if (read.isEmpty())
         return RecorderOutcome::Failed(kConnectionError);
     qint16 result = 0;
-    Trapped(kSource, [&] { result = ParseChannelList(read, svr, pro); });
+    Trapped(kSource, [&] { result = ParseChannel(read, channel, svr, pro); });
     return result == 1 ? RecorderOutcome::Done() : RefusedWrite(read);
 }

@@ -10,10 +10,10 @@
 RecorderOutcome RefusedWrite(const QString& reply);
 
 // Older family: the channel's parameters in the full form, or without a format in the short one.
-RecorderOutcome WriteSvrChannel(Form_COM& com, const SVRRecord& svr, qint16 channel,
+RecorderOutcome WriteSvrChannel(Form_COM& com, const DeviceAddress& recorder, qint16 channel,
                                 const ChannelParameters& parameters);
 
 // Pro families: the whole channel, the save, and the channel as the recorder has it now into the pair. On failure the
 // pair may hold a part of the reply: give a copy.
-RecorderOutcome WriteProChannel(Form_COM& com, SVRRecord& svr, SVRProRecord& pro, qint16 channel,
-                                const ChannelSettings& settings);
+RecorderOutcome WriteProChannel(Form_COM& com, const DeviceAddress& recorder, SVRChannel& svr, SVRProChannel& pro,
+                                qint16 channel, const ChannelSettings& settings);

@@ -36,12 +36,12 @@ RecorderOutcome ClearOnDevice(Form_COM& com, const SVRRecord& svr, qint16 channe
 RecorderOutcome ClearRecorderChannel(Form_COM& com, RecorderSet& recorders, int channel)
 {
     SVRRecord& svr = recorders.SVREdit;
-    if (At(svr.sSub_CH_IP, channel).isEmpty())
+    if (At(svr.channels, channel).sSub_CH_IP.isEmpty())
         return RecorderOutcome::Done();
     const RecorderOutcome outcome = ClearOnDevice(com, svr, static_cast<qint16>(channel));
     if (!outcome.ok)
         return outcome;
     ClearChannel(svr, recorders.SVRProEdit, channel);
-    At(svr.bSub_CH_Modified, channel) = true;
+    At(svr.channels, channel).bSub_CH_Modified = true;
     return outcome;
 }

@@ -51,8 +51,10 @@ void ChannelListModel::setDetected(bool detected)
 void ChannelListModel::setCameraEvents(bool supported)
 {
     m_events.reset();
-    if (supported)
-        m_events = m_recorders.SVREdit.bSub_CH_Cam_MD_Enabled;
+    if (supported) {
+        m_events.emplace();
+        std::ranges::transform(m_recorders.SVREdit.channels, m_events->begin(), &SVRChannel::bSub_CH_Cam_MD_Enabled);
+    }
     if (rowCount() > 0)
         emit dataChanged(index(0, CameraEvent), index(rowCount() - 1, CameraEvent));
 }
@@ -62,7 +64,7 @@ std::vector<std::pair<int, bool>> ChannelListModel::switched() const
     std::vector<std::pair<int, bool>> changes;
     for (int channel = 0; m_events && channel < rowCount(); ++channel) {
         const bool on = At(*m_events, channel);
-        if (occupied(channel) && on != At(m_recorders.SVREdit.bSub_CH_Cam_MD_Enabled, channel))
+        if (occupied(channel) && on != At(m_recorders.SVREdit.channels, channel).bSub_CH_Cam_MD_Enabled)
             changes.emplace_back(channel, on);
     }
     return changes;
@@ -70,17 +72,15 @@ std::vector<std::pair<int, bool>> ChannelListModel::switched() const
 
 int ChannelListModel::cameraEventsOn() const
 {
-    const auto count = [](const SVRRecord& record, const PerChannel<bool>& switches) {
-        int on = 0;
-        for (int channel = 0; channel < kMaxChannel; ++channel)
-            on += At(switches, channel) && !At(record.sSub_CH_IP, channel).isEmpty() ? 1 : 0;
-        return on;
-    };
-    int total = count(m_recorders.SVREdit, *m_events);
+    int total = 0;
+    for (std::size_t channel = 0; channel < kMaxChannel; ++channel)
+        total += (*m_events)[channel] && !m_recorders.SVREdit.channels[channel].sSub_CH_IP.isEmpty() ? 1 : 0;
     for (int slot = 0; slot < kMaxSVR; ++slot) {
         const SVRRecord& other = At(m_recorders.SVRWorkList, slot);
         if (slot + 1 != m_recorders.SVREdit.iSVR_Num && !other.sSVR_IP.isEmpty())
-            total += count(other, other.bSub_CH_Cam_MD_Enabled);
+            total += static_cast<int>(std::ranges::count_if(other.channels, [](const SVRChannel& channel) {
+                return channel.bSub_CH_Cam_MD_Enabled && !channel.sSub_CH_IP.isEmpty();
+            }));
     }
     return total;
 }
@@ -95,7 +95,7 @@ int ChannelListModel::cameras() const
 
 bool ChannelListModel::occupied(int channel) const
 {
-    return !At(m_recorders.SVREdit.sSub_CH_IP, channel).isEmpty();
+    return !At(m_recorders.SVREdit.channels, channel).sSub_CH_IP.isEmpty();
 }
 
 int ChannelListModel::rowCount(const QModelIndex& parent) const
@@ -126,13 +126,13 @@ QString ChannelListModel::iconName(int channel, int column) const
 
 int ChannelListModel::stateOf(int channel) const
 {
-    const bool fresh = At(m_recorders.SVREdit.bSub_CH_Modified, channel) || (occupied(channel) && m_detected);
+    const bool fresh = At(m_recorders.SVREdit.channels, channel).bSub_CH_Modified || (occupied(channel) && m_detected);
     return static_cast<int>(fresh ? Status::Ok : Status::None);
 }
 
 QString ChannelListModel::stateText(int channel) const
 {
-    if (At(m_recorders.SVREdit.bSub_CH_Modified, channel))
+    if (At(m_recorders.SVREdit.channels, channel).bSub_CH_Modified)
         return GetLangString(967);
     if (!occupied(channel))
         return GetLangString(966);
@@ -146,11 +146,11 @@ QVariant ChannelListModel::shown(int channel, int column) const
     case Number:
         return channel + 1;
     case Address:
-        return At(record.sSub_CH_IP, channel);
+        return At(record.channels, channel).sSub_CH_IP;
     case Port:
-        return occupied(channel) ? QVariant(At(record.iSub_CH_HttpPort, channel)) : QVariant();
+        return occupied(channel) ? QVariant(At(record.channels, channel).iSub_CH_HttpPort) : QVariant();
     case Name:
-        return At(record.sSub_CH_Name, channel);
+        return At(record.channels, channel).sSub_CH_Name;
     case State:
         return stateText(channel);
     default:
@@ -161,7 +161,7 @@ QVariant ChannelListModel::shown(int channel, int column) const
 // What assistive technology says, and the tool tip, of cells that show a picture.
 QVariant ChannelListModel::spoken(int channel, int column) const
 {
-    const QString name = At(m_recorders.SVREdit.sSub_CH_Name, channel);
+    const QString name = At(m_recorders.SVREdit.channels, channel).sSub_CH_Name;
     switch (column) {
     case Edit:
         return QString(GetLangString(occupied(channel) ? 387 : 385) + u' ' + name).trimmed();
@@ -187,7 +187,7 @@ QVariant ChannelListModel::data(const QModelIndex& index, int role) const
         return stateOf(channel);
     case kSortRole:
         if (column == Address)
-            return AddressSortKey(At(m_recorders.SVREdit.sSub_CH_IP, channel));
+            return AddressSortKey(At(m_recorders.SVREdit.channels, channel).sSub_CH_IP);
         if (column == CameraEvent)
             return m_events && At(*m_events, channel);
         return shown(channel, column);

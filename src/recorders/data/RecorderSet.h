@@ -25,7 +25,7 @@ int CameraTotal(const std::array<SVRRecord, kMaxSVR>& list);
 // First free slot (from 0) of a generation, -1 when all are taken.
 int FirstFreeSlot(const std::array<SVRRecord, kMaxSVR>& list);
 
-// The empty channel (index from 0): what a channel without a camera holds.
+// Puts an empty channel (index from 0) in its place.
 void ClearChannel(SVRRecord& record, SVRProRecord& pro, int channel);
 
 // The family of a detected recorder from its device type text and maxhdsupport number. A text the station has never

@@ -35,9 +35,10 @@ void ReadRow(Recordset& rows, SVRAccess& access, int numberField, int channelFie
     record.iSVRId = record.iSVR_Num;
 
     SVRRow row{&record, &pro, Int16Field(rows.value(channelField)) - 1};
-    std::vector<FishEyeMode>& modes = At(record.FishEyeModes, row.channel);
+    std::vector<FishEyeMode>& modes = At(record.channels, row.channel).FishEyeModes;
     access.base.read(row);
-    Trapped(kGetSource, [&] { FishEyeModeListPaser(modes, At(record.sSub_CH_MD_FishEyeModeList, row.channel)); });
+    Trapped(kGetSource,
+            [&] { FishEyeModeListPaser(modes, At(record.channels, row.channel).sSub_CH_MD_FishEyeModeList); });
     access.presets.read(row);
     if (IsProFamily(record.sSVR_DeviceType))
         access.pro.read(row);
@@ -60,7 +61,7 @@ qint16 SaveMySVR(Databases& databases, RecorderSet& set, int slot)
         SVRRecord& record = At(set.SVRList, slot);
         SVRAccess access(rows, kSaveSource);
         for (int channel = 0; channel < record.iSVR_Maxchannel; ++channel) {
-            if (At(record.sSub_CH_IP, channel).isEmpty())
+            if (At(record.channels, channel).sSub_CH_IP.isEmpty())
                 continue;
             Trapped(kSaveSource, [&] {
                 const SVRRow row{&record, &At(set.SVRProList, slot), channel};
@@ -103,7 +104,7 @@ void GetSVREx(Databases& databases, RecorderSet& set)
         for (int slot = 0; slot < kMaxSVR; ++slot) {
             for (int channel = 0; channel < At(set.SVRList, slot).iSVR_Maxchannel; ++channel) {
                 SVRRecord& work = At(set.SVRWorkList, slot);
-                if (At(work.sSub_CH_IP, channel).isEmpty())
+                if (At(work.channels, channel).sSub_CH_IP.isEmpty())
                     ClearChannel(work, At(set.SVRProWorkList, slot), channel);
             }
         }

@@ -10,6 +10,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+void ForgetModified(SVRRecord& record)
+{
+    for (SVRChannel& channel : record.channels)
+        channel.bSub_CH_Modified = false;
+}
+
 enum Message
 {
     kKeptWithoutChannels = 720,
@@ -28,8 +34,8 @@ void Call(const Hook& hook, Arguments&&... arguments)
 bool HasCamera(const SVRRecord& record)
 {
     const int channels = std::clamp(static_cast<int>(record.iSVR_Maxchannel), 0, kMaxChannel);
-    return std::any_of(record.sSub_CH_IP.begin(), record.sSub_CH_IP.begin() + channels,
-                       [](const QString& address) { return !address.isEmpty(); });
+    return std::any_of(record.channels.begin(), record.channels.begin() + channels,
+                       [](const SVRChannel& channel) { return !channel.sSub_CH_IP.isEmpty(); });
 }
 
 void CheckScreens(const ModifyHooks& hooks)
@@ -44,7 +50,7 @@ void OpenEditPair(RecorderSet& recorders, int slot)
 {
     recorders.SVREdit = At(recorders.SVRWorkList, slot);
     recorders.SVRProEdit = At(recorders.SVRProWorkList, slot);
-    recorders.SVREdit.bSub_CH_Modified.fill(false);
+    ForgetModified(recorders.SVREdit);
 }
 
 bool ModifyApply(RecorderSet& recorders, int slot, const QString& name, const ModifyHooks& hooks)
@@ -62,7 +68,7 @@ bool ModifyApply(RecorderSet& recorders, int slot, const QString& name, const Mo
     const bool renamed = name != work.sSVR_Name;
     edit.sSVR_Name = name;
     edit.iSVR_ValidCH = static_cast<qint16>(CameraCount(edit));
-    edit.bSub_CH_Modified.fill(false);
+    ForgetModified(edit);
     edit.bSVR_Changed = true;
     if (renamed) {
         edit.bSVR_ConnChanged = true;
@@ -88,7 +94,7 @@ bool TakeOverWritten(RecorderSet& recorders, int slot)
     work.sSVR_UserName = user;
     work.sSVR_Password = password;
     work.iSVR_ValidCH = static_cast<qint16>(CameraCount(edit));
-    work.bSub_CH_Modified.fill(false);
+    ForgetModified(work);
     work.bSVR_Changed = true;
     At(recorders.SVRProWorkList, slot) = recorders.SVRProEdit;
     return true;

@@ -178,8 +178,6 @@ private:
 
     void readChannels()
     {
-        for (int channel = 0; channel < kMaxChannel; ++channel)
-            ClearChannel(*m_svr, *m_pro, channel);
         if (IsProFamily(m_family))
             readProChannels();
         else
@@ -195,8 +193,7 @@ private:
             throw DetectFailure{kConnectionError};
         Trapped(kSource, [&] { ParseChannelList(reply, *m_svr, *m_pro); });
         for (int channel = 0; channel < kMaxChannel; ++channel) {
-            const auto c = static_cast<std::size_t>(channel);
-            if (channel >= m_channels || m_svr->sSub_CH_IP[c].isEmpty())
+            if (channel >= m_channels || At(m_svr->channels, channel).sSub_CH_IP.isEmpty())
                 ClearChannel(*m_svr, *m_pro, channel);
         }
     }
@@ -212,37 +209,38 @@ private:
                 throw DetectFailure{kConnectionError};
             if (read.IP.isEmpty())
                 continue;
-            const auto c = static_cast<std::size_t>(channel);
-            m_svr->sSub_CH_Name[c] = Unescape(read.Name);
-            m_svr->sSub_CH_IP[c] = read.IP;
-            m_svr->iSub_CH_HttpPort[c] = read.HttpPort;
-            m_svr->sSub_CH_UserName[c] = read.UserName;
-            m_svr->sSub_CH_Password[c] = read.Password;
-            m_svr->sSub_CH_VideoFormat[c] = GetFMTNameFromCode(QString::number(read.Format), 0);
-            m_svr->sSub_CH_Resolution[c] = read.Resolution;
-            m_svr->iSub_CH_Brand[c] = read.Brand;
+            SVRChannel& camera = At(m_svr->channels, channel);
+            camera.sSub_CH_Name = Unescape(read.Name);
+            camera.sSub_CH_IP = read.IP;
+            camera.iSub_CH_HttpPort = read.HttpPort;
+            camera.sSub_CH_UserName = read.UserName;
+            camera.sSub_CH_Password = read.Password;
+            camera.sSub_CH_VideoFormat = GetFMTNameFromCode(QString::number(read.Format), 0);
+            camera.sSub_CH_Resolution = read.Resolution;
+            camera.iSub_CH_Brand = read.Brand;
             // A group that cannot be had or read costs its own values only.
             const bool onvif = read.Brand == kOnvifBrand;
             const ChannelParams params = CgiGetChannelParams(m_web, m_device, number, onvif);
-            Trapped(kSource, [&] { CHImageInfoPaser(*m_svr, params.Image, channel); });
-            Trapped(kSource, [&] { CHPTZInfoPaser(*m_svr, params.Ptz, channel); });
+            Trapped(kSource, [&] { CHImageInfoPaser(camera, params.Image); });
+            Trapped(kSource, [&] { CHPTZInfoPaser(camera, params.Ptz); });
             if (onvif)
-                Trapped(kSource, [&] { CHOnvifInfoPaser(*m_svr, params.Onvif, channel); });
+                Trapped(kSource, [&] { CHOnvifInfoPaser(camera, params.Onvif); });
         }
     }
 
     // What only the station knows of a camera survives a new detection as long as the channel has the same camera.
     void keepOwnSettings()
     {
-        const SVRRecord& before = m_context.recorders.SVREdit;
         for (std::size_t c = 0; c < kMaxChannel; ++c) {
-            if (m_svr->sSub_CH_IP[c].isEmpty() || m_svr->sSub_CH_IP[c] != before.sSub_CH_IP[c])
+            SVRChannel& camera = m_svr->channels[c];
+            const SVRChannel& before = m_context.recorders.SVREdit.channels[c];
+            if (camera.sSub_CH_IP.isEmpty() || camera.sSub_CH_IP != before.sSub_CH_IP)
                 continue;
-            m_svr->Presets[c] = before.Presets[c];
-            m_svr->lSub_CH_IntelligentID[c] = before.lSub_CH_IntelligentID[c];
-            m_svr->bEventSet[c] = before.bEventSet[c];
-            m_svr->bSub_CH_Cam_MD_Enabled[c] = before.bSub_CH_Cam_MD_Enabled[c];
-            m_svr->iPower[c] = before.iPower[c];
+            camera.presets = before.presets;
+            camera.lSub_CH_IntelligentID = before.lSub_CH_IntelligentID;
+            camera.bEventSet = before.bEventSet;
+            camera.bSub_CH_Cam_MD_Enabled = before.bSub_CH_Cam_MD_Enabled;
+            camera.iPower = before.iPower;
         }
     }
 

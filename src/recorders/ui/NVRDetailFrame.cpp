@@ -281,7 +281,7 @@ RecorderOutcome NVRDetailFrame::ask(int words, const std::function<RecorderOutco
 
 void NVRDetailFrame::clearChannel(int channel)
 {
-    if (At(m_context.recorders.SVREdit.sSub_CH_IP, channel).isEmpty())
+    if (At(m_context.recorders.SVREdit.channels, channel).sSub_CH_IP.isEmpty())
         return;
     if (MsgBox(GetLangString(kAskClear).arg(channel + 1), AskBoxStyle(), GetLangString(877)) != MsgResult::Yes)
         return;
@@ -306,7 +306,7 @@ void NVRDetailFrame::readCameraEvents()
     CameraEventBits bits{};
     if (record.bSVR_N_EventSupport && ReadRecorderCameraEvents(m_context.com, record, bits).ok) {
         for (int channel = 0; channel < kMaxChannel; ++channel)
-            At(record.bSub_CH_Cam_MD_Enabled, channel) = At(bits, channel) != 0;
+            At(record.channels, channel).bSub_CH_Cam_MD_Enabled = At(bits, channel) != 0;
     }
     m_channels->setCameraEvents(record.bSVR_N_EventSupport);
 }

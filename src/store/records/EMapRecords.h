@@ -22,11 +22,10 @@ struct EMapGroupRow
     bool bChanged = false;
 };
 
-struct EMapIconRow
+// Where a camera is on the maps.
+struct EMapIcon
 {
-    qint16 iSVR = 0;     // from 1
-    qint16 iChannel = 0; // from 1
-    QString sParent;     // name of the map that shows the camera
+    QString sParent; // name of the map that shows the camera, empty: on none
     double dMapX = 0;
     double dMapY = 0;
     double dInfoX = 0;
@@ -34,15 +33,17 @@ struct EMapIconRow
     qint16 iInfo_Position = 0;
 };
 
-// The cameras of one recorder slot on the maps, per channel.
+// A row of the table: a camera and where it is.
+struct EMapIconRow : EMapIcon
+{
+    qint16 iSVR = 0;     // from 1
+    qint16 iChannel = 0; // from 1
+};
+
+// The cameras of one recorder slot on the maps.
 struct EMapIconRecord
 {
-    PerChannel<QString> sParent; // name of the map that shows the camera, empty: on none
-    PerChannel<double> dMapX{};
-    PerChannel<double> dMapY{};
-    PerChannel<double> dInfoX{};
-    PerChannel<double> dInfoY{};
-    PerChannel<qint16> iInfo_Position{};
+    PerChannel<EMapIcon> channels;
     bool bChanged = false; // the table must be saved; not in the table
 };
 

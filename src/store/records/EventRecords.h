@@ -88,33 +88,23 @@ struct ChannelEventRecord
     qint16 iDefault = -1; // -1: the defaults hold
 };
 
-// Detection settings of one recorder slot, per channel. Flags are 16-bit: 0 off, -1 on.
+// Detection settings of a channel. Flags are 16-bit: 0 off, -1 on.
+struct IntelligentChannel
+{
+    qint16 bMotionEnable = 0;
+    qint32 iMotionSensitivity = 50;
+    qint16 bThreatEnable = 0;
+    qint32 iThreatSensitivity = 50;
+    qint16 bObjectLossEnable = 0;
+    qint32 iObjectLossSensitivity = 50;
+    qint16 bTripwireEnable = 0;
+    qint32 iTripwireSensitivity = 80;
+    qint16 bCameraEventEnable = -1; // not in the tables
+    bool bChanged = false;          // must be saved
+};
+
+// Those of one recorder slot.
 struct IntelligentSettings
 {
-    IntelligentSettings()
-    {
-        for (std::size_t channel = 0; channel < kMaxChannel; ++channel)
-            reset(channel);
-    }
-    // The defaults of one channel (index from 0). Its modification flag stays.
-    void reset(std::size_t channel)
-    {
-        for (auto flag : {&IntelligentSettings::bMotionEnable, &IntelligentSettings::bThreatEnable,
-                          &IntelligentSettings::bObjectLossEnable, &IntelligentSettings::bTripwireEnable})
-            (this->*flag)[channel] = 0;
-        iMotionSensitivity[channel] = iThreatSensitivity[channel] = iObjectLossSensitivity[channel] = 50;
-        iTripwireSensitivity[channel] = 80;
-        bCameraEventEnable[channel] = -1;
-    }
-
-    PerChannel<qint16> bMotionEnable;
-    PerChannel<qint32> iMotionSensitivity;
-    PerChannel<qint16> bThreatEnable;
-    PerChannel<qint32> iThreatSensitivity;
-    PerChannel<qint16> bObjectLossEnable;
-    PerChannel<qint32> iObjectLossSensitivity;
-    PerChannel<qint16> bTripwireEnable;
-    PerChannel<qint32> iTripwireSensitivity;
-    PerChannel<qint16> bCameraEventEnable; // not in the tables
-    PerChannel<bool> bChanged{};           // must be saved
+    PerChannel<IntelligentChannel> channels;
 };

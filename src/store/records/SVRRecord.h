@@ -4,7 +4,8 @@
 #include <array>
 #include <vector>
 
-// The recorder as the station knows it. Channel-indexed members hold one entry a channel, index 0 for channel number 1.
+// The recorder as the station knows it, with its 64 channels: index 0 for channel number 1. A fresh channel is an empty
+// one, so emptying a channel is assigning a fresh one and its number.
 inline constexpr int kMaxSVR = 16;        // recorder slots of a station
 inline constexpr int kMaxChannel = 64;    // channels of a slot
 inline constexpr int kMaxPreset = 8;      // presets of a channel
@@ -19,14 +20,24 @@ inline constexpr QLatin1String kFamilySVR("SVR");
 inline constexpr QLatin1String kFamilyOmluPro("OmluPro");
 inline constexpr QLatin1String kFamilyTXR632("TXR632");
 
-// Eight presets of one channel as parallel arrays. A preset without a name is not set.
-struct PresetSlot
+// A preset of a channel. Without a name it is not set.
+struct SVRPreset
 {
-    std::array<qint16, kMaxPreset> iPresetID{};
-    std::array<QString, kMaxPreset> sPresetName;
-    std::array<QString, kMaxPreset> sPresetImage; // file name under \Images\PresetImage
-    std::array<qint16, kMaxPreset> iPresetFlag{}; // not persisted
+    qint16 iPresetID = 0; // from 1
+    QString sPresetName;
+    QString sPresetImage;   // file name under \Images\PresetImage
+    qint16 iPresetFlag = 0; // not persisted
 };
+using SVRPresets = std::array<SVRPreset, kMaxPreset>;
+
+// Presets 1 to 8, none of them set.
+inline SVRPresets NumberedPresets()
+{
+    SVRPresets presets;
+    for (qint16 number = 1; auto& preset : presets)
+        preset.iPresetID = number++;
+    return presets;
+}
 
 struct FishEyeMode
 {
@@ -35,6 +46,78 @@ struct FishEyeMode
     qint16 iModeValue2 = 0;
     std::array<bool, 13> bModeFlag{};
 };
+
+// What a detection tells of the abilities of a channel's camera.
+struct SVRCameraFacts
+{
+    QString sSub_CH_MD_FishEyeModeList;
+    std::vector<FishEyeMode> FishEyeModes; // parsed form of the text above
+    QString sSub_CH_Mode4FishEye;          // present mode as the device said it; not in the table
+    QString sCH_ResolutionList;
+    QString sCH_FMTList;
+    QString sCH_FPS_Range;
+    QString sCH_Quality_Range;
+    QString sCH_RateCtrl_Range;
+    QString sCH_BitRate_Range;
+    QString sCH_Relativeformat;
+    QString sCH_FPS_List_Customer;
+    QString sCH_PTZ_Speed_Range;
+    QString sCH_PTZ_PanTilt_Range;
+    qint16 iCH_PTZ_MoveContCap = 0;
+    qint16 iCH_PTZ_ZoomContCap = 0;
+    qint16 iCH_PTZ_FocusContCap = 0;
+    qint16 iCH_PTZ_IrisContCap = 0;
+    QString sCH_Onvif_Quality;
+    QString sCH_Onvif_JPEG_FPS;
+    QString sCH_Onvif_MPEG_FPS;
+    QString sCH_Onvif_H264_FPS;
+    QString sCH_Onvif_JPEG_Resolution;
+    QString sCH_Onvif_MPEG_Resolution;
+    QString sCH_Onvif_H264_Resolution;
+};
+
+struct SVRChannel : SVRCameraFacts
+{
+    bool bSub_CH_Modified = false; // edited in this visit; not in the table
+    qint16 iSub_Channel = 0;       // from 1
+    qint16 iSub_ChannelID = -1;
+    QString sSub_CH_Name;
+    QString sSub_CH_IP; // empty: no camera
+    qint32 iSub_CH_HttpPort = 80;
+    QString sSub_CH_UserName;
+    QString sSub_CH_Password;
+    qint16 iSub_CH_Brand = 0; // 55: driven over ONVIF
+    qint16 iSub_CH_VideoID = 0;
+    qint16 iSub_CH_VideoIDCount = 0; // saved for the Pro families only
+    QString sSub_CH_VideoFormat;
+    QString sSub_CH_Resolution;
+    qint16 iSub_CH_Audio = 0;
+    bool bSub_CH_PTZ = false;
+    QString sSub_CH_PTZCap;
+    qint32 lSub_CH_IntelligentID = -1; // above 0: takes part in analysis
+    bool bSub_CH_Cam_MD_Enabled = false;
+    qint16 iPower = 0; // written, never read back
+    SVRPresets presets = NumberedPresets();
+    bool bEventSet = false;
+
+    qint16 iCH_MultiStream = -1; // -1 when unknown, as the numbers below
+    qint16 iCH_FPS = -1;
+    qint16 iCH_Quality = -1;
+    qint16 iCH_Rotation = -1;
+    qint16 iCH_RateCtrl = -1;
+    qint16 iCH_BitRate = -1;
+    qint16 iCH_GOP = -1;
+    QString sCH_FPS_Customer;
+};
+
+// The channels of an empty recorder: fresh, each with its number.
+inline PerChannel<SVRChannel> NumberedChannels()
+{
+    PerChannel<SVRChannel> channels;
+    for (qint16 number = 1; auto& channel : channels)
+        channel.iSub_Channel = number++;
+    return channels;
+}
 
 struct SVRRecord
 {
@@ -61,103 +144,59 @@ struct SVRRecord
     QString sSVR_Version;
     qint16 iSVR_ValidCH = 0;
 
-    PerChannel<bool> bSub_CH_Modified{}; // edited in this visit; not in the table
-    PerChannel<qint16> iSub_Channel{};
-    PerChannel<qint16> iSub_ChannelID{};
-    PerChannel<QString> sSub_CH_Name;
-    PerChannel<QString> sSub_CH_IP; // empty: no camera
-    PerChannel<qint32> iSub_CH_HttpPort{};
-    PerChannel<QString> sSub_CH_UserName;
-    PerChannel<QString> sSub_CH_Password;
-    PerChannel<qint16> iSub_CH_Brand{}; // 55: driven over ONVIF
-    PerChannel<qint16> iSub_CH_VideoID{};
-    PerChannel<qint16> iSub_CH_VideoIDCount{}; // saved for the Pro families only
-    PerChannel<QString> sSub_CH_VideoFormat;
-    PerChannel<QString> sSub_CH_Resolution;
-    PerChannel<qint16> iSub_CH_Audio{};
-    PerChannel<bool> bSub_CH_PTZ{};
-    PerChannel<QString> sSub_CH_PTZCap;
-    PerChannel<qint32> lSub_CH_IntelligentID{}; // above 0: takes part in analysis
-    PerChannel<bool> bSub_CH_Cam_MD_Enabled{};
-    PerChannel<qint16> iPower{}; // written, never read back
-    PerChannel<PresetSlot> Presets;
-    PerChannel<bool> bEventSet{};
-    PerChannel<QString> sSub_CH_MD_FishEyeModeList;
-    PerChannel<std::vector<FishEyeMode>> FishEyeModes; // parsed form of the text above
-    PerChannel<QString> sSub_CH_Mode4FishEye;          // present mode as the device said it; not in the table
-
-    PerChannel<qint16> iCH_MultiStream{}; // -1 when unknown, as the numbers below
-    PerChannel<qint16> iCH_FPS{};
-    PerChannel<qint16> iCH_Quality{};
-    PerChannel<qint16> iCH_Rotation{};
-    PerChannel<qint16> iCH_RateCtrl{};
-    PerChannel<qint16> iCH_BitRate{};
-    PerChannel<QString> sCH_ResolutionList;
-    PerChannel<QString> sCH_FMTList;
-    PerChannel<qint16> iCH_GOP{};
-    PerChannel<QString> sCH_FPS_Range;
-    PerChannel<QString> sCH_Quality_Range;
-    PerChannel<QString> sCH_RateCtrl_Range;
-    PerChannel<QString> sCH_BitRate_Range;
-    PerChannel<QString> sCH_Relativeformat;
-    PerChannel<QString> sCH_FPS_Customer;
-    PerChannel<QString> sCH_FPS_List_Customer;
-    PerChannel<QString> sCH_PTZ_Speed_Range;
-    PerChannel<QString> sCH_PTZ_PanTilt_Range;
-    PerChannel<qint16> iCH_PTZ_MoveContCap{};
-    PerChannel<qint16> iCH_PTZ_ZoomContCap{};
-    PerChannel<qint16> iCH_PTZ_FocusContCap{};
-    PerChannel<qint16> iCH_PTZ_IrisContCap{};
-    PerChannel<QString> sCH_Onvif_Quality;
-    PerChannel<QString> sCH_Onvif_JPEG_FPS;
-    PerChannel<QString> sCH_Onvif_MPEG_FPS;
-    PerChannel<QString> sCH_Onvif_H264_FPS;
-    PerChannel<QString> sCH_Onvif_JPEG_Resolution;
-    PerChannel<QString> sCH_Onvif_MPEG_Resolution;
-    PerChannel<QString> sCH_Onvif_H264_Resolution;
+    PerChannel<SVRChannel> channels = NumberedChannels();
 };
 
-// Three streams of one Pro channel. The bound lists have one entry for each entry of sResolutionList of their stream.
-struct ProChannelStreams
+// A stream of a Pro channel. The bound lists have one entry for each entry of sResolutionList; -1 is unknown.
+struct SVRProStream
 {
-    template <class T>
-    using PerStream = std::array<T, kMaxStream>;
-    PerStream<QString> sResolutionList; // comma-separated sizes
-    PerStream<QString> sFMT;
-    PerStream<QString> sResolution;
-    PerStream<bool> bGOPCap{};
-    PerStream<qint16> iFrameRate{};
-    PerStream<qint16> iQuality{};
-    PerStream<QString> sRateControl;
-    PerStream<qint16> iBitRate{};
-    PerStream<qint16> iGOP{};
-    PerStream<qint16> iQualityUpper{};
-    PerStream<qint16> iQualityLower{};
-    PerStream<bool> bRateControlCap{};
-    PerStream<std::vector<qint16>> iFPSUpper;
-    PerStream<std::vector<qint16>> iFPSLower;
-    PerStream<std::vector<qint16>> iBPSUpper;
-    PerStream<std::vector<qint16>> iBPSLower;
+    QString sResolutionList; // comma-separated sizes
+    QString sFMT;
+    QString sResolution;
+    bool bGOPCap = false;
+    qint16 iFrameRate = -1;
+    qint16 iQuality = -1;
+    QString sRateControl;
+    qint16 iBitRate = -1;
+    qint16 iGOP = -1;
+    qint16 iQualityUpper = -1;
+    qint16 iQualityLower = -1;
+    bool bRateControlCap = false;
+    std::vector<qint16> iFPSUpper{-1};
+    std::vector<qint16> iFPSLower{-1};
+    std::vector<qint16> iBPSUpper{-1};
+    std::vector<qint16> iBPSLower{-1};
+};
+using SVRProStreams = std::array<SVRProStream, kMaxStream>;
+
+// What a detection tells of a Pro camera.
+struct SVRProCameraFacts
+{
+    SVRProStreams streams;
+    QString sCH_Pro_LensModeList;
+    QString sCH_Pro_LensMode;
+    QString sCH_Pro_LeftDisplayModeList;
+    QString sCH_Pro_LeftDisplayMode;
+    QString sCH_Pro_RightDisplayModeList;
+    QString sCH_Pro_RightDisplayMode;
 };
 
-// What only the families OmluPro and TXR632 have.
+// What only the families OmluPro and TXR632 have of a channel.
+struct SVRProChannel : SVRProCameraFacts
+{
+    bool bCH_Pro_ABS = false;
+    bool bCH_Pro_SetPreset = false;
+    qint16 iCH_Pro_SyncPreset = 0;
+    qint16 iCH_Pro_AutoPanMode = 0;
+    QString sCH_Pro_Mac;
+    QString sCH_Pro_Model;
+    qint32 lCH_Pro_RTPSPort = 0;
+    QString sCH_Pro_AudioType;
+};
+
 struct SVRProRecord
 {
-    PerChannel<bool> bCH_Pro_ABS{};
-    PerChannel<bool> bCH_Pro_SetPreset{};
-    PerChannel<qint16> iCH_Pro_SyncPreset{};
-    PerChannel<qint16> iCH_Pro_AutoPanMode{};
-    PerChannel<ProChannelStreams> Streams;
-    PerChannel<QString> sCH_Pro_Mac;
-    PerChannel<QString> sCH_Pro_Model;
-    PerChannel<qint32> lCH_Pro_RTPSPort{};
-    PerChannel<QString> sCH_Pro_AudioType;
-    PerChannel<QString> sCH_Pro_LensModeList;
-    PerChannel<QString> sCH_Pro_LensMode;
-    PerChannel<QString> sCH_Pro_LeftDisplayModeList;
-    PerChannel<QString> sCH_Pro_LeftDisplayMode;
-    PerChannel<QString> sCH_Pro_RightDisplayModeList;
-    PerChannel<QString> sCH_Pro_RightDisplayMode;
+    PerChannel<SVRProChannel> channels;
 };
 
 // Whether a stored family text is one of the two Pro families.

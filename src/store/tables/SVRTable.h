@@ -43,21 +43,28 @@ constexpr auto DeviceOrZero(const char* name)
         [](const SVRRow& row) { return ToVariant(row.svr->*Member); }};
 }
 
+inline SVRChannel& ChannelOf(const SVRRow& row)
+{
+    return At(row.svr->channels, row.channel);
+}
+inline SVRProChannel& ProChannelOf(const SVRRow& row)
+{
+    return At(row.pro->channels, row.channel);
+}
+
 // A field of the channel, in either of the two records.
 template <auto Member>
 constexpr auto Channel(const char* name)
 {
-    using T = typename MemberOf<decltype(Member)>::Type::value_type;
-    if constexpr (std::is_same_v<typename MemberOf<decltype(Member)>::Class, SVRRecord>)
-        return Column<SVRRow>{
-            {name, TypeOf<T>(), DefaultOf<T>()},
-            [](SVRRow& row, const QVariant& v) { At(row.svr->*Member, row.channel) = FromVariant<T>(v); },
-            [](const SVRRow& row) { return ToVariant(At(row.svr->*Member, row.channel)); }};
+    using T = typename MemberOf<decltype(Member)>::Type;
+    if constexpr (std::is_base_of_v<typename MemberOf<decltype(Member)>::Class, SVRChannel>)
+        return Column<SVRRow>{{name, TypeOf<T>(), DefaultOf<T>()},
+                              [](SVRRow& row, const QVariant& v) { ChannelOf(row).*Member = FromVariant<T>(v); },
+                              [](const SVRRow& row) { return ToVariant(ChannelOf(row).*Member); }};
     else
-        return Column<SVRRow>{
-            {name, TypeOf<T>(), DefaultOf<T>()},
-            [](SVRRow& row, const QVariant& v) { At(row.pro->*Member, row.channel) = FromVariant<T>(v); },
-            [](const SVRRow& row) { return ToVariant(At(row.pro->*Member, row.channel)); }};
+        return Column<SVRRow>{{name, TypeOf<T>(), DefaultOf<T>()},
+                              [](SVRRow& row, const QVariant& v) { ProChannelOf(row).*Member = FromVariant<T>(v); },
+                              [](const SVRRow& row) { return ToVariant(ProChannelOf(row).*Member); }};
 }
 
 template <class T>
@@ -72,31 +79,25 @@ T StreamValue(QStringView text)
         return ToInt16(text);
 }
 
-inline ProChannelStreams& StreamsOf(const SVRRow& row)
-{
-    return At(row.pro->Streams, row.channel);
-}
-
 // The three stream values of a channel, joined by ";"; a boolean is "1" or "0".
 template <auto Member>
 constexpr auto Streams(const char* name)
 {
-    using T = typename MemberOf<decltype(Member)>::Type::value_type;
+    using T = typename MemberOf<decltype(Member)>::Type;
     return Column<SVRRow>{{name, FieldType::Text, "''"},
                           [](SVRRow& row, const QVariant& v) {
                               const QString text = TextField(v);
                               const QList<QStringView> parts = QStringView(text).split(u';');
-                              auto& values = StreamsOf(row).*Member;
-                              for (int i = 0; i < kMaxStream; ++i)
-                                  values[static_cast<std::size_t>(i)] = StreamValue<T>(At(parts, i));
+                              for (qsizetype i = 0; auto& stream : ProChannelOf(row).streams)
+                                  stream.*Member = StreamValue<T>(At(parts, i++));
                           },
                           [](const SVRRow& row) {
                               QStringList parts;
-                              for (const auto& value : StreamsOf(row).*Member) {
+                              for (const SVRProStream& stream : ProChannelOf(row).streams) {
                                   if constexpr (std::is_same_v<T, QString>)
-                                      parts << value;
+                                      parts << stream.*Member;
                                   else
-                                      parts << QString::number(static_cast<int>(value));
+                                      parts << QString::number(static_cast<int>(stream.*Member));
                               }
                               return QVariant(parts.join(u';'));
                           }};
@@ -111,9 +112,8 @@ constexpr auto StreamLists(const char* name)
                           [](SVRRow& row, const QVariant& v) {
                               const QString text = TextField(v);
                               const QList<QStringView> parts = QStringView(text).split(u';');
-                              auto& lists = StreamsOf(row).*Member;
-                              for (int i = 0; i < kMaxStream; ++i) {
-                                  const QStringView part = At(parts, i);
+                              for (qsizetype i = 0; auto& stream : ProChannelOf(row).streams) {
+                                  const QStringView part = At(parts, i++);
                                   if (part.isEmpty() && KeepWhenEmpty)
                                       continue;
                                   std::vector<qint16> list;
@@ -121,14 +121,16 @@ constexpr auto StreamLists(const char* name)
                                       for (QStringView piece : part.tokenize(u','))
                                           list.push_back(ToInt16(piece));
                                   }
-                                  lists[static_cast<std::size_t>(i)] = std::move(list);
+                                  stream.*Member = std::move(list);
                               }
                           },
                           [](const SVRRow& row) {
                               QString text;
-                              for (const std::vector<qint16>& list : StreamsOf(row).*Member) {
-                                  if (&list != &(StreamsOf(row).*Member).front())
+                              const SVRProStreams& streams = ProChannelOf(row).streams;
+                              for (const SVRProStream& stream : streams) {
+                                  if (&stream != &streams.front())
                                       text += u';';
+                                  const std::vector<qint16>& list = stream.*Member;
                                   for (std::size_t i = 0; i < list.size(); ++i) {
                                       if (i > 0)
                                           text += u',';
@@ -146,23 +148,23 @@ constexpr auto Preset(const char* name)
 {
     return Column<SVRRow>{{name, FieldType::Text, "''"},
                           [](SVRRow& row, const QVariant& v) {
-                              PresetSlot& slot = At(row.svr->Presets, row.channel);
+                              SVRPreset& preset = ChannelOf(row).presets[Index];
                               const QString text = TextField(v);
                               if (text.size() <= 2) {
-                                  slot.iPresetID[Index] = static_cast<qint16>(Index + 1);
-                                  slot.sPresetName[Index].clear();
+                                  preset.iPresetID = static_cast<qint16>(Index + 1);
+                                  preset.sPresetName.clear();
                                   return;
                               }
                               const QStringList parts = text.split(u',');
-                              slot.iPresetID[Index] = ToInt16(parts[0]);
-                              slot.sPresetName[Index] = At(parts, 1);
-                              slot.sPresetImage[Index] = At(parts, 2);
+                              preset.iPresetID = ToInt16(parts[0]);
+                              preset.sPresetName = At(parts, 1);
+                              preset.sPresetImage = At(parts, 2);
                           },
                           [](const SVRRow& row) {
-                              const PresetSlot& slot = At(row.svr->Presets, row.channel);
-                              QString text = QString::number(slot.iPresetID[Index]);
-                              if (!slot.sPresetName[Index].isEmpty())
-                                  text += u',' + slot.sPresetName[Index] + u',' + slot.sPresetImage[Index];
+                              const SVRPreset& preset = ChannelOf(row).presets[Index];
+                              QString text = QString::number(preset.iPresetID);
+                              if (!preset.sPresetName.isEmpty())
+                                  text += u',' + preset.sPresetName + u',' + preset.sPresetImage;
                               return QVariant(text);
                           }};
 }
@@ -191,88 +193,88 @@ inline constexpr std::array SVRColumns{
     svr_table::DeviceOrZero<&SVRRecord::iSVR_SummerTime>("iSVR_SummerTime"),
     svr_table::DeviceOrZero<&SVRRecord::iSVR_TimeZoneNum>("iSVR_TimeZoneNum"),
     svr_table::Device<&SVRRecord::bSVR_CEventSupport>("bSVR_CEventSupport"),
-    svr_table::Channel<&SVRRecord::sSub_CH_Name>("sSub_CH_Name"),
-    svr_table::Channel<&SVRRecord::sSub_CH_IP>("sSub_CH_IP"),
-    svr_table::Channel<&SVRRecord::iSub_Channel>("iSub_Channel"),
-    svr_table::Channel<&SVRRecord::iSub_ChannelID>("iSub_ChannelID").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iSub_CH_HttpPort>("iSub_CH_HttpPort").withDefault("80"),
-    svr_table::Channel<&SVRRecord::sSub_CH_UserName>("sSub_CH_UserName"),
-    svr_table::Channel<&SVRRecord::sSub_CH_Password>("sSub_CH_Password"),
-    svr_table::Channel<&SVRRecord::iSub_CH_Brand>("iSub_CH_Brand"),
-    svr_table::Channel<&SVRRecord::sSub_CH_VideoFormat>("sSub_CH_VideoFormat"),
-    svr_table::Channel<&SVRRecord::sSub_CH_Resolution>("sSub_CH_Resolution"),
-    svr_table::Channel<&SVRRecord::iSub_CH_VideoID>("iSub_CH_VideoID"),
-    svr_table::Channel<&SVRRecord::bSub_CH_PTZ>("bSub_CH_PTZ"),
-    svr_table::Channel<&SVRRecord::sSub_CH_PTZCap>("sSub_CH_PTZCap"),
-    svr_table::Channel<&SVRRecord::iSub_CH_Audio>("iSub_CH_Audio"),
-    svr_table::Channel<&SVRRecord::bEventSet>("bEventSet"),
-    svr_table::Channel<&SVRRecord::sSub_CH_MD_FishEyeModeList>("sSub_CH_MD_FishEyeModeList"),
-    svr_table::Channel<&SVRRecord::lSub_CH_IntelligentID>("lSub_CH_IntelligentID").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iPower>("iPower").with(FieldUse::WriteOnly),
-    svr_table::Channel<&SVRRecord::bSub_CH_Cam_MD_Enabled>("bSub_CH_Cam_MD_Enabled"),
-    svr_table::Channel<&SVRRecord::iCH_MultiStream>("iCH_MultiStream").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iCH_FPS>("iCH_FPS").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iCH_Quality>("iCH_Quality").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iCH_Rotation>("iCH_Rotation").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iCH_RateCtrl>("iCH_RateCtrl").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::iCH_BitRate>("iCH_BitRate").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::sCH_ResolutionList>("sCH_ResolutionList"),
-    svr_table::Channel<&SVRRecord::sCH_FMTList>("sCH_FMTList"),
-    svr_table::Channel<&SVRRecord::iCH_GOP>("iCH_GOP").withDefault("-1"),
-    svr_table::Channel<&SVRRecord::sCH_FPS_Range>("sCH_FPS_Range"),
-    svr_table::Channel<&SVRRecord::sCH_Quality_Range>("sCH_Quality_Range"),
-    svr_table::Channel<&SVRRecord::sCH_RateCtrl_Range>("sCH_RateCtrl_Range"),
-    svr_table::Channel<&SVRRecord::sCH_BitRate_Range>("sCH_BitRate_Range"),
-    svr_table::Channel<&SVRRecord::sCH_Relativeformat>("sCH_Relativeformat"),
-    svr_table::Channel<&SVRRecord::sCH_FPS_Customer>("sCH_FPS_Customer"),
-    svr_table::Channel<&SVRRecord::sCH_FPS_List_Customer>("sCH_FPS_List_Customer"),
-    svr_table::Channel<&SVRRecord::sCH_PTZ_Speed_Range>("sCH_PTZ_Speed_Range"),
-    svr_table::Channel<&SVRRecord::sCH_PTZ_PanTilt_Range>("sCH_PTZ_PanTilt_Range"),
-    svr_table::Channel<&SVRRecord::iCH_PTZ_MoveContCap>("iCH_PTZ_MoveContCap"),
-    svr_table::Channel<&SVRRecord::iCH_PTZ_ZoomContCap>("iCH_PTZ_ZoomContCap"),
-    svr_table::Channel<&SVRRecord::iCH_PTZ_FocusContCap>("iCH_PTZ_FocusContCap"),
-    svr_table::Channel<&SVRRecord::iCH_PTZ_IrisContCap>("iCH_PTZ_IrisContCap"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_Quality>("sCH_Onvif_Quality"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_JPEG_FPS>("sCH_Onvif_JPEG_FPS"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_MPEG_FPS>("sCH_Onvif_MPEG_FPS"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_H264_FPS>("sCH_Onvif_H264_FPS"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_JPEG_Resolution>("sCH_Onvif_JPEG_Resolution"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_MPEG_Resolution>("sCH_Onvif_MPEG_Resolution"),
-    svr_table::Channel<&SVRRecord::sCH_Onvif_H264_Resolution>("sCH_Onvif_H264_Resolution")};
+    svr_table::Channel<&SVRChannel::sSub_CH_Name>("sSub_CH_Name"),
+    svr_table::Channel<&SVRChannel::sSub_CH_IP>("sSub_CH_IP"),
+    svr_table::Channel<&SVRChannel::iSub_Channel>("iSub_Channel"),
+    svr_table::Channel<&SVRChannel::iSub_ChannelID>("iSub_ChannelID").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iSub_CH_HttpPort>("iSub_CH_HttpPort").withDefault("80"),
+    svr_table::Channel<&SVRChannel::sSub_CH_UserName>("sSub_CH_UserName"),
+    svr_table::Channel<&SVRChannel::sSub_CH_Password>("sSub_CH_Password"),
+    svr_table::Channel<&SVRChannel::iSub_CH_Brand>("iSub_CH_Brand"),
+    svr_table::Channel<&SVRChannel::sSub_CH_VideoFormat>("sSub_CH_VideoFormat"),
+    svr_table::Channel<&SVRChannel::sSub_CH_Resolution>("sSub_CH_Resolution"),
+    svr_table::Channel<&SVRChannel::iSub_CH_VideoID>("iSub_CH_VideoID"),
+    svr_table::Channel<&SVRChannel::bSub_CH_PTZ>("bSub_CH_PTZ"),
+    svr_table::Channel<&SVRChannel::sSub_CH_PTZCap>("sSub_CH_PTZCap"),
+    svr_table::Channel<&SVRChannel::iSub_CH_Audio>("iSub_CH_Audio"),
+    svr_table::Channel<&SVRChannel::bEventSet>("bEventSet"),
+    svr_table::Channel<&SVRChannel::sSub_CH_MD_FishEyeModeList>("sSub_CH_MD_FishEyeModeList"),
+    svr_table::Channel<&SVRChannel::lSub_CH_IntelligentID>("lSub_CH_IntelligentID").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iPower>("iPower").with(FieldUse::WriteOnly),
+    svr_table::Channel<&SVRChannel::bSub_CH_Cam_MD_Enabled>("bSub_CH_Cam_MD_Enabled"),
+    svr_table::Channel<&SVRChannel::iCH_MultiStream>("iCH_MultiStream").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_FPS>("iCH_FPS").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_Quality>("iCH_Quality").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_Rotation>("iCH_Rotation").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_RateCtrl>("iCH_RateCtrl").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_BitRate>("iCH_BitRate").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::sCH_ResolutionList>("sCH_ResolutionList"),
+    svr_table::Channel<&SVRChannel::sCH_FMTList>("sCH_FMTList"),
+    svr_table::Channel<&SVRChannel::iCH_GOP>("iCH_GOP").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::sCH_FPS_Range>("sCH_FPS_Range"),
+    svr_table::Channel<&SVRChannel::sCH_Quality_Range>("sCH_Quality_Range"),
+    svr_table::Channel<&SVRChannel::sCH_RateCtrl_Range>("sCH_RateCtrl_Range"),
+    svr_table::Channel<&SVRChannel::sCH_BitRate_Range>("sCH_BitRate_Range"),
+    svr_table::Channel<&SVRChannel::sCH_Relativeformat>("sCH_Relativeformat"),
+    svr_table::Channel<&SVRChannel::sCH_FPS_Customer>("sCH_FPS_Customer"),
+    svr_table::Channel<&SVRChannel::sCH_FPS_List_Customer>("sCH_FPS_List_Customer"),
+    svr_table::Channel<&SVRChannel::sCH_PTZ_Speed_Range>("sCH_PTZ_Speed_Range"),
+    svr_table::Channel<&SVRChannel::sCH_PTZ_PanTilt_Range>("sCH_PTZ_PanTilt_Range"),
+    svr_table::Channel<&SVRChannel::iCH_PTZ_MoveContCap>("iCH_PTZ_MoveContCap"),
+    svr_table::Channel<&SVRChannel::iCH_PTZ_ZoomContCap>("iCH_PTZ_ZoomContCap"),
+    svr_table::Channel<&SVRChannel::iCH_PTZ_FocusContCap>("iCH_PTZ_FocusContCap"),
+    svr_table::Channel<&SVRChannel::iCH_PTZ_IrisContCap>("iCH_PTZ_IrisContCap"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_Quality>("sCH_Onvif_Quality"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_JPEG_FPS>("sCH_Onvif_JPEG_FPS"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_MPEG_FPS>("sCH_Onvif_MPEG_FPS"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_H264_FPS>("sCH_Onvif_H264_FPS"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_JPEG_Resolution>("sCH_Onvif_JPEG_Resolution"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_MPEG_Resolution>("sCH_Onvif_MPEG_Resolution"),
+    svr_table::Channel<&SVRChannel::sCH_Onvif_H264_Resolution>("sCH_Onvif_H264_Resolution")};
 
 // Columns that are set and read for the Pro families only.
 inline constexpr std::array SVRProColumns{
-    svr_table::Channel<&SVRRecord::iSub_CH_VideoIDCount>("iSub_CH_VideoIDCount"),
-    svr_table::Channel<&SVRProRecord::bCH_Pro_ABS>("bCH_Pro_ABS"),
-    svr_table::Channel<&SVRProRecord::bCH_Pro_SetPreset>("bCH_Pro_SetPreset"),
-    svr_table::Channel<&SVRProRecord::iCH_Pro_SyncPreset>("iCH_Pro_SyncPreset"),
-    svr_table::Channel<&SVRProRecord::iCH_Pro_AutoPanMode>("iCH_Pro_AutoPanMode"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_Mac>("sCH_Pro_Mac"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_Model>("sCH_Pro_Model"),
-    svr_table::Channel<&SVRProRecord::lCH_Pro_RTPSPort>("lCH_Pro_RTPSPort"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_AudioType>("sCH_Pro_AudioType"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_LensModeList>("sCH_Pro_LensModeList"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_LensMode>("sCH_Pro_LensMode"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_LeftDisplayModeList>("sCH_Pro_LeftDisplayModeList"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_LeftDisplayMode>("sCH_Pro_LeftDisplayMode"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_RightDisplayModeList>("sCH_Pro_RightDisplayModeList"),
-    svr_table::Channel<&SVRProRecord::sCH_Pro_RightDisplayMode>("sCH_Pro_RightDisplayMode"),
-    svr_table::Streams<&ProChannelStreams::sResolutionList>("sCH_Pro_ResolutionList"),
-    svr_table::Streams<&ProChannelStreams::sFMT>("sCH_Pro_FMT"),
-    svr_table::Streams<&ProChannelStreams::sResolution>("sCH_Pro_Resolution"),
-    svr_table::Streams<&ProChannelStreams::bGOPCap>("sCH_Pro_GOPCap"),
-    svr_table::Streams<&ProChannelStreams::iGOP>("sCH_Pro_GOP"),
-    svr_table::Streams<&ProChannelStreams::bRateControlCap>("sCH_Pro_RateControlCap"),
-    svr_table::Streams<&ProChannelStreams::sRateControl>("sCH_Pro_RateControl"),
-    svr_table::Streams<&ProChannelStreams::iFrameRate>("sCH_Pro_FrameRate"),
-    svr_table::Streams<&ProChannelStreams::iQuality>("sCH_Pro_Quality"),
-    svr_table::Streams<&ProChannelStreams::iBitRate>("sCH_Pro_BitRate"),
-    svr_table::Streams<&ProChannelStreams::iQualityUpper>("sCH_Pro_QualityUpper"),
-    svr_table::Streams<&ProChannelStreams::iQualityLower>("sCH_Pro_QualityLower"),
-    svr_table::StreamLists<&ProChannelStreams::iFPSUpper, false>("sCH_Pro_FPSUpper"),
-    svr_table::StreamLists<&ProChannelStreams::iFPSLower, true>("sCH_Pro_FPSLower"),
-    svr_table::StreamLists<&ProChannelStreams::iBPSUpper, true>("sCH_Pro_BPSUpper"),
-    svr_table::StreamLists<&ProChannelStreams::iBPSLower, true>("sCH_Pro_BPSLower")};
+    svr_table::Channel<&SVRChannel::iSub_CH_VideoIDCount>("iSub_CH_VideoIDCount"),
+    svr_table::Channel<&SVRProChannel::bCH_Pro_ABS>("bCH_Pro_ABS"),
+    svr_table::Channel<&SVRProChannel::bCH_Pro_SetPreset>("bCH_Pro_SetPreset"),
+    svr_table::Channel<&SVRProChannel::iCH_Pro_SyncPreset>("iCH_Pro_SyncPreset"),
+    svr_table::Channel<&SVRProChannel::iCH_Pro_AutoPanMode>("iCH_Pro_AutoPanMode"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_Mac>("sCH_Pro_Mac"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_Model>("sCH_Pro_Model"),
+    svr_table::Channel<&SVRProChannel::lCH_Pro_RTPSPort>("lCH_Pro_RTPSPort"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_AudioType>("sCH_Pro_AudioType"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_LensModeList>("sCH_Pro_LensModeList"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_LensMode>("sCH_Pro_LensMode"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_LeftDisplayModeList>("sCH_Pro_LeftDisplayModeList"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_LeftDisplayMode>("sCH_Pro_LeftDisplayMode"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_RightDisplayModeList>("sCH_Pro_RightDisplayModeList"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_RightDisplayMode>("sCH_Pro_RightDisplayMode"),
+    svr_table::Streams<&SVRProStream::sResolutionList>("sCH_Pro_ResolutionList"),
+    svr_table::Streams<&SVRProStream::sFMT>("sCH_Pro_FMT"),
+    svr_table::Streams<&SVRProStream::sResolution>("sCH_Pro_Resolution"),
+    svr_table::Streams<&SVRProStream::bGOPCap>("sCH_Pro_GOPCap"),
+    svr_table::Streams<&SVRProStream::iGOP>("sCH_Pro_GOP"),
+    svr_table::Streams<&SVRProStream::bRateControlCap>("sCH_Pro_RateControlCap"),
+    svr_table::Streams<&SVRProStream::sRateControl>("sCH_Pro_RateControl"),
+    svr_table::Streams<&SVRProStream::iFrameRate>("sCH_Pro_FrameRate"),
+    svr_table::Streams<&SVRProStream::iQuality>("sCH_Pro_Quality"),
+    svr_table::Streams<&SVRProStream::iBitRate>("sCH_Pro_BitRate"),
+    svr_table::Streams<&SVRProStream::iQualityUpper>("sCH_Pro_QualityUpper"),
+    svr_table::Streams<&SVRProStream::iQualityLower>("sCH_Pro_QualityLower"),
+    svr_table::StreamLists<&SVRProStream::iFPSUpper, false>("sCH_Pro_FPSUpper"),
+    svr_table::StreamLists<&SVRProStream::iFPSLower, true>("sCH_Pro_FPSLower"),
+    svr_table::StreamLists<&SVRProStream::iBPSUpper, true>("sCH_Pro_BPSUpper"),
+    svr_table::StreamLists<&SVRProStream::iBPSLower, true>("sCH_Pro_BPSLower")};
 
 inline constexpr std::array SVRPresetColumns{
     svr_table::Preset<0>("sSub_CH_Preset1"), svr_table::Preset<1>("sSub_CH_Preset2"),

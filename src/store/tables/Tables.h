@@ -140,11 +140,14 @@ inline constexpr std::array EMapGroupColumns{Field<&EMapGroupRow::iMap_Type>("iM
                                              Field<&EMapGroupRow::iInfo_Position>("iInfo_Position"),
                                              Field<&EMapGroupRow::sMap_Path>("sMap_Path")};
 
-inline constexpr std::array EMapIconColumns{
-    Field<&EMapIconRow::iSVR>("iSVR"),       Field<&EMapIconRow::iChannel>("iChannel"),
-    Field<&EMapIconRow::sParent>("sParent"), Field<&EMapIconRow::dMapX>("dMapX"),
-    Field<&EMapIconRow::dMapY>("dMapY"),     Field<&EMapIconRow::dInfoX>("dInfoX"),
-    Field<&EMapIconRow::dInfoY>("dInfoY"),   Field<&EMapIconRow::iInfo_Position>("iInfo_Position")};
+inline constexpr std::array EMapIconColumns{Field<&EMapIconRow::iSVR>("iSVR"),
+                                            Field<&EMapIconRow::iChannel>("iChannel"),
+                                            Field<&EMapIconRow::sParent, EMapIconRow>("sParent"),
+                                            Field<&EMapIconRow::dMapX, EMapIconRow>("dMapX"),
+                                            Field<&EMapIconRow::dMapY, EMapIconRow>("dMapY"),
+                                            Field<&EMapIconRow::dInfoX, EMapIconRow>("dInfoX"),
+                                            Field<&EMapIconRow::dInfoY, EMapIconRow>("dInfoY"),
+                                            Field<&EMapIconRow::iInfo_Position, EMapIconRow>("iInfo_Position")};
 
 inline constexpr std::array ScreenLayoutColumns{
     Field<&ScreenLayoutTableRow::Form_MainViewer>("Form_MainViewer").withDefault("1"),

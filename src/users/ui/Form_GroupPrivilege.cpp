@@ -210,7 +210,7 @@ void Form_GroupPrivilege::Grid_NVRList_Draw()
         int cameras = 0;
         int live = 0;
         for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
-            if (At(recorder.sSub_CH_Name, channel).isEmpty())
+            if (At(recorder.channels, channel).sSub_CH_Name.isEmpty())
                 continue;
             ++cameras;
             live += m_group == 0 || rights.all || (At(rights.masks, channel) & kLiveRight) != 0 ? 1 : 0;

@@ -249,9 +249,9 @@ void UserPage::showReach()
                     rights << GetLangString(names[i]);
             }
             QList<QStandardItem*> row;
-            for (const QString& text :
-                 {QString(QString::number(camera.slot + 1) + u" · "_s + recorder.sSVR_Name),
-                  QString::number(camera.channel + 1), At(recorder.sSub_CH_Name, camera.channel), rights.join(u", "_s)})
+            for (const QString& text : {QString(QString::number(camera.slot + 1) + u" · "_s + recorder.sSVR_Name),
+                                        QString::number(camera.channel + 1),
+                                        At(recorder.channels, camera.channel).sSub_CH_Name, rights.join(u", "_s)})
                 row << new QStandardItem(text);
             model.appendRow(row);
         }
