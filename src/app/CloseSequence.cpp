@@ -1,10 +1,9 @@
 #include "app/CloseSequence.h"
 
-#include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "platform/AppPath.h"
 #include "platform/Clock.h"
-#include "platform/MsgBox.h"
 #include "platform/Wait.h"
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
@@ -14,6 +13,9 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kOpenMainViewer = 508;
+constexpr int kReopenMainViewer = 772;
 
 bool MainViewerRuns()
 {
@@ -42,7 +44,8 @@ void CloseSequence::tick()
         case 1:
             m_state = -1; // boxes run a loop of their own: no second tick while they show
             Trapped("Form_Initial - TimerCloseSystem", [&] { askAndSave(); });
-            m_state = 2;
+            if (m_state != 0)
+                m_state = 2;
             break;
         case 2:
             m_state = 3;
@@ -78,14 +81,23 @@ void CloseSequence::tick()
 void CloseSequence::askAndSave()
 {
     SetClosing(true);
-    const QString title = GetLangString(570);
-    if (m_station.families.ExitCheck() && MsgBox(GetLangString(514), AskBoxStyle(), title) == MsgResult::Yes) {
-        SaveCheck(m_station);
-        if (MainViewerRuns())
-            MsgBox(GetLangString(772), InfoBoxStyle(), title);
+    if (m_station.families.ExitCheck()) {
+        const Leave answer = AskToLeave();
+        if (answer == Leave::Stay) {
+            SetClosing(false);
+            m_station.notifications->startTimer();
+            m_state = 0;
+            m_host.closeCalledOff();
+            return;
+        }
+        if (answer == Leave::Save) {
+            SaveCheck(m_station);
+            if (MainViewerRuns())
+                Tell(Tone::Information, kReopenMainViewer);
+        }
     }
     if (!MainViewerRuns())
-        m_openMainViewer = MsgBox(GetLangString(508), AskBoxStyle(), title) == MsgResult::Yes;
+        m_openMainViewer = Ask(kOpenMainViewer);
 }
 
 void CloseSequence::showPending()

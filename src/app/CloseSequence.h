@@ -8,6 +8,8 @@ class CloseHost
 public:
     virtual ~CloseHost() = default;
     virtual void disableWindows() = 0;
+    // The user stays: the question about unsaved changes was answered by Cancel.
+    virtual void closeCalledOff() = 0;
     // Shows the progress window unless the login window is on show. `maximum` is at least 1; an empty `count` shows
     // none.
     virtual void showProgress(int maximum, const QString& count) = 0;

@@ -21,6 +21,7 @@ public:
     virtual int pendingItems() const = 0;
     virtual int sendsUnderWay() const = 0;
     // The queue's own timer: while it is stopped, CheckNeedToSend is called by hand.
+    virtual void startTimer() = 0;
     virtual void stopTimer() = 0;
     virtual bool timerStopped() const = 0;
     virtual void CheckNeedToSend() = 0;
@@ -33,6 +34,7 @@ public:
     void SendQueueStr_Set(const QString&, bool) override {}
     int pendingItems() const override { return 0; }
     int sendsUnderWay() const override { return 0; }
+    void startTimer() override { m_stopped = false; }
     void stopTimer() override { m_stopped = true; }
     bool timerStopped() const override { return m_stopped; }
     void CheckNeedToSend() override {}

@@ -18,7 +18,14 @@ MsgResult MsgBox(const QString& text, qint32 style, const QString& title)
 {
     if (Handler())
         return Handler()(text, style, title);
-    return (style & ~kBoxRightToLeft) == kBoxQuestion ? MsgResult::No : MsgResult::Ok;
+    switch (style & 0xf) { // the buttons
+    case kBoxQuestion & 0xf:
+        return MsgResult::No;
+    case kBoxQuestionOrStay & 0xf:
+        return MsgResult::Cancel;
+    default:
+        return MsgResult::Ok;
+    }
 }
 
 MsgBoxHandler SetMsgBoxHandler(MsgBoxHandler handler)
@@ -26,14 +33,19 @@ MsgBoxHandler SetMsgBoxHandler(MsgBoxHandler handler)
     return std::exchange(Handler(), std::move(handler));
 }
 
+qint32 BoxStyle(qint32 style)
+{
+    return g_rightToLeft ? (style | kBoxRightToLeft) : style;
+}
+
 qint32 InfoBoxStyle()
 {
-    return g_rightToLeft ? (kBoxInformation | kBoxRightToLeft) : kBoxInformation;
+    return BoxStyle(kBoxInformation);
 }
 
 qint32 AskBoxStyle()
 {
-    return g_rightToLeft ? (kBoxQuestion | kBoxRightToLeft) : kBoxQuestion;
+    return BoxStyle(kBoxQuestion);
 }
 
 void SetBoxStyles(bool rightToLeft)

@@ -217,6 +217,7 @@ class NotedHost : public CloseHost, public NotificationQueue
 {
 public:
     void disableWindows() override { steps << u"disable"_s; }
+    void closeCalledOff() override { steps << u"stay"_s; }
     void showProgress(int maximum, const QString& count) override { steps << u"show %1 %2"_s.arg(maximum).arg(count); }
     void updateProgress(int done, const QString& count) override { steps << u"update %1 %2"_s.arg(done).arg(count); }
     bool progressCancelled() const override { return cancelled; }
@@ -226,6 +227,7 @@ public:
     void SendQueueStr_Set(const QString&, bool) override {}
     int pendingItems() const override { return items; }
     int sendsUnderWay() const override { return underWay; }
+    void startTimer() override { stopped = false; }
     void stopTimer() override { stopped = true; }
     bool timerStopped() const override { return stopped; }
     void CheckNeedToSend() override { items = qMax(0, items - 1); }
@@ -285,7 +287,13 @@ TEST_F(CloseTest, UnsavedChangesAreAskedAboutAndTheRunningViewerNamed)
     fresh->basicDefault.edit.sSystemName = u"kept"_s;
     fresh->basicDefault.edit.bChanged = true;
     write(path(u"\\Running.txt"), {});
-    answers = {MsgResult::Yes};
+    answers = {MsgResult::Cancel, MsgResult::Yes};
+    sequence->start();
+    sequence->tick();
+    EXPECT_EQ(sequence->m_CloseState(), 0) << "Cancel stays";
+    EXPECT_EQ(host->steps, QStringList{u"stay"_s});
+    EXPECT_FALSE(Closing() || host->stopped || fresh->m_bDataSaved);
+    boxes.clear();
     statesUntilEnd();
     EXPECT_EQ(boxes, (QStringList{GetLangString(514), GetLangString(772)}));
     EXPECT_EQ(nameIn(kDatabaseFile), u"kept"_s);

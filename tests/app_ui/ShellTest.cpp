@@ -135,18 +135,29 @@ TEST_F(ShellTest, LeavingAChangedPageAsksAndTheCloseOfTheShownOneDoesNot)
     Driver::click(u"lbMenu_0"_s);
     EXPECT_TRUE(boxes.isEmpty());
     QTest::keyClicks(Driver::find(u"Text1_fm0_0"_s), u"A"_s);
-    Driver::click(u"lbMenu_1"_s); // No
+    answers = {MsgResult::Cancel, MsgResult::No};
+    Driver::click(u"lbMenu_1"_s);
     EXPECT_EQ(boxes, QStringList{GetLangString(514)});
-    EXPECT_EQ(styles, QList<qint32>{36});
+    EXPECT_EQ(styles, QList<qint32>{35}) << "Yes, No and Cancel";
+    EXPECT_EQ(desk->m_PageIndex(), 0);
+    EXPECT_TRUE(Driver::find<QAbstractButton>(u"lbMenu_0"_s)->isChecked());
+    EXPECT_EQ(Driver::find<QLineEdit>(u"Text1_fm0_0"_s)->text(), u"CMS_CoreA"_s) << "what was typed is still there";
+    Driver::click(u"lbMenu_1"_s);
     EXPECT_EQ(desk->m_PageIndex(), 1);
     EXPECT_EQ(stored(u"sSystemName"_s).toString(), u"CMS_Core"_s);
     Driver::click(u"lbMenu_0"_s);
-    EXPECT_EQ(Driver::find<QLineEdit>(u"Text1_fm0_0"_s)->text(), u"CMS_Core"_s);
-    QTest::keyClicks(Driver::find(u"Text1_fm0_0"_s), u"B"_s);
+    auto* name = Driver::find<QLineEdit>(u"Text1_fm0_0"_s);
+    EXPECT_EQ(name->text(), u"CMS_Core"_s);
+    QTest::keyClicks(name, u"B"_s);
     answers = {MsgResult::Yes};
     Driver::click(u"lbMenu_2"_s);
     EXPECT_EQ(stored(u"sSystemName"_s).toString(), u"CMS_CoreB"_s);
     EXPECT_EQ(desk->m_PageIndex(), 2);
+    Driver::click(u"lbMenu_0"_s);
+    name->clear();
+    answers = {MsgResult::Yes};
+    Driver::click(u"lbMenu_2"_s);
+    EXPECT_EQ(desk->m_PageIndex(), 0) << "what cannot be applied keeps the page";
 }
 
 TEST_F(ShellTest, ApplyingALanguageSwitchesTheDeskAtOnce)

@@ -1,14 +1,23 @@
 #include "look/style/Theme.h"
+#include "look/widgets/ActionBar.h"
 #include "look/widgets/DeskMessageBox.h"
+#include "look/widgets/Fields.h"
 #include "look/widgets/ProgressWindow.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
+#include <QSet>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTest>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <gmock/gmock.h>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +43,7 @@ TEST(LookBox, KeysAnswer)
     const struct
     {
         Kind kind;
-        Answer preset;
+        std::optional<Answer> preset; // without one the kind decides
         QList<Qt::Key> keys;
         Answer expected;
     } cases[] = {
@@ -47,10 +56,18 @@ TEST(LookBox, KeysAnswer)
         {Kind::Question, Answer::Yes, {Qt::Key_Tab, Qt::Key_Return}, Answer::No},
         {Kind::Question, Answer::No, {Qt::Key_Return}, Answer::No},
         {Kind::Question, Answer::No, {Qt::Key_Tab, Qt::Key_Return}, Answer::Yes},
+        {Kind::QuestionOrStay, {}, {Qt::Key_Return}, Answer::Yes},
+        {Kind::QuestionOrStay, {}, {Qt::Key_Escape}, Answer::Cancel},
+        {Kind::QuestionOrStay, {}, {Qt::Key_Backtab, Qt::Key_Return}, Answer::No},
+        {Kind::Destroy, {}, {Qt::Key_Return}, Answer::No},
+        {Kind::Destroy, {}, {Qt::Key_Space}, Answer::No},
+        {Kind::Destroy, {}, {Qt::Key_Escape}, Answer::No},
+        {Kind::Destroy, {}, {Qt::Key_Tab, Qt::Key_Return}, Answer::Yes},
     };
     for (const auto& each : cases) {
         DeskMessageBox box(each.kind, u"Save the changes?"_s, u"Information"_s);
-        box.setDefaultAnswer(each.preset);
+        if (each.preset)
+            box.setDefaultAnswer(*each.preset);
         const Answer answer = AskWith(box, [&] {
             for (const Qt::Key key : each.keys)
                 QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
@@ -69,6 +86,71 @@ TEST(LookBox, ButtonsCarryTheGivenLabels)
     const Answer answer =
         AskWith(box, [&box] { QTest::mouseClick(box.findChild<QPushButton*>(u"btnNo"_s), Qt::LeftButton); });
     EXPECT_EQ(answer, Answer::No);
+}
+
+TEST(LookBox, WrongFailedAndDoneDoNotLookAlike)
+{
+    QSet<QString> icons;
+    for (const Kind kind :
+         {Kind::Information, Kind::Success, Kind::Warning, Kind::Error, Kind::Question, Kind::Destroy})
+        icons << DeskMessageBox(kind, u"Text"_s, u"Information"_s)
+                     .findChild<QWidget*>(u"badge"_s)
+                     ->property("icon")
+                     .toString();
+    EXPECT_EQ(icons.size(), 6);
+    DeskMessageBox box(Kind::Destroy, u"Text"_s, u"Information"_s);
+    EXPECT_EQ(box.findChild<QPushButton*>(u"btnYes"_s)->property("kind").toString(), u"danger"_s);
+}
+
+TEST(LookDialog, IsNeverLargerThanItsScreenAndScrollsInstead)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    QWidget owner;
+    owner.setGeometry(screen.right() - 200, screen.bottom() - 100, 200, 100);
+    owner.show();
+    DialogFrame dialog(&owner);
+    auto* column = new QVBoxLayout(dialog.content());
+    for (int i = 0; i < 80; ++i)
+        column->addWidget(new QLineEdit);
+    QPushButton* close = dialog.footer()->addButton(u"Close"_s);
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    const QLineEdit* last = dialog.findChildren<QLineEdit*>().last();
+    EXPECT_GT(dialog.content()->height(), screen.height());
+    EXPECT_TRUE(screen.contains(dialog.geometry())) << dialog.height();
+    EXPECT_TRUE(dialog.rect().contains(close->mapTo(&dialog, close->rect().bottomRight())));
+    dialog.findChildren<QLineEdit*>().first()->setFocus();
+    for (int i = 0; i < 79; ++i)
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(last->hasFocus());
+    EXPECT_TRUE(last->visibleRegion().boundingRect().height() == last->height()) << "the focus is followed";
+}
+
+TEST(LookFields, TheFieldAtFaultIsOutlinedUntilItChanges)
+{
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    auto* line = new QLineEdit(u"a,b"_s);
+    auto* combo = new QComboBox;
+    combo->addItems({u"1"_s, u"2"_s});
+    auto* spin = new QSpinBox;
+    for (QWidget* field : std::initializer_list<QWidget*>{line, combo, spin})
+        column->addWidget(field);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    const auto edge = [&window](const QWidget* field) {
+        return window.grab().toImage().pixelColor(field->geometry().center().x(), field->geometry().top());
+    };
+    for (QWidget* field : std::initializer_list<QWidget*>{line, combo, spin}) {
+        SCOPED_TRACE(field->metaObject()->className());
+        PointAtFault(field);
+        PointAtFault(field); // told twice
+        EXPECT_TRUE(field->hasFocus());
+        EXPECT_EQ(edge(field), Token("bad"_L1));
+        QTest::keyClick(field, field == line ? Qt::Key_X : field == combo ? Qt::Key_Down : Qt::Key_Up);
+        EXPECT_NE(edge(field), Token("bad"_L1));
+    }
+    EXPECT_EQ(line->text(), u"x"_s) << "the whole text is selected";
 }
 
 TEST(LookBox, TextIsWholeSelectableAndTurnsRound)

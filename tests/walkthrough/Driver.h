@@ -40,7 +40,7 @@ public:
     // With DESK_SCREENSHOTS set, the window on show is left in that folder as a picture.
     static void picture(const QString& name);
     static QString boxText();                     // of the box on show, empty without one
-    static void answerBox(const QString& button); // btnOk, btnYes, btnNo
+    static void answerBox(const QString& button); // btnOk, btnYes, btnNo, btnCancel
 
 private:
     void poll();

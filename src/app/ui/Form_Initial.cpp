@@ -6,6 +6,7 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "app/ui/MenuTable.h"
 #include "app/ui/PendingPage.h"
 #include "app/ui/RecordersPage.h"
@@ -82,7 +83,7 @@ bool Form_Initial::Form_Load()
     Trapped(kLoadSource, [&] { buildWindow(); });
 
     if (!m_instance.acquire()) {
-        MsgBox(GetLangString(10), InfoBoxStyle(), GetLangString(570));
+        Tell(Tone::Warning, 10);
         return false;
     }
     Trapped(kLoadSource, [&] { loadRecordsAndPages(); });
@@ -289,13 +290,16 @@ void Form_Initial::lbMenu_Click(int index)
     Trapped("Form_Initial - lbMenu_Click", [&] {
         m_systemPage->stopClock();
         PaintMenu(index);
-        PageLeaveCheck(m_pageIndex, index);
+        if (!PageLeaveCheck(m_pageIndex, index)) {
+            PaintMenu(m_pageIndex);
+            return;
+        }
         if (index == kExit) {
             askExit();
             return;
         }
         if (index == kSVD && m_station.currentRights().SVDControl != 1) {
-            MsgBox(GetLangString(139), InfoBoxStyle(), GetLangString(570));
+            Tell(Tone::Warning, 139);
             return;
         }
         if (m_pageIndex != index) {
@@ -306,17 +310,22 @@ void Form_Initial::lbMenu_Click(int index)
     });
 }
 
-void Form_Initial::PageLeaveCheck(int current, int next)
+bool Form_Initial::PageLeaveCheck(int current, int next)
 {
-    if (current == next)
-        return;
     SettingsPage* page = At(m_pages, current);
-    if (!page->hasChanges())
-        return;
-    if (MsgBox(GetLangString(514), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes)
+    if (current == next || !page->hasChanges())
+        return true;
+    switch (AskToLeave()) {
+    case Leave::Stay:
+        return false;
+    case Leave::Save:
         page->applyAtLeave();
-    else
+        return !page->hasChanges(); // what cannot be applied keeps the page
+    case Leave::Discard:
         page->revertAtLeave();
+        break;
+    }
+    return true;
 }
 
 void Form_Initial::Timer_PrivilegeCheck()
@@ -380,7 +389,7 @@ void Form_Initial::finishNewRecorders()
 
 void Form_Initial::askExit()
 {
-    if (MsgBox(GetLangString(509), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes)
+    if (Ask(509))
         m_close.start();
     else
         PaintMenu(m_pageIndex);

@@ -57,7 +57,8 @@ private:
     void buildPages();
     void loadRecordsAndPages();
     void openPage(int page);
-    void PageLeaveCheck(int current, int next);
+    // False when the user stays.
+    bool PageLeaveCheck(int current, int next);
     void Timer_PrivilegeCheck();
     void askExit();
     DetectContext detectContext();
@@ -72,6 +73,7 @@ private:
 
     // CloseHost
     void disableWindows() override;
+    void closeCalledOff() override { PaintMenu(m_pageIndex); }
     void showProgress(int maximum, const QString& count) override;
     void updateProgress(int done, const QString& count) override;
     bool progressCancelled() const override { return m_progressCancelled; }

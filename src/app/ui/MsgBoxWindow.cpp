@@ -1,6 +1,7 @@
 #include "app/ui/MsgBoxWindow.h"
 
 #include "app/language/Languages.h"
+#include "app/shell/Messages.h"
 #include "look/widgets/DeskMessageBox.h"
 #include "platform/MsgBox.h"
 
@@ -23,18 +24,41 @@ QWidget* OwnerWindow()
     return nullptr;
 }
 
+DeskMessageBox::Kind KindOf(qint32 style)
+{
+    using Kind = DeskMessageBox::Kind;
+    if ((style & kBoxNoIsDefault) != 0)
+        return Kind::Destroy;
+    if ((style & kBoxSuccess) != 0)
+        return Kind::Success;
+    switch (style & ~kBoxRightToLeft) {
+    case kBoxQuestion:
+        return Kind::Question;
+    case kBoxQuestionOrStay:
+        return Kind::QuestionOrStay;
+    case kBoxWarning:
+        return Kind::Warning;
+    case kBoxError:
+        return Kind::Error;
+    default:
+        return Kind::Information;
+    }
+}
+
 MsgResult Show(const QString& text, qint32 style, const QString& title)
 {
-    const bool question = (style & ~kBoxRightToLeft) == kBoxQuestion;
-    DeskMessageBox box(question ? DeskMessageBox::Kind::Question : DeskMessageBox::Kind::Information, text, title,
-                       OwnerWindow());
-    box.setButtonTexts(GetLangString(755), GetLangString(878), GetLangString(879));
+    DeskMessageBox box(KindOf(style), text, title, OwnerWindow());
+    box.setButtonTexts(GetLangString(Message::kOk), GetLangString(Message::kYes), GetLangString(Message::kNo),
+                       GetLangString(Message::kCancel));
+    box.setCloseText(GetLangString(Message::kClose));
     box.setRightToLeftText((style & kBoxRightToLeft) != 0);
     switch (box.ask()) {
     case DeskMessageBox::Answer::Yes:
         return MsgResult::Yes;
     case DeskMessageBox::Answer::No:
         return MsgResult::No;
+    case DeskMessageBox::Answer::Cancel:
+        return MsgResult::Cancel;
     default:
         return MsgResult::Ok;
     }

@@ -2,6 +2,7 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "app/ui/ui_SystemPage.h"
 #include "look/style/Icons.h"
 #include "platform/Clock.h"
@@ -140,7 +141,7 @@ void SystemPage::lbSystemApply_Click(int index)
             SystemControl_Frame_Set();
         } else {
             const QString file = DetailExport();
-            MsgBox(GetLangString(828) + u' ' + KeepLeftToRight(file), InfoBoxStyle(), GetLangString(570));
+            Tell(Tone::Success, GetLangString(828) + u' ' + KeepLeftToRight(file));
         }
     });
 }

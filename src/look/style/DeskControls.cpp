@@ -267,11 +267,11 @@ void PaintRadioButton(const QStyleOption& option, QPainter* painter)
                  Token(enabled ? "onFilled"_L1 : "disabled"_L1));
 }
 
-void PaintComboBox(const QStyleOptionComboBox& option, QPainter* painter, const QRect& arrow)
+void PaintComboBox(const QStyleOptionComboBox& option, QPainter* painter, const QRect& arrow, bool faulty)
 {
     const bool open = option.state.testFlag(QStyle::State_On);
     if (option.frame)
-        PaintField(option, painter, open || option.state.testFlag(QStyle::State_HasFocus));
+        PaintField(option, painter, open || option.state.testFlag(QStyle::State_HasFocus), faulty);
     PaintTinted(painter, arrow.adjusted(5, 0, -6, 0), "chevron-down"_L1,
                 IsEnabled(option) ? "muted"_L1 : "disabled"_L1);
 }
@@ -305,10 +305,10 @@ QIcon AccentIcon(const QIcon& icon)
     return Icon(QLatin1StringView(name), "accent"_L1);
 }
 
-void PaintSpinBox(const QStyleOptionSpinBox& option, QPainter* painter, const QRect& up, const QRect& down)
+void PaintSpinBox(const QStyleOptionSpinBox& option, QPainter* painter, const QRect& up, const QRect& down, bool faulty)
 {
     if (option.frame)
-        PaintField(option, painter, option.state.testFlag(QStyle::State_HasFocus));
+        PaintField(option, painter, option.state.testFlag(QStyle::State_HasFocus), faulty);
     if (option.buttonSymbols == QAbstractSpinBox::NoButtons)
         return;
     const auto arrow = [&](const QRect& rect, QStyle::SubControl part, QLatin1StringView name, bool possible,

@@ -31,9 +31,10 @@ void PaintButtonLabel(const QStyleOptionButton& option, QPainter* painter, const
 void PaintField(const QStyleOption& option, QPainter* painter, bool focused, bool faulty = false);
 void PaintCheckBox(const QStyleOption& option, QPainter* painter);
 void PaintRadioButton(const QStyleOption& option, QPainter* painter);
-void PaintComboBox(const QStyleOptionComboBox& option, QPainter* painter, const QRect& arrow);
+void PaintComboBox(const QStyleOptionComboBox& option, QPainter* painter, const QRect& arrow, bool faulty);
 void PaintComboLabel(const QStyleOptionComboBox& option, QPainter* painter, const QRect& field);
-void PaintSpinBox(const QStyleOptionSpinBox& option, QPainter* painter, const QRect& up, const QRect& down);
+void PaintSpinBox(const QStyleOptionSpinBox& option, QPainter* painter, const QRect& up, const QRect& down,
+                  bool faulty);
 void PaintSlider(const QStyleOptionSlider& option, QPainter* painter, const QRect& groove, const QRect& handle);
 void PaintToolButton(const QStyleOptionToolButton& option, QPainter* painter, const QWidget* widget);
 // The same line icon in the accent colour, for what is switched on.

@@ -44,6 +44,11 @@ int GroupTitleHeight(const QStyleOptionGroupBox& option)
     return titled ? std::max(20, option.fontMetrics.height()) + 8 : 0;
 }
 
+bool IsFaulty(const QWidget* widget)
+{
+    return widget && widget->property("faulty").toBool();
+}
+
 bool IsTextView(const QWidget* widget)
 {
     return qobject_cast<const QTextEdit*>(widget) || qobject_cast<const QPlainTextEdit*>(widget);
@@ -318,8 +323,7 @@ void DeskStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
         break;
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0)
-            PaintField(*option, painter, option->state.testFlag(State_HasFocus),
-                       widget && widget->property("faulty").toBool());
+            PaintField(*option, painter, option->state.testFlag(State_HasFocus), IsFaulty(widget));
         return;
     case PE_FrameLineEdit:
         return;
@@ -468,12 +472,13 @@ void DeskStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     switch (control) {
     case CC_ComboBox:
         if (const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(option))
-            return PaintComboBox(*combo, painter, subControlRect(control, option, SC_ComboBoxArrow, widget));
+            return PaintComboBox(*combo, painter, subControlRect(control, option, SC_ComboBoxArrow, widget),
+                                 IsFaulty(widget));
         break;
     case CC_SpinBox:
         if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option))
             return PaintSpinBox(*spin, painter, subControlRect(control, option, SC_SpinBoxUp, widget),
-                                subControlRect(control, option, SC_SpinBoxDown, widget));
+                                subControlRect(control, option, SC_SpinBoxDown, widget), IsFaulty(widget));
         break;
     case CC_Slider:
         if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option))

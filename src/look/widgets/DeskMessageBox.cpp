@@ -17,13 +17,43 @@ constexpr int kNarrowest = 280;
 constexpr int kWidest = 480;
 constexpr int kTallest = 360;
 
+struct KindFace
+{
+    QLatin1StringView icon;
+    QLatin1StringView ink;
+    QLatin1StringView ground;
+};
+
+KindFace FaceOf(DeskMessageBox::Kind kind)
+{
+    using Kind = DeskMessageBox::Kind;
+    switch (kind) {
+    case Kind::Success:
+        return {"ok"_L1, "ok"_L1, "okGround"_L1};
+    case Kind::Warning:
+        return {"warning"_L1, "warning"_L1, "warningGround"_L1};
+    case Kind::Error:
+        return {"error"_L1, "bad"_L1, "badGround"_L1};
+    case Kind::Destroy:
+        return {"delete"_L1, "bad"_L1, "badGround"_L1};
+    case Kind::Question:
+    case Kind::QuestionOrStay:
+        return {"question"_L1, "accent"_L1, "accentGround"_L1};
+    case Kind::Information:
+        break;
+    }
+    return {"info"_L1, "accent"_L1, "accentGround"_L1};
+}
+
 // The box's icon on a disc of its quiet ground.
 class KindBadge : public QWidget
 {
 public:
     explicit KindBadge(DeskMessageBox::Kind kind)
-        : m_kind(kind)
+        : m_face(FaceOf(kind))
     {
+        setObjectName(u"badge"_s);
+        setProperty("icon", QString(m_face.icon));
         setFixedSize(40, 40);
     }
 
@@ -31,24 +61,30 @@ protected:
     void paintEvent(QPaintEvent*) override
     {
         QPainter painter(this);
-        const bool warning = m_kind == DeskMessageBox::Kind::Warning;
-        PaintBox(&painter, rect(), 20, Token(warning ? "warningGround"_L1 : "accentGround"_L1));
-        const QLatin1StringView name = warning                                    ? "warning"_L1
-                                       : m_kind == DeskMessageBox::Kind::Question ? "question"_L1
-                                                                                  : "info"_L1;
-        Icon(name, warning ? "warning"_L1 : "accent"_L1).paint(&painter, rect().adjusted(9, 9, -9, -9));
+        PaintBox(&painter, rect(), 20, Token(m_face.ground));
+        Icon(m_face.icon, m_face.ink).paint(&painter, rect().adjusted(9, 9, -9, -9));
     }
 
 private:
-    DeskMessageBox::Kind m_kind;
+    KindFace m_face;
 };
+
+DeskMessageBox::Answer EscapeOf(DeskMessageBox::Kind kind)
+{
+    using Kind = DeskMessageBox::Kind;
+    if (kind == Kind::QuestionOrStay)
+        return DeskMessageBox::Answer::Cancel;
+    const bool asks = kind == Kind::Question || kind == Kind::Destroy;
+    return asks ? DeskMessageBox::Answer::No : DeskMessageBox::Answer::Ok;
+}
 
 } // namespace
 
 DeskMessageBox::DeskMessageBox(Kind kind, const QString& text, const QString& title, QWidget* parent)
     : DialogFrame(parent)
     , m_text(new QLabel(text))
-    , m_answer(kind == Kind::Question ? Answer::No : Answer::Ok)
+    , m_escape(EscapeOf(kind))
+    , m_answer(m_escape)
 {
     setWindowTitle(title);
     setSizeGripEnabled(false);
@@ -79,46 +115,45 @@ DeskMessageBox::DeskMessageBox(Kind kind, const QString& text, const QString& ti
         row->addWidget(m_text, 1);
     }
 
-    if (kind == Kind::Question) {
-        m_no = addAnswer(Answer::No, u"No"_s, u"btnNo"_s, {});
-        m_yes = addAnswer(Answer::Yes, u"Yes"_s, u"btnYes"_s, "primary"_L1);
-        setDefaultAnswer(Answer::Yes);
-    } else {
-        m_ok = addAnswer(Answer::Ok, u"OK"_s, u"btnOk"_s, "primary"_L1);
+    if (m_escape == Answer::Ok) {
+        addAnswer(Answer::Ok, u"OK"_s, u"btnOk"_s, "primary"_L1);
         setDefaultAnswer(Answer::Ok);
+    } else {
+        if (m_escape == Answer::Cancel)
+            addAnswer(Answer::Cancel, u"Cancel"_s, u"btnCancel"_s, {});
+        const bool destroys = kind == Kind::Destroy;
+        addAnswer(Answer::No, u"No"_s, u"btnNo"_s, {});
+        addAnswer(Answer::Yes, u"Yes"_s, u"btnYes"_s, destroys ? "danger"_L1 : "primary"_L1);
+        setDefaultAnswer(destroys ? Answer::No : Answer::Yes);
     }
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-QPushButton* DeskMessageBox::addAnswer(Answer answer, const QString& text, const QString& name, QLatin1StringView kind)
+void DeskMessageBox::addAnswer(Answer answer, const QString& text, const QString& name, QLatin1StringView kind)
 {
     QPushButton* button = footer()->addButton(text, kind);
     button->setObjectName(name);
+    button->setAutoDefault(true);
+    m_buttons[static_cast<std::size_t>(answer)] = button;
     connect(button, &QPushButton::clicked, this, [this, answer] {
         m_answer = answer;
-        done(answer == Answer::No ? Rejected : Accepted);
+        done(answer == Answer::Ok || answer == Answer::Yes ? Accepted : Rejected);
     });
-    return button;
 }
 
-void DeskMessageBox::setButtonTexts(const QString& ok, const QString& yes, const QString& no)
+void DeskMessageBox::setButtonTexts(const QString& ok, const QString& yes, const QString& no, const QString& cancel)
 {
-    const auto set = [](QPushButton* button, const QString& text) {
-        if (button && !text.isEmpty())
-            button->setText(text);
-    };
-    set(m_ok, ok);
-    set(m_yes, yes);
-    set(m_no, no);
+    const std::pair<Answer, const QString&> texts[] = {
+        {Answer::Ok, ok}, {Answer::Yes, yes}, {Answer::No, no}, {Answer::Cancel, cancel}};
+    for (const auto& [answer, text] : texts) {
+        if (button(answer) && !text.isEmpty())
+            button(answer)->setText(text);
+    }
 }
 
 void DeskMessageBox::setDefaultAnswer(Answer answer)
 {
-    for (QPushButton* button : {m_ok, m_yes, m_no})
-        if (button)
-            button->setAutoDefault(true);
-    QPushButton* wanted = answer == Answer::Ok ? m_ok : answer == Answer::Yes ? m_yes : m_no;
-    if (wanted) {
+    if (QPushButton* wanted = button(answer)) {
         wanted->setDefault(true);
         wanted->setFocus();
     }
@@ -139,6 +174,6 @@ DeskMessageBox::Answer DeskMessageBox::ask()
 
 void DeskMessageBox::reject()
 {
-    m_answer = m_yes ? Answer::No : Answer::Ok;
+    m_answer = m_escape;
     DialogFrame::reject();
 }

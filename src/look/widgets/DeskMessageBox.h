@@ -2,33 +2,41 @@
 
 #include "look/widgets/DialogFrame.h"
 
+#include <array>
+
 class QLabel;
 class QPushButton;
 
-// The desk's modal box: icon, text (selectable), and Ok, or Yes and No. Return presses the default button (Ok or Yes
-// unless told otherwise); Esc and the close button answer Ok or No.
+// The desk's modal box: icon, text (selectable), and Ok, or Yes and No, or Yes, No and Cancel. Return presses the
+// button that has the focus, first the default one: Ok or Yes, and No where the question destroys something. Esc and
+// the close button give the answer that changes nothing: Ok, No, or Cancel where there is one.
 class DeskMessageBox : public DialogFrame
 {
     Q_OBJECT
 public:
     enum class Kind
     {
-        Information,
-        Question,
-        Warning // one button, like Information
+        Information, // this and the next three have one button
+        Success,
+        Warning,
+        Error,
+        Question,       // Yes and No
+        QuestionOrStay, // Yes, No and Cancel
+        Destroy         // Yes and No; No is the default, Yes looks dangerous
     };
     enum class Answer
     {
         Ok,
         Yes,
-        No
+        No,
+        Cancel
     };
 
     DeskMessageBox(Kind kind, const QString& text, const QString& title, QWidget* parent = nullptr);
 
     // Labels of the buttons in the live language; an empty one keeps the English word. The buttons are named
-    // btnOk, btnYes and btnNo.
-    void setButtonTexts(const QString& ok, const QString& yes, const QString& no);
+    // btnOk, btnYes, btnNo and btnCancel.
+    void setButtonTexts(const QString& ok, const QString& yes, const QString& no, const QString& cancel = {});
     void setDefaultAnswer(Answer answer);
     // Aligns the text at the right and reads it from the right, whatever the desk's own direction.
     void setRightToLeftText(bool on);
@@ -41,11 +49,11 @@ public:
     void reject() override;
 
 private:
-    QPushButton* addAnswer(Answer answer, const QString& text, const QString& name, QLatin1StringView kind);
+    void addAnswer(Answer answer, const QString& text, const QString& name, QLatin1StringView kind);
+    QPushButton* button(Answer answer) const { return m_buttons[static_cast<std::size_t>(answer)]; }
 
     QLabel* m_text;
-    QPushButton* m_ok = nullptr;
-    QPushButton* m_yes = nullptr;
-    QPushButton* m_no = nullptr;
+    std::array<QPushButton*, 4> m_buttons{}; // by answer
+    Answer m_escape;
     Answer m_answer;
 };

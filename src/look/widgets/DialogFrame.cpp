@@ -13,6 +13,9 @@
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -62,6 +65,63 @@ bool HasRoundCorners()
 
 } // namespace
 
+// Holds the content. It asks for all the room that the content wants, up to what the screen has; only beyond that it
+// scrolls.
+class DialogFrame::ContentArea : public QScrollArea
+{
+public:
+    ContentArea(const DialogFrame& frame, QWidget* content)
+        : m_frame(frame)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+        setWidgetResizable(true);
+        setWidget(content);
+        content->setAutoFillBackground(false);
+        viewport()->setAutoFillBackground(false);
+    }
+
+    QSize sizeHint() const override { return bounded(widget()->sizeHint()); }
+    QSize minimumSizeHint() const override
+    {
+        return bounded(widget()->minimumSizeHint().expandedTo(widget()->minimumSize()));
+    }
+    bool hasHeightForWidth() const override { return widget()->hasHeightForWidth(); }
+    int heightForWidth(int width) const override
+    {
+        const QLayout* layout = widget()->layout();
+        const int height = layout && layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                                                 : widget()->heightForWidth(width);
+        return std::min(height, m_frame.roomForContent());
+    }
+
+protected:
+    // The content wants another size: so does the dialog.
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::event(event);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched == widget() && event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::eventFilter(watched, event);
+    }
+
+private:
+    QSize bounded(QSize size) const
+    {
+        const int room = m_frame.roomForContent();
+        if (size.height() > room)
+            size = QSize(size.width() + verticalScrollBar()->sizeHint().width(), room);
+        return size;
+    }
+
+    const DialogFrame& m_frame;
+};
+
 DialogFrame::DialogFrame(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
     , m_column(new QVBoxLayout(this))
@@ -71,6 +131,7 @@ DialogFrame::DialogFrame(QWidget* parent)
     , m_close(new QToolButton)
     , m_body(new QVBoxLayout)
     , m_content(new QWidget)
+    , m_area(new ContentArea(*this, m_content))
 {
     setModal(true);
     setSizeGripEnabled(true);
@@ -94,7 +155,7 @@ DialogFrame::DialogFrame(QWidget* parent)
     title->addWidget(m_close);
 
     m_body->setContentsMargins(20, 20, 20, 20);
-    m_body->addWidget(m_content);
+    m_body->addWidget(m_area);
     m_column->setContentsMargins(1, 1, 1, 1);
     m_column->setSpacing(0);
     m_column->addWidget(m_titleRow);
@@ -153,13 +214,31 @@ bool DialogFrame::event(QEvent* event)
     return QDialog::event(event);
 }
 
+int DialogFrame::roomForContent() const
+{
+    const QMargins margins = m_body->contentsMargins();
+    int taken = kTitleHeight + margins.top() + margins.bottom() + 2;
+    for (const QWidget* part : {static_cast<QWidget*>(m_steps), static_cast<QWidget*>(m_footer)}) {
+        if (part && !part->isHidden())
+            taken += part->sizeHint().height();
+    }
+    return screen()->availableGeometry().height() - taken;
+}
+
 void DialogFrame::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
+    const QRect available = screen()->availableGeometry();
+    resize(size().boundedTo(available.size()));
+    const QRect owner = parentWidget() ? parentWidget()->window()->geometry() : available;
+    QRect place = rect();
+    place.moveCenter(owner.center());
+    place.moveRight(std::min(place.right(), available.right()));
+    place.moveBottom(std::min(place.bottom(), available.bottom()));
+    place.moveTopLeft({std::max(place.left(), available.left()), std::max(place.top(), available.top())});
+    move(place.topLeft());
     if (!parentWidget())
         return;
-    const QRect owner = parentWidget()->window()->geometry();
-    move(owner.center() - rect().center());
     if (isModal() && !m_scrim)
         m_scrim = new Scrim(parentWidget()->window());
 }

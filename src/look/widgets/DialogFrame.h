@@ -11,7 +11,8 @@ class StepStrip;
 
 // The frame of the desk's modal dialogs: title row (the window title, movable by the pointer, with a close button),
 // an optional strip of steps, the content and a footer. While it is open the window behind it is dimmed.
-// A .ui form goes into the content: ui.setupUi(dialog.content()).
+// A .ui form goes into the content: ui.setupUi(dialog.content()). No dialog is larger than its screen or reaches out of
+// it: content that does not fit scrolls.
 class DialogFrame : public QDialog
 {
     Q_OBJECT
@@ -42,6 +43,9 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    class ContentArea;
+    int roomForContent() const; // height left for it on the screen
+
     QVBoxLayout* m_column;
     QWidget* m_titleRow;
     ElidedLabel* m_title;
@@ -50,6 +54,7 @@ private:
     StepStrip* m_steps = nullptr;
     QVBoxLayout* m_body;
     QWidget* m_content;
+    ContentArea* m_area;
     ActionBar* m_footer = nullptr;
     QPointer<QWidget> m_scrim;
 };

@@ -3,9 +3,11 @@
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
 
+#include <QComboBox>
 #include <QDateTimeEdit>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QSpinBox>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -87,8 +89,31 @@ void SelectOnFocus(QLineEdit* field)
     field->installEventFilter(new FocusSelector(field));
 }
 
-void SetFaulty(QLineEdit* field, bool faulty)
+void SetFaulty(QWidget* field, bool faulty)
 {
     field->setProperty("faulty", faulty);
     field->update();
+}
+
+void PointAtFault(QWidget* field)
+{
+    SetFaulty(field, true);
+    field->setFocus(Qt::OtherFocusReason);
+    // Each fault makes one connection, gone with the first change.
+    auto* watch = new QObject(field);
+    const auto changed = [field, watch] {
+        SetFaulty(field, false);
+        watch->deleteLater();
+    };
+    if (auto* line = qobject_cast<QLineEdit*>(field)) {
+        line->selectAll();
+        QObject::connect(line, &QLineEdit::textChanged, watch, changed);
+    } else if (auto* combo = qobject_cast<QComboBox*>(field)) {
+        QObject::connect(combo, &QComboBox::currentTextChanged, watch, changed);
+    } else if (auto* spin = qobject_cast<QSpinBox*>(field)) {
+        spin->selectAll();
+        QObject::connect(spin, &QSpinBox::textChanged, watch, changed);
+    } else if (auto* time = qobject_cast<QDateTimeEdit*>(field)) {
+        QObject::connect(time, &QDateTimeEdit::dateTimeChanged, watch, changed);
+    }
 }

@@ -26,5 +26,9 @@ protected:
 void SetTimeFormat(QDateTimeEdit* field, const QString& format);
 // The whole text is selected whenever the field gets the focus, by the pointer too.
 void SelectOnFocus(QLineEdit* field);
-// Marks a field as faulty or not: a border in the colour of faults. The words belong in a label beside it.
-void SetFaulty(QLineEdit* field, bool faulty);
+// Marks a line edit, combo box, spin box or time as faulty or not: a border in the colour of faults. The words belong
+// in a label beside it or in a box.
+void SetFaulty(QWidget* field, bool faulty);
+// The field at fault gets that border and the focus, a line edit its text selected; the next change of its value takes
+// the border away.
+void PointAtFault(QWidget* field);

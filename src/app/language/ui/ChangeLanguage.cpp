@@ -3,6 +3,7 @@
 #include "app/language/CutText.h"
 #include "app/language/Languages.h"
 #include "look/style/Theme.h"
+#include "look/widgets/DialogFrame.h"
 #include "look/widgets/PasswordField.h"
 
 #include <QAbstractButton>
@@ -27,6 +28,7 @@ void SetCaption(QWidget* control, const QString& text)
         box->setTitle(text);
 }
 
+constexpr int kClose = 881;     // message
 constexpr int kBoxMargins = 32; // pixels beside the title of a box
 
 // Keeps a control's whole caption. Layouts give way to it; it is cut only where they cannot: in a control of fixed or
@@ -104,6 +106,8 @@ void ApplyTag(QWidget* control)
         CutString(control, text, Language() == kRightToLeftLanguage);
     else if (QStringView(tag).left(colon) == "ToolTip"_L1)
         control->setToolTip(text);
+    else if (QStringView(tag).left(colon) == "Name"_L1)
+        control->setAccessibleName(text);
 }
 
 // Every language but Japanese is written in one and the same family where it is installed. Chinese and Japanese have
@@ -152,6 +156,8 @@ void ApplyLanguage(QWidget* window)
     QApplication::setLayoutDirection(Language() == kRightToLeftLanguage ? Qt::RightToLeft : Qt::LeftToRight);
     SetBodyFamilies(LeadingFamilies());
     SettleToolkit(window);
+    if (auto* dialog = qobject_cast<DialogFrame*>(window))
+        dialog->setCloseText(GetLangString(kClose));
     ApplyTag(window);
     const QList<QWidget*> controls = window->findChildren<QWidget*>();
     for (QWidget* control : controls) {
