@@ -3587,6 +3587,18 @@
         <source>The camera name must not contain a double quote (").</source>
         <translation>Název kamery nesmí obsahovat uvozovky (").</translation>
     </message>
+    <message id="981">
+        <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
+        <translation>Konfigurační databázi nelze otevřít: používá ji jiný program, nebo ji nelze přečíst. Nic se nezměnilo. Zkusit to znovu?</translation>
+    </message>
+    <message id="982">
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
+        <translation>Uživatele se nepodařilo přečíst z databáze, proto se nikdo nemůže přihlásit. Zavřete program, který databázi používá, a spusťte znovu; důvod uvádí protokol.</translation>
+    </message>
+    <message id="983">
+        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
+        <translation>Tyto tabulky databáze se nepodařilo přečíst a nebudou přepsány: %1. Důvod uvádí protokol.</translation>
+    </message>
     <message id="995">
         <source>Export</source>
         <translation>Exportovat</translation>

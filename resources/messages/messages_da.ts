@@ -3587,6 +3587,18 @@
         <source>The camera name must not contain a double quote (").</source>
         <translation>Kameranavnet må ikke indeholde anførselstegn (").</translation>
     </message>
+    <message id="981">
+        <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
+        <translation>Konfigurationsdatabasen kan ikke åbnes: Et andet program bruger den, eller den kan ikke læses. Intet er ændret. Prøv igen?</translation>
+    </message>
+    <message id="982">
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
+        <translation>Brugerne kunne ikke læses fra databasen, så ingen kan logge på. Luk det program, der bruger databasen, og start igen; loggen nævner årsagen.</translation>
+    </message>
+    <message id="983">
+        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
+        <translation>Disse tabeller i databasen kunne ikke læses og overskrives ikke: %1. Loggen nævner årsagen.</translation>
+    </message>
     <message id="995">
         <source>Export</source>
         <translation>Eksporter</translation>

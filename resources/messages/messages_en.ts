@@ -3587,6 +3587,18 @@
         <source>The camera name must not contain a double quote (").</source>
         <translation>The camera name must not contain a double quote (").</translation>
     </message>
+    <message id="981">
+        <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
+        <translation>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</translation>
+    </message>
+    <message id="982">
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
+        <translation>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</translation>
+    </message>
+    <message id="983">
+        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
+        <translation>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</translation>
+    </message>
     <message id="995">
         <source>Export</source>
         <translation>Export</translation>

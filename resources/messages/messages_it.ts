@@ -3587,6 +3587,18 @@
         <source>The camera name must not contain a double quote (").</source>
         <translation>Il nome della telecamera non può contenere virgolette (").</translation>
     </message>
+    <message id="981">
+        <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
+        <translation>Impossibile aprire il database di configurazione: un altro programma lo occupa oppure non è leggibile. Non è stato modificato nulla. Riprovare?</translation>
+    </message>
+    <message id="982">
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
+        <translation>Impossibile leggere gli utenti dal database: nessuno può accedere. Chiudere il programma che occupa il database e riavviare; il registro indica il motivo.</translation>
+    </message>
+    <message id="983">
+        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
+        <translation>Impossibile leggere queste tabelle del database; non verranno sovrascritte: %1. Il registro indica il motivo.</translation>
+    </message>
     <message id="995">
         <source>Export</source>
         <translation>Esporta</translation>

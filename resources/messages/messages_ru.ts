@@ -3587,6 +3587,18 @@
         <source>The camera name must not contain a double quote (").</source>
         <translation>Имя камеры не может содержать кавычек (").</translation>
     </message>
+    <message id="981">
+        <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
+        <translation>Не удаётся открыть базу данных конфигурации: её занимает другая программа или её нельзя прочитать. Ничего не изменено. Повторить попытку?</translation>
+    </message>
+    <message id="982">
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
+        <translation>Не удалось прочитать пользователей из базы данных, поэтому войти никто не может. Закройте программу, которая занимает базу, и запустите снова; причина указана в журнале.</translation>
+    </message>
+    <message id="983">
+        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
+        <translation>Эти таблицы базы данных не удалось прочитать, и они не будут перезаписаны: %1. Причина указана в журнале.</translation>
+    </message>
     <message id="995">
         <source>Export</source>
         <translation>Экспортировать</translation>

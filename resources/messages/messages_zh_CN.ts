@@ -3587,6 +3587,18 @@
         <source>The camera name must not contain a double quote (").</source>
         <translation>摄像机名称不能包含双引号（"）。</translation>
     </message>
+    <message id="981">
+        <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
+        <translation>无法打开配置数据库：其他程序正在占用它，或无法读取。未做任何更改。是否重试？</translation>
+    </message>
+    <message id="982">
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
+        <translation>无法从数据库读取用户，因此无人可以登录。请关闭占用数据库的程序后重新启动；原因见日志。</translation>
+    </message>
+    <message id="983">
+        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
+        <translation>无法读取数据库的以下表，且不会被覆盖：%1。原因见日志。</translation>
+    </message>
     <message id="995">
         <source>Export</source>
         <translation>导出</translation>

@@ -7,10 +7,12 @@
 #include "platform/DatabaseFile.h"
 #include "platform/MsgBox.h"
 #include "recorders/data/SVRStore.h"
+#include "store/DatabaseRepair.h"
 #include "store/Template.h"
 #include "support/Conversions.h"
 #include "users/AccountStore.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -24,27 +26,39 @@ bool Exists(QStringView literal)
     return QFileInfo::exists(StationPath(literal));
 }
 
-// Only a missing database is repaired from a backup: the rename does not go over a damaged one that still stands.
-void RepairDatabase()
+// What an older version or a copy by hand left readable for others. Files that cannot be changed stay as they are.
+void TightenRights()
 {
-    for (const auto* backup : {kBackup1File, kBackup2File}) {
-        if (!Exists(backup))
+    for (const auto* literal : {u"\\Database", u"\\log", u"\\log\\Listen"}) {
+        const QString folder = StationPath(literal);
+        if (!QFileInfo::exists(folder))
             continue;
-        Trapped(kLoadSource, [&] { RenameDatabase(StationPath(backup), StationPath(kDatabaseFile)); });
-        Trapped(kLoadSource, [&] { CopyDatabase(StationPath(kDatabaseFile), StationPath(backup)); });
-        return;
+        OwnerOnly(folder);
+        const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Hidden);
+        for (const QFileInfo& file : files)
+            OwnerOnly(file.filePath());
     }
-    Trapped(kLoadSource, [&] { CopyDatabase(StationPath(kTemplateFile), StationPath(kDatabaseFile)); });
+    const QFileInfoList exports =
+        QDir(AppPath()).entryInfoList({u"DetailExport-*"_s, u"Systemlog_Export_*"_s}, QDir::Files);
+    for (const QFileInfo& file : exports)
+        OwnerOnly(file.filePath());
 }
 
 } // namespace
 
 void OpenDatabases(Station& station)
 {
-    if (InitialDB(station.databases) == 1)
-        return;
-    RepairDatabase();
-    InitialDB(station.databases);
+    Trapped(kLoadSource, [] { TightenRights(); });
+    while (InitialDB(station.databases) == 0) {
+        if (RepairDatabase() != RepairResult::Untouched) {
+            InitialDB(station.databases);
+            return;
+        }
+        NormaliseLanguage(station);
+        SettleLanguage(station);
+        if (MsgBox(GetLangString(981), AskBoxStyle(), GetLangString(570)) != MsgResult::Yes)
+            return;
+    }
 }
 
 void ReadDefaults(Station& station, UpdateWatcher& watcher)
@@ -86,6 +100,16 @@ void LoadRecords(Station& station)
     GetMyAccount(station.databases, station.accounts);
     GetGroupPrivilege(station.databases, station.groups);
     GetNVRPrivilege(station.databases, station.groups);
+}
+
+bool CheckRecords(Station& station)
+{
+    if (station.databases.unread.isEmpty())
+        return true;
+    QStringList tables(station.databases.unread.cbegin(), station.databases.unread.cend());
+    tables.sort();
+    MsgBox(GetLangString(983).arg(tables.join(u", "_s)), InfoBoxStyle(), GetLangString(570));
+    return false;
 }
 
 void SettleCurrentGroup(Station& station)

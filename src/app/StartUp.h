@@ -5,7 +5,9 @@
 
 // The steps of start-up and shut-down that need no window, each trapped on its own. Form_Initial calls them in order.
 
-// Opens the databases, with the repair from backups or the template when that fails.
+// Opens the databases, with the repair from backups or the template when that fails. A database that is there but
+// cannot be opened is left alone; the operator is asked whether to try again. The rights of the station's files are
+// tightened first.
 void OpenDatabases(Station& station);
 // Defaults, run-time facts, language and the version test; a database of another version is updated.
 void ReadDefaults(Station& station, UpdateWatcher& watcher);
@@ -14,6 +16,8 @@ void NormaliseLanguage(Station& station);
 void SettleLanguage(Station& station);
 // All record families whose subsystem is part of the desk, in their fixed order.
 void LoadRecords(Station& station);
+// Tells the operator once which tables could not be read and are not written over. True when there are none.
+bool CheckRecords(Station& station);
 // Group of the logged-in user, 0 for a user who is not in the array.
 void SettleCurrentGroup(Station& station);
 

@@ -1,6 +1,5 @@
 #include "events/ChannelEvents.h"
 
-#include "store/TableAccess.h"
 #include "store/TableRows.h"
 #include "store/tables/Tables.h"
 
@@ -55,23 +54,19 @@ qint16 GetEventInfo(Databases& databases, ChannelEventSet& set, const RecorderSe
                     [&](int slot, int channel, qint32 id) { channels.emplace(id, std::pair(slot, channel)); });
     const IntelligentChannel defaults;
     for (const DetectionTable& table : kTables) {
-        const QString statement = u"Select * From "_s + table.name + u" ORDER BY Channel ASC"_s;
-        const qint16 read = ReadRows(databases, table.name, statement, kGetSource, [&](Recordset& rows) {
-            TableAccess<ChannelSettingRow> access(rows, ChannelSettingColumns, kGetSource);
-            for (; !rows.eof(); rows.moveNext()) {
-                ChannelSettingRow row;
-                row.Sensitivity = defaults.*table.sensitivity; // stays where the field cannot be read
-                access.read(row);
-                const auto found = channels.find(row.Channel);
-                if (found == channels.end())
-                    continue;
-                const auto [slot, channel] = found->second;
-                IntelligentChannel& settings = At(At(set.stored, slot).channels, channel);
-                settings.*table.enable = row.Enable;
-                settings.*table.sensitivity = row.Sensitivity;
-            }
-        });
-        if (read == 0)
+        ChannelSettingRow fresh;
+        fresh.Sensitivity = defaults.*table.sensitivity; // stays where the field cannot be read
+        const auto take = [&](ChannelSettingRow&& row) {
+            const auto found = channels.find(row.Channel);
+            if (found == channels.end())
+                return;
+            const auto [slot, channel] = found->second;
+            IntelligentChannel& settings = At(At(set.stored, slot).channels, channel);
+            settings.*table.enable = row.Enable;
+            settings.*table.sensitivity = row.Sensitivity;
+        };
+        if (ReadTable(databases, table.name, u"Select * From "_s + table.name + u" ORDER BY Channel ASC"_s,
+                      ChannelSettingColumns, kGetSource, take, fresh) == 0)
             return 0;
     }
     return 1;
@@ -79,25 +74,20 @@ qint16 GetEventInfo(Databases& databases, ChannelEventSet& set, const RecorderSe
 
 qint16 SetEventInfo(Databases& databases, const ChannelEventSet& set, const RecorderSet& recorders)
 {
-    for (const DetectionTable& table : kTables) {
-        const qint16 written = ReplaceRows(
-            databases, table.name, kSetSource,
-            [&] { OpenStatement(databases, u"Delete * From "_s + table.name + u' ', LockType::Optimistic); },
-            [&](Recordset& rows) {
-                TableAccess<ChannelSettingRow> access(rows, ChannelSettingColumns, kSetSource);
+    return AsOneStep(databases, kSetSource, [&]() -> qint16 {
+        for (const DetectionTable& table : kTables) {
+            const auto fill = [&](auto&& add) {
                 ForEachAnalysed(recorders, [&](int slot, int channel, qint32 id) {
-                    Trapped(kSetSource, [&] {
-                        const IntelligentChannel& settings = At(At(set.stored, slot).channels, channel);
-                        rows.addNew();
-                        access.write({id, settings.*table.enable, settings.*table.sensitivity});
-                        rows.update();
-                    });
+                    const IntelligentChannel& settings = At(At(set.stored, slot).channels, channel);
+                    add({id, settings.*table.enable, settings.*table.sensitivity});
                 });
-            });
-        if (written == 0)
-            return 0;
-    }
-    return 1;
+            };
+            if (ReplaceTable(databases, table.name, u"Delete * From "_s + table.name + u' ', ChannelSettingColumns,
+                             kSetSource, fill) == 0)
+                return 0;
+        }
+        return 1;
+    });
 }
 
 void ResetDetection(ChannelEventSet& set, int slot, const SVRRecord& recorder)
@@ -129,12 +119,12 @@ RecordFamily EventSettingsFamily(Databases& databases, ChannelEventSet& set, con
                 });
             },
             [&databases, &set, &recorders] {
-                for (IntelligentSettings& settings : set.edit) {
+                const auto clear = [](IntelligentSettings& settings) {
                     for (IntelligentChannel& channel : settings.channels)
                         channel.bChanged = false;
-                }
-                set.stored = set.edit;
-                SetEventInfo(databases, set, recorders);
+                };
+                return SaveMarked(
+                    set.stored, set.edit, [&] { return SetEventInfo(databases, set, recorders); }, clear);
             },
             [&set] { set.edit = set.stored; }};
 }

@@ -1,5 +1,8 @@
 #include "platform/AppPath.h"
 
+#include <QFile>
+#include <QFileInfo>
+
 namespace {
 QString& Stored()
 {
@@ -25,4 +28,12 @@ QString StationPath(QStringView literal)
     QString tail = literal.toString();
     tail.replace(u'\\', u'/');
     return AppPath() + tail;
+}
+
+bool OwnerOnly(const QString& path)
+{
+    QFile::Permissions rights = QFile::ReadOwner | QFile::WriteOwner;
+    if (QFileInfo(path).isDir())
+        rights |= QFile::ExeOwner;
+    return QFile::setPermissions(path, rights);
 }

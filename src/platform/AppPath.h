@@ -9,3 +9,6 @@ void SetAppPath(const QString& path);
 
 // Turns AppPath plus a literal that begins with '\' (as they stand in tables and texts) into a path of this platform.
 QString StationPath(QStringView literal);
+
+// Makes a file or folder accessible to its owner only; false when that cannot be done.
+bool OwnerOnly(const QString& path);

@@ -1,9 +1,7 @@
 #include "platform/Connection.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QSqlQuery>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -11,7 +9,7 @@ namespace {
 
 constexpr int kBusyMilliseconds = 2000;
 constexpr int kImpatientMilliseconds = 50;
-constexpr auto kBusyCode = "5"_L1; // SQLITE_BUSY
+constexpr int kDamagedCode = 26; // SQLITE_NOTADB
 
 QString DataSource(const QString& connectionString)
 {
@@ -21,28 +19,6 @@ QString DataSource(const QString& connectionString)
             return part.mid(12);
     }
     return connectionString;
-}
-
-// The header of a database file holds its size in pages; a file cut short would only show when the lost page is asked
-// for.
-void CheckHeader(const QString& file)
-{
-    if (!QFileInfo::exists(file))
-        throw StoreError(u"Could not find file '%1'"_s.arg(file));
-    QFile raw(file);
-    if (!raw.open(QIODevice::ReadOnly))
-        throw StoreError(u"Cannot open '%1': %2"_s.arg(file, raw.errorString()));
-    const QByteArray header = raw.read(100);
-    if (header.size() < 100 || !header.startsWith("SQLite format 3"))
-        throw StoreError(u"Unrecognized database format '%1'"_s.arg(file));
-    const auto* bytes = reinterpret_cast<const uchar*>(header.constData());
-    qint64 pageSize = qFromBigEndian<quint16>(bytes + 16);
-    if (pageSize == 1)
-        pageSize = 65536;
-    const qint64 pages = qFromBigEndian<quint32>(bytes + 28);
-    const bool sizeIsValid = qFromBigEndian<quint32>(bytes + 24) == qFromBigEndian<quint32>(bytes + 92);
-    if (sizeIsValid && raw.size() < pages * pageSize)
-        throw StoreError(u"Database '%1' is cut short"_s.arg(file));
 }
 
 } // namespace
@@ -67,20 +43,29 @@ void Connection::open(bool writeAheadLog)
 {
     close();
     const QString file = DataSource(m_connectionString);
-    CheckHeader(file);
+    if (!QFileInfo::exists(file))
+        throw StoreError(u"Could not find file '%1'"_s.arg(file));
 
     static int serial = 0;
     m_name = u"desk%1"_s.arg(++serial);
     m_database = QSqlDatabase::addDatabase(u"QSQLITE"_s, m_name);
     m_database.setDatabaseName(file);
-    m_database.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(kBusyMilliseconds));
+    m_database.setConnectOptions(
+        u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(m_impatient ? kImpatientMilliseconds : kBusyMilliseconds));
+    m_depth = 0;
     try {
         if (!m_database.open())
             throw StoreError(u"Cannot open '%1'"_s.arg(file), m_database.lastError());
         QSqlQuery query(m_database);
-        // Fails on a foreign or damaged file; on a folder that cannot be written the journal stays as it is.
-        if (!query.exec(u"SELECT COUNT(*) FROM sqlite_master"_s))
+        // Fails on a foreign file and on one cut short; on a folder that cannot be written the journal stays as it is.
+        if (!query.exec(u"SELECT (SELECT COUNT(*) FROM sqlite_master), page_count FROM pragma_page_count"_s) ||
+            !query.next()) {
+            noteResult(query.lastError());
             throw StoreError(u"Cannot read '%1'"_s.arg(file), query.lastError());
+        }
+        noteResult({});
+        if (query.value(1).toInt() == 0)
+            throw StoreError(u"'%1' is empty"_s.arg(file), kDamagedCode);
         query.finish();
         if (writeAheadLog)
             pragma(u"journal_mode=WAL"_s);
@@ -100,7 +85,6 @@ void Connection::close()
     m_database = QSqlDatabase();
     QSqlDatabase::removeDatabase(m_name);
     m_name.clear();
-    m_impatient = false;
 }
 
 void Connection::pragma(const QString& text)
@@ -111,9 +95,53 @@ void Connection::pragma(const QString& text)
 
 void Connection::noteResult(const QSqlError& error)
 {
-    const bool busy = error.nativeErrorCode() == kBusyCode;
+    const bool busy = StoreError({}, error).locked();
     if (busy == m_impatient)
         return;
     m_impatient = busy;
     pragma(u"busy_timeout=%1"_s.arg(busy ? kImpatientMilliseconds : kBusyMilliseconds));
+}
+
+void Connection::execute(const QString& sql)
+{
+    QSqlQuery query(m_database);
+    query.exec(sql);
+    noteResult(query.lastError());
+    if (query.lastError().isValid())
+        throw StoreError(sql, query.lastError());
+}
+
+Transaction::Transaction(Connection& connection)
+    : m_connection(connection)
+    , m_level(connection.m_depth)
+{
+    connection.execute(m_level == 0 ? u"BEGIN IMMEDIATE"_s : u"SAVEPOINT "_s + savepoint());
+    ++connection.m_depth;
+}
+
+Transaction::~Transaction()
+{
+    if (m_done)
+        return;
+    m_connection.m_depth = m_level;
+    // A full disk may have ended it already: then there is nothing to take back.
+    QSqlQuery query(m_connection.m_database);
+    if (m_level == 0) {
+        query.exec(u"ROLLBACK"_s);
+        return;
+    }
+    query.exec(u"ROLLBACK TO "_s + savepoint());
+    query.exec(u"RELEASE "_s + savepoint());
+}
+
+void Transaction::commit()
+{
+    m_connection.execute(m_level == 0 ? u"COMMIT"_s : u"RELEASE "_s + savepoint());
+    m_connection.m_depth = m_level;
+    m_done = true;
+}
+
+QString Transaction::savepoint() const
+{
+    return u"step%1"_s.arg(m_level);
 }

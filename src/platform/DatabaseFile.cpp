@@ -1,7 +1,10 @@
 #include "platform/DatabaseFile.h"
 
+#include "platform/AppPath.h"
+#include "platform/Clock.h"
 #include "platform/Connection.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
 #include <QSqlQuery>
@@ -14,7 +17,7 @@ namespace {
 
 const QStringList& CompanionEndings()
 {
-    static const QStringList endings{u"-wal"_s, u"-shm"_s};
+    static const QStringList endings{u"-wal"_s, u"-shm"_s, u"-journal"_s};
     return endings;
 }
 
@@ -24,10 +27,10 @@ void RemoveCompanions(const QString& file)
         QFile::remove(file + ending);
 }
 
-// Closing the last connection of a file folds its companions into it.
+// What the companions of a file hold becomes part of it, or is taken back as it would be at the next opening.
 void FoldCompanions(const QString& file)
 {
-    if (!QFileInfo::exists(file + u"-wal"_s))
+    if (!QFileInfo::exists(file + u"-wal"_s) && !QFileInfo::exists(file + u"-journal"_s))
         return;
     Connection connection;
     connection.setConnectionString(DatabaseConnectionString(file));
@@ -41,6 +44,20 @@ void FoldCompanions(const QString& file)
 }
 
 } // namespace
+
+FileState ProbeDatabase(const QString& file)
+{
+    if (!QFileInfo::exists(file))
+        return FileState::Missing;
+    Connection connection;
+    connection.setConnectionString(DatabaseConnectionString(file));
+    try {
+        connection.openAsIs();
+    } catch (const StoreError& error) {
+        return error.damaged() ? FileState::Damaged : FileState::Unreadable;
+    }
+    return FileState::Sound;
+}
 
 void CopyDatabase(const QString& from, const QString& to)
 {
@@ -58,7 +75,8 @@ void CopyDatabase(const QString& from, const QString& to)
             throw StoreError(u"Cannot copy '%1' to '%2'"_s.arg(from, to), query.lastError());
         }
     }
-    QFile::setPermissions(half, QFile::ReadOwner | QFile::WriteOwner);
+    OwnerOnly(half);
+    FoldCompanions(to);
     RemoveCompanions(to);
     // Replaces the target in one step, so that a target is there at any moment.
     if (std::rename(QFile::encodeName(half).constData(), QFile::encodeName(to).constData()) != 0) {
@@ -88,6 +106,7 @@ void CreateDatabase(const QString& file, const QString& statement)
         QFile::remove(file);
         throw StoreError(u"Cannot create '%1': %2"_s.arg(file, failure));
     }
+    OwnerOnly(file);
 }
 
 void RenameDatabase(const QString& from, const QString& to)
@@ -101,6 +120,19 @@ void RenameDatabase(const QString& from, const QString& to)
         throw StoreError(u"Cannot rename '%1' to '%2': %3"_s.arg(from, to, file.errorString()));
     for (const QString& ending : CompanionEndings())
         QFile::rename(from + ending, to + ending);
+}
+
+QString SetDatabaseAside(const QString& file)
+{
+    const QFileInfo info(file);
+    const QDateTime now = Now();
+    for (qint64 seconds = QDateTime(now.date(), now.time(), Qt::UTC).toSecsSinceEpoch();; ++seconds) {
+        const QString aside = info.path() + u'/' + QString::number(seconds) + u'.' + info.fileName();
+        if (QFileInfo::exists(aside))
+            continue;
+        RenameDatabase(file, aside);
+        return aside;
+    }
 }
 
 void DeleteDatabase(const QString& file)

@@ -245,9 +245,9 @@ void Recordset::addNew()
 void Recordset::setValue(int field, const QVariant& value)
 {
     if (m_edit == Edit::None) {
+        requirePresentRow();
         addNew();
         m_edit = Edit::Changing;
-        requirePresentRow();
     }
     m_pending[static_cast<std::size_t>(field)] = value;
     m_isSet[static_cast<std::size_t>(field)] = true;

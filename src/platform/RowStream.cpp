@@ -22,7 +22,7 @@ sqlite3* Handle(const Connection& connection)
 
 [[noreturn]] void Fail(sqlite3* database, const QString& what)
 {
-    throw StoreError(what + u": "_s + QString::fromUtf8(sqlite3_errmsg(database)));
+    throw StoreError(what + u": "_s + QString::fromUtf8(sqlite3_errmsg(database)), sqlite3_errcode(database));
 }
 
 } // namespace

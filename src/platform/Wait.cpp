@@ -1,7 +1,5 @@
 #include "platform/Wait.h"
 
-#include "platform/Work.h"
-
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -65,8 +63,6 @@ bool Closing()
 void SetClosing(bool closing)
 {
     g_closing = closing;
-    if (closing)
-        StopAllWork();
 }
 
 bool Waiting()

@@ -4,7 +4,7 @@
 #include "platform/Autostart.h"
 #include "platform/Clock.h"
 #include "platform/clsOSInfo.h"
-#include "store/TableAccess.h"
+#include "store/TableRows.h"
 #include "store/tables/Tables.h"
 #include "support/ServiceTexts.h"
 
@@ -28,29 +28,31 @@ bool ReadsVideoWallStyle(const QString& version)
 qint16 GetBasicDefault(Databases& databases, BasicDefaultSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetBasicDefault");
-    if (OpenRecset(databases, u"BasicDefault"_s) == 0)
-        return 0;
     BasicDefaultRecord& record = set.stored;
-    Trapped(source, [&] {
-        Recordset& rows = *databases.DBRec;
-        rows.moveFirst();
-        TableAccess<BasicDefaultRecord>(rows, BasicDefaultColumns, source).read(record);
-        if (record.sSystemName.isEmpty())
-            record.sSystemName = CMS_Core;
-        if (ReadsVideoWallStyle(record.sDBVer))
-            record.iVideoWallStyle = Int16Field(rows.value(u"iVideoWallStyle"_s));
-    });
-    Trapped(source, [&] { databases.DBRec->close(); });
+    const qint16 read =
+        ReadRows(databases, u"BasicDefault"_s, u"Select * From BasicDefault"_s, source, [&](Recordset& rows) {
+            // An older layout lacks columns, and one without a row has no version: both are converted.
+            if (!rows.eof())
+                TableAccess<BasicDefaultRecord>(rows, BasicDefaultColumns, source).read(record);
+            if (record.sSystemName.isEmpty())
+                record.sSystemName = CMS_Core;
+            if (ReadsVideoWallStyle(record.sDBVer))
+                Trapped(source, [&] { record.iVideoWallStyle = Int16Field(rows.value(u"iVideoWallStyle"_s)); });
+        });
     record.bChanged = false;
-    return 1;
+    return read;
 }
 
 qint16 SaveMyDefault(Databases& databases, BasicDefaultSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveMyDefault");
+    if (databases.unread.contains(u"BasicDefault"_s)) {
+        LogTrap(source, u"BasicDefault could not be read and is not written over"_s);
+        return 0;
+    }
     if (OpenRecset(databases, u"BasicDefault"_s) == 0)
         return 0;
-    Trapped(source, [&] {
+    const bool saved = Trapped(source, [&] {
         Recordset& rows = *databases.DBRec;
         const qint64 count = rows.recordCount();
         for (qint64 i = 0; i < count; ++i) {
@@ -65,7 +67,7 @@ qint16 SaveMyDefault(Databases& databases, BasicDefaultSet& set)
         rows.update();
     });
     Trapped(source, [&] { databases.DBRec->close(); });
-    return 1;
+    return saved ? 1 : 0;
 }
 
 void WMIGet(BasicDefaultSet& set)
@@ -108,6 +110,7 @@ QString DetailExport()
         QFile target(file);
         if (!target.open(QIODevice::WriteOnly))
             throw StoreError(u"Cannot write '%1': %2"_s.arg(file, target.errorString()));
+        OwnerOnly(file);
         for (const QString& line : lines) {
             if (target.write(QuotedValue(line).toUtf8() + "\r\n") < 0)
                 throw StoreError(u"Cannot write '%1': %2"_s.arg(file, target.errorString()));
@@ -122,10 +125,14 @@ RecordFamily BasicDefaultFamily(Databases& databases, BasicDefaultSet& set)
 {
     return {FamilyOrder::BasicDefault, 0, [&set] { return set.edit.bChanged; },
             [&databases, &set] {
+                const BasicDefaultRecord before = std::exchange(set.stored, set.edit);
+                if (SaveMyDefault(databases, set) == 0) {
+                    set.stored = before;
+                    return false;
+                }
                 set.edit.bChanged = false;
-                set.stored = set.edit;
-                SaveMyDefault(databases, set);
                 StartUp_Reg(set.stored);
+                return true;
             },
             [&set] { set.edit = set.stored; }};
 }

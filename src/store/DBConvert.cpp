@@ -81,13 +81,17 @@ ChannelTable ReadChannels(Connection& source, Connection& target)
             table.insert(key, {value, {}});
     });
     for (Connection* connection : {&target, &source}) {
-        Trapped(kMDROISource, [&] {
+        try {
             WalkSVR(*connection, u"bSub_CH_MD_Enable"_s, [&](const auto& key, const QVariant& value) {
                 const auto found = table.find(key);
                 if (found != table.end() && found->bSub_CH_MD_Enable.isNull())
                     found->bSub_CH_MD_Enable = value;
             });
-        });
+        } catch (const StoreError& error) {
+            if (error.fileFailed())
+                throw;
+            LogTrap(kMDROISource, QString::fromUtf8(error.what())); // a layout without recorders
+        }
     }
     return table;
 }
@@ -140,15 +144,15 @@ bool clsDBConvert::ConvertDB(const QString& source, const QString& target)
         // The working file becomes the database only as a whole: one transaction spares a disk write for each row.
         Execute(m_targetConnection, u"BEGIN"_s);
         for (const QString& table : std::as_const(tables)) {
-            if (!m_targetFull)
+            if (!m_broken)
                 Trapped(kConvertSource, [&] { copyTable(table); });
         }
-        if (hasMDROI && !m_targetFull)
+        if (hasMDROI && !m_broken)
             Trapped(kMDROISource, [&] { ConvertMDROI(); });
         m_source.close();
         m_target.close();
-        if (m_targetFull)
-            throw StoreError(u"'%1' could not be written whole"_s.arg(target));
+        if (m_broken)
+            throw StoreError(u"'%1' could not be read or '%2' not be written to its end"_s.arg(source, target));
         Execute(m_targetConnection, u"COMMIT"_s);
         complete = true;
     });
@@ -165,12 +169,13 @@ void clsDBConvert::report(const QString& table, qint64 row, qint64 rows)
         m_progress(table, row, rows);
 }
 
-void clsDBConvert::updateTarget()
+template <class Work>
+auto clsDBConvert::noting(Work&& work)
 {
     try {
-        m_target.update();
+        return work();
     } catch (const StoreError& error) {
-        m_targetFull = error.writeFailed();
+        m_broken = m_broken || error.fileFailed();
         throw;
     }
 }
@@ -189,9 +194,11 @@ void clsDBConvert::copyTable(const QString& table)
 {
     m_source.close();
     m_target.close();
-    m_source.open(table, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+    const qint64 rows = noting([&] {
+        m_source.open(table, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+        return m_source.recordCount();
+    });
     m_target.open(table, m_targetConnection, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
-    const qint64 rows = m_source.recordCount();
     const qint64 targetRows = m_target.recordCount();
 
     std::vector<std::pair<int, int>> fields; // source, target
@@ -208,35 +215,39 @@ void clsDBConvert::copyTable(const QString& table)
             fields.emplace_back(i, targetFields.value(name));
     }
 
-    if (table == "EventTrigger"_L1 && sourceNames.contains(u"SN"_s, Qt::CaseInsensitive))
-        m_source.open(u"Select * From EventTrigger ORDER BY SN"_s, m_sourceConnection, CursorType::ForwardOnly,
-                      LockType::ReadOnly, CommandType::Text);
-    else
-        m_source.open(table, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Table);
-    for (qint64 i = 0; !m_source.eof() && !m_targetFull; ++i) {
+    const bool byNumber = table == "EventTrigger"_L1 && sourceNames.contains(u"SN"_s, Qt::CaseInsensitive);
+    noting([&] {
+        m_source.open(byNumber ? u"Select * From EventTrigger ORDER BY SN"_s : table, m_sourceConnection,
+                      CursorType::ForwardOnly, LockType::ReadOnly, byNumber ? CommandType::Text : CommandType::Table);
+    });
+    for (qint64 i = 0; !m_source.eof() && !m_broken; ++i) {
         report(table, i + 1, rows);
         Trapped(kConvertSource, [&] {
             placeTarget(i, targetRows);
             for (const auto& [from, to] : fields)
                 m_target.setValue(to, m_source.value(from));
-            updateTarget();
+            noting([&] { m_target.update(); });
         });
-        m_source.moveNext();
+        noting([&] { m_source.moveNext(); });
     }
 }
 
 void clsDBConvert::ConvertMDROI()
 {
-    const ChannelTable channels = ReadChannels(m_sourceConnection, m_targetConnection);
+    const ChannelTable channels = noting([&] { return ReadChannels(m_sourceConnection, m_targetConnection); });
     const auto walk = [&](const QString& target, auto&& fill) {
         m_source.close();
         m_target.close();
-        m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
-        const qint64 rows = m_source.recordCount();
-        m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly, CommandType::Table);
+        const qint64 rows = noting([&] {
+            m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+            const qint64 count = m_source.recordCount();
+            m_source.open(u"MDROI"_s, m_sourceConnection, CursorType::ForwardOnly, LockType::ReadOnly,
+                          CommandType::Table);
+            return count;
+        });
         m_target.open(target, m_targetConnection, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
         const qint64 targetRows = m_target.recordCount();
-        for (qint64 i = 0; !m_source.eof() && !m_targetFull; ++i) {
+        for (qint64 i = 0; !m_source.eof() && !m_broken; ++i) {
             report(u"MDROI"_s, i + 1, rows);
             Trapped(kMDROISource, [&] {
                 placeTarget(i, targetRows);
@@ -245,9 +256,9 @@ void clsDBConvert::ConvertMDROI()
                 if (channel != channels.constEnd())
                     m_target.setValue(u"Channel"_s, channel->lSub_CH_IntelligentID);
                 fill(channel == channels.constEnd() ? nullptr : &*channel);
-                updateTarget();
+                noting([&] { m_target.update(); });
             });
-            m_source.moveNext();
+            noting([&] { m_source.moveNext(); });
         }
     };
 

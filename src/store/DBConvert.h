@@ -19,15 +19,17 @@ public:
     {
     }
 
-    // Paths are platform paths. A row or table that fails costs one log line and the copy goes on. True when both
-    // files could be opened and the target holds all that was written; false leaves the target as it was.
+    // Paths are platform paths. A row or table that fails costs one log line and the copy goes on. True when the
+    // source could be read and the target written to the end; false leaves the target as it was.
     bool ConvertDB(const QString& source, const QString& target);
 
 private:
     void copyTable(const QString& table);
     // Fills MotionROI and MotionSettings from the old table MDROI (region bitmap and sensitivity of a channel).
     void ConvertMDROI();
-    void updateTarget();
+    // Carries out work on either file and notes that the file failed, which ends the conversion.
+    template <class Work>
+    auto noting(Work&& work);
     // The target's row number `index` (from 0) becomes the one that is set, a new one behind the last.
     void placeTarget(qint64 index, qint64 targetRows);
     void report(const QString& table, qint64 row, qint64 rows);
@@ -37,5 +39,5 @@ private:
     Connection m_targetConnection;
     Recordset m_source;
     Recordset m_target;
-    bool m_targetFull = false; // the target can take no more
+    bool m_broken = false; // a file failed: the source gives, or the target takes, no more
 };

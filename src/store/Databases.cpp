@@ -2,51 +2,43 @@
 
 #include "app/log/Module_Log.h"
 #include "platform/AppPath.h"
-#include "platform/Clock.h"
 #include "platform/DatabaseFile.h"
 #include "store/Template.h"
-#include "support/TimeSeconds.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QLatin1String kInitialSource("Module_DB_Access - InitialDB");
+
 // The audit log has no backup and no template file: it is made anew where it is missing.
 void ProvideSystemLog(const QString& file)
 {
-    if (QFileInfo::exists(file)) {
-        Connection probe;
-        probe.setConnectionString(DatabaseConnectionString(file));
-        try {
-            probe.openAsIs();
-            return;
-        } catch (const StoreError& error) {
-            LogTrap(u"Module_DB_Access - InitialDB"_s, QString::fromUtf8(error.what()));
-        }
-        const QString aside =
-            StationPath(u"\\Database\\") + QString::number(TimeToSeconds(Now())) + u".SystemLog.mdb"_s;
-        RenameDatabase(file, aside);
-    }
-    CreateSystemLog(file);
+    const FileState state = ProbeDatabase(file);
+    if (state == FileState::Damaged)
+        LogTrap(kInitialSource, u"The audit log is damaged and kept as "_s + SetDatabaseAside(file));
+    if (state == FileState::Damaged || state == FileState::Missing)
+        CreateSystemLog(file);
 }
 
 } // namespace
 
 qint16 InitialDB(Databases& databases)
 {
-    const bool ok = Trapped("Module_DB_Access - InitialDB", [&] {
-        databases.DBRec = std::make_unique<Recordset>();
-        databases.LogRec = std::make_unique<Recordset>();
-        databases.DBConn = std::make_unique<Connection>();
-        databases.LogConn = std::make_unique<Connection>();
-        databases.DBConn->setConnectionString(DatabaseConnectionString(StationPath(kDatabaseFile)));
-        databases.LogConn->setConnectionString(DatabaseConnectionString(StationPath(kSystemLogFile)));
-        databases.DBConn->open();
-        ProvideSystemLog(StationPath(kSystemLogFile));
-        databases.LogConn->open();
-    });
+    databases.DBRec = std::make_unique<Recordset>();
+    databases.LogRec = std::make_unique<Recordset>();
+    databases.DBConn = std::make_unique<Connection>();
+    databases.LogConn = std::make_unique<Connection>();
+    databases.DBConn->setConnectionString(DatabaseConnectionString(StationPath(kDatabaseFile)));
+    databases.LogConn->setConnectionString(DatabaseConnectionString(StationPath(kSystemLogFile)));
+    const bool ok = Trapped(kInitialSource, [&] { databases.DBConn->open(); });
+    // An audit log that cannot be opened now is tried again with each of its lines.
+    if (ok) {
+        Trapped(kInitialSource, [&] {
+            ProvideSystemLog(StationPath(kSystemLogFile));
+            databases.LogConn->open();
+        });
+    }
     return ok ? 1 : 0;
 }
 

@@ -3,6 +3,7 @@
 #include "platform/Connection.h"
 #include "platform/Recordset.h"
 
+#include <QSet>
 #include <memory>
 
 // Database files relative to AppPath.
@@ -21,11 +22,12 @@ struct Databases
     std::unique_ptr<Recordset> DBRec;
     std::unique_ptr<Connection> LogConn;
     std::unique_ptr<Recordset> LogRec;
+    QSet<QString> unread; // tables whose last reading failed: what they hold is not known and not written over
 };
 
-// Creates the four objects and opens both files; 1 on success, 0 on failure (one log line). An audit log that is
-// missing is made anew; one that is no database is set aside under "<seconds>.SystemLog.mdb" first, so that it never
-// costs the configuration.
+// Creates the four objects and opens both files; 1 on success, 0 (and one log line) when the configuration cannot be
+// opened. An audit log that is missing is made anew; one that is known to be damaged is set aside first, under
+// "<seconds>.SystemLog.mdb". It never costs the configuration.
 qint16 InitialDB(Databases& databases);
 // Releases the four objects.
 void CloseDatabases(Databases& databases);

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <utility>
 #include <vector>
 
 // The fixed order in which marked families reach the database.
@@ -34,7 +35,7 @@ struct RecordFamily
     FamilyOrder order;
     int page;                       // 0 to 10
     std::function<bool()> isMarked; // any record of the edit copy carries its modification flag
-    std::function<void()> save;     // marked records: edit to stored, flags cleared, table written
+    std::function<bool()> save;     // marked records: edit to stored, flags cleared, table written; see SaveMarked
     std::function<void()> revert;   // stored to edit
 };
 
@@ -57,3 +58,22 @@ public:
 private:
     std::vector<RecordFamily> m_families;
 };
+
+inline constexpr auto kClearMark = [](auto& record) { record.bChanged = false; };
+
+// The save of a family whose generations are `stored` and `edit`; `clear` takes a record's mark away. `write` writes
+// the stored generation, which is the edit one by then. When that fails both are as before, so the change stays marked,
+// is asked about at the close and is tried again with the next save. True when it was written.
+template <class Records, class Write, class Clear = decltype(kClearMark)>
+bool SaveMarked(Records& stored, Records& edit, Write&& write, const Clear& clear = kClearMark)
+{
+    Records before = std::exchange(stored, edit);
+    for (auto& record : stored)
+        clear(record);
+    if (write() == 0) {
+        stored = std::move(before);
+        return false;
+    }
+    edit = stored;
+    return true;
+}

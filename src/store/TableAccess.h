@@ -20,11 +20,15 @@ public:
     {
         m_columns.reserve(N);
         for (const Column<Row>& column : columns) {
-            Trapped(source, [&] {
+            const bool found = Trapped(source, [&] {
                 m_columns.push_back({&column, recordset.fieldIndex(QString::fromLatin1(column.info.name))});
             });
+            m_complete = m_complete && found;
         }
     }
+
+    // The table has every column of the description.
+    bool complete() const { return m_complete; }
 
     // Reads the present row field by field: a value that is null or does not fit costs that field one log line.
     void read(Row& row)
@@ -55,4 +59,5 @@ private:
     Recordset& m_recordset;
     QLatin1String m_source;
     std::vector<Bound> m_columns;
+    bool m_complete = true;
 };

@@ -1,5 +1,6 @@
 #include "store/Template.h"
 
+#include "platform/AppPath.h"
 #include "platform/Connection.h"
 #include "platform/DatabaseFile.h"
 #include "store/SystemLog.h"
@@ -53,7 +54,7 @@ public:
         , m_half(file + u".new"_s)
     {
         QDir().mkpath(QFileInfo(file).absolutePath());
-        QFile::setPermissions(QFileInfo(file).absolutePath(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        OwnerOnly(QFileInfo(file).absolutePath());
         QFile::remove(m_half);
         m_database = QSqlDatabase::addDatabase(u"QSQLITE"_s, u"new database"_s);
         m_database.setDatabaseName(m_half);
@@ -90,7 +91,7 @@ public:
     {
         execute(u"COMMIT"_s);
         m_database.close();
-        QFile::setPermissions(m_half, QFile::ReadOwner | QFile::WriteOwner);
+        OwnerOnly(m_half);
         DeleteDatabase(m_file);
         if (!QFile::rename(m_half, m_file))
             throw StoreError(u"Cannot create '%1'"_s.arg(m_file));

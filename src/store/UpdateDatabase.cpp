@@ -2,36 +2,55 @@
 
 #include "app/log/Module_Log.h"
 #include "platform/AppPath.h"
-#include "platform/Clock.h"
 #include "platform/DatabaseFile.h"
 #include "store/DBConvert.h"
-#include "support/TimeSeconds.h"
-
-#include <QFileInfo>
+#include "store/DatabaseRepair.h"
+#include "store/Template.h"
+#include "support/Conversions.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr QLatin1String kSource("Module_DB_Access - UpdateDatabase");
-constexpr auto kConvertFile = u"\\Database\\Database_Convert.mdb";
+constexpr auto kWorkingFile = u"\\Database\\Database_Convert.mdb.new";
+constexpr int kLockMilliseconds = 200;
 
-// The name under which the old file is kept; two updates within a second keep two files.
-QString AsideFile()
+// Another start may be at the same update: it is waited for.
+void AcquireLock(ReplaceLock& lock, UpdateWatcher& watcher)
 {
-    for (qint64 seconds = TimeToSeconds(Now());; ++seconds) {
-        const QString file = StationPath(u"\\Database\\") + QString::number(seconds) + u".Database.mdb"_s;
-        if (!QFileInfo::exists(file))
-            return file;
+    while (!lock.acquire(kLockMilliseconds)) {
+        if (!lock.heldByAnother())
+            throw StoreError(u"The database is used as it is: its folder cannot be written"_s);
+        watcher.waiting();
     }
+}
+
+QString VersionOf(const QString& file)
+{
+    Connection connection;
+    connection.setConnectionString(DatabaseConnectionString(file));
+    connection.openAsIs();
+    Recordset rows;
+    rows.open(u"BasicDefault"_s, connection, CursorType::Static, LockType::ReadOnly, CommandType::Table);
+    rows.moveFirst();
+    return rows.fieldNames().contains(u"sDBVer"_s, Qt::CaseInsensitive) && !rows.eof()
+               ? TextField(rows.value(u"sDBVer"_s))
+               : QString();
 }
 
 void ReplaceDatabase(bool convert, UpdateWatcher& watcher)
 {
+    ReplaceLock lock;
+    AcquireLock(lock, watcher);
     const QString database = StationPath(kDatabaseFile);
-    const QString working = StationPath(kConvertFile);
+    const QString working = StationPath(kWorkingFile);
+    const QString converted = StationPath(kConvertFile);
+    if (VersionOf(database) == kDatabaseVersion)
+        return; // another start has just done it
     watcher.step();
-    DeleteDatabase(working); // what a broken-off update may have left
+    for (const QString& leftover : {working, converted})
+        DeleteDatabase(leftover); // of a broken-off update
     watcher.step();
     CopyDatabase(StationPath(kTemplateFile), working);
     watcher.step();
@@ -42,10 +61,13 @@ void ReplaceDatabase(bool convert, UpdateWatcher& watcher)
             throw StoreError(u"The database is used as it is: it could not be converted"_s);
         }
     }
+    // From here on the new file is known by its name to be whole: a start that finds no database takes it.
     watcher.step();
-    RenameDatabase(database, AsideFile());
+    RenameDatabase(working, converted);
     watcher.step();
-    RenameDatabase(working, database);
+    SetDatabaseAside(database);
+    watcher.step();
+    RenameDatabase(converted, database);
     watcher.step();
 }
 

@@ -10,6 +10,8 @@ public:
     virtual void begin() {}
     // Before each row that is carried over; numbers count from 1.
     virtual void row(const QString& /*table*/, qint64 /*row*/, qint64 /*rows*/) {}
+    // While another process carries out the same update, several times a second.
+    virtual void waiting() {}
     // Before each step that changes a file, and after the last.
     virtual void step() {}
     virtual void end() {}

@@ -4,6 +4,7 @@
 #include "support/Conversions.h"
 
 #include <QTimeZone>
+#include <algorithm>
 #include <limits>
 
 namespace {
@@ -35,5 +36,6 @@ qint32 GetZoneOffsetSeconds()
 
 qint32 TimeToUtcSeconds(const QDateTime& local)
 {
-    return Fit(local.toSecsSinceEpoch());
+    return static_cast<qint32>(std::clamp<qint64>(local.toSecsSinceEpoch(), std::numeric_limits<qint32>::min(),
+                                                  std::numeric_limits<qint32>::max()));
 }

@@ -1,5 +1,6 @@
 #include "tooling/SystemLogExport.h"
 
+#include "platform/AppPath.h"
 #include "platform/Clock.h"
 #include "platform/DatabaseFile.h"
 
@@ -61,6 +62,7 @@ public:
     {
         if (!m_file.open((m_appends ? QIODevice::Append : QIODevice::WriteOnly) | QIODevice::Unbuffered))
             fail();
+        OwnerOnly(m_file.fileName());
     }
     ~TextFile()
     {

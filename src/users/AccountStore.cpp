@@ -1,6 +1,5 @@
 #include "users/AccountStore.h"
 
-#include "store/TableAccess.h"
 #include "store/TableRows.h"
 #include "store/tables/Tables.h"
 
@@ -12,12 +11,8 @@ qint16 GetMyAccount(Databases& databases, std::vector<NVRAccountRecord>& account
 {
     constexpr QLatin1String source("Module_DB_Access - GetMyAccount");
     std::vector<NVRAccountRecord> found;
-    const qint16 result =
-        ReadRows(databases, u"NVRAccount"_s, u"Select * From NVRAccount"_s, source, [&](Recordset& rows) {
-            TableAccess<NVRAccountRecord> access(rows, NVRAccountColumns, source);
-            for (; !rows.eof(); rows.moveNext())
-                access.read(found.emplace_back());
-        });
+    const qint16 result = ReadTable(databases, u"NVRAccount"_s, u"Select * From NVRAccount"_s, NVRAccountColumns,
+                                    source, [&](NVRAccountRecord&& account) { found.push_back(std::move(account)); });
     if (found.empty())
         found.emplace_back();
     accounts = std::move(found);
@@ -27,23 +22,15 @@ qint16 GetMyAccount(Databases& databases, std::vector<NVRAccountRecord>& account
 qint16 SaveMyAccount(Databases& databases, const std::vector<NVRAccountRecord>& accounts)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveMyAccount");
-    const QString table = u"NVRAccount"_s;
-    const auto addRows = [&](Recordset& rows) {
-        TableAccess<NVRAccountRecord> access(rows, NVRAccountColumns, source);
-        for (std::size_t i = 0; i < accounts.size(); ++i) {
-            NVRAccountRecord account = accounts[i];
-            if (account.sUser.isEmpty() && account.sPass.isEmpty())
-                continue;
-            account.iIndex = static_cast<qint16>(i);
-            Trapped(source, [&] {
-                rows.addNew();
-                access.write(account);
-                rows.update();
-            });
-        }
-    };
-    return ReplaceRows(
-        databases, table, source, [&] { DeleteAllRows(databases, table); }, addRows);
+    return ReplaceTable(databases, u"NVRAccount"_s, u"Delete * From NVRAccount"_s, NVRAccountColumns, source,
+                        [&](auto&& add) {
+                            for (std::size_t i = 0; i < accounts.size(); ++i) {
+                                NVRAccountRecord account = accounts[i];
+                                account.iIndex = static_cast<qint16>(i);
+                                if (!account.sUser.isEmpty() || !account.sPass.isEmpty())
+                                    add(account);
+                            }
+                        });
 }
 
 bool HasAccount(const std::vector<NVRAccountRecord>& accounts, const QString& user, const QString& password)

@@ -6,7 +6,7 @@
 #include <vector>
 
 // Fills the logins that are tried on devices, in table order; one empty element when there is none. 1, or 0 when the
-// table cannot be opened.
+// table cannot be read: then it is not written over either.
 qint16 GetMyAccount(Databases& databases, std::vector<NVRAccountRecord>& accounts);
 // Replaces the table's rows by the accounts that have a user or a password; iIndex is the place in the list (from 0).
 qint16 SaveMyAccount(Databases& databases, const std::vector<NVRAccountRecord>& accounts);

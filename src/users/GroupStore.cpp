@@ -1,6 +1,5 @@
 #include "users/GroupStore.h"
 
-#include "store/TableAccess.h"
 #include "store/TableRows.h"
 #include "store/tables/Tables.h"
 
@@ -8,87 +7,52 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-// Opens the table's whole selection and hands it to `eachRow`.
-template <class EachRow>
-qint16 ReadAll(Databases& databases, const QString& table, QLatin1String source, EachRow&& eachRow)
+GroupSet::GroupSet()
 {
-    return ReadRows(databases, table, u"Select * From "_s + table, source, std::forward<EachRow>(eachRow));
+    for (std::size_t i = 0; i < stored.size(); ++i)
+        stored[i].GroupID = static_cast<qint16>(i + 1);
+    edit = stored;
 }
-
-// Deletes every row, then lets `addRows` write the new ones.
-template <class AddRows>
-qint16 ReplaceAll(Databases& databases, const QString& table, QLatin1String source, AddRows&& addRows)
-{
-    return ReplaceRows(
-        databases, table, source, [&] { DeleteAllRows(databases, table); }, std::forward<AddRows>(addRows));
-}
-
-} // namespace
 
 qint16 GetGroupPrivilege(Databases& databases, GroupSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetGroupPrivilege");
-    return ReadAll(databases, u"GroupPrivilege"_s, source, [&](Recordset& rows) {
-        TableAccess<GroupPrivilegeRecord> access(rows, GroupPrivilegeColumns, source);
-        for (; !rows.eof(); rows.moveNext()) {
-            Trapped(source, [&] {
-                GroupPrivilegeRecord& record = At(set.stored, Int16Field(rows.value(u"GroupID"_s)) - 1);
-                access.read(record);
-                record.bChanged = false;
-            });
-        }
-    });
+    return ReadTable(databases, u"GroupPrivilege"_s, u"Select * From GroupPrivilege"_s, GroupPrivilegeColumns, source,
+                     [&](GroupPrivilegeRecord&& row) {
+                         GroupPrivilegeRecord& record = At(set.stored, row.GroupID - 1);
+                         row.CHPrivilege = std::move(record.CHPrivilege);
+                         record = std::move(row);
+                     });
 }
 
 qint16 GetNVRPrivilege(Databases& databases, GroupSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetNVRPrivilege");
-    return ReadAll(databases, u"NVRPrivilege"_s, source, [&](Recordset& rows) {
-        TableAccess<NVRPrivilegeRow> access(rows, NVRPrivilegeColumns, source);
-        for (; !rows.eof(); rows.moveNext()) {
-            Trapped(source, [&] {
-                NVRPrivilegeRow row;
-                access.read(row);
-                At(At(set.stored, row.GroupID - 1).CHPrivilege, row.NVRID - 1) = row.CHPrivilege;
-            });
-        }
-    });
+    return ReadTable(databases, u"NVRPrivilege"_s, u"Select * From NVRPrivilege"_s, NVRPrivilegeColumns, source,
+                     [&](NVRPrivilegeRow&& row) {
+                         At(At(set.stored, row.GroupID - 1).CHPrivilege, row.NVRID - 1) = row.CHPrivilege;
+                     });
 }
 
 qint16 SaveGroupPrivilege(Databases& databases, const GroupSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveGroupPrivilege");
-    return ReplaceAll(databases, u"GroupPrivilege"_s, source, [&](Recordset& rows) {
-        TableAccess<GroupPrivilegeRecord> access(rows, GroupPrivilegeColumns, source);
-        for (const GroupPrivilegeRecord& record : set.stored) {
-            Trapped(source, [&] {
-                rows.addNew();
-                access.write(record);
-                rows.update();
-            });
-        }
-    });
+    return ReplaceTable(databases, u"GroupPrivilege"_s, u"Delete * From GroupPrivilege"_s, GroupPrivilegeColumns,
+                        source, [&](auto&& add) { std::for_each(set.stored.begin(), set.stored.end(), add); });
 }
 
 qint16 SaveNVRPrivilege(Databases& databases, const GroupSet& set, const SlotInUse& inUse)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveNVRPrivilege");
-    return ReplaceAll(databases, u"NVRPrivilege"_s, source, [&](Recordset& rows) {
-        TableAccess<NVRPrivilegeRow> access(rows, NVRPrivilegeColumns, source);
-        for (int group = 0; group < kGroups; ++group) {
-            for (int slot = 0; slot < kMaxSVR; ++slot) {
-                if (!inUse(slot))
-                    continue;
-                Trapped(source, [&] {
-                    rows.addNew();
-                    access.write({group + 1, slot + 1, At(At(set.stored, group).CHPrivilege, slot)});
-                    rows.update();
-                });
-            }
-        }
-    });
+    return ReplaceTable(databases, u"NVRPrivilege"_s, u"Delete * From NVRPrivilege"_s, NVRPrivilegeColumns, source,
+                        [&](auto&& add) {
+                            for (int group = 0; group < kGroups; ++group) {
+                                for (int slot = 0; slot < kMaxSVR; ++slot) {
+                                    if (inUse(slot))
+                                        add({group + 1, slot + 1, At(At(set.stored, group).CHPrivilege, slot)});
+                                }
+                            }
+                        });
 }
 
 void GrantNewRecorder(GroupSet& set, int slot)
@@ -108,11 +72,12 @@ RecordFamily GroupFamily(Databases& databases, GroupSet& set, SlotInUse inUse)
                                    [](const GroupPrivilegeRecord& record) { return record.bChanged; });
             },
             [&databases, &set, inUse = std::move(inUse)] {
-                for (GroupPrivilegeRecord& record : set.edit)
-                    record.bChanged = false;
-                set.stored = set.edit;
-                SaveGroupPrivilege(databases, set);
-                SaveNVRPrivilege(databases, set, inUse);
+                return SaveMarked(set.stored, set.edit, [&] {
+                    return AsOneStep(databases, "Module_DB_Access - SaveGroupPrivilege"_L1, [&]() -> qint16 {
+                        return SaveGroupPrivilege(databases, set) == 1 ? SaveNVRPrivilege(databases, set, inUse)
+                                                                       : qint16(0);
+                    });
+                });
             },
             [&set] { set.edit = set.stored; }};
 }

@@ -8,6 +8,8 @@
 
 struct GroupSet
 {
+    GroupSet(); // numbers the groups: a row that cannot be read keeps its number
+
     std::array<GroupPrivilegeRecord, kGroups> stored;
     std::array<GroupPrivilegeRecord, kGroups> edit;
 };
@@ -15,7 +17,8 @@ struct GroupSet
 // Which recorder slots (from 0) are in use: their rights texts are written.
 using SlotInUse = std::function<bool(int slot)>;
 
-// All answer 1, or 0 when the table cannot be opened. A row whose ids are out of range costs one log line.
+// All answer 1, or 0 when the table cannot be read to its end or not be written. A row whose ids are out of range costs
+// one log line.
 qint16 GetGroupPrivilege(Databases& databases, GroupSet& set);
 qint16 GetNVRPrivilege(Databases& databases, GroupSet& set);
 qint16 SaveGroupPrivilege(Databases& databases, const GroupSet& set);

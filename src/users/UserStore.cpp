@@ -1,6 +1,6 @@
 #include "users/UserStore.h"
 
-#include "store/TableAccess.h"
+#include "store/TableRows.h"
 #include "store/records/ScreenRecords.h"
 #include "store/tables/Tables.h"
 
@@ -19,21 +19,19 @@ bool Names(const std::vector<UserRecord>& users, const QString& name)
            std::any_of(users.begin(), users.end(), [&](const UserRecord& user) { return user.sUser == name; });
 }
 
-void DeleteOrphans(Databases& databases, const UserSet& set, const QString& table, QLatin1String source)
+// Deletes the rows of a table whose owner is no stored user.
+void DeleteOrphans(Databases& databases, const UserSet& set, const QString& table)
 {
-    if (OpenRecset(databases, table) == 0)
-        return;
-    Trapped(source, [&] {
-        Recordset& rows = *databases.DBRec;
-        const int owner = rows.fieldIndex(u"sOwner"_s);
-        while (!rows.eof()) {
-            if (Names(set.stored, TextField(rows.value(owner))))
-                rows.moveNext();
-            else
-                rows.deleteRow();
-        }
-    });
-    Trapped(source, [&] { databases.DBRec->close(); });
+    OpenStatement(databases, u"Select * From "_s + table, LockType::Optimistic);
+    Recordset& rows = *databases.DBRec;
+    const int owner = rows.fieldIndex(u"sOwner"_s);
+    while (!rows.eof()) {
+        if (Names(set.stored, TextField(rows.value(owner))))
+            rows.moveNext();
+        else
+            rows.deleteRow();
+    }
+    rows.close();
 }
 
 DefaultStartTableRow FirstStart(const QString& owner, int monitors)
@@ -52,95 +50,68 @@ DefaultStartTableRow FirstStart(const QString& owner, int monitors)
 qint16 GetUser(Databases& databases, UserSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetUser");
-    set.stored.assign(1, {});
-    set.AdminCount = 0;
-    bool ok = OpenRecset(databases, u"UserData"_s) == 1;
-    if (ok) {
-        ok = Trapped(source, [&] {
-            Recordset& rows = *databases.DBRec;
-            const qint64 count = rows.recordCount();
-            if (count > 0)
-                set.stored.assign(static_cast<std::size_t>(count), {});
-            TableAccess<UserRecord> access(rows, UserColumns, source);
-            for (qint64 i = 0; i < count; ++i) {
-                rows.moveFirst();
-                rows.move(i);
-                UserRecord& user = At(set.stored, i);
-                // A group that cannot be read must not make an administrator.
-                user.iGroup = -1;
-                access.read(user);
-                if (user.iGroup == 0)
-                    ++set.AdminCount;
-                Trapped(source, [&] {
-                    if (user.iGroup < 0 || user.iGroup >= kGroups)
-                        throw StoreError(u"User '%1' is in no group: %2"_s.arg(user.sUser).arg(user.iGroup));
-                });
-            }
-        });
-        Trapped(source, [&] { databases.DBRec->close(); });
-    }
+    std::vector<UserRecord> users;
+    qint32 admins = 0;
+    UserRecord fresh;
+    fresh.iGroup = -1; // a group that cannot be read must not make an administrator
+    const auto take = [&](UserRecord&& row) {
+        const UserRecord& user = users.emplace_back(std::move(row));
+        if (user.iGroup == 0)
+            ++admins;
+        if (user.iGroup < 0 || user.iGroup >= kGroups)
+            throw StoreError(u"User '%1' is in no group: %2"_s.arg(user.sUser).arg(user.iGroup));
+    };
+    set.read = ReadTable(databases, u"UserData"_s, u"Select * From UserData"_s, UserColumns, source, take, fresh) == 1;
+    if (!set.read)
+        return 0;
+    if (users.empty())
+        users.emplace_back();
+    set.stored = std::move(users);
+    set.AdminCount = admins;
     set.edit.resize(set.stored.size());
-    return ok ? 1 : 0;
+    return 1;
 }
 
 qint16 DELUser(Databases& databases, const UserSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - DELUser");
-    bool ok = OpenRecset(databases, u"UserData"_s) == 1;
-    if (ok) {
-        ok = Trapped(source, [&] {
-            for (databases.DBRec->moveFirst(); !databases.DBRec->eof();)
-                databases.DBRec->deleteRow();
-        });
-        Trapped(source, [&] { databases.DBRec->close(); });
-    }
-    DeleteOrphans(databases, set, u"DefaultStart"_s, source);
-    DeleteOrphans(databases, set, u"Pattern"_s, source);
-    return ok ? 1 : 0;
+    return AsOneStep(databases, source, [&]() -> qint16 {
+        if (ReplaceRows(databases, u"UserData"_s, u"Delete * From UserData"_s, source, [](Recordset&) {}) == 0)
+            return 0;
+        DeleteOrphans(databases, set, u"DefaultStart"_s);
+        DeleteOrphans(databases, set, u"Pattern"_s);
+        return 1;
+    });
 }
 
 qint16 SaveUser(Databases& databases, const UserSet& set, int monitors)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveUser");
-    bool ok = OpenRecset(databases, u"UserData"_s) == 1;
-    if (ok) {
-        ok = Trapped(source, [&] {
-            TableAccess<UserRecord> access(*databases.DBRec, UserColumns, source);
+    return AsOneStep(databases, source, [&]() -> qint16 {
+        if (OpenRecset(databases, u"UserData"_s) == 0)
+            return 0;
+        AddRows(*databases.DBRec, UserColumns, source, [&](auto&& add) {
             for (const UserRecord& user : set.stored) {
-                if (user.sUser.isEmpty())
-                    continue;
-                Trapped(source, [&] {
-                    databases.DBRec->addNew();
-                    access.write(user);
-                    databases.DBRec->update();
-                });
+                if (!user.sUser.isEmpty())
+                    add(user);
             }
         });
-        Trapped(source, [&] { databases.DBRec->close(); });
-    }
-    if (OpenRecset(databases, u"DefaultStart"_s) == 0)
-        return 0;
-    ok = Trapped(source,
-                 [&] {
-                     Recordset& rows = *databases.DBRec;
-                     QSet<QString> owners;
-                     for (; !rows.eof(); rows.moveNext())
-                         owners << TextField(rows.value(u"sOwner"_s));
-                     TableAccess<DefaultStartTableRow> access(rows, DefaultStartColumns, source);
-                     for (const UserRecord& user : set.stored) {
-                         if (user.sUser.isEmpty() || owners.contains(user.sUser))
-                             continue;
-                         owners << user.sUser;
-                         Trapped(source, [&] {
-                             rows.addNew();
-                             access.write(FirstStart(user.sUser, monitors));
-                             rows.update();
-                         });
-                     }
-                 }) &&
-         ok;
-    Trapped(source, [&] { databases.DBRec->close(); });
-    return ok ? 1 : 0;
+        if (OpenRecset(databases, u"DefaultStart"_s) == 0)
+            return 0;
+        Recordset& rows = *databases.DBRec;
+        QSet<QString> owners{QString()};
+        for (; !rows.eof(); rows.moveNext())
+            owners << TextField(rows.value(u"sOwner"_s));
+        AddRows(rows, DefaultStartColumns, source, [&](auto&& add) {
+            for (const UserRecord& user : set.stored) {
+                if (!owners.contains(user.sUser))
+                    add(FirstStart(user.sUser, monitors));
+                owners << user.sUser;
+            }
+        });
+        rows.close();
+        return 1;
+    });
 }
 
 LoginResult CheckLogin(const std::vector<UserRecord>& users, const QString& name, const QString& password,
@@ -155,6 +126,12 @@ LoginResult CheckLogin(const std::vector<UserRecord>& users, const QString& name
         return LoginResult::Ok;
     }
     return LoginResult::Unknown;
+}
+
+bool IsFreshStation(const UserSet& set)
+{
+    return set.read && std::all_of(set.stored.begin(), set.stored.end(),
+                                   [](const UserRecord& user) { return user.sUser.isEmpty(); });
 }
 
 bool IsListedUser(const UserRecord& user)
@@ -223,11 +200,11 @@ RecordFamily UserFamily(Databases& databases, UserSet& set, std::function<int()>
                                    [](const UserRecord& user) { return user.bChanged; });
             },
             [&databases, &set, monitors = std::move(monitors)] {
-                for (UserRecord& user : set.edit)
-                    user.bChanged = false;
-                set.stored = set.edit;
-                DELUser(databases, set);
-                SaveUser(databases, set, monitors());
+                return SaveMarked(set.stored, set.edit, [&] {
+                    return AsOneStep(databases, "Module_DB_Access - SaveUser"_L1, [&]() -> qint16 {
+                        return DELUser(databases, set) == 1 ? SaveUser(databases, set, monitors()) : qint16(0);
+                    });
+                });
             },
             [&set] { set.edit = set.stored; }};
 }

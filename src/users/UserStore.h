@@ -14,6 +14,7 @@ struct UserSet
 {
     std::vector<UserRecord> stored{{}};
     std::vector<UserRecord> edit{{}};
+    bool read = false;                // the table was read: without that nobody is known, and nobody is let in
     qint32 AdminCount = 0;            // users in group 0
     quint16 EditUserIndex = kNewUser; // slot being edited
 };
@@ -39,8 +40,9 @@ enum class LoginResult
     Unknown
 };
 
-// Reads the table into the stored generation and sizes the other one. 1, or 0 when it cannot be opened; a value that
-// does not fit, or a group outside 0 to 6, costs one log line and the rest of the row is kept.
+// Reads the table into the stored generation and sizes the other one. 1, or 0 with the generations as they were when it
+// cannot be read to its end; a value that does not fit, or a group outside 0 to 6, costs one log line and the rest of
+// the row is kept.
 qint16 GetUser(Databases& databases, UserSet& set);
 // Deletes all rows of users, then the rows of DefaultStart and Pattern whose owner is no stored user.
 qint16 DELUser(Databases& databases, const UserSet& set);
@@ -51,6 +53,9 @@ qint16 SaveUser(Databases& databases, const UserSet& set, int monitors);
 // Both comparisons are exact; `index` becomes the user's slot when the answer is Ok.
 LoginResult CheckLogin(const std::vector<UserRecord>& users, const QString& name, const QString& password,
                        quint32& index);
+
+// A station that was read and holds no named user: the first one is made without a login.
+bool IsFreshStation(const UserSet& set);
 
 // All work on the edit generation.
 bool IsListedUser(const UserRecord& user); // has a name other than "Empty"

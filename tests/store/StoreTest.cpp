@@ -35,6 +35,7 @@ TEST_F(StoreTest, OpensNothingThatIsNoDatabaseAndCreatesNothing)
         connection.setConnectionString(DatabaseConnectionString(file));
         EXPECT_THROW(connection.open(), StoreError) << name;
         EXPECT_FALSE(connection.isOpen());
+        EXPECT_EQ(ProbeDatabase(file), FileState::Damaged) << name;
     }
     QFile::remove(file);
     Connection connection;
@@ -70,6 +71,8 @@ TEST_F(StoreTest, RowsArePositionedChangedAddedAndDeleted)
     rows.move(100);
     EXPECT_TRUE(rows.eof());
     EXPECT_THROW(rows.value(u"Name"_s), StoreError);
+    EXPECT_THROW(rows.setValue(u"Name"_s, u"nowhere"_s), StoreError);
+    EXPECT_NO_THROW(rows.update()) << "nothing is under way after the refusal";
 
     OpenStatement(databases, u"Select * From GroupPrivilege Where Name=? "_s, LockType::ReadOnly,
                   {u"Gate's \"crew\""_s});
@@ -121,9 +124,11 @@ TEST_F(StoreTest, CopiesAreConsistentWhileAnotherHoldsTheFileAndCompanionsNeverM
     open();
     execute(u"INSERT INTO UserData (sUser) VALUES ('held')"_s); // still in the write-ahead log
     const QString copy = path(kBackup1File);
-    write(copy + u"-wal"_s, "stale");
+    for (const QString& ending : {u"-wal"_s, u"-journal"_s})
+        write(copy + ending, "stale");
     CopyDatabase(path(kDatabaseFile), copy);
     EXPECT_FALSE(QFile::exists(copy + u"-wal"_s));
+    EXPECT_FALSE(QFile::exists(copy + u"-journal"_s));
     Connection connection;
     connection.setConnectionString(DatabaseConnectionString(copy));
     connection.openAsIs();

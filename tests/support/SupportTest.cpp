@@ -34,7 +34,9 @@ TEST(Times, StampsAreWallClockSecondsAndAuditStampsAreUtc)
     EXPECT_EQ(TimeToSeconds(local), 1795521600);
     EXPECT_EQ(SecondsToTime(1795521600), local);
     EXPECT_EQ(TimeToUtcSeconds(local), 1795521600 - local.offsetFromUtc());
-    EXPECT_THROW(TimeToSeconds(QDateTime(QDate(2039, 1, 1), QTime(0, 0))), ConversionError);
+    const QDateTime late(QDate(2039, 1, 1), QTime(0, 0));
+    EXPECT_THROW(TimeToSeconds(late), ConversionError);
+    EXPECT_EQ(TimeToUtcSeconds(late), 2147483647);
 }
 
 TEST(Waiting, EndsOnTheReplyOnTimeOutAndOnClosing)

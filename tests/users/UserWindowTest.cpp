@@ -154,13 +154,20 @@ TEST_F(UserWindowTest, LoginLeadsToWhatTheGroupMayDo)
 TEST_F(UserWindowTest, GivingUpTheLoginEndsTheProgram)
 {
     execute(u"INSERT INTO UserData (sUser,sPSWD,iGroup) VALUES ('chief','s',0)"_s);
-    step(u"imgBtn_Exit"_s, [] { Driver::click(u"imgBtn_Exit"_s); });
+    execute(u"ALTER TABLE UserData RENAME COLUMN sUser TO gone"_s); // nobody is known: nobody gets in
+    step(u"imgBtn_Exit"_s, [] {
+        Driver::type(u"txtLogin_0"_s, u"chief"_s);
+        Driver::type(u"txtLogin_1"_s, u"s"_s);
+        Driver::click(u"imgBtn_OK"_s);
+        Driver::click(u"imgBtn_Exit"_s);
+    });
     driver.add(
         u"gone"_s, [] { return !Driver::find(u"Form_Login"_s); }, [] {});
     bool started = true;
     QTimer::singleShot(0, &driver, [&] { started = start(); });
     driver.run(10000);
     EXPECT_FALSE(started);
+    EXPECT_EQ(boxes, QStringList(GetLangString(982)));
     EXPECT_FALSE(station->LoginOk);
     EXPECT_TRUE(Closing());
 }
@@ -169,8 +176,13 @@ TEST_F(UserWindowTest, TheLastAdministratorStaysAndOthersGo)
 {
     execute(u"INSERT INTO UserData (sUser,sPSWD,iGroup,sPhoto) VALUES ('','',0,''),('chief','s',0,'gone.png'),"
             "('night','n',3,'')"_s);
-    ASSERT_TRUE(start());
     answers = {MsgResult::Ok, MsgResult::No, MsgResult::Yes};
+    step(u"txtLogin_0"_s, [] { // a first row without a name is no fresh station
+        Driver::type(u"txtLogin_0"_s, u"chief"_s);
+        Driver::type(u"txtLogin_1"_s, u"s"_s);
+        Driver::click(u"imgBtn_OK"_s);
+    });
+    QTimer::singleShot(0, &driver, [&] { start(); });
     step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
     step(u"Grid_UsersList"_s, [] {
         Driver::picture(u"page"_s);

@@ -55,8 +55,11 @@ QString RollingName(const QString& folder, const QString& stem)
 bool AppendLine(const QString& path, const QString& line)
 {
     QFile file(path);
+    const bool fresh = !file.exists();
     if (!file.open(QIODevice::WriteOnly | QIODevice::Append))
         return false;
+    if (fresh)
+        OwnerOnly(path);
     const QByteArray bytes = line.toUtf8() + "\r\n";
     return file.write(bytes) == bytes.size();
 }

@@ -95,6 +95,7 @@ bool Form_Initial::Form_Load()
         return false;
     }
     SettleCurrentGroup(m_station);
+    CheckRecords(m_station);
     updateHeader();
     showFirstUserNotice();
     m_systemPage->SystemControl_Frame_Set();
@@ -115,13 +116,16 @@ bool Form_Initial::Form_Load()
     return true;
 }
 
-// Nobody is asked on a station whose first user has no name: everyone is the unnamed administrator there.
+// Nobody is asked on a fresh station: everyone is the unnamed administrator there. Where the users could not be read
+// the login stands and refuses everybody.
 bool Form_Initial::login()
 {
-    const std::vector<UserRecord>& users = m_station.users.stored;
-    if (users.empty() || users.front().sUser.isEmpty())
+    const UserSet& users = m_station.users;
+    if (IsFreshStation(users))
         return true;
-    Form_Login form(users);
+    Form_Login form(users.stored);
+    if (!users.read)
+        form.refuse(GetLangString(982));
     if (form.exec() != QDialog::Accepted)
         return false;
     m_station.CurrentUserIndex = form.CurrentUserIndex();

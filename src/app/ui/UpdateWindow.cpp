@@ -43,6 +43,11 @@ void UpdateWindow::row(const QString& table, qint64 row, qint64 rows)
     m_painted.start();
 }
 
+void UpdateWindow::waiting()
+{
+    Paint();
+}
+
 void UpdateWindow::end()
 {
     m_window.reset();

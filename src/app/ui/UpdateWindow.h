@@ -16,6 +16,7 @@ public:
 
     void begin() override;
     void row(const QString& table, qint64 row, qint64 rows) override;
+    void waiting() override;
     void end() override;
 
 private:

@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kSource("Form_CameraSetting - cmbeditCam_Click");
+constexpr qsizetype kLoggedReply = 200; // characters
 
 enum Message
 {
@@ -32,8 +33,7 @@ int ResultOf(const QString& reply)
 
 RecorderOutcome RefusedWrite(const QString& reply)
 {
-    // Not the reply itself: a recorder may repeat the camera's password in it.
-    LogTrap(kSource, u"Recorder refused with result %1 in %2 characters"_s.arg(ResultOf(reply)).arg(reply.size()));
+    LogTrap(kSource, u"Recorder answered '%1'"_s.arg(reply.left(kLoggedReply).simplified()));
     return RecorderOutcome::Failed(kDetectFault);
 }
 

@@ -1,6 +1,6 @@
 #include "recorders/data/SVRStore.h"
 
-#include "store/TableAccess.h"
+#include "store/TableRows.h"
 #include "store/tables/SVRTable.h"
 
 #include <algorithm>
@@ -48,22 +48,14 @@ void ReadRow(Recordset& rows, SVRAccess& access, int numberField, int channelFie
 
 qint16 SaveMySVR(Databases& databases, RecorderSet& set, int slot)
 {
-    const bool deleted = Trapped(kSaveSource, [&] {
-        At(set.SVRList, slot);
-        OpenStatement(databases, u"Delete * From SVR Where iSVR_Num="_s + QString::number(slot + 1),
-                      LockType::Optimistic);
-    });
-    // With the old rows still there, new ones would stand beside them.
-    if (!deleted || OpenRecset(databases, u"SVR"_s) == 0)
-        return 0;
-    const bool ok = Trapped(kSaveSource, [&] {
-        Recordset& rows = *databases.DBRec;
+    const QString deleteRows = u"Delete * From SVR Where iSVR_Num="_s + QString::number(slot + 1);
+    return ReplaceRows(databases, u"SVR"_s, deleteRows, kSaveSource, [&](Recordset& rows) {
         SVRRecord& record = At(set.SVRList, slot);
         SVRAccess access(rows, kSaveSource);
         for (int channel = 0; channel < record.iSVR_Maxchannel; ++channel) {
             if (At(record.channels, channel).sSub_CH_IP.isEmpty())
                 continue;
-            Trapped(kSaveSource, [&] {
+            SaveRow(kSaveSource, [&] {
                 const SVRRow row{&record, &At(set.SVRProList, slot), channel};
                 rows.addNew();
                 access.base.write(row);
@@ -74,31 +66,21 @@ qint16 SaveMySVR(Databases& databases, RecorderSet& set, int slot)
             });
         }
     });
-    Trapped(kSaveSource, [&] { databases.DBRec->close(); });
-    return ok ? 1 : 0;
 }
 
-void GetSVREx(Databases& databases, RecorderSet& set)
+qint16 GetSVREx(Databases& databases, RecorderSet& set)
 {
-    if (OpenRecset(databases, u"SVR"_s) == 0)
-        return;
-    const bool read = Trapped(kGetSource, [&] {
-        Recordset& rows = *databases.DBRec;
-        const qint64 count = rows.recordCount();
-        if (count == 0)
-            return;
+    const qint16 read = ReadRows(databases, u"SVR"_s, u"Select * From SVR"_s, kGetSource, [&](Recordset& rows) {
         SVRAccess access(rows, kGetSource);
         const int numberField = rows.fieldIndex(u"iSVR_Num"_s);
         const int channelField = rows.fieldIndex(u"iSub_Channel"_s);
-        for (qint64 i = 0; i < count; ++i) {
-            rows.moveFirst();
-            rows.move(i);
+        for (; !rows.eof(); rows.moveNext())
             ReadRow(rows, access, numberField, channelField, set);
-        }
+        if (!access.base.complete() || !access.pro.complete() || !access.presets.complete())
+            throw StoreError(u"SVR lacks a column"_s);
     });
-    Trapped(kGetSource, [&] { databases.DBRec->close(); });
-    if (!read)
-        return;
+    if (read == 0)
+        return 0;
 
     Trapped(kGetSource, [&] {
         for (int slot = 0; slot < kMaxSVR; ++slot) {
@@ -114,7 +96,49 @@ void GetSVREx(Databases& databases, RecorderSet& set)
                 set.iSVR_MaxChannelAll = qMax(set.iSVR_MaxChannelAll, record.iSVR_Maxchannel);
         }
     });
+    return 1;
 }
+
+namespace {
+
+// One step for all marked slots. When it fails the stored generation is as before and the marks stay.
+bool SaveMarkedSlots(Databases& databases, RecorderSet& set)
+{
+    struct Before
+    {
+        int slot;
+        SVRRecord svr;
+        SVRProRecord pro;
+    };
+    std::vector<Before> before;
+    const qint16 saved = AsOneStep(databases, kSaveSource, [&]() -> qint16 {
+        for (int slot = 0; slot < kMaxSVR; ++slot) {
+            const SVRRecord& work = At(set.SVRWorkList, slot);
+            if (!work.bSVR_Changed)
+                continue;
+            SVRRecord& stored = At(set.SVRList, slot);
+            before.push_back({slot, std::exchange(stored, work),
+                              std::exchange(At(set.SVRProList, slot), At(set.SVRProWorkList, slot))});
+            stored.bSVR_ConnChanged = false;
+            stored.bSVR_Changed = false;
+            if (SaveMySVR(databases, set, slot) == 0)
+                return 0;
+        }
+        return 1;
+    });
+    for (Before& kept : before) {
+        if (saved == 1) {
+            At(set.SVRWorkList, kept.slot).bSVR_ConnChanged = false;
+            At(set.SVRWorkList, kept.slot).bSVR_Changed = false;
+        } else {
+            At(set.SVRList, kept.slot) = std::move(kept.svr);
+            At(set.SVRProList, kept.slot) = std::move(kept.pro);
+        }
+    }
+    return saved == 1;
+}
+
+} // namespace
 
 RecordFamily SVRFamily(Databases& databases, RecorderSet& set)
 {
@@ -123,18 +147,7 @@ RecordFamily SVRFamily(Databases& databases, RecorderSet& set)
                 return std::any_of(set.SVRWorkList.begin(), set.SVRWorkList.end(),
                                    [](const SVRRecord& record) { return record.bSVR_Changed; });
             },
-            [&databases, &set] {
-                for (int slot = 0; slot < kMaxSVR; ++slot) {
-                    SVRRecord& work = At(set.SVRWorkList, slot);
-                    if (!work.bSVR_Changed)
-                        continue;
-                    work.bSVR_ConnChanged = false;
-                    work.bSVR_Changed = false;
-                    At(set.SVRList, slot) = work;
-                    At(set.SVRProList, slot) = At(set.SVRProWorkList, slot);
-                    SaveMySVR(databases, set, slot);
-                }
-            },
+            [&databases, &set] { return SaveMarkedSlots(databases, set); },
             [&set] {
                 set.SVRWorkList = set.SVRList;
                 set.SVRProWorkList = set.SVRProList;

@@ -9,6 +9,7 @@
 qint16 SaveMySVR(Databases& databases, RecorderSet& set, int slot);
 // Fills the stored generation and iSVR_MaxChannelAll, and gives the working generation's channels without a camera the
 // values of the empty channel. A slot or channel outside the bounds ends the load with a log line; rows read stay.
-void GetSVREx(Databases& databases, RecorderSet& set);
+// 1, or 0 when the table could not be read to its end: then it is not written over either.
+qint16 GetSVREx(Databases& databases, RecorderSet& set);
 
 RecordFamily SVRFamily(Databases& databases, RecorderSet& set);

@@ -73,6 +73,11 @@ Form_Login::Form_Login(const std::vector<UserRecord>& users, QWidget* parent)
     m_name->setFocus();
 }
 
+void Form_Login::refuse(const QString& reason)
+{
+    m_refusal = reason;
+}
+
 void Form_Login::UpdatingLogo()
 {
     const QPixmap picture(StationPath(u"\\Images\\Yvx_icon.gif"));
@@ -143,6 +148,10 @@ bool Form_Login::bIsUser()
 {
     bool found = false;
     Trapped("Form_Login - bIsUser", [&] {
+        if (!m_refusal.isEmpty()) {
+            MsgBox(m_refusal, InfoBoxStyle(), GetLangString(570));
+            return;
+        }
         const LoginResult result = CheckLogin(m_users, m_name->text(), m_password->text(), m_index);
         found = result == LoginResult::Ok;
         if (found)

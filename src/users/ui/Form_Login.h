@@ -18,6 +18,8 @@ public:
     bool bIsUser();
     quint32 CurrentUserIndex() const { return m_index; }
     QString userName() const;
+    // Lets nobody in from now on; `reason` is what each attempt is told.
+    void refuse(const QString& reason);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -35,4 +37,5 @@ private:
     QPushButton* m_ok;
     QPushButton* m_exit;
     quint32 m_index = 65535;
+    QString m_refusal;
 };
