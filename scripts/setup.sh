@@ -3,7 +3,7 @@ desk_packages=(
     build-essential ccache clang-format cmake git ninja-build pkg-config
     qt6-base-dev qt6-multimedia-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
     qt6-translations-l10n
-    libqt6sql6-sqlite libpugixml-dev libcurl4-openssl-dev libsqlite3-dev sqlite3
+    libqt6sql6-sqlite libpugixml-dev libcurl4-openssl-dev libsqlite3-dev qcoro-qt6-dev sqlite3
     libgl-dev libgtest-dev libgmock-dev xauth xvfb
     fonts-dejavu-core fonts-noto-cjk fonts-noto-core fonts-noto-mono
 )

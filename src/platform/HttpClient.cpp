@@ -1,9 +1,12 @@
 #include "platform/HttpClient.h"
 
+#include "platform/HttpDigest.h"
+
 #include <QDeadlineTimer>
+#include <QHash>
 #include <QObject>
 #include <QPointer>
-#include <QSet>
+#include <QRandomGenerator>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <QUrl>
@@ -43,8 +46,7 @@ QByteArray UrlHost(const QString& address)
     return ascii;
 }
 
-// The target in the form that the library's URL parser takes whole. It serves Digest only; the request line carries
-// the target itself.
+// The target in a form that the library's URL parser takes; the request line carries the target itself.
 QByteArray UrlTarget(const QByteArray& target)
 {
     QByteArray url;
@@ -87,9 +89,11 @@ struct Transfer
     HttpReply reply;
     QByteArray host;
     CURL* easy = nullptr;
+    curl_slist* fields = nullptr; // header fields of its own
     QDeadlineTimer deadline;
-    bool digest = false;
-    bool switched = false; // the other way of authentication has been tried
+    QList<QByteArray> challenges; // values of WWW-Authenticate
+    QByteArray nonce;             // answered by this request; empty: no Digest
+    bool again = false;           // sent a second time, with another authentication
     bool tooLarge = false;
     qsizetype headerBytes = 0;
     bool headerEnded = false; // the empty line of the present header has come
@@ -121,10 +125,16 @@ std::size_t TakeHeader(char* data, std::size_t size, std::size_t count, void* us
         return 0;
     }
     const QByteArrayView line(data, static_cast<qsizetype>(size * count));
-    if (line.startsWith("HTTP/"))
+    constexpr QByteArrayView challenge("www-authenticate:");
+    if (line.startsWith("HTTP/")) {
         transfer.headerEnded = false;
-    else if (line.startsWith('\r') || line.startsWith('\n'))
+        transfer.challenges.clear();
+    } else if (line.size() > challenge.size() &&
+               qstrnicmp(line.data(), challenge.data(), static_cast<std::size_t>(challenge.size())) == 0) {
+        transfer.challenges += line.sliced(challenge.size()).toByteArray().trimmed();
+    } else if (line.startsWith('\r') || line.startsWith('\n')) {
         transfer.headerEnded = true; // and stays so through the trailer of a chunked body
+    }
     return size * count;
 }
 
@@ -147,8 +157,7 @@ public:
     {
         SetUpLibrary();
         m_multi = curl_multi_init();
-        m_noExpect = curl_slist_append(nullptr, "Expect:");
-        if (!m_multi || !m_noExpect)
+        if (!m_multi)
             throw std::bad_alloc();
         curl_multi_setopt(m_multi, CURLMOPT_SOCKETFUNCTION, &Engine::watchSocket);
         curl_multi_setopt(m_multi, CURLMOPT_SOCKETDATA, this);
@@ -165,11 +174,11 @@ public:
         for (auto& [handle, transfer] : m_open) {
             curl_multi_remove_handle(m_multi, transfer->easy);
             curl_easy_cleanup(transfer->easy);
+            curl_slist_free_all(transfer->fields);
         }
         for (CURL* easy : m_idle)
             curl_easy_cleanup(easy);
         curl_multi_cleanup(m_multi);
-        curl_slist_free_all(m_noExpect);
     }
 
     quint64 start(const HttpRequest& request, HttpDone done)
@@ -180,7 +189,6 @@ public:
         transfer->done = std::move(done);
         transfer->host = UrlHost(request.address);
         transfer->deadline.setRemainingTime(qMax<qint64>(1, static_cast<qint64>(request.seconds * 1000.0)));
-        transfer->digest = m_digestPeers.contains(transfer->peer());
         const quint64 handle = transfer->handle;
 
         const QByteArray& target = request.target;
@@ -254,22 +262,49 @@ private:
         curl_easy_setopt(easy, CURLOPT_HEADERDATA, &transfer);
         curl_easy_setopt(easy, CURLOPT_PRIVATE, &transfer);
         if (request.post) {
-            curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_noExpect);
+            addField(transfer, "Expect:");
             curl_easy_setopt(easy, CURLOPT_POST, 1L);
             curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request.body.size()));
             curl_easy_setopt(easy, CURLOPT_POSTFIELDS, request.body.constData());
         }
-        if (!request.user.isEmpty()) {
-            curl_easy_setopt(easy, CURLOPT_HTTPAUTH, transfer.digest ? CURLAUTH_DIGEST : CURLAUTH_BASIC);
-            curl_easy_setopt(easy, CURLOPT_USERNAME, request.user.toUtf8().constData());
-            curl_easy_setopt(easy, CURLOPT_PASSWORD, request.password.toUtf8().constData());
-        }
+        authenticate(transfer, target);
+        curl_easy_setopt(easy, CURLOPT_HTTPHEADER, transfer.fields);
         curl_multi_add_handle(m_multi, easy);
+    }
+
+    static void addField(Transfer& transfer, const QByteArray& field)
+    {
+        curl_slist* const longer = curl_slist_append(transfer.fields, field.constData());
+        if (!longer)
+            throw std::bad_alloc();
+        transfer.fields = longer;
+    }
+
+    // Basic at once; Digest once the device has asked for it. The library's own Digest answers for its URL, which is
+    // not always the target.
+    void authenticate(Transfer& transfer, const QByteArray& target)
+    {
+        const HttpRequest& request = transfer.request;
+        transfer.nonce.clear();
+        if (request.user.isEmpty())
+            return;
+        const DigestLogin login{request.user.toUtf8(), request.password.toUtf8()};
+        const auto peer = m_digestPeers.find(transfer.peer());
+        if (peer == m_digestPeers.end()) {
+            addField(transfer, "Authorization: Basic " + QByteArray(login.user + ':' + login.password).toBase64());
+            return;
+        }
+        transfer.nonce = peer->challenge.nonce;
+        QByteArray random(16, '\0');
+        QRandomGenerator::system()->generate(random.begin(), random.end());
+        addField(transfer, "Authorization: " + DigestAnswer(peer->challenge, login, request.post ? "POST" : "GET",
+                                                            target, ++peer->answered, random.toHex()));
     }
 
     void retire(Transfer& transfer)
     {
         curl_multi_remove_handle(m_multi, transfer.easy);
+        curl_slist_free_all(std::exchange(transfer.fields, nullptr));
         if (m_idle.size() < kIdleHandles)
             m_idle.push_back(transfer.easy);
         else
@@ -277,23 +312,19 @@ private:
         transfer.easy = nullptr;
     }
 
-    // True when the device wants the other way of authentication, with which the request is then sent again.
+    // True when the device wants another authentication, with which the request is then sent again.
     bool authenticateAgain(Transfer& transfer)
     {
-        if (transfer.reply.status != 401 || transfer.request.user.isEmpty() || transfer.switched)
+        if (transfer.reply.status != 401 || transfer.request.user.isEmpty() || transfer.again)
             return false;
-        long offered = 0;
-        curl_easy_getinfo(transfer.easy, CURLINFO_HTTPAUTH_AVAIL, &offered);
-        const bool toDigest = !transfer.digest && (offered & CURLAUTH_DIGEST);
-        const bool toBasic = transfer.digest && !(offered & CURLAUTH_DIGEST) && (offered & CURLAUTH_BASIC);
-        if (!toDigest && !toBasic)
-            return false;
-        transfer.switched = true;
-        transfer.digest = toDigest;
-        if (toDigest)
-            m_digestPeers.insert(transfer.peer());
-        else
+        const Challenges asked = ReadChallenges(transfer.challenges);
+        if (asked.digest && asked.digest->nonce != transfer.nonce)
+            m_digestPeers.insert(transfer.peer(), {*asked.digest, 0});
+        else if (!asked.digest && asked.basic && !transfer.nonce.isEmpty())
             m_digestPeers.remove(transfer.peer());
+        else
+            return false;
+        transfer.again = true;
         transfer.reply = HttpReply();
         transfer.headerBytes = 0;
         return true;
@@ -397,13 +428,17 @@ private:
     }
 
     CURLM* m_multi = nullptr;
-    curl_slist* m_noExpect = nullptr;
     QTimer m_timer;
     std::unordered_map<curl_socket_t, std::unique_ptr<Watch>> m_watches;
     std::unordered_map<quint64, std::unique_ptr<Transfer>> m_open;
     std::deque<std::unique_ptr<Transfer>> m_finished;
     std::vector<CURL*> m_idle;
-    QSet<QString> m_digestPeers; // host, port and user that asked for Digest
+    struct DigestPeer
+    {
+        DigestChallenge challenge;
+        quint32 answered = 0; // requests with its nonce
+    };
+    QHash<QString, DigestPeer> m_digestPeers; // host, port and user that asked for Digest
     quint64 m_lastHandle = 0;
 };
 

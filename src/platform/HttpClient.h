@@ -27,7 +27,8 @@ enum class HttpFailure
     Refused,     // no connection
     TimedOut,
     BrokenOff, // the connection ended early, or what came is not HTTP
-    TooLarge   // the reply passes maxBytes, or its header 256 KiB
+    TooLarge,  // the reply passes maxBytes, or its header 256 KiB
+    Stopped    // the work that it was asked for was stopped
 };
 
 struct HttpReply
@@ -37,6 +38,9 @@ struct HttpReply
     QByteArray body;
     QByteArray contentType; // as the device says it, may be empty
     QString error;          // for the log, empty without a failure
+
+    // The device answered and says that it did what was asked; an answer that points elsewhere (3xx) does not.
+    bool succeeded() const { return failure == HttpFailure::None && status >= 200 && status < 300; }
 };
 
 using HttpDone = std::function<void(const HttpReply&)>;

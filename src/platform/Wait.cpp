@@ -1,5 +1,7 @@
 #include "platform/Wait.h"
 
+#include "platform/Work.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -63,6 +65,8 @@ bool Closing()
 void SetClosing(bool closing)
 {
     g_closing = closing;
+    if (closing)
+        StopAllWork();
 }
 
 bool Waiting()

@@ -4,7 +4,7 @@
 
 class QObject;
 
-// The process is leaving: every wait ends at once and long loops stop.
+// The process is leaving: every wait ends at once, every work is stopped and long loops stop.
 bool Closing();
 void SetClosing(bool closing);
 

@@ -3,23 +3,78 @@
 #include "platform/Wait.h"
 
 #include <QHostInfo>
+#include <QTimer>
 #include <memory>
 #include <optional>
 
-QString GetIpByName(const QString& host)
+namespace {
+
+constexpr double kResolverSeconds = 10;
+
+QString FirstIPv4(const QHostInfo& found)
 {
-    if (host.trimmed().isEmpty())
-        return {};
-    constexpr double kResolverSeconds = 10;
-    // Shared with the look-up's callback, which may come after the wait has given up.
-    const auto found = std::make_shared<std::optional<QHostInfo>>();
-    QHostInfo::lookupHost(host.trimmed(), [found](const QHostInfo& info) { *found = info; });
-    if (WaitUntil([&] { return found->has_value(); }, kResolverSeconds) != WaitResult::Done)
-        return {};
-    const QList<QHostAddress> addresses = (*found)->addresses();
+    const QList<QHostAddress> addresses = found.addresses();
     for (const QHostAddress& address : addresses) {
         if (address.protocol() == QAbstractSocket::IPv4Protocol)
             return address.toString();
     }
     return {};
+}
+
+class HostLookup final : public WorkAwaitable
+{
+public:
+    HostLookup(QString host, Work& work)
+        : WorkAwaitable(work)
+        , m_host(std::move(host))
+    {
+    }
+    ~HostLookup() override { abandon(); }
+    auto operator co_await() { return Awaiter<HostLookup>(*this); }
+    QHostInfo result() const { return m_found; }
+
+protected:
+    void begin() override
+    {
+        m_context = std::make_unique<QObject>();
+        QHostInfo::lookupHost(m_host, m_context.get(), [this](const QHostInfo& found) { take(found); });
+        QTimer::singleShot(static_cast<int>(kResolverSeconds * 1000), m_context.get(), [this] { take(QHostInfo()); });
+    }
+    void abandon() override { m_context.reset(); } // the resolver's answer then goes nowhere
+
+private:
+    void take(const QHostInfo& found)
+    {
+        m_found = found;
+        m_context.release()->deleteLater(); // it is called by it
+        finish();
+    }
+
+    QString m_host;
+    QHostInfo m_found;
+    std::unique_ptr<QObject> m_context;
+};
+
+} // namespace
+
+QString GetIpByName(const QString& host)
+{
+    if (host.trimmed().isEmpty())
+        return {};
+    // Shared with the look-up's callback, which may come after the wait has given up.
+    const auto found = std::make_shared<std::optional<QHostInfo>>();
+    QHostInfo::lookupHost(host.trimmed(), [found](const QHostInfo& info) { *found = info; });
+    if (WaitUntil([&] { return found->has_value(); }, kResolverSeconds) != WaitResult::Done)
+        return {};
+    return FirstIPv4(**found);
+}
+
+QCoro::Task<QString> GetIpByName(QString host, Work& work)
+{
+    const QString name = host.trimmed();
+    if (name.isEmpty())
+        co_return QString();
+    HostLookup lookup(name, work);
+    const QHostInfo found = co_await lookup;
+    co_return FirstIPv4(found);
 }

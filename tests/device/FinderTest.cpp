@@ -1,6 +1,7 @@
 #include "device/bridge/FinderBridge.h"
 #include "platform/Wait.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QNetworkDatagram>
 #include <QNetworkInterface>
@@ -180,6 +181,39 @@ TEST(Finder, AFloodOfGarbageDoesNotHoldUpTheLoopAndAListenerMayStop)
     EXPECT_FALSE(finder.Searching());
     const int before = beats;
     EXPECT_EQ(WaitUntil([&] { return beats > before + 2; }, 2), WaitResult::Done);
+}
+
+TEST(Finder, WhatIsStillPendingAtAStopIsNotRead)
+{
+    QUdpSocket attacker;
+    FinderBridge finder;
+    QObject listener;
+    std::size_t atStop = 0;
+    QUdpSocket spy;
+    spy.bind(QHostAddress::AnyIPv4, 3702, QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
+    spy.joinMulticastGroup(QHostAddress(u"239.255.255.250"_s), QNetworkInterface::interfaceFromName(u"lo"_s));
+    QObject::connect(&spy, &QUdpSocket::readyRead, &listener, [&] {
+        const auto port = static_cast<quint16>(spy.receiveDatagram().senderPort());
+        for (int i = 1; i <= 200 && atStop == 0; ++i) {
+            const QByteArray place = "http://127.9.9.4:" + QByteArray::number(i) + "/x";
+            attacker.writeDatagram(Envelope(Match(kScope, place)), QHostAddress(u"127.0.0.1"_s), port);
+        }
+    });
+    // Due before the rest of the datagrams, which are left for the next round of events.
+    QObject::connect(
+        &finder, &FinderBridge::DeviceFound, &listener,
+        [&](const FoundDevice& device) {
+            if (device.Address == "127.9.9.4"_L1 && atStop == 0) {
+                finder.Stop();
+                atStop = finder.Devices().size();
+            }
+        },
+        Qt::QueuedConnection);
+    ASSERT_TRUE(finder.Search());
+    EXPECT_EQ(WaitUntil([&] { return atStop > 0; }, 5), WaitResult::Done);
+    QCoreApplication::processEvents();
+    EXPECT_LT(atStop, 200u);
+    EXPECT_EQ(finder.Devices().size(), atStop);
 }
 
 TEST(Finder, WithoutItsInterfaceThereIsNoSearch)

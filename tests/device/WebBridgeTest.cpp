@@ -51,11 +51,12 @@ Answer DigestDevice(const Seen& seen, const QByteArray& user, const QByteArray& 
         const QRegularExpression pattern(u"[ ,]%1=\"?([^\",]*)"_s.arg(QLatin1String(name)));
         return pattern.match(QString::fromUtf8(given)).captured(1).toUtf8();
     };
-    const QList<QByteArray> line = seen.line.split(' ');
+    const qsizetype blank = seen.line.indexOf(' ');
+    const QByteArray target = seen.line.sliced(blank + 1, seen.line.lastIndexOf(' ') - blank - 1);
     const QByteArray ha1 = Md5(user + ":R:" + password);
-    const QByteArray ha2 = Md5(line.value(0) + ':' + line.value(1));
+    const QByteArray ha2 = Md5(seen.line.left(blank) + ':' + target);
     const QByteArray wanted = Md5(ha1 + ":n0nce:" + part("nc") + ':' + part("cnonce") + ":auth:" + ha2);
-    if (given.startsWith("Digest ") && part("uri") == line.value(1) && part("response") == wanted)
+    if (given.startsWith("Digest ") && part("uri") == target && part("response") == wanted)
         return {ScriptedServer::page("OK in\n")};
     return {ScriptedServer::page("go away", "401 Unauthorized",
                                  "WWW-Authenticate: Digest realm=\"R\", nonce=\"n0nce\", qop=\"auth\"\r\n")};
@@ -76,6 +77,8 @@ TEST_F(Bridge, TargetsAndBodiesGoOutByteForByte)
         {u"/x.cgi?text=Zürich"_s, "/x.cgi?text=Z\xc3\xbcrich"},
         {u"/x.cgi?p=a#b"_s, "/x.cgi?p=a#b"},
         {u"HTTP://other.example:81/alert?x=1"_s, "/alert?x=1"},
+        {u"http://other.example?x=/1"_s, "/?x=/1"},
+        {u"http://other.example:81"_s, "/"},
         {u"alert?x=1"_s, "/alert?x=1"},
     };
     for (const auto& c : cases) {
@@ -115,6 +118,7 @@ TEST_F(Bridge, EveryFailureOfTransportIsNegativeAndLeavesNothingBehind)
         {"said to be too large", {huge.left(100000)}, kWebTooLarge},
         {"too large without a length", {"HTTP/1.0 200 OK\r\n\r\n" + huge, true}, kWebTooLarge},
         {"endless header", {"HTTP/1.1 200 OK\r\n" + QByteArray("X-A: 0123456789\r\n").repeated(60000)}, kWebTooLarge},
+        {"moved", {ScriptedServer::page("OK", "302 Found", "Location: /elsewhere\r\n")}, -302},
         {"gone", {ScriptedServer::page("OK", "404 Not Found")}, -404},
         {"broken", {ScriptedServer::page("OK", "500 Oops")}, -500},
     };
@@ -179,8 +183,10 @@ TEST_F(Bridge, DigestIsUsedWhenTheDeviceAsksAndRemembered)
 {
     server.answer = [](const Seen& seen) { return DigestDevice(seen, "op", "secret"); };
     const DeviceAddress good = device(u"op"_s, u"secret"_s);
-    EXPECT_EQ(get(u"/a.cgi?x=%u4E2D&y=[1]"_s, good), u"OK in\n"_s);
+    for (const QString& target : {u"/a.cgi?x=%u4E2D&y=[1]"_s, u"/a.cgi?name=two words"_s, u"/a.cgi?p=a#b"_s})
+        EXPECT_EQ(get(target, good), u"OK in\n"_s) << target.toStdString();
     EXPECT_TRUE(server.requests.front().field("Authorization").startsWith("Basic "));
+    EXPECT_EQ(server.requests.size(), 4u); // one of them twice
     server.requests.clear();
     EXPECT_EQ(SendCmdXml(com.web, good, u"<CMD/>"_s), u"OK in\n"_s);
     EXPECT_EQ(server.requests.back().body, "type=action&xml=<CMD/>");
@@ -345,6 +351,8 @@ TEST_F(Bridge, AnUnreadRequestCountsAsSentWhateverTheDeviceAnswers)
     for (int i = 0; i < 100; ++i)
         alert(device());
     EXPECT_LT(com.web.Outstanding(), 50);
+    for (qint32 number = 1; number < 200; ++number)
+        EXPECT_EQ(com.web.GetCgiReply(number), QString());
 }
 
 TEST_F(Bridge, TheBinaryInterfaceAnswersFailure)
@@ -435,6 +443,18 @@ TEST_F(Bridge, CapabilitiesAreReadLineByLine)
     server.answerWith("ERR\nbrand=2");
     EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), -1);
     EXPECT_EQ(capability.Brand, u"1"_s);
+
+    // Endless lines cost one line of the log for each kind of fault.
+    const auto logged = [this] {
+        const QStringList logs = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s});
+        return logs.size() == 1 ? station.read(QString(u"\\log\\"_s + logs.front())).count('\n') : -1;
+    };
+    const auto before = logged();
+    server.answerWith("OK\nmodelname=" + QByteArray(1000, 'x') + '\n' +
+                      QByteArray("maxchannelsupport=\nmaxhdsupport=99999\n").repeated(100'000));
+    EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), 1);
+    EXPECT_EQ(capability.ModelName.size(), 255);
+    EXPECT_EQ(logged(), before + 2);
 }
 
 TEST_F(Bridge, SlotsAreTakenFromBelowAndGrow)

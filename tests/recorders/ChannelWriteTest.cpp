@@ -1,4 +1,6 @@
+#include "device/protocol/ParameterText.h"
 #include "recorders/camera/CameraEvents.h"
+#include "recorders/camera/CameraWrite.h"
 #include "recorders/camera/ChannelClear.h"
 #include "tests/recorders/CameraFixture.h"
 
@@ -62,6 +64,15 @@ TEST_F(ChannelWrite, FailedClearingLeavesTheChannel)
         EXPECT_FALSE(recorders->SVREdit.channels[1].sSub_CH_IP.isEmpty());
         EXPECT_FALSE(recorders->SVREdit.channels[1].bSub_CH_Modified);
     }
+}
+
+TEST_F(ChannelWrite, TheLogOfARefusalKeepsThePassword)
+{
+    EXPECT_EQ(RefusedWrite(u"camera_c1.device.password=s3cret RET=\"-4\""_s).message, 608);
+    EXPECT_EQ(Escape(u"s3cret\""_s), QString());
+    const QString log = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).value(0);
+    EXPECT_TRUE(station.read(QString(u"\\log\\"_s + log)).contains("result -4"));
+    EXPECT_FALSE(station.read(QString(u"\\log\\"_s + log)).contains("s3cret"));
 }
 
 TEST_F(ChannelWrite, CameraEventsAreReadBackAsWritten)

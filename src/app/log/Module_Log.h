@@ -58,3 +58,20 @@ bool Trapped(const char (&source)[N], Work&& work)
 {
     return Trapped(QLatin1String(source, N - 1), std::forward<Work>(work));
 }
+
+// The same for one kind of fault in a loop over what a device has sent: only the first failure, which sets `told`, is
+// logged.
+template <class Work>
+bool TrappedOnce(bool& told, QLatin1String source, Work&& work)
+{
+    if (!told) {
+        told = !Trapped(source, std::forward<Work>(work));
+        return !told;
+    }
+    try {
+        work();
+        return true;
+    } catch (...) {
+        return false;
+    }
+}

@@ -4,9 +4,10 @@
 #include "device/bridge/ModuleCGI.h"
 #include "device/bridge/WebBridge.h"
 #include "device/protocol/ParameterText.h"
+#include "device/protocol/ReplyText.h"
 #include "support/Conversions.h"
 
-#include <QStringList>
+#include <QStringTokenizer>
 #include <limits>
 #include <optional>
 #include <stdexcept>
@@ -20,7 +21,7 @@ class ParameterLines
 {
 public:
     ParameterLines(const QString& reply, const QString& prefix)
-        : m_lines(reply.split(u'\n'))
+        : m_reply(reply)
         , m_prefix(prefix)
     {
     }
@@ -28,9 +29,9 @@ public:
     std::optional<QString> text(QLatin1String key) const
     {
         const QString begin = m_prefix + u'.' + key + u'=';
-        for (const QString& line : m_lines) {
+        for (const QStringView line : QStringTokenizer(ReadableLines(m_reply), u'\n')) {
             if (line.startsWith(begin))
-                return line.sliced(begin.size()).remove(u'\r');
+                return line.sliced(begin.size()).toString().remove(u'\r');
         }
         return std::nullopt;
     }
@@ -50,7 +51,7 @@ public:
     }
 
 private:
-    QStringList m_lines;
+    QString m_reply;
     QString m_prefix;
 };
 
@@ -82,42 +83,38 @@ QString ActionName(PtzAction action)
     return {};
 }
 
-} // namespace
+const QString kSystemUrl = u"/param.cgi?action=get&group=system"_s;
+constexpr QLatin1String kDevice("device");
+constexpr QLatin1String kFishEye("fisheye");
 
-DeviceBridge::DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent)
-    : QObject(parent)
-    , m_web(web)
-    , m_http(http)
+QString GroupOf(qint16 channel, QLatin1String group)
 {
+    return ChannelKey(channel) + u'.' + group;
 }
 
-DeviceBridge::~DeviceBridge()
+QString GroupUrl(qint16 channel, QLatin1String group)
 {
-    for (const auto& [number, service] : m_services)
-        m_http.cancel(service->transfer);
+    return u"/param.cgi?action=get&group="_s + GroupOf(channel, group);
 }
 
-qint32 DeviceBridge::GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts)
+std::optional<RecorderFacts> FactsOf(const QString& reply)
 {
-    const QString reply = CgiGet(m_web, device, u"/param.cgi?action=get&group=system"_s);
     const ParameterLines lines(reply, u"system"_s);
     if (!lines.text("videoport"_L1))
-        return -1;
+        return std::nullopt;
     RecorderFacts read;
     lines.number("videoport"_L1, read.VideoPort);
     lines.number("timezone"_L1, read.TimeZone);
     lines.number("summertime"_L1, read.SummerTime);
-    facts = read;
-    return 0;
+    return read;
 }
 
-qint32 DeviceBridge::GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record)
+std::optional<RecorderChannel> ChannelOf(const QString& reply, qint16 channel)
 {
-    const QString group = ChannelKey(channel) + u".device";
-    const ParameterLines lines(CgiGet(m_web, device, u"/param.cgi?action=get&group="_s + group), group);
+    const ParameterLines lines(reply, GroupOf(channel, kDevice));
     const std::optional<QString> ip = lines.text("ip"_L1);
     if (!ip)
-        return -1;
+        return std::nullopt;
     RecorderChannel read;
     read.Name = lines.text("name"_L1).value_or(QString());
     read.IP = ip->trimmed();
@@ -127,16 +124,14 @@ qint32 DeviceBridge::GetChannel(const DeviceAddress& device, qint16 channel, Rec
     lines.number("format"_L1, read.Format);
     read.Resolution = lines.text("resolution"_L1).value_or(QString());
     lines.number("brand"_L1, read.Brand);
-    record = read;
-    return 0;
+    return read;
 }
 
-QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
-                                 ChannelForm form)
+QString SetUrl(qint16 channel, const ChannelParameters& settings, ChannelForm form)
 {
     QString url = u"/param.cgi?action=set"_s;
     const auto put = [&](QLatin1String key, const QString& onWire) {
-        url += u'&' + ChannelKey(channel) + u".device." + key + u'=' + onWire;
+        url += u'&' + GroupOf(channel, kDevice) + u'.' + key + u'=' + onWire;
     };
     const auto putIfSet = [&](QLatin1String key, const QString& value) {
         if (!value.isEmpty())
@@ -157,7 +152,86 @@ QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, co
         putIfSet("bitrate"_L1, settings.BitRate);
         putIfSet("quality"_L1, settings.Quality);
     }
-    return CgiGet(m_web, device, url);
+    return url;
+}
+
+QString CommandUrl(qint16 channel, const QString& rest)
+{
+    return u"/ptz.cgi?channel="_s + QString::number(channel) + u"&action=" + rest;
+}
+
+QString GotoText(qint16 preset, qint32 speed)
+{
+    return u"goto&preset="_s + QString::number(preset) + u"&speed=" + QString::number(speed);
+}
+
+QString SetPresetText(qint16 preset, const QString& name)
+{
+    return u"setpreset&preset="_s + QString::number(preset) + u"&name=" + EscapedValue(name);
+}
+
+QString MoveText(PtzAction action, qint32 direction, qint32 speed)
+{
+    return ActionName(action) + u"&direction=" + QString::number(direction) + u"&speed=" + QString::number(speed);
+}
+
+QString FishEyeModeOf(const QString& reply, qint16 channel)
+{
+    return ParameterLines(reply, GroupOf(channel, kFishEye)).text("mode"_L1).value_or(QString()).trimmed();
+}
+
+} // namespace
+
+DeviceBridge::DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent)
+    : QObject(parent)
+    , m_web(web)
+    , m_http(http)
+{
+}
+
+DeviceBridge::~DeviceBridge()
+{
+    for (const auto& [number, service] : m_services)
+        m_http.cancel(service->transfer);
+}
+
+qint32 DeviceBridge::GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts)
+{
+    const std::optional<RecorderFacts> read = FactsOf(CgiGet(m_web, device, kSystemUrl));
+    facts = read.value_or(facts);
+    return read ? 0 : -1;
+}
+
+QCoro::Task<std::optional<RecorderFacts>> DeviceBridge::GetSystemFacts(DeviceAddress device, Work& work)
+{
+    const QString reply = co_await CgiGet(m_web, device, kSystemUrl, work);
+    co_return FactsOf(reply);
+}
+
+qint32 DeviceBridge::GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record)
+{
+    const std::optional<RecorderChannel> read = ChannelOf(CgiGet(m_web, device, GroupUrl(channel, kDevice)), channel);
+    record = read.value_or(record);
+    return read ? 0 : -1;
+}
+
+QCoro::Task<std::optional<RecorderChannel>> DeviceBridge::GetChannel(DeviceAddress device, qint16 channel, Work& work)
+{
+    const QString reply = co_await CgiGet(m_web, device, GroupUrl(channel, kDevice), work);
+    co_return ChannelOf(reply, channel);
+}
+
+QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
+                                 ChannelForm form)
+{
+    return CgiGet(m_web, device, SetUrl(channel, settings, form));
+}
+
+QCoro::Task<QString> DeviceBridge::SetChannel(DeviceAddress device, qint16 channel, ChannelParameters settings,
+                                              ChannelForm form, Work& work)
+{
+    const QString reply = co_await CgiGet(m_web, device, SetUrl(channel, settings, form), work);
+    co_return reply;
 }
 
 bool DeviceBridge::DeviceTook(const QString& reply)
@@ -167,25 +241,47 @@ bool DeviceBridge::DeviceTook(const QString& reply)
 
 bool DeviceBridge::command(const DeviceAddress& device, qint16 channel, const QString& rest)
 {
-    return DeviceTook(CgiGet(m_web, device, u"/ptz.cgi?channel="_s + QString::number(channel) + u"&action=" + rest));
+    return DeviceTook(CgiGet(m_web, device, CommandUrl(channel, rest)));
+}
+
+QCoro::Task<bool> DeviceBridge::command(DeviceAddress device, qint16 channel, QString rest, Work& work)
+{
+    const QString reply = co_await CgiGet(m_web, device, CommandUrl(channel, rest), work);
+    co_return DeviceTook(reply);
 }
 
 bool DeviceBridge::GotoPreset(const DeviceAddress& device, qint16 channel, qint16 preset, qint32 speed)
 {
-    return command(device, channel, u"goto&preset="_s + QString::number(preset) + u"&speed=" + QString::number(speed));
+    return command(device, channel, GotoText(preset, speed));
+}
+
+QCoro::Task<bool> DeviceBridge::GotoPreset(DeviceAddress device, qint16 channel, qint16 preset, qint32 speed,
+                                           Work& work)
+{
+    return command(device, channel, GotoText(preset, speed), work);
 }
 
 bool DeviceBridge::SetPreset(const DeviceAddress& device, qint16 channel, qint16 preset, const QString& name)
 {
-    return command(device, channel, u"setpreset&preset="_s + QString::number(preset) + u"&name=" + EscapedValue(name));
+    return command(device, channel, SetPresetText(preset, name));
+}
+
+QCoro::Task<bool> DeviceBridge::SetPreset(DeviceAddress device, qint16 channel, qint16 preset, QString name, Work& work)
+{
+    const bool took = co_await command(device, channel, SetPresetText(preset, name), work);
+    co_return took;
 }
 
 bool DeviceBridge::MovePtz(const DeviceAddress& device, qint16 channel, PtzAction action, qint32 direction,
                            qint32 speed)
 {
-    return command(device, channel,
-                   ActionName(action) + u"&direction=" + QString::number(direction) + u"&speed=" +
-                       QString::number(speed));
+    return command(device, channel, MoveText(action, direction, speed));
+}
+
+QCoro::Task<bool> DeviceBridge::MovePtz(DeviceAddress device, qint16 channel, PtzAction action, qint32 direction,
+                                        qint32 speed, Work& work)
+{
+    return command(device, channel, MoveText(action, direction, speed), work);
 }
 
 bool DeviceBridge::StopPtz(const DeviceAddress& device, qint16 channel)
@@ -193,13 +289,20 @@ bool DeviceBridge::StopPtz(const DeviceAddress& device, qint16 channel)
     return command(device, channel, u"stop"_s);
 }
 
+QCoro::Task<bool> DeviceBridge::StopPtz(DeviceAddress device, qint16 channel, Work& work)
+{
+    return command(device, channel, u"stop"_s, work);
+}
+
 QString DeviceBridge::GetFishEyeMode(const DeviceAddress& device, qint16 channel)
 {
-    const QString group = ChannelKey(channel) + u".fisheye";
-    return ParameterLines(CgiGet(m_web, device, u"/param.cgi?action=get&group="_s + group), group)
-        .text("mode"_L1)
-        .value_or(QString())
-        .trimmed();
+    return FishEyeModeOf(CgiGet(m_web, device, GroupUrl(channel, kFishEye)), channel);
+}
+
+QCoro::Task<QString> DeviceBridge::GetFishEyeMode(DeviceAddress device, qint16 channel, Work& work)
+{
+    const QString reply = co_await CgiGet(m_web, device, GroupUrl(channel, kFishEye), work);
+    co_return FishEyeModeOf(reply, channel);
 }
 
 qint16 DeviceBridge::AddService(const QString& address, qint32 httpPort, const QString& user, const QString& password,
@@ -250,8 +353,7 @@ void DeviceBridge::polled(qint16 number, const HttpReply& reply)
 {
     Service& service = *m_services.at(number);
     service.transfer = 0;
-    const bool answers =
-        reply.failure == HttpFailure::None && reply.status < 400 && reply.body.toUpper().contains("OK");
+    const bool answers = reply.succeeded() && reply.body.toUpper().contains("OK");
     service.next.start(m_pollInterval);
     const qint32 status = answers ? 1 : 0;
     if (service.status == status)

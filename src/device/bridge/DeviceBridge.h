@@ -2,6 +2,7 @@
 
 #include "device/bridge/DeviceAddress.h"
 #include "platform/HttpClient.h"
+#include "platform/Work.h"
 
 #include <QObject>
 #include <QTimer>
@@ -92,6 +93,19 @@ public:
     // Present fish-eye mode as the device says it.
     QString GetFishEyeMode(const DeviceAddress& device, qint16 channel);
 
+    // The same for coroutines: they await the device on behalf of `work`, and its stop ends them at once like a failure
+    // of transport. No record where the waiting call gives -1; SetChannel throws as above when it is awaited.
+    QCoro::Task<std::optional<RecorderFacts>> GetSystemFacts(DeviceAddress device, Work& work);
+    QCoro::Task<std::optional<RecorderChannel>> GetChannel(DeviceAddress device, qint16 channel, Work& work);
+    QCoro::Task<QString> SetChannel(DeviceAddress device, qint16 channel, ChannelParameters settings, ChannelForm form,
+                                    Work& work);
+    QCoro::Task<bool> GotoPreset(DeviceAddress device, qint16 channel, qint16 preset, qint32 speed, Work& work);
+    QCoro::Task<bool> SetPreset(DeviceAddress device, qint16 channel, qint16 preset, QString name, Work& work);
+    QCoro::Task<bool> MovePtz(DeviceAddress device, qint16 channel, PtzAction action, qint32 direction, qint32 speed,
+                              Work& work);
+    QCoro::Task<bool> StopPtz(DeviceAddress device, qint16 channel, Work& work);
+    QCoro::Task<QString> GetFishEyeMode(DeviceAddress device, qint16 channel, Work& work);
+
     // Whole-request time-out of the services' polling, in seconds; services added later take it.
     qint32 ServiceTimeout() const { return m_serviceTimeout; }
     void SetServiceTimeout(qint32 seconds) { m_serviceTimeout = seconds; }
@@ -119,6 +133,7 @@ private:
     };
 
     bool command(const DeviceAddress& device, qint16 channel, const QString& rest);
+    QCoro::Task<bool> command(DeviceAddress device, qint16 channel, QString rest, Work& work);
     void poll(qint16 number);
     void polled(qint16 number, const HttpReply& reply);
 

@@ -125,9 +125,17 @@ void FinderBridge::receive(QUdpSocket& socket)
                 return;
         }
     }
-    if (socket.hasPendingDatagrams())
-        QMetaObject::invokeMethod(
-            &socket, [this, &socket] { receive(socket); }, Qt::QueuedConnection);
+    if (!socket.hasPendingDatagrams())
+        return;
+    // The search may be over, or another under way, when the rest is due; a socket outlives its search for a while.
+    QMetaObject::invokeMethod(
+        this,
+        [this, alive] {
+            const auto present = [&](const std::unique_ptr<QUdpSocket>& own) { return own.get() == alive; };
+            if (alive && std::any_of(m_sockets.begin(), m_sockets.end(), present))
+                receive(*alive);
+        },
+        Qt::QueuedConnection);
 }
 
 void FinderBridge::add(const FoundDevice& device)

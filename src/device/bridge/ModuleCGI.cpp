@@ -2,9 +2,12 @@
 
 #include "app/log/Module_Log.h"
 #include "device/bridge/WebBridge.h"
+#include "device/protocol/ReplyText.h"
 #include "support/Conversions.h"
 
 #include <QStringList>
+#include <QStringTokenizer>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -12,6 +15,7 @@ namespace {
 
 constexpr qint32 kQuickSeconds = 2;
 constexpr qint32 kCameraProbeSeconds = 180;
+constexpr qsizetype kShownText = 64;
 
 bool BeginsWithOk(const QString& reply)
 {
@@ -19,9 +23,14 @@ bool BeginsWithOk(const QString& reply)
 }
 
 // Second field of a text split at "=".
-QString ValueBehindEquals(const QString& text)
+QString ValueBehindEquals(QStringView text)
 {
-    return At(text.split(u'='), 1);
+    const qsizetype equals = text.indexOf(u'=');
+    if (equals < 0)
+        throw ConversionError(u"No value in '%1'"_s.arg(text.left(kShownText)));
+    const QStringView behind = text.sliced(equals + 1);
+    const qsizetype next = behind.indexOf(u'=');
+    return behind.left(next < 0 ? behind.size() : next).toString();
 }
 
 QString CameraProbeUrl(const QString& ip, const QString& httpPort, const QString& user, const QString& password)
@@ -40,6 +49,63 @@ QString SetUrl(qint16 channel, QStringView key, const QString& value)
     return u"/param.cgi?action=set&camera_c"_s + QString::number(channel) + key + u'=' + value;
 }
 
+QString CameraProbeAsUrl(const QString& ip, const QString& httpPort, const QString& user, const QString& password,
+                         qint16 camera, const QString& brand)
+{
+    return CameraProbeUrl(ip, httpPort, user, password) + u"&camera=" + QString::number(camera) + u"&brand=" + brand;
+}
+
+QString EventHttpUrl(const QString& params, qint16 svr)
+{
+    const QString list = params.isEmpty() || params.startsWith(u'&') ? params : u'&' + params;
+    return u"/event/basicevent.cgi?action=set&svr="_s + QString::number(svr) + list + u"&httpenabled=1";
+}
+
+QStringList ChannelUrls(qint16 channel, bool onvif)
+{
+    QStringList urls{GroupUrl(channel, u".image"), GroupUrl(channel, u".ptz")};
+    if (onvif)
+        urls << GroupUrl(channel, u".onvif");
+    return urls;
+}
+
+ChannelParams ChannelParamsOf(const QStringList& replies)
+{
+    return {replies.value(0), replies.value(1), replies.value(2)};
+}
+
+bool HoldsOk(const QString& reply)
+{
+    return reply.contains("OK"_L1, Qt::CaseInsensitive);
+}
+
+LoginReply LoginReplyOf(const QString& text)
+{
+    if (text.contains("401"_L1))
+        return {401, text};
+    return {text.isEmpty() ? 404 : 1, text};
+}
+
+qint32 DwellOf(const QString& reply)
+{
+    return ToInt32(ValueBehindEquals(reply).left(2));
+}
+
+QString SequenceOf(const QString& reply)
+{
+    QString list = ValueBehindEquals(QStringView(reply).left(kMaxDeviceList));
+    list.replace(u'\r', u'\n');
+    return list.section(u'\n', 0, 0).trimmed();
+}
+
+const QString kGidUrl = u"/getgid.cgi"_s;
+const QString kSearchUrl = u"/system/searchcam.cgi"_s;
+const QString kVersionUrl = u"/getfwver.cgi"_s;
+const QString kLoginUrl = u"/login.cgi"_s;
+const QString kEventUrl = u"/event/basicevent.cgi?action=get"_s;
+const QString kSetEventUrl = u"/event/basicevent.cgi?action=set"_s;
+const QString kCapabilityUrl = u"/getsvrcapability.cgi"_s;
+
 } // namespace
 
 QString CgiRequest(WebBridge& web, const DeviceAddress& device, const QString& url, const QString& fileName,
@@ -50,9 +116,11 @@ QString CgiRequest(WebBridge& web, const DeviceAddress& device, const QString& u
     web.SetTimeout(timeout);
     const qint32 request =
         web.SendCgi(device.address, device.port, device.user, device.password, 1, url, fileName, body, mode, outCode);
-    const bool answered = request >= 0 || request <= -400; // an HTTP status is an answer, whatever it says
-    if (mode == kCgiSynchronous && noRead && answered)
+    const bool answered = request >= 0 || request <= -100; // an HTTP status is an answer, whatever it says
+    if (mode == kCgiSynchronous && noRead && answered) {
+        web.DropReply(request);
         return u"SUCCESSED"_s;
+    }
 
     QString result;
     if (request >= 0 && mode == kCgiSynchronous) {
@@ -73,7 +141,7 @@ QString CgiGet(WebBridge& web, const DeviceAddress& device, const QString& url, 
 
 bool CgiGetGid(WebBridge& web, const DeviceAddress& device)
 {
-    return CgiGet(web, device, u"/getgid.cgi"_s, kQuickSeconds).contains("OK"_L1, Qt::CaseInsensitive);
+    return HoldsOk(CgiGet(web, device, kGidUrl, kQuickSeconds));
 }
 
 QString CgiDetectCamera(WebBridge& web, const DeviceAddress& device, const QString& ip, const QString& httpPort,
@@ -86,55 +154,45 @@ QString CgiDetectCamera(WebBridge& web, const DeviceAddress& device, const QStri
 QString CgiDetectCameraAs(WebBridge& web, const DeviceAddress& device, const QString& ip, const QString& httpPort,
                           const QString& user, const QString& password, qint16 camera, const QString& brand)
 {
-    return CgiGet(web, device,
-                  CameraProbeUrl(ip, httpPort, user, password) + u"&camera=" + QString::number(camera) + u"&brand=" +
-                      brand);
+    return CgiGet(web, device, CameraProbeAsUrl(ip, httpPort, user, password, camera, brand));
 }
 
 QString GetSVRCameraSearch(WebBridge& web, const DeviceAddress& device)
 {
-    return CgiGet(web, device, u"/system/searchcam.cgi"_s);
+    return CgiGet(web, device, kSearchUrl);
 }
 
 QString CgiGetFwVersion(WebBridge& web, const DeviceAddress& device)
 {
-    return CgiGet(web, device, u"/getfwver.cgi"_s);
+    return CgiGet(web, device, kVersionUrl);
 }
 
 qint32 CgiLogin(WebBridge& web, const DeviceAddress& device, QString& reply)
 {
-    reply = CgiGet(web, device, u"/login.cgi"_s);
-    if (reply.contains("401"_L1))
-        return 401;
-    return reply.isEmpty() ? 404 : 1;
+    reply = CgiGet(web, device, kLoginUrl);
+    return LoginReplyOf(reply).result;
 }
 
 QString CgiSetEventHttp(WebBridge& web, const DeviceAddress& device, const QString& params, qint16 svr)
 {
-    QString list = params;
-    if (!list.isEmpty() && !list.startsWith(u'&'))
-        list.prepend(u'&');
-    return CgiGet(web, device,
-                  u"/event/basicevent.cgi?action=set&svr="_s + QString::number(svr) + list + u"&httpenabled=1");
+    return CgiGet(web, device, EventHttpUrl(params, svr));
 }
 
 QString CgiGetBasicEvent(WebBridge& web, const DeviceAddress& device)
 {
-    return CgiGet(web, device, u"/event/basicevent.cgi?action=get"_s);
+    return CgiGet(web, device, kEventUrl);
 }
 
 QString CgiSetBasicEvent(WebBridge& web, const DeviceAddress& device, const QString& params, qint32 mode)
 {
     qint32 timeout = kCgiDefaultTimeout;
     qint32 outCode = 1;
-    return CgiRequest(web, device, u"/event/basicevent.cgi?action=set"_s + params, u"-"_s, timeout, {}, mode, outCode,
-                      false);
+    return CgiRequest(web, device, kSetEventUrl + params, u"-"_s, timeout, {}, mode, outCode, false);
 }
 
 qint32 CgiGetPresetSeqDwell(WebBridge& web, const DeviceAddress& device, qint16 channel)
 {
-    const QString reply = CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqdwell"));
-    return ToInt32(ValueBehindEquals(reply).left(2));
+    return DwellOf(CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqdwell")));
 }
 
 bool CgiSetPresetSeqDwell(WebBridge& web, const DeviceAddress& device, qint16 channel, qint32 seconds)
@@ -149,9 +207,7 @@ bool CgiSetPresetSeqList(WebBridge& web, const DeviceAddress& device, qint16 cha
 
 QString CgiGetPresetSeqList(WebBridge& web, const DeviceAddress& device, qint16 channel)
 {
-    QString list = ValueBehindEquals(CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqlist")));
-    list.replace(u'\r', u'\n');
-    return list.section(u'\n', 0, 0).trimmed();
+    return SequenceOf(CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqlist")));
 }
 
 QString CgiGetOnvifParam(WebBridge& web, const DeviceAddress& device, qint16 channel)
@@ -171,17 +227,14 @@ QString CgiGetPtzParam(WebBridge& web, const DeviceAddress& device, qint16 chann
 
 ChannelParams CgiGetChannelParams(WebBridge& web, const DeviceAddress& device, qint16 channel, bool onvif)
 {
-    QStringList urls{GroupUrl(channel, u".image"), GroupUrl(channel, u".ptz")};
-    if (onvif)
-        urls << GroupUrl(channel, u".onvif");
     web.SetTimeout(kRestingTimeout);
-    const QStringList replies = web.GetTogether(device.address, device.port, device.user, device.password, urls);
-    return {replies[0], replies[1], onvif ? replies[2] : QString()};
+    return ChannelParamsOf(
+        web.GetTogether(device.address, device.port, device.user, device.password, ChannelUrls(channel, onvif)));
 }
 
 qint32 CgiGetServerCapability(WebBridge& web, const DeviceAddress& device, SvrCapability& capability)
 {
-    const QString reply = CgiGet(web, device, u"/getsvrcapability.cgi"_s, kQuickSeconds);
+    const QString reply = CgiGet(web, device, kCapabilityUrl, kQuickSeconds);
     return ParseServerCapability(reply, capability) ? 1 : -1;
 }
 
@@ -192,18 +245,20 @@ bool ParseServerCapability(const QString& reply, SvrCapability& capability)
     const auto store = [](auto& field, const QString& value) {
         using Field = std::decay_t<decltype(field)>;
         if constexpr (std::is_same_v<Field, QString>)
-            field = value;
+            field = value.left(kMaxDeviceText);
         else if constexpr (std::is_same_v<Field, bool>)
             field = ToReal(value) == 1.0;
         else
             field = ToInt16(value);
     };
-    const QStringList lines = reply.split(u'\n');
-    for (const QString& line : lines) {
+    std::array<bool, 8> told{}; // a bad value of a key is logged once
+    for (const QStringView line : QStringTokenizer(ReadableLines(reply), u'\n')) {
+        std::size_t index = 0;
         const auto read = [&](QLatin1String key, auto& field) {
+            bool& toldOfKey = told[index++];
             if (line.contains(key)) {
-                Trapped("ModuleCGI - CgiGetServerCapability",
-                        [&] { store(field, ValueBehindEquals(line).remove(u'\r')); });
+                TrappedOnce(toldOfKey, "ModuleCGI - CgiGetServerCapability"_L1,
+                            [&] { store(field, ValueBehindEquals(line).remove(u'\r')); });
             }
         };
         read("modelname="_L1, capability.ModelName);
@@ -216,4 +271,109 @@ bool ParseServerCapability(const QString& reply, SvrCapability& capability)
         read("customeventsupport="_L1, capability.CustomEventSupport);
     }
     return true;
+}
+
+QCoro::Task<QString> CgiGet(WebBridge& web, DeviceAddress device, QString url, Work& work, qint32 seconds)
+{
+    const WebReply reply =
+        co_await web.Get(device, url, seconds == kCgiDefaultTimeout ? kRestingTimeout : seconds, work);
+    co_return reply.text;
+}
+
+QCoro::Task<bool> CgiGetGid(WebBridge& web, DeviceAddress device, Work& work)
+{
+    const QString reply = co_await CgiGet(web, device, kGidUrl, work, kQuickSeconds);
+    co_return HoldsOk(reply);
+}
+
+QCoro::Task<QString> CgiDetectCamera(WebBridge& web, DeviceAddress device, QString ip, QString httpPort, QString user,
+                                     QString password, QString brand, Work& work)
+{
+    return CgiGet(web, device, CameraProbeUrl(ip, httpPort, user, password) + u"&brand=" + brand, work,
+                  kCameraProbeSeconds);
+}
+
+QCoro::Task<QString> CgiDetectCameraAs(WebBridge& web, DeviceAddress device, QString ip, QString httpPort, QString user,
+                                       QString password, qint16 camera, QString brand, Work& work)
+{
+    return CgiGet(web, device, CameraProbeAsUrl(ip, httpPort, user, password, camera, brand), work);
+}
+
+QCoro::Task<QString> GetSVRCameraSearch(WebBridge& web, DeviceAddress device, Work& work)
+{
+    return CgiGet(web, device, kSearchUrl, work);
+}
+
+QCoro::Task<QString> CgiGetFwVersion(WebBridge& web, DeviceAddress device, Work& work)
+{
+    return CgiGet(web, device, kVersionUrl, work);
+}
+
+QCoro::Task<LoginReply> CgiLogin(WebBridge& web, DeviceAddress device, Work& work)
+{
+    const QString reply = co_await CgiGet(web, device, kLoginUrl, work);
+    co_return LoginReplyOf(reply);
+}
+
+QCoro::Task<QString> CgiSetEventHttp(WebBridge& web, DeviceAddress device, QString params, qint16 svr, Work& work)
+{
+    return CgiGet(web, device, EventHttpUrl(params, svr), work);
+}
+
+QCoro::Task<QString> CgiGetBasicEvent(WebBridge& web, DeviceAddress device, Work& work)
+{
+    return CgiGet(web, device, kEventUrl, work);
+}
+
+QCoro::Task<QString> CgiSetBasicEvent(WebBridge& web, DeviceAddress device, QString params, Work& work)
+{
+    return CgiGet(web, device, kSetEventUrl + params, work);
+}
+
+QCoro::Task<qint32> CgiGetPresetSeqDwell(WebBridge& web, DeviceAddress device, qint16 channel, Work& work)
+{
+    const QString reply = co_await CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqdwell"), work);
+    co_return DwellOf(reply);
+}
+
+QCoro::Task<bool> CgiSetPresetSeqDwell(WebBridge& web, DeviceAddress device, qint16 channel, qint32 seconds, Work& work)
+{
+    const QString url = SetUrl(channel, u".ptz.presetseqdwell", QString::number(seconds));
+    const QString reply = co_await CgiGet(web, device, url, work);
+    co_return BeginsWithOk(reply);
+}
+
+QCoro::Task<bool> CgiSetPresetSeqList(WebBridge& web, DeviceAddress device, qint16 channel, QString list, Work& work)
+{
+    const QString reply = co_await CgiGet(web, device, SetUrl(channel, u".ptz.presetseqlist", list), work);
+    co_return BeginsWithOk(reply);
+}
+
+QCoro::Task<QString> CgiGetPresetSeqList(WebBridge& web, DeviceAddress device, qint16 channel, Work& work)
+{
+    const QString reply = co_await CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqlist"), work);
+    co_return SequenceOf(reply);
+}
+
+QCoro::Task<ChannelParams> CgiGetChannelParams(WebBridge& web, DeviceAddress device, qint16 channel, bool onvif,
+                                               Work& work)
+{
+    std::vector<QCoro::Task<QString>> asked; // all under way at once
+    const QStringList urls = ChannelUrls(channel, onvif);
+    for (const QString& url : urls)
+        asked.push_back(CgiGet(web, device, url, work));
+    QStringList replies;
+    for (QCoro::Task<QString>& reply : asked)
+        replies += co_await reply;
+    co_return ChannelParamsOf(replies);
+}
+
+QCoro::Task<std::optional<SvrCapability>> CgiGetServerCapability(WebBridge& web, DeviceAddress device, Work& work)
+{
+    const QString reply = co_await CgiGet(web, device, kCapabilityUrl, work, kQuickSeconds);
+    SvrCapability capability;
+    std::optional<SvrCapability> read;
+    if (ParseServerCapability(reply, capability))
+        read = capability;
+    co_return read;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/bridge/DeviceAddress.h"
+#include "platform/Work.h"
 
 #include <QString>
 
@@ -20,6 +21,13 @@ struct SvrCapability
     bool CMSSupport = false;
     QString DeviceType;
     bool CustomEventSupport = false;
+};
+
+// Result of /login.cgi.
+struct LoginReply
+{
+    qint32 result = 404; // 401 when the text holds "401", else 1 when there is a text, else 404
+    QString text;
 };
 
 inline constexpr qint32 kCgiDefaultTimeout = -1; // 60 seconds
@@ -79,3 +87,28 @@ qint32 CgiGetServerCapability(WebBridge& web, const DeviceAddress& device, SvrCa
 // Reads the reply into the record. False, with the record untouched, when it does not begin with "OK" in any case. A
 // key matches anywhere in a line; a number that is none is logged and leaves its field.
 bool ParseServerCapability(const QString& reply, SvrCapability& capability);
+
+// The same commands for coroutines: they await the device on behalf of `work`, and its stop ends them at once like a
+// failure of transport. The capability is none where the waiting
+// call gives -1; the readers of preset sequences throw as above.
+QCoro::Task<QString> CgiGet(WebBridge& web, DeviceAddress device, QString url, Work& work,
+                            qint32 seconds = kCgiDefaultTimeout);
+QCoro::Task<bool> CgiGetGid(WebBridge& web, DeviceAddress device, Work& work);
+QCoro::Task<QString> CgiDetectCamera(WebBridge& web, DeviceAddress device, QString ip, QString httpPort, QString user,
+                                     QString password, QString brand, Work& work);
+QCoro::Task<QString> CgiDetectCameraAs(WebBridge& web, DeviceAddress device, QString ip, QString httpPort, QString user,
+                                       QString password, qint16 camera, QString brand, Work& work);
+QCoro::Task<QString> GetSVRCameraSearch(WebBridge& web, DeviceAddress device, Work& work);
+QCoro::Task<QString> CgiGetFwVersion(WebBridge& web, DeviceAddress device, Work& work);
+QCoro::Task<LoginReply> CgiLogin(WebBridge& web, DeviceAddress device, Work& work);
+QCoro::Task<QString> CgiSetEventHttp(WebBridge& web, DeviceAddress device, QString params, qint16 svr, Work& work);
+QCoro::Task<QString> CgiGetBasicEvent(WebBridge& web, DeviceAddress device, Work& work);
+QCoro::Task<QString> CgiSetBasicEvent(WebBridge& web, DeviceAddress device, QString params, Work& work);
+QCoro::Task<qint32> CgiGetPresetSeqDwell(WebBridge& web, DeviceAddress device, qint16 channel, Work& work);
+QCoro::Task<bool> CgiSetPresetSeqDwell(WebBridge& web, DeviceAddress device, qint16 channel, qint32 seconds,
+                                       Work& work);
+QCoro::Task<bool> CgiSetPresetSeqList(WebBridge& web, DeviceAddress device, qint16 channel, QString list, Work& work);
+QCoro::Task<QString> CgiGetPresetSeqList(WebBridge& web, DeviceAddress device, qint16 channel, Work& work);
+QCoro::Task<ChannelParams> CgiGetChannelParams(WebBridge& web, DeviceAddress device, qint16 channel, bool onvif,
+                                               Work& work);
+QCoro::Task<std::optional<SvrCapability>> CgiGetServerCapability(WebBridge& web, DeviceAddress device, Work& work);

@@ -1,5 +1,6 @@
 #include "device/bridge/WebBridge.h"
 
+#include "platform/HttpFetch.h"
 #include "platform/Wait.h"
 
 #include <QPointer>
@@ -18,7 +19,7 @@ qint32 StatusOf(const HttpReply& reply)
 {
     switch (reply.failure) {
     case HttpFailure::None:
-        return reply.status >= 400 && reply.status != 401 ? -reply.status : 0;
+        return reply.succeeded() || reply.status == 401 ? 0 : -reply.status;
     case HttpFailure::BadRequest:
         return kWebBadRequest;
     case HttpFailure::NotResolved:
@@ -31,18 +32,46 @@ qint32 StatusOf(const HttpReply& reply)
         return kWebBrokenOff;
     case HttpFailure::TooLarge:
         return kWebTooLarge;
+    case HttpFailure::Stopped:
+        return kWebStopped;
     }
     return kWebBrokenOff;
 }
 
-HttpRequest RequestTo(const QString& address, qint32 port, const QString& user, const QString& password)
+HttpRequest RequestTo(const DeviceAddress& device)
 {
     HttpRequest request;
-    request.address = address;
-    request.port = port;
-    request.user = user;
-    request.password = password;
+    request.address = device.address;
+    request.port = device.port;
+    request.user = device.user;
+    request.password = device.password;
     return request;
+}
+
+HttpRequest ActionTo(const DeviceAddress& device, const QString& body)
+{
+    HttpRequest request = RequestTo(device);
+    request.target = "/cmd.cgi"_ba;
+    request.post = true;
+    request.body = body.toUtf8();
+    return request;
+}
+
+QString CmdBody(const QString& xml)
+{
+    return u"type=action&xml="_s + xml;
+}
+
+WebReply ReplyOf(const HttpReply& reply)
+{
+    WebReply result;
+    result.status = StatusOf(reply);
+    if (result.status < 0)
+        return result;
+    result.text = TextOfReply(reply.body);
+    if (reply.status == 401 && !result.text.contains("401"_L1))
+        result.text = u"401 Unauthorized"_s;
+    return result;
 }
 
 // Path and query of what an operator or a builder wrote.
@@ -50,8 +79,10 @@ QByteArray TargetOf(const QString& url)
 {
     QString target = url;
     if (target.startsWith("http://"_L1, Qt::CaseInsensitive)) {
-        const qsizetype path = target.indexOf(u'/', 7);
-        target = path < 0 ? u"/"_s : target.sliced(path);
+        qsizetype path = 7;
+        while (path < target.size() && !QStringView(u"/?#").contains(target[path]))
+            ++path;
+        target.remove(0, path);
     }
     if (!target.startsWith(u'/'))
         target.prepend(u'/');
@@ -91,10 +122,33 @@ void WebBridge::Initialise()
     m_timeout = kRestingTimeout;
 }
 
+QCoro::Task<WebReply> WebBridge::fetch(HttpRequest request, Work& work)
+{
+    HttpFetch asked(m_http, std::move(request), work);
+    const HttpReply reply = co_await asked;
+    co_return ReplyOf(reply);
+}
+
+QCoro::Task<WebReply> WebBridge::Get(DeviceAddress device, QString url, qint32 seconds, Work& work)
+{
+    HttpRequest request = RequestTo(device);
+    request.target = TargetOf(url);
+    request.seconds = seconds;
+    return fetch(std::move(request), work);
+}
+
+QCoro::Task<QString> WebBridge::SendCmdXml(DeviceAddress device, QString xml, Work& work)
+{
+    HttpRequest request = ActionTo(device, CmdBody(xml));
+    request.seconds = kRestingTimeout;
+    const WebReply reply = co_await fetch(std::move(request), work);
+    co_return reply.text;
+}
+
 qint32 WebBridge::SendCgi(const QString& address, qint32 port, const QString& user, const QString& password, qint32,
                           const QString& url, const QString&, const QString& body, qint32 mode, qint32&)
 {
-    HttpRequest request = RequestTo(address, port, user, password);
+    HttpRequest request = RequestTo({address, port, user, password});
     request.target = TargetOf(url);
     request.post = !body.isEmpty();
     request.body = body.toUtf8();
@@ -104,11 +158,7 @@ qint32 WebBridge::SendCgi(const QString& address, qint32 port, const QString& us
 qint32 WebBridge::SendAction(const QString& address, qint32 port, const QString& user, const QString& password, qint32,
                              const QString& body, qint32 wait, qint32)
 {
-    HttpRequest request = RequestTo(address, port, user, password);
-    request.target = "/cmd.cgi"_ba;
-    request.post = true;
-    request.body = body.toUtf8();
-    return send(request, wait == 1);
+    return send(ActionTo({address, port, user, password}, body), wait == 1);
 }
 
 qint32 WebBridge::start(HttpRequest request, bool waited)
@@ -136,7 +186,7 @@ QStringList WebBridge::GetTogether(const QString& address, qint32 port, const QS
     const QPointer<WebBridge> alive(this);
     std::vector<qint32> numbers;
     for (const QString& url : urls) {
-        HttpRequest request = RequestTo(address, port, user, password);
+        HttpRequest request = RequestTo({address, port, user, password});
         request.target = TargetOf(url);
         numbers.push_back(start(request, true));
     }
@@ -190,12 +240,9 @@ void WebBridge::finish(qint32 number, const HttpReply& reply)
     Request& request = found->second;
     request.transfer = 0;
     request.finished = true;
-    request.status = StatusOf(reply);
-    if (request.status >= 0) {
-        request.reply = TextOfReply(reply.body);
-        if (reply.status == 401 && !request.reply.contains("401"_L1))
-            request.reply = u"401 Unauthorized"_s;
-    }
+    const WebReply result = ReplyOf(reply);
+    request.status = result.status;
+    request.reply = result.text;
     const qint32 status = request.status;
     const bool waited = request.waited;
     if (waited)
@@ -237,6 +284,12 @@ qint32 WebBridge::RunCommand(const QString&, qint32, const QString&, const QStri
                              qint32)
 {
     return kWebNotSupported;
+}
+
+void WebBridge::DropReply(qint32 request)
+{
+    if (const auto found = m_requests.find(request); found != m_requests.end())
+        found->second.reply = QString();
 }
 
 void WebBridge::ReleaseRequest(qint32, qint32 request)
@@ -286,8 +339,7 @@ namespace {
 qint32 CarryXml(WebBridge& web, const DeviceAddress& device, const QString& xml, qint32 wait)
 {
     web.SetTimeout(kRestingTimeout);
-    const QString body = u"type=action&xml="_s + xml;
-    return web.SendAction(device.address, device.port, device.user, device.password, 1, body, wait, 1);
+    return web.SendAction(device.address, device.port, device.user, device.password, 1, CmdBody(xml), wait, 1);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "device/bridge/DeviceAddress.h"
 #include "platform/HttpClient.h"
+#include "platform/Work.h"
 
 #include <QObject>
 #include <QStringList>
@@ -14,7 +15,7 @@ inline constexpr qint32 kReleaseAction = 2;
 
 inline constexpr qint32 kRestingTimeout = 60; // seconds
 
-// Negative results of a request. An HTTP status of 400 and more (401 excepted) gives the status negated.
+// Negative results of a request. An HTTP status other than 200 to 299 and 401 gives the status negated.
 enum WebResult : qint32
 {
     kWebNotResolved = -1,
@@ -24,10 +25,19 @@ enum WebResult : qint32
     kWebTooLarge = -5,
     kWebBadRequest = -6,
     kWebClosing = -7,
-    kWebNotSupported = -8
+    kWebNotSupported = -8,
+    kWebStopped = -9 // the work that asked was stopped
 };
 
-// Requests to devices over HTTP. A request has a number (from 1) until it is released; numbers are unique over all
+// Reply of a request that a coroutine has awaited.
+struct WebReply
+{
+    qint32 status = kWebStopped; // 0, or a negative result
+    QString text;                // as WebBridge::GetCgiReply; empty with a negative result
+};
+
+// Requests to devices over HTTP. Coroutines await them on behalf of a work: Get and SendCmdXml. The others are
+// numbered: a request has a number (from 1) until it is released; numbers are unique over all
 // kinds. A request that is waited for runs the event loop meanwhile; an asynchronous one ends in RequestEnded.
 class WebBridge : public QObject
 {
@@ -42,6 +52,11 @@ public:
     // Whole-request time-out of the next request, in seconds.
     qint32 Timeout() const { return m_timeout; }
     void SetTimeout(qint32 seconds) { m_timeout = seconds; }
+
+    // GET of `url` (as for SendCgi) within `seconds`.
+    QCoro::Task<WebReply> Get(DeviceAddress device, QString url, qint32 seconds, Work& work);
+    // Sends one command document to the device (60 seconds). Result: the reply text, empty after any failure.
+    QCoro::Task<QString> SendCmdXml(DeviceAddress device, QString xml, Work& work);
 
     // GET of `url` (POST when there is a body). url: path and query, sent byte for byte as UTF-8; of a whole
     // "http://…" URL the path and query are taken. fileName, the constant and outCode are the control's and without
@@ -70,6 +85,9 @@ public:
     qint32 RunCommand(const QString& address, qint32 port, const QString& user, const QString& password,
                       qint32 constant, qint32 channelMap, qint32 kind, qint32 flag, qint32 command);
 
+    // Drops the reply of a finished request whose number stays taken.
+    void DropReply(qint32 request);
+
     // Frees a number. One still under way ends without an event.
     void ReleaseRequest(qint32 kind, qint32 request);
 
@@ -96,6 +114,7 @@ private:
         QString reply;
     };
 
+    QCoro::Task<WebReply> fetch(HttpRequest request, Work& work);
     qint32 start(HttpRequest request, bool waited);
     qint32 send(const HttpRequest& request, bool wait);
     bool ended(qint32 number) const;

@@ -1,5 +1,7 @@
 #include "device/protocol/CameraText.h"
 
+#include "device/protocol/ReplyText.h"
+
 #include <QList>
 #include <QStringTokenizer>
 
@@ -96,7 +98,7 @@ std::optional<DetectedCameraText> ReadDetectedCamera(const QString& reply, qint1
     DetectedCameraText camera;
     std::array<int, std::size(kKeys)> closeness;
     closeness.fill(-1);
-    for (const QStringView line : QStringTokenizer(reply, u'\n')) {
+    for (const QStringView line : QStringTokenizer(ReadableLines(reply), u'\n')) {
         auto [key, value] = PairOf(line);
         if (key.isEmpty() || value.size() > kMaxCameraValue)
             continue;
@@ -127,7 +129,7 @@ std::optional<DetectedCameraText> ReadDetectedCamera(const QString& reply, qint1
 bool DescribesSource(const QString& reply, qint16 source)
 {
     const QString prefix = u"v"_s + QString::number(source) + u'.';
-    for (const QStringView line : QStringTokenizer(reply, u'\n')) {
+    for (const QStringView line : QStringTokenizer(ReadableLines(reply), u'\n')) {
         if (line.startsWith(prefix))
             return true;
     }
@@ -139,20 +141,20 @@ std::optional<std::vector<FoundCamera>> ReadCameraSearch(const QString& reply)
     if (!BeginsWithOk(reply))
         return std::nullopt;
     std::vector<FoundCamera> found;
-    for (const QStringView line : QStringTokenizer(reply, u'\n')) {
+    for (const QStringView line : QStringTokenizer(ReadableLines(reply), u'\n')) {
         FoundCamera camera;
         for (const QStringView part : QStringTokenizer(line, u',')) {
             const auto [key, value] = PairOf(part);
             if (value.size() > kMaxCameraValue)
                 continue;
             if (key == "ip"_L1)
-                camera.IP = value.toString();
+                camera.IP = value.left(kMaxDeviceText).toString();
             else if (key == "httpport"_L1)
                 camera.HTTPPort = value.toInt();
             else if (key == "brand"_L1)
-                camera.Manufacturer = value.toString();
+                camera.Manufacturer = value.left(kMaxDeviceText).toString();
             else if (key == "model"_L1)
-                camera.Model = value.toString();
+                camera.Model = value.left(kMaxDeviceText).toString();
         }
         if (camera.IP.isEmpty())
             continue;
@@ -167,7 +169,7 @@ std::optional<CameraEventBits> ReadCameraEvents(const QString& reply)
 {
     bool told = BeginsWithOk(reply);
     CameraEventBits bits{};
-    for (const QStringView line : QStringTokenizer(reply, u'\n')) {
+    for (const QStringView line : QStringTokenizer(ReadableLines(reply), u'\n')) {
         for (const QStringView part : QStringTokenizer(line, u';')) {
             const auto [key, value] = PairOf(part);
             const int number = ChannelOf(key);
@@ -202,7 +204,7 @@ QString CameraEventParameters(const CameraEventBits& bits, const std::vector<int
 std::vector<int> RefusedChannels(const QString& reply)
 {
     std::vector<int> channels;
-    for (const QStringView line : QStringTokenizer(reply, u'\n')) {
+    for (const QStringView line : QStringTokenizer(ReadableLines(reply), u'\n')) {
         const auto [key, value] = PairOf(line);
         if (key != "failed"_L1)
             continue;

@@ -1,8 +1,10 @@
 #include "device/protocol/ParameterText.h"
 
 #include "app/log/Module_Log.h"
+#include "device/protocol/ReplyText.h"
 #include "support/Conversions.h"
 
+#include <QStringTokenizer>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -66,7 +68,7 @@ constexpr Key kOnvifKeys[] = {
 
 void ReadKeys(std::span<const Key> keys, SVRChannel& channel, const QString& reply)
 {
-    for (const QStringView piece : QStringView(reply).split(u"camera")) {
+    for (const QStringView piece : QStringTokenizer(ReadableLines(reply), u"camera")) {
         for (const Key& key : keys) {
             if (!piece.contains(key.key))
                 continue;
@@ -148,7 +150,7 @@ int HexAt(QStringView text, qsizetype at, int digits)
 void RefuseQuote(const QString& text)
 {
     if (text.contains(u'"'))
-        throw ConversionError(u"Double quote in '%1'"_s.arg(text.left(64)));
+        throw ConversionError(u"Double quote in a text"_s); // which may be a password
 }
 
 } // namespace

@@ -1,10 +1,21 @@
 #include "device/protocol/ReplyParsers.h"
 
+#include "device/protocol/CameraText.h"
 #include "device/protocol/XmlReply.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr std::size_t kMaxActions = 4096; // rows of an action list that are read
+
+// A name, model or address as far as a record takes it.
+QString ShortText(pugi::xml_node node)
+{
+    return NodeText(node).left(kMaxDeviceText);
+}
 
 // Calls `visit` for each element found under the wrapper `list` of a readable reply. False when it cannot be read.
 template <class Visit>
@@ -16,7 +27,7 @@ bool ForEachListed(const XmlReply& reply, const char* list, Visit&& visit)
 }
 
 constexpr auto kSystemInfo = Elements<SVRRecord>({
-    {"Name", [](SVRRecord& edit, pugi::xml_node node) { edit.sSVR_Name = NodeText(node); }},
+    {"Name", [](SVRRecord& edit, pugi::xml_node node) { edit.sSVR_Name = ShortText(node); }},
     {"HTTPPort", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_HttpPort = Int32Of(node); }},
     {"Port", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_VideoPort = Int32Of(node); }},
     {"DSTEnable", [](SVRRecord& edit, pugi::xml_node node) { edit.iSVR_SummerTime = Int32Of(node) > 0 ? -1 : 0; }},
@@ -29,39 +40,39 @@ constexpr auto kTimeSettings = Elements<SVRRecord>({
 });
 
 constexpr auto kDeviceInfo = Elements<DeviceInfo>({
-    {"Brand", [](DeviceInfo& info, pugi::xml_node node) { info.Brand = NodeText(node); }},
-    {"Model", [](DeviceInfo& info, pugi::xml_node node) { info.Model = NodeText(node); }},
-    {"URL", [](DeviceInfo& info, pugi::xml_node node) { info.URL = NodeText(node); }},
-    {"CMDVersion", [](DeviceInfo& info, pugi::xml_node node) { info.CMDVersion = NodeText(node); }},
-    {"InternalModel", [](DeviceInfo& info, pugi::xml_node node) { info.InternalModel = NodeText(node); }},
-    {"InternalVersion", [](DeviceInfo& info, pugi::xml_node node) { info.InternalVersion = NodeText(node); }},
-    {"DeviceType", [](DeviceInfo& info, pugi::xml_node node) { info.DeviceType = NodeText(node); }},
+    {"Brand", [](DeviceInfo& info, pugi::xml_node node) { info.Brand = ShortText(node); }},
+    {"Model", [](DeviceInfo& info, pugi::xml_node node) { info.Model = ShortText(node); }},
+    {"URL", [](DeviceInfo& info, pugi::xml_node node) { info.URL = ShortText(node); }},
+    {"CMDVersion", [](DeviceInfo& info, pugi::xml_node node) { info.CMDVersion = ShortText(node); }},
+    {"InternalModel", [](DeviceInfo& info, pugi::xml_node node) { info.InternalModel = ShortText(node); }},
+    {"InternalVersion", [](DeviceInfo& info, pugi::xml_node node) { info.InternalVersion = ShortText(node); }},
+    {"DeviceType", [](DeviceInfo& info, pugi::xml_node node) { info.DeviceType = ShortText(node); }},
     {"MaxChSupport", [](DeviceInfo& info, pugi::xml_node node) { info.MaxChSupport = Int16Of(node); }},
     {"InputPort", [](DeviceInfo& info, pugi::xml_node node) { info.InputPort = Int32Of(node); }},
     {"OutputPort", [](DeviceInfo& info, pugi::xml_node node) { info.OutputPort = Int32Of(node); }},
 });
 
 constexpr auto kFoundCamera = Elements<FoundCamera>({
-    {"IP", [](FoundCamera& found, pugi::xml_node node) { found.IP = NodeText(node); }},
-    {"NetMask", [](FoundCamera& found, pugi::xml_node node) { found.NetMask = NodeText(node); }},
-    {"Manufacturer", [](FoundCamera& found, pugi::xml_node node) { found.Manufacturer = NodeText(node); }},
-    {"Model", [](FoundCamera& found, pugi::xml_node node) { found.Model = NodeText(node); }},
-    {"DeviceName", [](FoundCamera& found, pugi::xml_node node) { found.DeviceName = NodeText(node); }},
-    {"MACAddress", [](FoundCamera& found, pugi::xml_node node) { found.MACAddress = NodeText(node); }},
+    {"IP", [](FoundCamera& found, pugi::xml_node node) { found.IP = ShortText(node); }},
+    {"NetMask", [](FoundCamera& found, pugi::xml_node node) { found.NetMask = ShortText(node); }},
+    {"Manufacturer", [](FoundCamera& found, pugi::xml_node node) { found.Manufacturer = ShortText(node); }},
+    {"Model", [](FoundCamera& found, pugi::xml_node node) { found.Model = ShortText(node); }},
+    {"DeviceName", [](FoundCamera& found, pugi::xml_node node) { found.DeviceName = ShortText(node); }},
+    {"MACAddress", [](FoundCamera& found, pugi::xml_node node) { found.MACAddress = ShortText(node); }},
     {"HTTPPort", [](FoundCamera& found, pugi::xml_node node) { found.HTTPPort = Int32Of(node); }},
     {"DeviceType", [](FoundCamera& found, pugi::xml_node node) { found.DeviceType = Int16Of(node); }},
 });
 
 constexpr auto kPosition = Elements<PositionRecord>({
     {"CH", [](PositionRecord& position, pugi::xml_node node) { position.CH = Int16Of(node); }},
-    {"Pan", [](PositionRecord& position, pugi::xml_node node) { position.Pan = NodeText(node); }},
-    {"Tilt", [](PositionRecord& position, pugi::xml_node node) { position.Tilt = NodeText(node); }},
-    {"Zoom", [](PositionRecord& position, pugi::xml_node node) { position.Zoom = NodeText(node); }},
-    {"Focus", [](PositionRecord& position, pugi::xml_node node) { position.Focus = NodeText(node); }},
+    {"Pan", [](PositionRecord& position, pugi::xml_node node) { position.Pan = ShortText(node); }},
+    {"Tilt", [](PositionRecord& position, pugi::xml_node node) { position.Tilt = ShortText(node); }},
+    {"Zoom", [](PositionRecord& position, pugi::xml_node node) { position.Zoom = ShortText(node); }},
+    {"Focus", [](PositionRecord& position, pugi::xml_node node) { position.Focus = ShortText(node); }},
 });
 
 constexpr auto kPreset = Elements<PresetEntry>({
-    {"Name", [](PresetEntry& preset, pugi::xml_node node) { preset.Name = DecodedText(node); }},
+    {"Name", [](PresetEntry& preset, pugi::xml_node node) { preset.Name = DecodedText(node).left(kMaxDeviceText); }},
     {"PTZABS", [](PresetEntry& preset, pugi::xml_node node) { preset.PTZABS = DecodedText(node) == "1"_L1; }},
     {"Pan", [](PresetEntry& preset, pugi::xml_node node) { preset.Pan = DecodedText(node); }},
     {"Tilt", [](PresetEntry& preset, pugi::xml_node node) { preset.Tilt = DecodedText(node); }},
@@ -134,6 +145,8 @@ void ParseSearchResult(ReplyText reply, std::vector<FoundCamera>& found)
     const XmlReply document(std::move(reply));
     std::size_t count = 0;
     const auto read = [&](pugi::xml_node device) {
+        if (count == kMaxFoundCameras)
+            return;
         if (count == found.size())
             found.emplace_back();
         ReadElements(kFoundCamera, found[count++], device);
@@ -177,7 +190,7 @@ QString ParsePresetSeq(ReplyText reply)
             });
         });
     });
-    return values.isEmpty() ? QString() : QString(values.join(u',') + u';');
+    return values.isEmpty() ? QString() : QString(values.join(u',').left(kMaxDeviceList - 1) + u';');
 }
 
 PositionRecord ParsePtzPosition(ReplyText reply)
@@ -201,9 +214,12 @@ qint16 ParseActionList(ReplyText reply, std::vector<ActionRecord>& actions)
     if (!response)
         return -1;
     if (const pugi::xml_node list = response.child("ActionList")) {
-        actions.assign(ElementCount(list), ActionRecord());
+        actions.assign(std::min(ElementCount(list), kMaxActions), ActionRecord());
         std::size_t row = 0;
-        ForEachElement(list, [&](pugi::xml_node node) { ReadAction(actions[row++], node); });
+        ForEachElement(list, [&](pugi::xml_node node) {
+            if (row < actions.size())
+                ReadAction(actions[row++], node);
+        });
     }
     return 1;
 }

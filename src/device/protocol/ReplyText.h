@@ -6,6 +6,13 @@
 inline constexpr qsizetype kMaxReplySize = 16 * 1024 * 1024; // characters or bytes
 inline constexpr qsizetype kMaxReplyMarkup = 400'000;        // "<" and, counted apart, "=" in one reply
 
+// What a device's texts may bring into a record: a name or model, and a list. What is longer is cut.
+inline constexpr qsizetype kMaxDeviceText = 255; // characters
+inline constexpr qsizetype kMaxDeviceList = 64 * 1024;
+
+// The part of a reply of lines that is read: all of it, or the whole lines within its first 256 Ki characters.
+QStringView ReadableLines(const QString& reply);
+
 // The text of a reply as UTF-8. Bytes that are not valid UTF-8 are read as Latin-1; a text over kMaxReplySize is
 // taken as the empty one.
 class ReplyText

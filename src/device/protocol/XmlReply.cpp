@@ -68,6 +68,13 @@ void DecodeReferences(QString& text)
 
 } // namespace
 
+QStringView ReadableLines(const QString& reply)
+{
+    constexpr qsizetype limit = 256 * 1024;
+    const QStringView text(reply);
+    return text.size() <= limit ? text : text.first(text.first(limit).lastIndexOf(u'\n') + 1);
+}
+
 ReplyText::ReplyText(const QString& text)
     : m_utf8(text.size() <= kMaxReplySize ? text.toUtf8() : QByteArray())
 {

@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kSource("Form_CameraSetting - cmbeditCam_Click");
-constexpr qsizetype kLoggedReply = 200; // characters
 
 enum Message
 {
@@ -33,7 +32,8 @@ int ResultOf(const QString& reply)
 
 RecorderOutcome RefusedWrite(const QString& reply)
 {
-    LogTrap(kSource, u"Recorder answered '%1'"_s.arg(reply.left(kLoggedReply).simplified()));
+    // Not the reply itself: a recorder may repeat the camera's password in it.
+    LogTrap(kSource, u"Recorder refused with result %1 in %2 characters"_s.arg(ResultOf(reply)).arg(reply.size()));
     return RecorderOutcome::Failed(kDetectFault);
 }
 

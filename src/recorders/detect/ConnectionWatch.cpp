@@ -49,7 +49,7 @@ ConnectionState ConnectionOf(const HttpReply& reply)
     }
     if (reply.status == 401)
         return {Kind::Refused, kLoginRefused};
-    if (reply.status >= 400 || !reply.body.toUpper().contains("OK"))
+    if (!reply.succeeded() || !reply.body.toUpper().contains("OK"))
         return {Kind::Lost, kUnexpected};
     return {Kind::Connected, kConnected};
 }

@@ -1,0 +1,144 @@
+#include "platform/Work.h"
+
+#include "platform/Wait.h"
+
+#include <QTimer>
+#include <algorithm>
+
+namespace {
+
+std::vector<Work*>& AllWork()
+{
+    static std::vector<Work*> all;
+    return all;
+}
+
+} // namespace
+
+Work::Work(QObject* parent)
+    : QObject(parent)
+{
+    AllWork().push_back(this);
+}
+
+Work::~Work()
+{
+    blockSignals(true);
+    stop();
+    std::erase(AllWork(), this);
+}
+
+bool Work::start(Body body)
+{
+    if (m_running || Closing())
+        return false;
+    m_running = true;
+    m_stopped = false;
+    m_step.clear();
+    m_percent = -1;
+    emit runningChanged(true);
+    drive(this, std::move(body));
+    return true;
+}
+
+QCoro::Task<> Work::drive(QPointer<Work> work, Body body)
+{
+    try {
+        QCoro::Task<> task = body();
+        co_await task;
+    } catch (...) { // NOLINT: the end must come; whoever starts a work traps
+    }
+    if (work)
+        work->end();
+}
+
+void Work::end()
+{
+    m_running = false;
+    emit runningChanged(false);
+}
+
+void Work::stop()
+{
+    m_stopped = true;
+    const QPointer<Work> alive(this);
+    while (alive && !m_waiting.empty()) {
+        WorkAwaitable* const waiting = m_waiting.front();
+        waiting->abandon();
+        waiting->finish();
+    }
+}
+
+bool Work::stopped() const
+{
+    return m_stopped || Closing();
+}
+
+void Work::say(const QString& step, int percent)
+{
+    if (step == m_step && percent == m_percent)
+        return;
+    m_step = step;
+    m_percent = percent;
+    emit stepChanged();
+}
+
+void StopAllWork()
+{
+    const std::vector<Work*> all = AllWork();
+    for (Work* work : all) {
+        // The end of one may be the end of another.
+        if (std::find(AllWork().begin(), AllWork().end(), work) != AllWork().end())
+            work->stop();
+    }
+}
+
+WorkAwaitable::~WorkAwaitable()
+{
+    leave();
+}
+
+void WorkAwaitable::suspend(std::coroutine_handle<> waiting)
+{
+    m_waiting = waiting;
+    m_work.m_waiting.push_back(this);
+    begin();
+}
+
+void WorkAwaitable::leave()
+{
+    if (m_waiting)
+        std::erase(m_work.m_waiting, this);
+}
+
+void WorkAwaitable::finish()
+{
+    leave();
+    std::exchange(m_waiting, nullptr).resume();
+}
+
+Pause::Pause(Work& work, int milliseconds)
+    : WorkAwaitable(work)
+    , m_milliseconds(milliseconds)
+{
+}
+
+Pause::~Pause() = default;
+
+void Pause::begin()
+{
+    auto timer = std::make_unique<QTimer>();
+    timer->setSingleShot(true);
+    QObject::connect(timer.get(), &QTimer::timeout, timer.get(), [this] {
+        m_passed = true;
+        m_timer.release()->deleteLater(); // it is the caller
+        finish();
+    });
+    timer->start(m_milliseconds);
+    m_timer = std::move(timer);
+}
+
+void Pause::abandon()
+{
+    m_timer.reset();
+}
