@@ -72,9 +72,9 @@ GroupPrivilegeRecord Station::currentRights() const
     return rights;
 }
 
-void SaveCheck(Station& station)
+bool SaveCheck(Station& station)
 {
-    station.families.SaveCheck([&](int page) {
+    return station.families.SaveCheck([&](int page) {
         station.m_bDataSaved = true;
         RunEventAction(station, page, -1, {}, CurrentUser());
     });

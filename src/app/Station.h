@@ -72,8 +72,9 @@ struct Station
     GroupPrivilegeRecord currentRights() const;
 };
 
-// Writes everything that is marked on any page, then the audit line (and notification) of each touched page.
-void SaveCheck(Station& station);
+// Writes everything that is marked on any page, then the audit line (and notification) of each touched page. False when
+// a save failed: what it would have written is still marked.
+bool SaveCheck(Station& station);
 
 // Audit line and notification of an action (0 to 12), notification alone (13 to 16), nothing above. `key` is
 // slot * 64 + channel, both from 0, or -1; `text` goes before the channel's text in actions 15 and 16.

@@ -1,6 +1,6 @@
 #include "emap/EMapStore.h"
 
-#include "store/TableRows.h"
+#include "store/Family.h"
 #include "store/tables/Tables.h"
 
 #include <algorithm>
@@ -10,10 +10,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kPage = 6;
+constexpr int kCaption = 433; // "Map"
+constexpr QLatin1String kGroupSource("Module_DB_Access - SaveEMapGroup");
+constexpr QLatin1String kIconSource("Module_DB_Access - SaveEMapIcon");
 
 EMapIcon& IconOf(EMapIconTable& table, const EMapIconRow& row)
 {
     return At(At(table, row.iSVR - 1).channels, row.iChannel - 1);
+}
+
+EMapIconRow IconRow(const EMapIconTable& table, int slot, int channel)
+{
+    return {At(At(table, slot).channels, channel), static_cast<qint16>(slot + 1), static_cast<qint16>(channel + 1)};
 }
 
 } // namespace
@@ -34,8 +42,7 @@ bool GetEMapGroup(Databases& databases, EMapSet& set)
 
 bool SaveEMapGroup(Databases& databases, const EMapSet& set)
 {
-    constexpr QLatin1String source("Module_DB_Access - SaveEMapGroup");
-    return ReplaceTable(databases, u"EMapGroup"_s, u"Delete * From EMapGroup "_s, EMapGroupColumns, source,
+    return ReplaceTable(databases, u"EMapGroup"_s, u"Delete * From EMapGroup "_s, EMapGroupColumns, kGroupSource,
                         [&](auto&& add) { std::for_each(set.stored.begin(), set.stored.end(), add); }) == 1;
 }
 
@@ -48,41 +55,57 @@ bool GetEMapIconEx(Databases& databases, EMapSet& set)
 
 bool SaveEMapIcon(Databases& databases, const EMapSet& set, const RecorderSet& recorders)
 {
-    constexpr QLatin1String source("Module_DB_Access - SaveEMapIcon");
     return ReplaceTable(
-               databases, u"EMapIcon"_s, u"Delete * From EMapIcon"_s, EMapIconColumns, source, [&](auto&& add) {
+               databases, u"EMapIcon"_s, u"Delete * From EMapIcon"_s, EMapIconColumns, kIconSource, [&](auto&& add) {
                    for (int slot = 0; slot < kMaxSVR; ++slot) {
                        const SVRRecord& recorder = At(recorders.SVRList, slot);
                        for (int channel = 0; channel < kMaxChannel && !recorder.sSVR_Name.isEmpty(); ++channel) {
                            if (!At(recorder.channels, channel).sSub_CH_Name.isEmpty())
-                               add({At(At(set.iconsStored, slot).channels, channel), static_cast<qint16>(slot + 1),
-                                    static_cast<qint16>(channel + 1)});
+                               add(IconRow(set.iconsStored, slot, channel));
                        }
                    }
                }) == 1;
 }
 
+namespace {
+
+// Keyed by level and number: places in the list move when maps come and go.
+std::vector<FamilyRow<EMapGroupRow>> MapRows(const std::vector<EMapGroupRow>& maps)
+{
+    std::vector<FamilyRow<EMapGroupRow>> rows;
+    for (const EMapGroupRow& map : maps)
+        rows.push_back({QString::number(map.iMap_Type) + u'/' + QString::number(map.iMap_ID), map.sName, map});
+    return rows;
+}
+
+std::vector<FamilyRow<EMapIconRow>> IconRows(const EMapIconTable& icons, const RecorderSet& recorders)
+{
+    std::vector<FamilyRow<EMapIconRow>> rows;
+    ForEachChannel([&](int slot, int channel) {
+        const QString label = ChannelLabel(recorders, slot, channel);
+        rows.push_back({ChannelKey(slot, channel), label, IconRow(icons, slot, channel)});
+    });
+    return rows;
+}
+
+} // namespace
+
 RecordFamily EMapGroupFamily(Databases& databases, EMapSet& set)
 {
-    return {
-        FamilyOrder::EMapGroup, kPage,
-        [&set] {
-            return std::any_of(set.edit.begin(), set.edit.end(), [](const EMapGroupRow& map) { return map.bChanged; });
-        },
-        [&databases, &set] { return SaveMarked(set.stored, set.edit, [&] { return SaveEMapGroup(databases, set); }); },
-        [&set] { set.edit = set.stored; }};
+    return MakeFamily(
+        databases, {FamilyOrder::EMapGroup, kPage, kCaption, {u"EMapGroup"_s}, kGroupSource},
+        Generations<std::vector<EMapGroupRow>>{set.stored, set.edit},
+        [&databases, &set]() -> qint16 { return SaveEMapGroup(databases, set); },
+        [&set](auto& list) { Compare(list, MapRows(set.stored), MapRows(set.edit), EMapGroupColumns); });
 }
 
 RecordFamily EMapIconFamily(Databases& databases, EMapSet& set, const RecorderSet& recorders)
 {
-    return {FamilyOrder::EMapIcon, kPage,
-            [&set] {
-                return std::any_of(set.iconsEdit.begin(), set.iconsEdit.end(),
-                                   [](const EMapIconRecord& icons) { return icons.bChanged; });
-            },
-            [&databases, &set, &recorders] {
-                return SaveMarked(set.iconsStored, set.iconsEdit,
-                                  [&] { return SaveEMapIcon(databases, set, recorders); });
-            },
-            [&set] { set.iconsEdit = set.iconsStored; }};
+    return MakeFamily(
+        databases, {FamilyOrder::EMapIcon, kPage, kCaption, {u"EMapIcon"_s}, kIconSource},
+        Generations<EMapIconTable>{set.iconsStored, set.iconsEdit},
+        [&databases, &set, &recorders]() -> qint16 { return SaveEMapIcon(databases, set, recorders); },
+        [&set, &recorders](auto& list) {
+            Compare(list, IconRows(set.iconsStored, recorders), IconRows(set.iconsEdit, recorders), EMapIconColumns);
+        });
 }

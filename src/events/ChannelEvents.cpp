@@ -1,6 +1,6 @@
 #include "events/ChannelEvents.h"
 
-#include "store/TableRows.h"
+#include "store/Family.h"
 #include "store/tables/Tables.h"
 
 #include <algorithm>
@@ -110,21 +110,36 @@ void NameChannelEvents(ChannelEventSet& set, int slot, const SVRRecord& recorder
     }
 }
 
+namespace {
+
+// The settings of one table as rows; their analysis id is the recorders' business, so it is left at 0.
+std::vector<FamilyRow<ChannelSettingRow>> SettingRows(const std::array<IntelligentSettings, kMaxSVR>& generation,
+                                                      const DetectionTable& table, const RecorderSet& recorders)
+{
+    std::vector<FamilyRow<ChannelSettingRow>> rows;
+    ForEachChannel([&](int slot, int channel) {
+        const IntelligentChannel& settings = At(At(generation, slot).channels, channel);
+        rows.push_back({ChannelKey(slot, channel),
+                        ChannelLabel(recorders, slot, channel) + u", "_s + table.name,
+                        {0, settings.*table.enable, settings.*table.sensitivity}});
+    });
+    return rows;
+}
+
+} // namespace
+
 RecordFamily EventSettingsFamily(Databases& databases, ChannelEventSet& set, const RecorderSet& recorders)
 {
-    return {FamilyOrder::EventSettings, 2,
-            [&set] {
-                return std::any_of(set.edit.begin(), set.edit.end(), [](const IntelligentSettings& settings) {
-                    return std::ranges::any_of(settings.channels, &IntelligentChannel::bChanged);
-                });
-            },
-            [&databases, &set, &recorders] {
-                const auto clear = [](IntelligentSettings& settings) {
-                    for (IntelligentChannel& channel : settings.channels)
-                        channel.bChanged = false;
-                };
-                return SaveMarked(
-                    set.stored, set.edit, [&] { return SetEventInfo(databases, set, recorders); }, clear);
-            },
-            [&set] { set.edit = set.stored; }};
+    QStringList tables;
+    for (const DetectionTable& table : kTables)
+        tables << table.name;
+    return MakeFamily(
+        databases, {FamilyOrder::EventSettings, 2, 399, tables, kSetSource},
+        Generations<std::array<IntelligentSettings, kMaxSVR>>{set.stored, set.edit},
+        [&databases, &set, &recorders] { return SetEventInfo(databases, set, recorders); },
+        [&set, &recorders](auto& list) {
+            for (const DetectionTable& table : kTables)
+                Compare(list, SettingRows(set.stored, table, recorders), SettingRows(set.edit, table, recorders),
+                        ChannelSettingColumns);
+        });
 }

@@ -4,7 +4,7 @@
 #include "platform/Autostart.h"
 #include "platform/Clock.h"
 #include "platform/clsOSInfo.h"
-#include "store/TableRows.h"
+#include "store/Family.h"
 #include "store/tables/Tables.h"
 #include "support/ServiceTexts.h"
 
@@ -13,6 +13,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr QLatin1String kSaveSource("Module_DB_Access - SaveMyDefault");
 
 // The wall's style is honoured only on layouts whose fourth version part begins with a number of 22 or more.
 bool ReadsVideoWallStyle(const QString& version)
@@ -45,14 +47,9 @@ qint16 GetBasicDefault(Databases& databases, BasicDefaultSet& set)
 
 qint16 SaveMyDefault(Databases& databases, BasicDefaultSet& set)
 {
-    constexpr QLatin1String source("Module_DB_Access - SaveMyDefault");
-    if (databases.unread.contains(u"BasicDefault"_s)) {
-        LogTrap(source, u"BasicDefault could not be read and is not written over"_s);
-        return 0;
-    }
     if (OpenRecset(databases, u"BasicDefault"_s) == 0)
         return 0;
-    const bool saved = Trapped(source, [&] {
+    const bool saved = Trapped(kSaveSource, [&] {
         Recordset& rows = *databases.DBRec;
         const qint64 count = rows.recordCount();
         for (qint64 i = 0; i < count; ++i) {
@@ -60,13 +57,12 @@ qint16 SaveMyDefault(Databases& databases, BasicDefaultSet& set)
             rows.move(i);
             if (TextField(rows.value(u"sBrand"_s)) != set.stored.sBrand)
                 continue;
-            TableAccess<BasicDefaultRecord>(rows, BasicDefaultColumns, source).write(set.stored);
+            TableAccess<BasicDefaultRecord>(rows, BasicDefaultColumns, kSaveSource).write(set.stored);
             break;
         }
-        set.stored.bChanged = false;
         rows.update();
     });
-    Trapped(source, [&] { databases.DBRec->close(); });
+    Trapped(kSaveSource, [&] { databases.DBRec->close(); });
     return saved ? 1 : 0;
 }
 
@@ -123,16 +119,19 @@ QString DetailExport()
 
 RecordFamily BasicDefaultFamily(Databases& databases, BasicDefaultSet& set)
 {
-    return {FamilyOrder::BasicDefault, 0, [&set] { return set.edit.bChanged; },
-            [&databases, &set] {
-                const BasicDefaultRecord before = std::exchange(set.stored, set.edit);
-                if (SaveMyDefault(databases, set) == 0) {
-                    set.stored = before;
-                    return false;
-                }
-                set.edit.bChanged = false;
-                StartUp_Reg(set.stored);
-                return true;
-            },
-            [&set] { set.edit = set.stored; }};
+    const auto row = [](const BasicDefaultRecord& record) {
+        return std::vector<FamilyRow<BasicDefaultRecord>>{{record.sBrand, record.sSystemName, record}};
+    };
+    RecordFamily family = MakeFamily(
+        databases, {FamilyOrder::BasicDefault, 0, 890, {u"BasicDefault"_s}, kSaveSource},
+        Generations<BasicDefaultRecord>{set.stored, set.edit},
+        [&databases, &set] { return SaveMyDefault(databases, set); },
+        [&set, row](auto& list) { Compare(list, row(set.stored), row(set.edit), BasicDefaultColumns); });
+    family.save = [&set, save = std::move(family.save)] {
+        if (!save())
+            return false;
+        StartUp_Reg(set.stored);
+        return true;
+    };
+    return family;
 }

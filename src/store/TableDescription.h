@@ -31,6 +31,8 @@ struct FieldInfo
     FieldType type;
     const char* defaultSql; // literal of the table's default
     FieldUse use = FieldUse::ReadWrite;
+    int caption = 0;     // number of the message that names the field, 0 for none
+    bool shared = false; // of a record that has several rows: the same in each of them
 };
 
 // One column over rows of type Row. `read` throws ConversionError for a value that does not fit.
@@ -46,6 +48,18 @@ struct Column
     {
         Column copy = *this;
         copy.info.use = use;
+        return copy;
+    }
+    constexpr Column named(int caption) const
+    {
+        Column copy = *this;
+        copy.info.caption = caption;
+        return copy;
+    }
+    constexpr Column sharedByRows() const
+    {
+        Column copy = *this;
+        copy.info.shared = true;
         return copy;
     }
     constexpr Column withDefault(const char* sql) const

@@ -1,6 +1,6 @@
 #include "users/GroupStore.h"
 
-#include "store/TableRows.h"
+#include "store/Family.h"
 #include "store/tables/Tables.h"
 
 #include <algorithm>
@@ -64,20 +64,41 @@ void GrantNewRecorder(GroupSet& set, int slot)
     }
 }
 
+namespace {
+
+using Groups = std::array<GroupPrivilegeRecord, kGroups>;
+
+std::vector<FamilyRow<NVRPrivilegeRow>> RightsRows(const Groups& groups)
+{
+    std::vector<FamilyRow<NVRPrivilegeRow>> rows;
+    for (int group = 0; group < kGroups; ++group) {
+        const GroupPrivilegeRecord& record = At(groups, group);
+        for (int slot = 0; slot < kMaxSVR; ++slot)
+            rows.push_back({u"%1/%2"_s.arg(group).arg(slot),
+                            record.Name + u", NVR "_s + QString::number(slot + 1),
+                            {group + 1, slot + 1, At(record.CHPrivilege, slot)}});
+    }
+    return rows;
+}
+
+} // namespace
+
 RecordFamily GroupFamily(Databases& databases, GroupSet& set, SlotInUse inUse)
 {
-    return {FamilyOrder::GroupPrivilege, 3,
-            [&set] {
-                return std::any_of(set.edit.begin(), set.edit.end(),
-                                   [](const GroupPrivilegeRecord& record) { return record.bChanged; });
-            },
-            [&databases, &set, inUse = std::move(inUse)] {
-                return SaveMarked(set.stored, set.edit, [&] {
-                    return AsOneStep(databases, "Module_DB_Access - SaveGroupPrivilege"_L1, [&]() -> qint16 {
-                        return SaveGroupPrivilege(databases, set) == 1 ? SaveNVRPrivilege(databases, set, inUse)
-                                                                       : qint16(0);
-                    });
-                });
-            },
-            [&set] { set.edit = set.stored; }};
+    const auto name = [](const GroupPrivilegeRecord& group) { return group.Name; };
+    return MakeFamily(
+        databases,
+        {FamilyOrder::GroupPrivilege,
+         3,
+         423,
+         {u"GroupPrivilege"_s, u"NVRPrivilege"_s},
+         "Module_DB_Access - SaveGroupPrivilege"_L1},
+        Generations<Groups>{set.stored, set.edit},
+        [&databases, &set, inUse = std::move(inUse)]() -> qint16 {
+            return SaveGroupPrivilege(databases, set) == 1 ? SaveNVRPrivilege(databases, set, inUse) : qint16(0);
+        },
+        [&set, name](auto& list) {
+            Compare(list, RowsByPlace(set.stored, name), RowsByPlace(set.edit, name), GroupPrivilegeColumns);
+            Compare(list, RightsRows(set.stored), RightsRows(set.edit), NVRPrivilegeColumns);
+        });
 }

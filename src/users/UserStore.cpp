@@ -1,6 +1,6 @@
 #include "users/UserStore.h"
 
-#include "store/TableRows.h"
+#include "store/Family.h"
 #include "store/records/ScreenRecords.h"
 #include "store/tables/Tables.h"
 
@@ -194,17 +194,14 @@ bool IsLastAdmin(const UserSet& set, int index)
 
 RecordFamily UserFamily(Databases& databases, UserSet& set, std::function<int()> monitors)
 {
-    return {FamilyOrder::User, 3,
-            [&set] {
-                return std::any_of(set.edit.begin(), set.edit.end(),
-                                   [](const UserRecord& user) { return user.bChanged; });
-            },
-            [&databases, &set, monitors = std::move(monitors)] {
-                return SaveMarked(set.stored, set.edit, [&] {
-                    return AsOneStep(databases, "Module_DB_Access - SaveUser"_L1, [&]() -> qint16 {
-                        return DELUser(databases, set) == 1 ? SaveUser(databases, set, monitors()) : qint16(0);
-                    });
-                });
-            },
-            [&set] { set.edit = set.stored; }};
+    const auto name = [](const UserRecord& user) { return user.sUser; };
+    return MakeFamily(
+        databases, {FamilyOrder::User, 3, 465, {u"UserData"_s}, "Module_DB_Access - SaveUser"_L1},
+        Generations<std::vector<UserRecord>>{set.stored, set.edit},
+        [&databases, &set, monitors = std::move(monitors)]() -> qint16 {
+            return DELUser(databases, set) == 1 ? SaveUser(databases, set, monitors()) : qint16(0);
+        },
+        [&set, name](auto& list) {
+            Compare(list, RowsByPlace(set.stored, name), RowsByPlace(set.edit, name), UserColumns);
+        });
 }

@@ -395,6 +395,66 @@ TEST_F(StationTest, EachTouchedPageIsSavedOnceAndAudited)
     EXPECT_EQ(AutostartCommand(AutostartScope::User, u"CMS_Core"_s), QString());
 }
 
+TEST_F(StationTest, EveryFamilyTellsWhatASaveWouldChange)
+{
+    makeDatabase(kDatabaseFile, u"x"_s);
+    run(u"INSERT INTO UserData (sUser) VALUES ('ann')"_s);
+    start();
+    const auto told = [&] {
+        QStringList lines;
+        for (const Difference& one : fresh->families.differences())
+            lines << QStringList{one.record, one.field, one.before.toString(), one.after.toString(),
+                                 QString::number(one.caption)}
+                         .join(u'|');
+        return lines;
+    };
+    fresh->basicDefault.edit.sSystemName = u"Harbour"_s;
+    SVRRecord& work = fresh->recorders.SVRWorkList[2];
+    work.sSVR_Name = u"Gate"_s;
+    work.channels[1].sSub_CH_Name = u"Hall"_s;
+    work.bSVR_Changed = true;
+    fresh->groups.edit[2].Name = u"Night"_s;
+    fresh->groups.edit[2].CHPrivilege[3] = u"1:15"_s;
+    fresh->users.edit[0].sCorp = u"Quay"_s;
+    fresh->users.edit.emplace_back().sUser = u"bob"_s;
+    fresh->emap.edit[0].sName = u"Root"_s;
+    fresh->emap.iconsEdit[2].channels[1].dMapX = 0.5;
+    fresh->channelEvents.edit[0].channels[4].iTripwireSensitivity = 60;
+    const QStringList all{u"Harbour|sSystemName|x|Harbour|331"_s,
+                          u"Gate: 1|sSVR_Name||Gate|283"_s,
+                          u"Gate: Hall|sSub_CH_Name||Hall|579"_s,
+                          u"1/5, TripwireSettings|Sensitivity|80|60|398"_s,
+                          u"Night|Name|User|Night|362"_s,
+                          u"Night, NVR 4|CHPrivilege||1:15|784"_s,
+                          u"ann|sCorp||Quay|417"_s,
+                          u"bob|sUser||bob|649"_s,
+                          u"Root|sName|MainMap|Root|362"_s,
+                          u"Gate: Hall|dMapX|0|0.5|433"_s};
+    EXPECT_EQ(told(), all);
+    EXPECT_EQ(fresh->families.differences(3).size(), 4u);
+    fresh->families.revertPage(3);
+    EXPECT_EQ(told().size(), all.size() - 4);
+    fresh->families.InitialSetValue();
+    EXPECT_EQ(told(), QStringList());
+}
+
+TEST(FamilyRegister, SavesWhatDoesNotCountAtTheClose)
+{
+    bool loading = true;
+    int saved = 0;
+    FamilyRegister families;
+    for (const FamilyOrder order : {FamilyOrder::VideoWall, FamilyOrder::Pattern}) {
+        RecordFamily family{order, 8, {}, [] { return true; }, {}, {}, [&] { return ++saved > 0; }, {}, {}};
+        family.countsAtExit = [&loading, order] { return order == FamilyOrder::Pattern && !loading; };
+        families.add(family);
+    }
+    EXPECT_FALSE(families.ExitCheck());
+    loading = false;
+    EXPECT_TRUE(families.ExitCheck());
+    EXPECT_TRUE(families.SaveCheck([](int) {}));
+    EXPECT_EQ(saved, 2);
+}
+
 TEST_F(StationTest, RevertingAPageBringsBackItsStoredRecordsOnly)
 {
     makeDatabase(kDatabaseFile, u"x"_s);

@@ -38,6 +38,20 @@ int FirstFreeSlot(const std::array<SVRRecord, kMaxSVR>& list)
     return -1;
 }
 
+QString ChannelKey(int slot, int channel)
+{
+    return QString::number(slot + 1) + u'/' + QString::number(channel + 1);
+}
+
+QString ChannelLabel(const RecorderSet& set, int slot, int channel)
+{
+    const SVRRecord& recorder = At(set.SVRWorkList, slot);
+    const QString& camera = At(recorder.channels, channel).sSub_CH_Name;
+    if (recorder.sSVR_Name.isEmpty())
+        return ChannelKey(slot, channel);
+    return recorder.sSVR_Name + u": "_s + (camera.isEmpty() ? QString::number(channel + 1) : camera);
+}
+
 void ClearChannel(SVRRecord& record, SVRProRecord& pro, int channel)
 {
     At(record.channels, channel) = SVRChannel();

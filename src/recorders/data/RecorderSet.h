@@ -25,6 +25,20 @@ int CameraTotal(const std::array<SVRRecord, kMaxSVR>& list);
 // First free slot (from 0) of a generation, -1 when all are taken.
 int FirstFreeSlot(const std::array<SVRRecord, kMaxSVR>& list);
 
+// "2/64" for a channel (slot and channel from 0), and what the operator calls it: "Gatehouse: Hall" from the working
+// generation, the numbers where there is no name.
+QString ChannelKey(int slot, int channel);
+QString ChannelLabel(const RecorderSet& set, int slot, int channel);
+// Calls `work(slot, channel)`, both from 0, for every place of a station.
+template <class Work>
+void ForEachChannel(Work&& work)
+{
+    for (int slot = 0; slot < kMaxSVR; ++slot) {
+        for (int channel = 0; channel < kMaxChannel; ++channel)
+            work(slot, channel);
+    }
+}
+
 // Puts an empty channel (index from 0) in its place.
 void ClearChannel(SVRRecord& record, SVRProRecord& pro, int channel);
 

@@ -1,6 +1,6 @@
 #include "recorders/data/SVRStore.h"
 
-#include "store/TableRows.h"
+#include "store/Family.h"
 #include "store/tables/SVRTable.h"
 
 #include <algorithm>
@@ -101,17 +101,21 @@ qint16 GetSVREx(Databases& databases, RecorderSet& set)
 
 namespace {
 
-// One step for all marked slots. When it fails the stored generation is as before and the marks stay.
-bool SaveMarkedSlots(Databases& databases, RecorderSet& set)
+// The two copies of the recorders: only marked slots are taken over, which is what is written.
+struct SlotGenerations
 {
-    struct Before
+    struct Slot
     {
-        int slot;
+        int index;
         SVRRecord svr;
         SVRProRecord pro;
     };
-    std::vector<Before> before;
-    const qint16 saved = AsOneStep(databases, kSaveSource, [&]() -> qint16 {
+    RecorderSet& set;
+
+    bool isMarked() const { return std::ranges::any_of(set.SVRWorkList, &SVRRecord::bSVR_Changed); }
+    std::vector<Slot> commit() const
+    {
+        std::vector<Slot> before;
         for (int slot = 0; slot < kMaxSVR; ++slot) {
             const SVRRecord& work = At(set.SVRWorkList, slot);
             if (!work.bSVR_Changed)
@@ -119,37 +123,62 @@ bool SaveMarkedSlots(Databases& databases, RecorderSet& set)
             SVRRecord& stored = At(set.SVRList, slot);
             before.push_back({slot, std::exchange(stored, work),
                               std::exchange(At(set.SVRProList, slot), At(set.SVRProWorkList, slot))});
-            stored.bSVR_ConnChanged = false;
-            stored.bSVR_Changed = false;
-            if (SaveMySVR(databases, set, slot) == 0)
-                return 0;
+            stored.bSVR_ConnChanged = stored.bSVR_Changed = false;
         }
-        return 1;
-    });
-    for (Before& kept : before) {
-        if (saved == 1) {
-            At(set.SVRWorkList, kept.slot).bSVR_ConnChanged = false;
-            At(set.SVRWorkList, kept.slot).bSVR_Changed = false;
-        } else {
-            At(set.SVRList, kept.slot) = std::move(kept.svr);
-            At(set.SVRProList, kept.slot) = std::move(kept.pro);
+        return before;
+    }
+    void putBack(std::vector<Slot>&& before) const
+    {
+        for (Slot& slot : before) {
+            At(set.SVRList, slot.index) = std::move(slot.svr);
+            At(set.SVRProList, slot.index) = std::move(slot.pro);
         }
     }
-    return saved == 1;
+    void clearMarks() const
+    {
+        for (SVRRecord& work : set.SVRWorkList) {
+            if (work.bSVR_Changed)
+                work.bSVR_ConnChanged = work.bSVR_Changed = false;
+        }
+    }
+    void revert() const
+    {
+        set.SVRWorkList = set.SVRList;
+        set.SVRProWorkList = set.SVRProList;
+    }
+};
+
+// The channels of the marked slots in one copy.
+std::vector<FamilyRow<SVRRow>> ChannelRows(RecorderSet& set, std::array<SVRRecord, kMaxSVR>& list,
+                                           std::array<SVRProRecord, kMaxSVR>& pro)
+{
+    std::vector<FamilyRow<SVRRow>> rows;
+    ForEachChannel([&](int slot, int channel) {
+        if (At(set.SVRWorkList, slot).bSVR_Changed)
+            rows.push_back({ChannelKey(slot, channel), ChannelLabel(set, slot, channel),
+                            SVRRow{&At(list, slot), &At(pro, slot), channel}, channel == 0});
+    });
+    return rows;
 }
 
 } // namespace
 
 RecordFamily SVRFamily(Databases& databases, RecorderSet& set)
 {
-    return {FamilyOrder::SVR, 1,
-            [&set] {
-                return std::any_of(set.SVRWorkList.begin(), set.SVRWorkList.end(),
-                                   [](const SVRRecord& record) { return record.bSVR_Changed; });
-            },
-            [&databases, &set] { return SaveMarkedSlots(databases, set); },
-            [&set] {
-                set.SVRWorkList = set.SVRList;
-                set.SVRProWorkList = set.SVRProList;
-            }};
+    return MakeFamily(
+        databases, {FamilyOrder::SVR, 1, 361, {u"SVR"_s}, kSaveSource}, SlotGenerations{set},
+        [&databases, &set]() -> qint16 {
+            for (int slot = 0; slot < kMaxSVR; ++slot) {
+                if (At(set.SVRWorkList, slot).bSVR_Changed && SaveMySVR(databases, set, slot) == 0)
+                    return 0;
+            }
+            return 1;
+        },
+        [&set](auto& list) {
+            const auto before = ChannelRows(set, set.SVRList, set.SVRProList);
+            const auto after = ChannelRows(set, set.SVRWorkList, set.SVRProWorkList);
+            Compare(list, before, after, SVRColumns);
+            Compare(list, before, after, SVRProColumns);
+            Compare(list, before, after, SVRPresetColumns);
+        });
 }

@@ -29,7 +29,8 @@ constexpr auto Device(const char* name)
     using T = typename MemberOf<decltype(Member)>::Type;
     return Column<SVRRow>{{name, TypeOf<T>(), DefaultOf<T>()},
                           [](SVRRow& row, const QVariant& v) { row.svr->*Member = FromVariant<T>(v); },
-                          [](const SVRRow& row) { return ToVariant(row.svr->*Member); }};
+                          [](const SVRRow& row) { return ToVariant(row.svr->*Member); }}
+        .sharedByRows();
 }
 
 // The same, but null (older databases) reads as 0.
@@ -40,7 +41,8 @@ constexpr auto DeviceOrZero(const char* name)
     return Column<SVRRow>{
         {name, TypeOf<T>(), DefaultOf<T>()},
         [](SVRRow& row, const QVariant& v) { row.svr->*Member = v.isNull() ? T(0) : FromVariant<T>(v); },
-        [](const SVRRow& row) { return ToVariant(row.svr->*Member); }};
+        [](const SVRRow& row) { return ToVariant(row.svr->*Member); }}
+        .sharedByRows();
 }
 
 inline SVRChannel& ChannelOf(const SVRRow& row)
@@ -174,12 +176,12 @@ constexpr auto Preset(const char* name)
 // Columns of every family, in the order of writing.
 inline constexpr std::array SVRColumns{
     svr_table::Device<&SVRRecord::iSVR_Num>("iSVR_Num").with(FieldUse::WriteOnly), // chooses the slot, see GetSVREx
-    svr_table::Device<&SVRRecord::sSVR_Name>("sSVR_Name"),
-    svr_table::Device<&SVRRecord::sSVR_IP>("sSVR_IP"),
-    svr_table::Device<&SVRRecord::iSVR_HttpPort>("iSVR_HttpPort"),
-    svr_table::Device<&SVRRecord::iSVR_VideoPort>("iSVR_VideoPort"),
-    svr_table::Device<&SVRRecord::sSVR_UserName>("sSVR_UserName"),
-    svr_table::Device<&SVRRecord::sSVR_Password>("sSVR_Password"),
+    svr_table::Device<&SVRRecord::sSVR_Name>("sSVR_Name").named(283),
+    svr_table::Device<&SVRRecord::sSVR_IP>("sSVR_IP").named(550),
+    svr_table::Device<&SVRRecord::iSVR_HttpPort>("iSVR_HttpPort").named(551),
+    svr_table::Device<&SVRRecord::iSVR_VideoPort>("iSVR_VideoPort").named(580),
+    svr_table::Device<&SVRRecord::sSVR_UserName>("sSVR_UserName").named(465),
+    svr_table::Device<&SVRRecord::sSVR_Password>("sSVR_Password").named(466),
     svr_table::Device<&SVRRecord::iSVR_Maxchannel>("iSVR_Maxchannel"),
     svr_table::Device<&SVRRecord::sSVR_Brand>("sSVR_Brand"),
     svr_table::Device<&SVRRecord::sSVR_DeviceType>("sSVR_DeviceType"),
@@ -193,17 +195,17 @@ inline constexpr std::array SVRColumns{
     svr_table::DeviceOrZero<&SVRRecord::iSVR_SummerTime>("iSVR_SummerTime"),
     svr_table::DeviceOrZero<&SVRRecord::iSVR_TimeZoneNum>("iSVR_TimeZoneNum"),
     svr_table::Device<&SVRRecord::bSVR_CEventSupport>("bSVR_CEventSupport"),
-    svr_table::Channel<&SVRChannel::sSub_CH_Name>("sSub_CH_Name"),
-    svr_table::Channel<&SVRChannel::sSub_CH_IP>("sSub_CH_IP"),
+    svr_table::Channel<&SVRChannel::sSub_CH_Name>("sSub_CH_Name").named(579),
+    svr_table::Channel<&SVRChannel::sSub_CH_IP>("sSub_CH_IP").named(550),
     svr_table::Channel<&SVRChannel::iSub_Channel>("iSub_Channel"),
     svr_table::Channel<&SVRChannel::iSub_ChannelID>("iSub_ChannelID").withDefault("-1"),
-    svr_table::Channel<&SVRChannel::iSub_CH_HttpPort>("iSub_CH_HttpPort").withDefault("80"),
-    svr_table::Channel<&SVRChannel::sSub_CH_UserName>("sSub_CH_UserName"),
-    svr_table::Channel<&SVRChannel::sSub_CH_Password>("sSub_CH_Password"),
+    svr_table::Channel<&SVRChannel::iSub_CH_HttpPort>("iSub_CH_HttpPort").withDefault("80").named(551),
+    svr_table::Channel<&SVRChannel::sSub_CH_UserName>("sSub_CH_UserName").named(465),
+    svr_table::Channel<&SVRChannel::sSub_CH_Password>("sSub_CH_Password").named(466),
     svr_table::Channel<&SVRChannel::iSub_CH_Brand>("iSub_CH_Brand"),
-    svr_table::Channel<&SVRChannel::sSub_CH_VideoFormat>("sSub_CH_VideoFormat"),
-    svr_table::Channel<&SVRChannel::sSub_CH_Resolution>("sSub_CH_Resolution"),
-    svr_table::Channel<&SVRChannel::iSub_CH_VideoID>("iSub_CH_VideoID"),
+    svr_table::Channel<&SVRChannel::sSub_CH_VideoFormat>("sSub_CH_VideoFormat").named(581),
+    svr_table::Channel<&SVRChannel::sSub_CH_Resolution>("sSub_CH_Resolution").named(582),
+    svr_table::Channel<&SVRChannel::iSub_CH_VideoID>("iSub_CH_VideoID").named(977),
     svr_table::Channel<&SVRChannel::bSub_CH_PTZ>("bSub_CH_PTZ"),
     svr_table::Channel<&SVRChannel::sSub_CH_PTZCap>("sSub_CH_PTZCap"),
     svr_table::Channel<&SVRChannel::iSub_CH_Audio>("iSub_CH_Audio"),
@@ -213,11 +215,11 @@ inline constexpr std::array SVRColumns{
     svr_table::Channel<&SVRChannel::iPower>("iPower").with(FieldUse::WriteOnly),
     svr_table::Channel<&SVRChannel::bSub_CH_Cam_MD_Enabled>("bSub_CH_Cam_MD_Enabled"),
     svr_table::Channel<&SVRChannel::iCH_MultiStream>("iCH_MultiStream").withDefault("-1"),
-    svr_table::Channel<&SVRChannel::iCH_FPS>("iCH_FPS").withDefault("-1"),
-    svr_table::Channel<&SVRChannel::iCH_Quality>("iCH_Quality").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_FPS>("iCH_FPS").withDefault("-1").named(614),
+    svr_table::Channel<&SVRChannel::iCH_Quality>("iCH_Quality").withDefault("-1").named(600),
     svr_table::Channel<&SVRChannel::iCH_Rotation>("iCH_Rotation").withDefault("-1"),
-    svr_table::Channel<&SVRChannel::iCH_RateCtrl>("iCH_RateCtrl").withDefault("-1"),
-    svr_table::Channel<&SVRChannel::iCH_BitRate>("iCH_BitRate").withDefault("-1"),
+    svr_table::Channel<&SVRChannel::iCH_RateCtrl>("iCH_RateCtrl").withDefault("-1").named(602),
+    svr_table::Channel<&SVRChannel::iCH_BitRate>("iCH_BitRate").withDefault("-1").named(601),
     svr_table::Channel<&SVRChannel::sCH_ResolutionList>("sCH_ResolutionList"),
     svr_table::Channel<&SVRChannel::sCH_FMTList>("sCH_FMTList"),
     svr_table::Channel<&SVRChannel::iCH_GOP>("iCH_GOP").withDefault("-1"),
@@ -254,11 +256,11 @@ inline constexpr std::array SVRProColumns{
     svr_table::Channel<&SVRProChannel::lCH_Pro_RTPSPort>("lCH_Pro_RTPSPort"),
     svr_table::Channel<&SVRProChannel::sCH_Pro_AudioType>("sCH_Pro_AudioType"),
     svr_table::Channel<&SVRProChannel::sCH_Pro_LensModeList>("sCH_Pro_LensModeList"),
-    svr_table::Channel<&SVRProChannel::sCH_Pro_LensMode>("sCH_Pro_LensMode"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_LensMode>("sCH_Pro_LensMode").named(767),
     svr_table::Channel<&SVRProChannel::sCH_Pro_LeftDisplayModeList>("sCH_Pro_LeftDisplayModeList"),
-    svr_table::Channel<&SVRProChannel::sCH_Pro_LeftDisplayMode>("sCH_Pro_LeftDisplayMode"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_LeftDisplayMode>("sCH_Pro_LeftDisplayMode").named(248),
     svr_table::Channel<&SVRProChannel::sCH_Pro_RightDisplayModeList>("sCH_Pro_RightDisplayModeList"),
-    svr_table::Channel<&SVRProChannel::sCH_Pro_RightDisplayMode>("sCH_Pro_RightDisplayMode"),
+    svr_table::Channel<&SVRProChannel::sCH_Pro_RightDisplayMode>("sCH_Pro_RightDisplayMode").named(249),
     svr_table::Streams<&SVRProStream::sResolutionList>("sCH_Pro_ResolutionList"),
     svr_table::Streams<&SVRProStream::sFMT>("sCH_Pro_FMT"),
     svr_table::Streams<&SVRProStream::sResolution>("sCH_Pro_Resolution"),

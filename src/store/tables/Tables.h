@@ -15,42 +15,50 @@
 inline constexpr std::array BasicDefaultColumns{
     Field<&BasicDefaultRecord::sBrand>("sBrand").with(FieldUse::ReadOnly),
     Field<&BasicDefaultRecord::iLangCount>("iLangCount").withDefault("14"),
-    Field<&BasicDefaultRecord::iLanguage>("iLanguage").withDefault("99"), Field<&BasicDefaultRecord::sDBVer>("sDBVer"),
-    Field<&BasicDefaultRecord::iDBCount>("iDBCount"), Field<&BasicDefaultRecord::sSystemIP>("sSystemIP"),
-    Field<&BasicDefaultRecord::sSystemName>("sSystemName"),
+    Field<&BasicDefaultRecord::iLanguage>("iLanguage").withDefault("99").named(333),
+    Field<&BasicDefaultRecord::sDBVer>("sDBVer").named(332), Field<&BasicDefaultRecord::iDBCount>("iDBCount"),
+    Field<&BasicDefaultRecord::sSystemIP>("sSystemIP"),
+    Field<&BasicDefaultRecord::sSystemName>("sSystemName").named(331),
     Field<&BasicDefaultRecord::iHttpPort>("iHttpPort").withDefault("80"),
     Field<&BasicDefaultRecord::iRTSPPort>("iRTSPPort").withDefault("554"),
     Field<&BasicDefaultRecord::iAlertPort>("iAlertPort"), Field<&BasicDefaultRecord::iPollingTime>("iPollingTime"),
     Field<&BasicDefaultRecord::bRecycle>("bRecycle"), Field<&BasicDefaultRecord::lReserveSpace>("lReserveSpace"),
-    Field<&BasicDefaultRecord::bStartup>("bStartup"), Field<&BasicDefaultRecord::bStartupToHide>("bStartupToHide"),
+    Field<&BasicDefaultRecord::bStartup>("bStartup").named(334),
+    Field<&BasicDefaultRecord::bStartupToHide>("bStartupToHide").named(353),
     Field<&BasicDefaultRecord::iPreAlarmTime>("iPreAlarmTime"),
     Field<&BasicDefaultRecord::iPostAlarmTime>("iPostAlarmTime"), Field<&BasicDefaultRecord::sCpu>("sCpu"),
     Field<&BasicDefaultRecord::iSyncTime>("iSyncTime"),
-    Field<&BasicDefaultRecord::iSnapCount>("iSnapCount").withDefault("1"),
+    Field<&BasicDefaultRecord::iSnapCount>("iSnapCount").withDefault("1").named(336),
     // Honoured by the desk only on a database whose fourth version part starts with 22 or more.
     Field<&BasicDefaultRecord::iVideoWallStyle>("iVideoWallStyle").with(FieldUse::WriteOnly),
     Field<&BasicDefaultRecord::iResolutionSum>("iResolutionSum").with(FieldUse::ReadOnly)};
 
-inline constexpr std::array UserColumns{
-    Field<&UserRecord::sUser>("sUser"),         Field<&UserRecord::sPSWD>("sPSWD"),
-    Field<&UserRecord::bEnable>("bEnable"),     Field<&UserRecord::sCorp>("sCorp"),
-    Field<&UserRecord::sPhone>("sPhone"),       Field<&UserRecord::sMainEmail>("sMainEmail"),
-    Field<&UserRecord::sSubEmail>("sSubEmail"), Field<&UserRecord::sMobile>("sMobile"),
-    Field<&UserRecord::sPhoto>("sPhoto"),       Field<&UserRecord::iGroup>("iGroup")};
+inline constexpr std::array UserColumns{Field<&UserRecord::sUser>("sUser").named(649),
+                                        Field<&UserRecord::sPSWD>("sPSWD").named(41),
+                                        Field<&UserRecord::bEnable>("bEnable"),
+                                        Field<&UserRecord::sCorp>("sCorp").named(417),
+                                        Field<&UserRecord::sPhone>("sPhone").named(418),
+                                        Field<&UserRecord::sMainEmail>("sMainEmail").named(419),
+                                        Field<&UserRecord::sSubEmail>("sSubEmail").named(420),
+                                        Field<&UserRecord::sMobile>("sMobile").named(421),
+                                        Field<&UserRecord::sPhoto>("sPhoto").named(646),
+                                        Field<&UserRecord::iGroup>("iGroup").named(423)};
 
 inline constexpr std::array NVRAccountColumns{Field<&NVRAccountRecord::iIndex>("iIndex"),
                                               Field<&NVRAccountRecord::sUser>("sUser"),
                                               Field<&NVRAccountRecord::sPass>("sPass")};
 
-inline constexpr std::array GroupPrivilegeColumns{
-    Field<&GroupPrivilegeRecord::GroupID>("GroupID"),       Field<&GroupPrivilegeRecord::Name>("Name"),
-    Field<&GroupPrivilegeRecord::Setting>("Setting"),       Field<&GroupPrivilegeRecord::Export>("Export"),
-    Field<&GroupPrivilegeRecord::SVDControl>("SVDControl"), Field<&GroupPrivilegeRecord::Live>("Live"),
-    Field<&GroupPrivilegeRecord::Live_all>("Live_all")};
+inline constexpr std::array GroupPrivilegeColumns{Field<&GroupPrivilegeRecord::GroupID>("GroupID"),
+                                                  Field<&GroupPrivilegeRecord::Name>("Name").named(362),
+                                                  Field<&GroupPrivilegeRecord::Setting>("Setting").named(432),
+                                                  Field<&GroupPrivilegeRecord::Export>("Export").named(740),
+                                                  Field<&GroupPrivilegeRecord::SVDControl>("SVDControl"),
+                                                  Field<&GroupPrivilegeRecord::Live>("Live").named(100),
+                                                  Field<&GroupPrivilegeRecord::Live_all>("Live_all").named(909)};
 
 inline constexpr std::array NVRPrivilegeColumns{Field<&NVRPrivilegeRow::GroupID>("GroupID"),
                                                 Field<&NVRPrivilegeRow::NVRID>("NVRID"),
-                                                Field<&NVRPrivilegeRow::CHPrivilege>("CHPrivilege")};
+                                                Field<&NVRPrivilegeRow::CHPrivilege>("CHPrivilege").named(784)};
 
 inline constexpr std::array ListenServerColumns{Field<&ListenServerRec::aID>("aID"),
                                                 Field<&ListenServerRec::sMailFrom>("sMailFrom"),
@@ -90,7 +98,7 @@ inline constexpr std::array EventHandlingColumns{Field<&EventHandlingRecord::bSy
 // MotionSettings, MaliciousAttackSettings, ObjectLossSettings, TripwireSettings.
 inline constexpr std::array ChannelSettingColumns{
     Field<&ChannelSettingRow::Channel>("Channel"), Field<&ChannelSettingRow::Enable>("Enable"),
-    Field<&ChannelSettingRow::Sensitivity>("Sensitivity").withDefault("50")};
+    Field<&ChannelSettingRow::Sensitivity>("Sensitivity").withDefault("50").named(398)};
 
 inline constexpr std::array MotionROIColumns{
     Field<&MotionROIRow::Channel>("Channel"),   Field<&MotionROIRow::Height>("Height"),
@@ -129,7 +137,7 @@ inline constexpr std::array TripwireLineColumns{Field<&RegionRow::Channel>("Chan
 
 inline constexpr std::array EMapGroupColumns{Field<&EMapGroupRow::iMap_Type>("iMap_Type"),
                                              Field<&EMapGroupRow::iMap_ID>("iMap_ID"),
-                                             Field<&EMapGroupRow::sName>("sName"),
+                                             Field<&EMapGroupRow::sName>("sName").named(362),
                                              Field<&EMapGroupRow::sParent>("sParent"),
                                              Field<&EMapGroupRow::dMapX>("dMapX"),
                                              Field<&EMapGroupRow::dMapY>("dMapY"),
