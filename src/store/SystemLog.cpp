@@ -44,15 +44,6 @@ struct Condition
     QVariantList values;
 };
 
-// A text as it stands, anywhere in a field.
-QString Pattern(const QString& text)
-{
-    QString pattern = text;
-    for (const QChar special : u"\\%_"_s)
-        pattern.replace(special, QString(u'\\') + special);
-    return u'%' + pattern + u'%';
-}
-
 void OpenLogTable(Databases& databases)
 {
     databases.LogRec->open(u"SystemLog"_s, *databases.LogConn, CursorType::Keyset, LockType::Optimistic,
@@ -119,25 +110,6 @@ qint16 GetSystemLog(Databases& databases, qint32 from, qint32 to, const QString&
     });
 }
 
-qint16 FindSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, const QString& filter,
-                     std::vector<SystemLogEntry>& entries)
-{
-    entries.clear();
-    return WithLog(databases, kGetSource, [&] {
-        Condition condition(from, to, user);
-        if (!filter.isEmpty()) {
-            condition.text += u" AND (User LIKE ? ESCAPE '\\' OR Description LIKE ? ESCAPE '\\')"_s;
-            condition.values << Pattern(filter) << Pattern(filter);
-        }
-        RowStream stream(*databases.LogConn,
-                         u"SELECT rowid, TimeStamp FROM SystemLog WHERE "_s + condition.text +
-                             u" ORDER BY TimeStamp DESC"_s,
-                         condition.values);
-        while (stream.next())
-            entries.push_back({stream.integer(0), Int32Field(stream.integer(1))});
-    });
-}
-
 qint16 FetchSystemLog(Databases& databases, std::span<const SystemLogEntry> entries, std::vector<SystemLogRow>& rows)
 {
     rows.clear();
@@ -148,34 +120,6 @@ qint16 FetchSystemLog(Databases& databases, std::span<const SystemLogEntry> entr
                              {entry.rowId, entry.TimeStamp});
             if (stream.next())
                 rows.push_back({entry.TimeStamp, QString::fromUtf8(stream.text(0)), QString::fromUtf8(stream.text(1))});
-        }
-    });
-}
-
-qint64 CountSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user)
-{
-    qint64 count = -1;
-    WithLog(databases, kGetSource, [&] {
-        const Condition condition(from, to, user);
-        RowStream stream(*databases.LogConn, u"SELECT COUNT(*) FROM SystemLog WHERE "_s + condition.text,
-                         condition.values);
-        if (stream.next())
-            count = stream.integer(0);
-    });
-    return count;
-}
-
-qint16 WalkSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, const SystemLogVisitor& visit)
-{
-    return WithLog(databases, kGetSource, [&] {
-        const Condition condition(from, to, user);
-        RowStream stream(*databases.LogConn,
-                         u"SELECT TimeStamp, User, Description FROM SystemLog WHERE "_s + condition.text +
-                             u" ORDER BY TimeStamp DESC"_s,
-                         condition.values);
-        while (stream.next()) {
-            if (!visit(Int32Field(stream.integer(0)), stream.text(1), stream.text(2)))
-                break;
         }
     });
 }

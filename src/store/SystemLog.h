@@ -4,7 +4,6 @@
 #include "store/TableDescription.h"
 
 #include <array>
-#include <functional>
 #include <span>
 #include <vector>
 
@@ -25,23 +24,13 @@ qint16 SaveSystemLog(Databases& databases, qint32 timeStamp, const QString& user
 // Rows of a span of time (both ends included), newest first; an empty user is every user. 1 or 0.
 qint16 GetSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, std::vector<SystemLogRow>& rows);
 
-// Where a found row stands, without its texts: what a search of a million rows can hold.
+// Where a row stands, without its texts: what a search of a million rows can hold.
 struct SystemLogEntry
 {
     qint64 rowId = 0;
     qint32 TimeStamp = 0;
 };
-// As GetSystemLog, but finds the places only. With a filter only rows whose user or description holds its text
-// (letters A to Z without regard to case). 1 or 0.
-qint16 FindSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, const QString& filter,
-                     std::vector<SystemLogEntry>& entries);
 // The rows of some places, in their order; one that is gone by now is left out. 1 or 0.
 qint16 FetchSystemLog(Databases& databases, std::span<const SystemLogEntry> entries, std::vector<SystemLogRow>& rows);
-// The number of rows that WalkSystemLog will meet; -1 when the log cannot be read.
-qint64 CountSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user);
-// As GetSystemLog, but hands over row by row and holds none; stops when `visit` answers false. The texts are UTF-8 and
-// last until `visit` returns. 1 or 0.
-using SystemLogVisitor = std::function<bool(qint32 timeStamp, QByteArrayView user, QByteArrayView description)>;
-qint16 WalkSystemLog(Databases& databases, qint32 from, qint32 to, const QString& user, const SystemLogVisitor& visit);
 // The distinct users of the trail. 1 or 0.
 qint16 GetSystemLogUser(Databases& databases, QStringList& users);

@@ -1,6 +1,7 @@
 #include "tooling/SystemLogModel.h"
 
 #include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,42 +9,53 @@ SystemLogModel::SystemLogModel(Databases& databases, QObject* parent)
     : QAbstractTableModel(parent)
     , m_databases(databases)
 {
+    connect(&m_slices, &QTimer::timeout, this, &SystemLogModel::slice);
 }
 
-bool SystemLogModel::search(const SystemLogQuery& query, const QString& filter)
+void SystemLogModel::search(const SystemLogQuery& query, const QString& filter)
 {
     m_filter = filter;
     m_query = query;
     m_searched = true;
-    return findFromStart();
+    find(true);
 }
 
-bool SystemLogModel::setFilter(const QString& text)
+void SystemLogModel::setFilter(const QString& text)
 {
     if (text == m_filter)
-        return true;
+        return;
     m_filter = text;
-    return !m_searched || findFromStart();
+    if (m_searched)
+        find(true);
 }
 
-bool SystemLogModel::findFromStart()
+// A search that is under way is given up for the new one.
+void SystemLogModel::find(bool fromStart)
 {
-    m_page = 0;
-    const bool ok = find();
-    return draw() && ok;
+    m_fromStart = fromStart || (searching() && m_fromStart);
+    m_reader = std::make_unique<SystemLogReader>(m_databases, m_query, m_filter);
+    m_finding.clear();
+    m_slices.start(0);
 }
 
-bool SystemLogModel::find()
+void SystemLogModel::slice()
 {
-    const bool ok = FindSystemLog(m_databases, m_query.from, m_query.to, m_query.user, m_filter, m_entries) == 1;
+    bool more = false;
+    const bool ok = Trapped("Module_DB_Access - GetSystemLog", [&] { more = m_reader->readPlaces(m_finding); });
+    if (more)
+        return;
+    m_slices.stop();
+    m_reader.reset();
     if (!ok)
-        m_entries.clear();
-    return ok;
+        m_finding.clear();
+    m_entries.swap(m_finding);
+    m_finding = {};
+    m_page = m_fromStart ? 0 : qMin(m_page, lastPage());
+    draw(ok);
 }
 
-bool SystemLogModel::pageControl(int button)
+void SystemLogModel::pageControl(int button)
 {
-    bool ok = true;
     switch (button) {
     case First:
         m_page = 0;
@@ -60,13 +72,13 @@ bool SystemLogModel::pageControl(int button)
         m_page = lastPage();
         break;
     case Refresh:
-        ok = !m_searched || find();
-        m_page = qMin(m_page, lastPage());
-        break;
+        if (m_searched)
+            find(false);
+        return;
     default:
-        return true;
+        return;
     }
-    return draw() && ok;
+    draw(true);
 }
 
 qint32 SystemLogModel::lastPage() const
@@ -81,14 +93,14 @@ QString SystemLogModel::pageText() const
     return QString::number(m_page + 1) + u'/' + QString::number(pages);
 }
 
-bool SystemLogModel::draw()
+void SystemLogModel::draw(bool ok)
 {
     beginResetModel();
     const auto first = std::min(m_entries.size(), static_cast<std::size_t>(m_page) * kPageRows);
     const auto count = std::min<std::size_t>(kPageRows, m_entries.size() - first);
-    const bool ok = FetchSystemLog(m_databases, std::span(m_entries).subspan(first, count), m_rows) == 1;
+    const bool fetched = FetchSystemLog(m_databases, std::span(m_entries).subspan(first, count), m_rows) == 1;
     endResetModel();
-    return ok;
+    emit drawn(ok && fetched);
 }
 
 QString SystemLogModel::copyText(const QList<int>& rows) const

@@ -1,19 +1,13 @@
 #pragma once
 
-#include "store/SystemLog.h"
 #include "tooling/LogTimes.h"
+#include "tooling/SystemLogReader.h"
 
 #include <QAbstractTableModel>
+#include <QTimer>
 
-// What a search asks for: seconds since 1970/1/1 UTC, both ends included; an empty user is every user.
-struct SystemLogQuery
-{
-    qint32 from = 0;
-    qint32 to = 0;
-    QString user;
-};
-
-// The found rows of the audit log, shown in pages of 11. Only the page on show holds texts.
+// The found rows of the audit log, shown in pages of 11. Only the page on show holds texts. Finding goes on while the
+// event loop turns; what was found before stays on show until then.
 class SystemLogModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -38,13 +32,13 @@ public:
 
     explicit SystemLogModel(Databases& databases, QObject* parent = nullptr);
 
-    // Finds the rows that hold the filter's text and shows the first page; false when the log could not be read (the
-    // grid is empty then).
-    bool search(const SystemLogQuery& query, const QString& filter = {});
+    // Finds the rows that hold the filter's text and shows the first page.
+    void search(const SystemLogQuery& query, const QString& filter = {});
     // Narrows the found rows to those that hold the text; back to the first page.
-    bool setFilter(const QString& text);
-    // lbSysPageControl: Refresh finds anew and stays on the page as far as there is one. False as search().
-    bool pageControl(int button);
+    void setFilter(const QString& text);
+    // lbSysPageControl: Refresh finds anew and stays on the page as far as there is one.
+    void pageControl(int button);
+    bool searching() const { return m_slices.isActive(); }
 
     qint64 found() const { return static_cast<qint64>(m_entries.size()); }
     bool searched() const { return m_searched; }
@@ -63,17 +57,25 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+signals:
+    // What was asked for is on show; false when the log could not be read (the grid is empty then).
+    void drawn(bool ok);
+
 private:
     qint64 upperBound() const { return found() - 1; }
     qint32 lastPage() const;
-    bool find();
-    bool findFromStart();
-    bool draw();
+    void find(bool fromStart);
+    void slice();
+    void draw(bool ok);
 
     Databases& m_databases;
     SystemLogQuery m_query;
     QString m_filter;
     bool m_searched = false;
+    QTimer m_slices;
+    std::unique_ptr<SystemLogReader> m_reader;
+    std::vector<SystemLogEntry> m_finding;
+    bool m_fromStart = true; // of the search under way
     std::vector<SystemLogEntry> m_entries;
     std::vector<SystemLogRow> m_rows; // of the page on show
     mutable LogTimes m_times;

@@ -3,6 +3,7 @@
 #include "look/style/Theme.h"
 #include "platform/FolderChooser.h"
 #include "platform/MsgBox.h"
+#include "tests/LoopWatch.h"
 #include "tests/store/StoreFixture.h"
 #include "tooling/ui/Form_Tooling.h"
 
@@ -48,6 +49,7 @@ protected:
         ApplyLanguage(page.get());
         page->changeLanguage();
         page->show();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return find<QComboBox>(u"Cmb_SystemViewerUser"_s)->count() == 2; }));
         EXPECT_TRUE(QTest::qWaitForWindowActive(page.get()));
     }
     ~ToolingPageTest() override
@@ -60,10 +62,17 @@ protected:
     {
         return page->findChild<Widget*>(name);
     }
+    // Presses a button and waits for the end of what it begins.
     void press(const QString& name, Qt::Key key = Qt::Key_Space)
     {
         ASSERT_TRUE(find(name)->isEnabled()) << name.toStdString();
         QTest::keyClick(find(name), key);
+        ASSERT_TRUE(QTest::qWaitFor([this] { return idle(); }, 60000));
+    }
+    bool idle()
+    {
+        return !page->findChild<SystemLogModel*>()->searching() && find(u"Frame_SystemViewer"_s)->isEnabled() &&
+               find(u"exportFields"_s)->isEnabled();
     }
     QStringList files() { return QDir(folder).entryList({u"Systemlog_Export_*"_s}); }
 
@@ -94,6 +103,7 @@ TEST_F(ToolingPageTest, SearchesAndTurnsPages)
     find<QLineEdit>(u"txtSysFilter"_s)->setText(u"LINE 39"_s);
     EXPECT_TRUE(QTest::qWaitFor([&] { return grid->model()->rowCount() == 1; }, 3000));
     find<QLineEdit>(u"txtSysFilter"_s)->clear();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return grid->model()->rowCount() == 11; }, 3000));
     press(u"Chk_SystemViewer"_s); // amy is the first of the list
     press(u"lbSysSearch"_s);
     EXPECT_EQ(label->text(), u"1/1"_s);
@@ -127,6 +137,41 @@ TEST_F(ToolingPageTest, ExportsAndSaysHowItEnded)
     press(u"Cmd_SystemExport"_s);
     EXPECT_EQ(boxes, QStringList()) << "no folder, no export";
     EXPECT_TRUE(find(u"exportFields"_s)->isEnabled());
+}
+
+// However long a log takes to be read, the desk answers meanwhile.
+TEST_F(ToolingPageTest, NothingHoldsTheLoopUp)
+{
+    ASSERT_TRUE(QSqlQuery(databases.LogConn->database())
+                    .exec(u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i+1 FROM n) INSERT INTO SystemLog "
+                          "SELECT %1+i/9, 'user '||(i%9), 'line '||i FROM n LIMIT 400000"_s.arg(
+                              QDate::currentDate().startOfDay().toSecsSinceEpoch())));
+    const auto act = [this](const char* what, const std::function<void()>& begin, const std::function<bool()>& done) {
+        const LoopWatch watch;
+        begin();
+        EXPECT_TRUE(QTest::qWaitFor(done, 60000)) << what;
+        EXPECT_LT(watch.longest() * 2, watch.whole()) << what;
+        std::printf("%s: %lld of %lld ms\n", what, watch.longest(), watch.whole());
+    };
+    const auto press = [this](const char* name) {
+        return [this, name] { QTest::keyClick(find(QString::fromLatin1(name)), Qt::Key_Space); };
+    };
+    const auto idleAgain = [this] { return idle(); };
+    const auto* users = find<QComboBox>(u"Cmb_SystemViewerUser"_s);
+    act(
+        "users", [this] { page->open(); }, [users] { return users->count() == 11; });
+    act("search", press("lbSysSearch"), idleAgain);
+    act("refresh", press("lbSysPageControl_4"), idleAgain);
+    const auto* model = page->findChild<SystemLogModel*>();
+    act(
+        "filter", [this] { find<QLineEdit>(u"txtSysFilter"_s)->setText(u"line 39999"_s); },
+        [model] { return model->found() == 11; });
+    act("text", press("Cmd_SystemExport"), idleAgain);
+    find(u"Opt_SysExport_1"_s)->setFocus();
+    press("Opt_SysExport_1")();
+    act("database", press("Cmd_SystemExport"), idleAgain);
+    EXPECT_EQ(exports, 2);
+    EXPECT_EQ(files().size(), 2);
 }
 
 } // namespace

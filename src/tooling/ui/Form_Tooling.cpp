@@ -9,14 +9,13 @@
 #include "platform/Clock.h"
 #include "platform/FolderChooser.h"
 #include "platform/MsgBox.h"
-#include "platform/Wait.h"
 #include "support/TimeSeconds.h"
-#include "tooling/SystemLogExport.h"
+#include "tooling/SystemLogUsers.h"
 #include "tooling/ui/ui_Form_Tooling.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QShortcut>
@@ -27,12 +26,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 kPaintEvery = 40;  // milliseconds
 constexpr int kFilterDelay = 200;   // milliseconds after the last key
 const QDate kFirstDate(1970, 1, 2); // what fits the stamps of audit rows in every zone
 const QDate kLastDate(2038, 1, 17);
 
-// Keeps a widget inactive for the life of the object; the keyboard returns to where it was.
+} // namespace
+
+// Keeps widgets inactive for the life of the object; the keyboard returns to where it was, unless it has gone
+// elsewhere.
 class Inactive
 {
 public:
@@ -42,12 +43,13 @@ public:
     {
         for (QWidget* widget : m_widgets)
             widget->setEnabled(false);
+        m_meanwhile = QApplication::focusWidget();
     }
     ~Inactive()
     {
         for (QWidget* widget : m_widgets)
             widget->setEnabled(true);
-        if (m_focus)
+        if (m_focus && QApplication::focusWidget() == m_meanwhile)
             m_focus->setFocus();
     }
     Inactive(const Inactive&) = delete;
@@ -56,9 +58,8 @@ public:
 private:
     QList<QWidget*> m_widgets;
     QPointer<QWidget> m_focus;
+    QPointer<QWidget> m_meanwhile;
 };
-
-} // namespace
 
 Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported, QWidget* parent)
     : QWidget(parent)
@@ -66,6 +67,7 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     , m_exported(std::move(exported))
     , m_ui(std::make_unique<Ui::Form_Tooling>())
     , m_model(new SystemLogModel(databases, this))
+    , m_users(new SystemLogUsers(databases, this))
     , m_filterDelay(new QTimer(this))
 {
     m_ui->setupUi(this);
@@ -102,9 +104,11 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     m_filterDelay->setSingleShot(true);
     m_filterDelay->setInterval(kFilterDelay);
     connect(m_ui->txtSysFilter, &QLineEdit::textChanged, m_filterDelay, qOverload<>(&QTimer::start));
-    connect(m_filterDelay, &QTimer::timeout, this, [this] {
-        Trapped("Form_Tooling - txtSysFilter_Change",
-                [&] { drawPage(m_model->setFilter(m_ui->txtSysFilter->text())); });
+    connect(m_filterDelay, &QTimer::timeout, this, [this] { m_model->setFilter(m_ui->txtSysFilter->text()); });
+    connect(m_model, &SystemLogModel::drawn, this, &Form_Tooling::drawPage);
+    connect(m_users, &SystemLogUsers::found, this, [this](const QStringList& users) {
+        fillUsers(m_ui->Cmb_SystemViewerUser, users);
+        fillUsers(m_ui->Cmb_SystemExportUser, QStringList(QString()) + users);
     });
     const auto followChecks = [this] {
         m_ui->Cmb_SystemViewerUser->setEnabled(m_ui->Chk_SystemViewer->isChecked());
@@ -143,12 +147,7 @@ void Form_Tooling::setPickers()
 
 void Form_Tooling::open()
 {
-    QStringList users;
-    GetSystemLogUser(m_databases, users);
-    users.removeAll(QString());
-    users.sort();
-    fillUsers(m_ui->Cmb_SystemViewerUser, users);
-    fillUsers(m_ui->Cmb_SystemExportUser, QStringList(QString()) + users);
+    m_users->start();
 }
 
 void Form_Tooling::fillUsers(QComboBox* box, const QStringList& users)
@@ -195,23 +194,26 @@ void Form_Tooling::lbSysSearch_Click()
 {
     Trapped("Form_Tooling - lbSysSearch_Click", [&] {
         SystemLogQuery query;
-        const Inactive inactive{m_ui->Grid_SystemLog, m_ui->Frame_SystemViewer};
         if (!readSpan(u"DTPicker_SystemViewer_"_s, query))
             return;
         if (m_ui->Chk_SystemViewer->isChecked())
             query.user = m_ui->Cmb_SystemViewerUser->currentText();
         m_filterDelay->stop();
-        drawPage(m_model->search(query, m_ui->txtSysFilter->text()));
+        m_searching =
+            std::make_unique<Inactive>(std::initializer_list<QWidget*>{m_ui->Grid_SystemLog, m_ui->Frame_SystemViewer});
+        m_ui->lbFound->setText(GetLangString(888));
+        m_model->search(query, m_ui->txtSysFilter->text());
     });
 }
 
 void Form_Tooling::lbSysPageControl_Click(int button)
 {
-    Trapped("Form_Tooling - lbSysPageControl_Click", [&] { drawPage(m_model->pageControl(button)); });
+    Trapped("Form_Tooling - lbSysPageControl_Click", [&] { m_model->pageControl(button); });
 }
 
 void Form_Tooling::drawPage(bool ok)
 {
+    m_searching.reset();
     m_failed = !ok;
     const bool none = m_model->found() == 0;
     const bool filtered = !m_ui->txtSysFilter->text().isEmpty();
@@ -244,17 +246,23 @@ void Form_Tooling::copyRows()
     QGuiApplication::clipboard()->setText(m_model->copyText(rows));
 }
 
+bool Form_Tooling::asDatabase() const
+{
+    return m_ui->Opt_SysExport_1->isChecked();
+}
+
 void Form_Tooling::Cmd_SystemExport_Click()
 {
     Trapped("Form_Tooling - Cmd_SystemExport_Click", [&] {
-        const Inactive inactive{m_ui->exportFields, m_ui->Frame_SystemViewer, m_ui->stack};
+        m_exporting = std::make_unique<Inactive>(std::initializer_list<QWidget*>{m_ui->exportFields});
         m_ui->btnOpenFolder->hide();
         m_ui->lbExportState->hide();
         const QString folder = OpenDirectoryTV(u"Test"_s);
         if (!folder.isEmpty())
             exportTo(folder);
-        m_ui->ProgressBar_Export->hide();
     });
+    if (!m_export)
+        m_exporting.reset();
 }
 
 void Form_Tooling::exportTo(const QString& folder)
@@ -265,51 +273,47 @@ void Form_Tooling::exportTo(const QString& folder)
             return;
         query.user = m_ui->Cmb_SystemExportUser->currentText();
     }
-    const qint64 rows = CountSystemLog(m_databases, query.from, query.to, query.user);
-    if (rows <= 0) {
-        if (rows < 0) {
-            m_ui->lbExportState->setStatus(Status::Bad, GetLangString(933));
-            m_ui->lbExportState->show();
-        }
+    m_folder = folder;
+    m_ui->ProgressBar_Export->setRange(0, 0); // how many rows there are is still to be found
+    m_ui->ProgressBar_Export->show();
+    using Kind = SystemLogExport::Kind;
+    m_export = std::make_unique<SystemLogExport>(m_databases, query, asDatabase() ? Kind::Mdb : Kind::Csv, folder,
+                                                 SystemLogExportStem());
+    connect(m_export.get(), &SystemLogExport::progress, this, [this](qint64 written, qint64 rows) {
+        m_ui->ProgressBar_Export->setRange(0, static_cast<int>(rows));
+        m_ui->ProgressBar_Export->setValue(static_cast<int>(written));
+    });
+    connect(m_export.get(), &SystemLogExport::finished, this, &Form_Tooling::exported);
+    m_export->start();
+}
+
+void Form_Tooling::exported(SystemLogExport::Outcome outcome)
+{
+    using Outcome = SystemLogExport::Outcome;
+    const QString file = m_export->file();
+    const QString reason = m_export->failure();
+    m_export.release()->deleteLater();
+    m_exporting.reset();
+    m_ui->ProgressBar_Export->hide();
+    if (outcome == Outcome::Stopped)
+        return;
+    if (outcome == Outcome::Unreadable)
+        showExportState(Status::Bad, GetLangString(933), reason);
+    if (outcome == Outcome::Nothing || outcome == Outcome::Unreadable) {
         MsgBox(GetLangString(744), InfoBoxStyle(), GetLangString(570));
         return;
     }
-    QProgressBar* bar = m_ui->ProgressBar_Export;
-    bar->setRange(0, static_cast<int>(rows));
-    bar->setValue(0);
-    bar->show();
-    QElapsedTimer painted;
-    painted.start();
-    const auto progress = [&](qint64 done) {
-        if (painted.elapsed() >= kPaintEvery) {
-            bar->setValue(static_cast<int>(done));
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-            painted.restart();
-        }
-        return !Closing();
-    };
-    const bool database = m_ui->Opt_SysExport_1->isChecked();
-    const QString stem = SystemLogExportStem();
-    QString file;
-    QString reason;
-    Trapped("Form_Tooling - Cmd_SystemExport_Click", [&] {
-        try {
-            file = database ? ExportSystemLogMdb(m_databases, query, folder, stem, progress)
-                            : ExportSystemLogCsv(m_databases, query, folder, stem, progress);
-        } catch (const std::exception& error) {
-            reason = QString::fromUtf8(error.what());
-            throw;
-        }
-    });
-    if (Closing())
-        return;
-    bar->setValue(static_cast<int>(rows));
-    m_folder = folder;
-    m_ui->btnOpenFolder->setVisible(!file.isEmpty());
-    m_ui->lbExportState->setStatus(file.isEmpty() ? Status::Bad : Status::Ok,
-                                   file.isEmpty() ? GetLangString(938) : QFileInfo(file).fileName());
-    m_ui->lbExportState->setToolTip(file.isEmpty() ? reason : file);
-    m_ui->lbExportState->show();
-    MsgBox(GetLangString(database ? 746 : 745), InfoBoxStyle(), GetLangString(570));
+    const bool whole = outcome == Outcome::Whole;
+    m_ui->btnOpenFolder->setVisible(whole);
+    showExportState(whole ? Status::Ok : Status::Bad, whole ? QFileInfo(file).fileName() : GetLangString(938),
+                    whole ? file : reason);
+    MsgBox(GetLangString(asDatabase() ? 746 : 745), InfoBoxStyle(), GetLangString(570));
     m_exported();
+}
+
+void Form_Tooling::showExportState(Status status, const QString& words, const QString& details)
+{
+    m_ui->lbExportState->setStatus(status, words);
+    m_ui->lbExportState->setToolTip(details);
+    m_ui->lbExportState->show();
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "look/tables/StatusRoles.h"
+#include "tooling/SystemLogExport.h"
 #include "tooling/SystemLogModel.h"
 
 #include <QWidget>
@@ -9,7 +11,8 @@
 class QComboBox;
 class QDateEdit;
 class QTimeEdit;
-class QTimer;
+class Inactive;
+class SystemLogUsers;
 namespace Ui {
 class Form_Tooling;
 }
@@ -24,7 +27,7 @@ public:
     Form_Tooling(Databases& databases, std::function<void()> exported, QWidget* parent = nullptr);
     ~Form_Tooling() override;
 
-    // Reads the users anew for the lists.
+    // The users are read anew for the lists.
     void open();
     void changeLanguage();
 
@@ -34,17 +37,24 @@ private:
     void lbSysPageControl_Click(int button);
     void Cmd_SystemExport_Click();
     void exportTo(const QString& folder);
+    void exported(SystemLogExport::Outcome outcome);
+    void showExportState(Status status, const QString& words, const QString& details);
     // The span of four pickers in seconds, or false after the box about a start that is not below the end.
     bool readSpan(const QString& pickers, SystemLogQuery& query);
     void drawPage(bool ok);
     void copyRows();
     void fillUsers(QComboBox* box, const QStringList& users);
+    bool asDatabase() const;
 
     Databases& m_databases;
     std::function<void()> m_exported;
     std::unique_ptr<Ui::Form_Tooling> m_ui;
     SystemLogModel* m_model;
+    SystemLogUsers* m_users;
     QTimer* m_filterDelay;
+    std::unique_ptr<Inactive> m_searching;
+    std::unique_ptr<Inactive> m_exporting;
+    std::unique_ptr<SystemLogExport> m_export;
     QString m_folder; // of the last export
     bool m_failed = false;
 };
