@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exportovat</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Přidáno: %1 z %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Přidáno: %1 z %2, neúspěšně: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Nepřidané rekordéry lze zkusit znovu s jinými přihlašovacími údaji.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Zkusit znovu</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Přihlášení</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Přidáno, ale zatím neuloženo: %1.
+Chcete uložit?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Zatím nebyl přidán žádný rekordér. Chcete okno zavřít a zadané údaje zahodit?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Tento název by mělo více rekordérů: %1.
+Chcete jej přesto použít?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Uložené heslo se nezobrazuje. Psaním je nahradíte.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Eksporter</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Tilføjet: %1 af %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Tilføjet: %1 af %2, mislykket: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Optagere, der ikke blev tilføjet, kan prøves igen med et andet login.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Prøv igen</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Login</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Tilføjet, men endnu ikke gemt: %1.
+Vil du gemme?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Der er endnu ikke tilføjet nogen optager. Vil du lukke og miste det indtastede?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Mere end én optager ville have dette navn: %1.
+Vil du bruge det alligevel?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>En gemt adgangskode vises ikke. Indtastning erstatter den.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Hinzugefügt: %1 von %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Hinzugefügt: %1 von %2, fehlgeschlagen: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Nicht hinzugefügte Rekorder lassen sich mit einer anderen Anmeldung erneut versuchen.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Anmeldung</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Hinzugefügt, aber noch nicht gespeichert: %1.
+Möchten Sie speichern?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Es wurde noch kein Rekorder hinzugefügt. Möchten Sie schließen und die Eingaben verwerfen?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Mehr als ein Rekorder hätte diesen Namen: %1.
+Möchten Sie ihn trotzdem verwenden?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Ein gespeichertes Passwort wird nicht angezeigt. Eine Eingabe ersetzt es.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Export</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Added: %1 of %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Added: %1 of %2, failed: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Recorders that were not added can be tried again with another login.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Login</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Added but not saved yet: %1.
+Do you want to save?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>No recorder has been added yet. Close and lose what you entered?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>More than one recorder would have this name: %1.
+Do you want to use it anyway?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>A stored password is not shown. Typing replaces it.</translation>

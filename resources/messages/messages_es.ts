@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exportar</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Añadidos: %1 de %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Añadidos: %1 de %2, con error: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Los grabadores que no se añadieron pueden probarse de nuevo con otro usuario y otra contraseña.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Inicio de sesión</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Añadidos, pero aún sin guardar: %1.
+¿Desea guardarlos?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Aún no se ha añadido ningún grabador. ¿Desea cerrar y perder los datos introducidos?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Más de un grabador tendría este nombre: %1.
+¿Desea usarlo de todos modos?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Una contraseña guardada no se muestra. Al escribir se sustituye.</translation>

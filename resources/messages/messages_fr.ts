@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exporter</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Ajoutés : %1 sur %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Ajoutés : %1 sur %2, échecs : %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Les enregistreurs qui n’ont pas été ajoutés peuvent être réessayés avec d’autres identifiants.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Connexion</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Ajoutés, mais pas encore enregistrés : %1.
+Voulez-vous les enregistrer ?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Aucun enregistreur n’a encore été ajouté. Voulez-vous fermer et perdre votre saisie ?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Plusieurs enregistreurs porteraient ce nom : %1.
+Voulez-vous l’utiliser quand même ?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Un mot de passe enregistré n’est pas affiché. La saisie le remplace.</translation>

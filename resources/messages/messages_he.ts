@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>ייצוא</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>נוספו: %1 מתוך %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>נוספו: %1 מתוך %2, נכשלו: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>אפשר לנסות שוב את המקליטים שלא נוספו עם פרטי כניסה אחרים.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>ניסיון נוסף</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>כניסה</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>נוספו אך עדיין לא נשמרו: %1.
+האם לשמור?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>עדיין לא נוסף מקליט. האם לסגור ולאבד את מה שהוקלד?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>ליותר ממקליט אחד יהיה השם הזה: %1.
+האם להשתמש בו בכל זאת?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>סיסמה שמורה אינה מוצגת. הקלדה מחליפה אותה.</translation>

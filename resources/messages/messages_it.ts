@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Esporta</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Aggiunti: %1 di %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Aggiunti: %1 di %2, non riusciti: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>I registratori non aggiunti possono essere riprovati con un altro accesso.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Riprova</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Accesso</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Aggiunti ma non ancora salvati: %1.
+Salvarli?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Nessun registratore è stato ancora aggiunto. Chiudere e perdere i dati immessi?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Più di un registratore avrebbe questo nome: %1.
+Usarlo comunque?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Una password salvata non viene mostrata. Digitando la si sostituisce.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>エクスポート</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>追加済み：%1 / %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>追加済み：%1 / %2、失敗：%3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>追加されなかったレコーダーは、別のログイン情報で再試行できます。</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>再試行</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>ログイン</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>追加されましたが、まだ保存されていません：%1
+保存しますか？</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>レコーダーはまだ追加されていません。閉じて入力内容を破棄しますか？</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>複数のレコーダーが同じ名前になります：%1
+このまま使用しますか？</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>保存済みのパスワードは表示されません。入力すると置き換わります。</translation>

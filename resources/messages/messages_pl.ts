@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Eksportuj</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Dodano: %1 z %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Dodano: %1 z %2, niepowodzenia: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Rejestratory, których nie dodano, można wypróbować ponownie z innymi danymi logowania.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Spróbuj ponownie</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Logowanie</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Dodano, ale jeszcze nie zapisano: %1.
+Czy zapisać?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Nie dodano jeszcze żadnego rejestratora. Czy zamknąć i utracić wpisane dane?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Więcej niż jeden rejestrator miałby tę nazwę: %1.
+Czy mimo to jej użyć?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Zapisane hasło nie jest pokazywane. Wpisanie tekstu je zastąpi.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Экспортировать</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Добавлено: %1 из %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Добавлено: %1 из %2, с ошибкой: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Для недобавленных регистраторов можно повторить попытку с другими данными для входа.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Повторить</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Вход</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Добавлено, но ещё не сохранено: %1.
+Сохранить?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Ни один регистратор ещё не добавлен. Закрыть и потерять введённые данные?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Это имя будет у нескольких регистраторов: %1.
+Всё равно использовать его?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Сохранённый пароль не показывается. Ввод заменит его.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Dışa Aktar</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>Eklenen: %1 / %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>Eklenen: %1 / %2, başarısız: %3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>Eklenmeyen kayıt cihazları başka bir oturum bilgisiyle yeniden denenebilir.</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>Yeniden dene</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>Oturum Açma</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>Eklendi ancak henüz kaydedilmedi: %1.
+Kaydetmek istiyor musunuz?</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>Henüz hiçbir kayıt cihazı eklenmedi. Kapatıp girdiklerinizi kaybetmek istiyor musunuz?</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>Birden fazla kayıt cihazının adı bu olacak: %1.
+Yine de kullanmak istiyor musunuz?</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Kayıtlı parola gösterilmez. Yazmaya başlayınca değiştirilir.</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>导出</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>已添加：%1 / %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>已添加：%1 / %2，失败：%3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>未添加的录像机可以用其他登录信息重试。</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>登录</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>已添加但尚未保存：%1。
+是否保存？</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>尚未添加任何录像机。是否关闭并放弃已输入的内容？</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>将有多台录像机使用此名称：%1。
+是否仍要使用？</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>已保存的密码不会显示，输入即可替换。</translation>

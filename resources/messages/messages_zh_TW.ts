@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>匯出</translation>
     </message>
+    <message id="1030">
+        <source>Added: %1 of %2</source>
+        <translation>已新增：%1 / %2</translation>
+    </message>
+    <message id="1031">
+        <source>Added: %1 of %2, failed: %3</source>
+        <translation>已新增：%1 / %2，失敗：%3</translation>
+    </message>
+    <message id="1032">
+        <source>Recorders that were not added can be tried again with another login.</source>
+        <translation>未新增的錄影主機可改用其他登入資訊重試。</translation>
+    </message>
+    <message id="1033">
+        <source>Try again</source>
+        <translation>重試</translation>
+    </message>
+    <message id="1034">
+        <source>Login</source>
+        <translation>登入</translation>
+    </message>
+    <message id="1035">
+        <source>Added but not saved yet: %1.
+Do you want to save?</source>
+        <translation>已新增但尚未儲存：%1。
+是否要儲存？</translation>
+    </message>
+    <message id="1036">
+        <source>No recorder has been added yet. Close and lose what you entered?</source>
+        <translation>尚未新增任何錄影主機。是否要關閉並捨棄已輸入的內容？</translation>
+    </message>
+    <message id="1037">
+        <source>More than one recorder would have this name: %1.
+Do you want to use it anyway?</source>
+        <translation>將有多台錄影主機使用此名稱：%1。
+是否仍要使用？</translation>
+    </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>已儲存的密碼不會顯示，輸入即可取代。</translation>

@@ -275,8 +275,11 @@ TEST(SearchList, KnownDevicesAreFixedAndChecksEndWhereTheStationIsFull)
     FoundDevice decoder = Found(90);
     decoder.IsSvd = true;
     model.add(decoder);
-    for (const int n : {1, 2, 20, 21, 22, 23})
-        model.add(Found(n));
+    for (const int n : {1, 2, 20, 21, 22, 23}) {
+        FoundDevice device = Found(n);
+        device.Name = n == 23 ? u" "_s : n == 22 ? QString(40, u'x') : u"Twin"_s;
+        model.add(device);
+    }
     ASSERT_EQ(model.rowCount(), 6);
     EXPECT_TRUE(model.known(0));
     EXPECT_FALSE(model.known(1)); // same address on another port
@@ -288,10 +291,20 @@ TEST(SearchList, KnownDevicesAreFixedAndChecksEndWhereTheStationIsFull)
     EXPECT_FALSE(model.setData(model.index(5, 0), Qt::Checked, Qt::CheckStateRole));
     EXPECT_TRUE(model.setData(model.index(1, 0), Qt::Unchecked, Qt::CheckStateRole));
     EXPECT_TRUE(model.setData(model.index(5, 0), Qt::Checked, Qt::CheckStateRole));
-    const std::vector<NVRDetectItem> chosen = model.chosen();
+    std::vector<NVRDetectItem> chosen = model.chosen(u"chief"_s, u"secret"_s);
     ASSERT_EQ(chosen.size(), 3U);
     EXPECT_EQ(chosen.back().sIP, u"10.0.0.23"_s);
     EXPECT_EQ(chosen.back().iSlot, -1);
+    EXPECT_EQ(chosen.back().sPassword, u"secret"_s);
+    EXPECT_EQ(chosen.back().sName, u"10.0.0.23"_s) << "a device without a name goes by its address";
+    EXPECT_EQ(model.index(4, 0).data().toString(), QString(kRecorderNameLength, u'x'));
+    EXPECT_EQ(DoubleNames(*recorders, chosen), QStringList(u"Twin"_s)) << "two of the chosen";
+    chosen.erase(chosen.begin());
+    EXPECT_EQ(DoubleNames(*recorders, chosen), QStringList());
+    recorders->SVRWorkList[3].sSVR_Name = u"Twin"_s;
+    EXPECT_EQ(DoubleNames(*recorders, chosen), QStringList(u"Twin"_s)) << "one that the station has";
+    chosen.front().iSlot = 3;
+    EXPECT_EQ(DoubleNames(*recorders, chosen), QStringList()) << "itself";
 }
 
 } // namespace

@@ -18,6 +18,7 @@
 #include <QLineEdit>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 using simulators::DeviceDescription;
@@ -288,10 +289,11 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
         ASSERT_NO_FATAL_FAILURE(start({Recorder(family, 16, 2)}));
         boxes.clear();
         titles.clear();
+        QList<QStringList> cameras; // what the questions call them
         answers = {MsgResult::Yes, MsgResult::No, MsgResult::Yes, MsgResult::Yes,
                    MsgResult::No,  MsgResult::Ok, MsgResult::Yes};
         openRecorder(0);
-        step(u"Grid_ChannelList"_s, [] { Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name); });
+        step(u"Grid_ChannelList"_s, [] { Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Edit); });
         step(u"cmbFormat"_s, [this] {
             Driver::picture(u"pro"_s);
             choose(u"cmbFormat"_s, u"jpeg"_s);
@@ -301,7 +303,8 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
             choose(u"cmbCameraDetail_0"_s, u"7"_s);
             Driver::click(u"lbCamModifyApply_0"_s);
         });
-        step(u"Grid_ChannelList"_s, [this] {
+        step(u"Grid_ChannelList"_s, [this, &cameras] {
+            cameras = {{camera(0, 1).name, camera(0, 1).ip}, {camera(0, 2).name, camera(0, 2).ip}};
             EXPECT_EQ(camera(0, 2).live.size, u"640x480"_s);
             EXPECT_EQ(camera(0, 2).live.fps, 7);
             Driver::clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // No
@@ -316,7 +319,10 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
         });
         waitClosed();
         driver.run(20000);
-        const auto clear = [](int channel) { return GetLangString(970).arg(channel); };
+        const auto clear = [&](int channel) -> QString {
+            const QStringList& camera = cameras[channel - 1];
+            return GetLangString(970).arg(channel) + u"\n\n"_s + camera.join(u"  ·  "_s);
+        };
         EXPECT_EQ(boxes, QStringList({GetLangString(611), clear(1), clear(1), clear(2), GetLangString(721),
                                       GetLangString(720), GetLangString(721)}));
         EXPECT_EQ(titles.mid(4), QStringList({u"Delete"_s, u"Notice"_s, u"Delete"_s}));
@@ -325,6 +331,48 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
         desk.reset();
         station = std::make_unique<Station>();
     }
+}
+
+TEST_F(NVRSettingWindow, NothingTypedIsLostUnaskedAndOneClickOnlySelects)
+{
+    ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 4, 3), Recorder(Family::Svr, 4, 3)}));
+    const auto escape = [](const QString& widget) { press(widget, Qt::Key_Escape); };
+    step(u"Grid_SVRsList"_s, [] {
+        auto* grid = Driver::find<QTableView>(u"Grid_SVRsList"_s);
+        grid->setFocus();
+        QTest::keyClick(grid, Qt::Key_F, Qt::ControlModifier);
+        EXPECT_TRUE(Driver::find(u"txtFilter"_s)->hasFocus());
+        Driver::clickCell(u"Grid_SVRsList"_s, 0, NVRListModel::Name);
+        QTest::keyClick(grid, Qt::Key_F2);
+    });
+    step(u"lbModifyApply_0"_s, [this, escape] {
+        EXPECT_EQ(Driver::find<QLineEdit>(u"TextNVRDetail_0"_s)->selectedText(), u"Recorder 1"_s);
+        Driver::type(u"TextNVRDetail_0"_s, u"Recorder 2"_s);
+        answers = {MsgResult::Cancel, MsgResult::Yes, MsgResult::No};
+        escape(u"TextNVRDetail_0"_s); // 514: stays
+        escape(u"TextNVRDetail_0"_s); // 514: Yes; another recorder has this name: No
+        EXPECT_TRUE(Driver::find(u"TextNVRDetail_0"_s)->hasFocus());
+        Driver::type(u"TextNVRDetail_0"_s, u"Recorder 3"_s);
+        Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name);
+        EXPECT_FALSE(Driver::find(u"txtCam_0"_s)) << "one click selects";
+        auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
+        QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, grid->visualRect(grid->currentIndex()).center());
+        Driver::type(u"txtCam_0"_s, u"Gate"_s);
+        answers = {MsgResult::Cancel, MsgResult::No};
+        auto* close = QApplication::activeModalWidget()->findChild<QToolButton*>();
+        EXPECT_EQ(close->accessibleName(), GetLangString(881));
+        close->click();
+        EXPECT_EQ(text(u"txtCam_0"_s), u"Gate"_s);
+        close->click();
+        EXPECT_TRUE(Driver::find(u"Grid_ChannelList"_s)) << "back one level";
+        answers = {MsgResult::Yes};
+        escape(u"Grid_ChannelList"_s);
+    });
+    waitClosed();
+    driver.run(20000);
+    EXPECT_EQ(boxes.count(GetLangString(514)), 5);
+    EXPECT_EQ(boxes.count(GetLangString(1037).arg(u"Recorder 2"_s)), 1);
+    EXPECT_EQ(row(u"SELECT group_concat(DISTINCT sSVR_Name) FROM SVR"_s).toString(), u"Recorder 2,Recorder 3"_s);
 }
 
 TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
@@ -411,7 +459,7 @@ TEST_F(NVRSettingWindow, TabLeadsThroughEveryControlInItsOrder)
         EXPECT_EQ(TabOrder(u"TextNVRDetail_0"_s).toStdString(),
                   "TextNVRDetail_0 TextNVRDetail_1 TextNVRDetail_2 TextNVRDetail_3 TextNVRDetail_4 lbNVRDetect"
                   " txtChannelFilter Grid_ChannelList lbModifyApply_1 lbModifyApply_0");
-        Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Name);
+        Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Edit);
     });
     step(u"txtCam_0"_s, [] {
         EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
@@ -478,8 +526,8 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
     });
     openChannel(6);
     step(u"cmbVideoID"_s, [inspect] {
-        inspect(u"cmbFormat cmbResolution cmbCameraDetail_0 cmbCameraDetail_1 cmbCameraDetail_2 cmbVideoID"_s,
-                u"fish-eye"_s);
+        inspect(u"cmbFormat cmbResolution cmbCameraDetail_0 cmbCameraDetail_1 cmbCameraDetail_2"_s, u"fish-eye"_s);
+        EXPECT_FALSE(Driver::find<QLabel>(u"cmbVideoID"_s)->text().isEmpty()) << "the view is told, not chosen";
         Driver::click(u"lbCamModifyApply_1"_s);
     });
     step(u"Grid_ChannelList"_s, [] { press(u"Grid_ChannelList"_s, Qt::Key_Escape); });

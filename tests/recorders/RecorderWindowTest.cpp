@@ -1,8 +1,11 @@
 #include "app/language/Languages.h"
 #include "look/style/Theme.h"
 #include "look/tables/StatusRoles.h"
+#include "look/widgets/ActionBar.h"
+#include "look/widgets/StepStrip.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
+#include "recorders/detect/DetectStatusModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "recorders/ui/NVRPage.h"
 #include "simulators/SimulatorThread.h"
@@ -55,8 +58,11 @@ protected:
             DeviceDescription device;
             device.family = family;
             device.name = u"Recorder %1"_s.arg(description.devices.size() + 1);
+            device.name.resize(std::max<qsizetype>(device.name.size(), nameLength), u'x');
             device.channels = 4;
             device.cameras = 3;
+            if (ownLogin == static_cast<int>(description.devices.size()))
+                device.accounts = {{u"chief"_s, u"other"_s}};
             description.devices.push_back(device);
         }
         site = std::make_unique<simulators::SimulatorThread>(description);
@@ -84,6 +90,8 @@ protected:
         return count;
     }
 
+    int ownLogin = -1;        // the device that takes chief/other instead of admin/admin
+    qsizetype nameLength = 0; // of the devices' names, at least
     std::unique_ptr<simulators::SimulatorThread> site;
     std::unique_ptr<RecorderSet> recorders = std::make_unique<RecorderSet>();
     std::vector<NVRAccountRecord> accounts{{0, u"admin"_s, u"admin"_s}};
@@ -149,7 +157,7 @@ TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
     ASSERT_EQ(edit.size(), 1);
     EXPECT_EQ(edit.takeFirst().at(0).toInt(), 3);
     QTest::keyClick(grid, Qt::Key_Delete); // No
-    EXPECT_EQ(boxes, QStringList{GetLangString(483)});
+    EXPECT_EQ(boxes, QStringList{GetLangString(483) + u"\n\nNVR 4  ·  Name 3  ·  "_s + Cell(*grid, 3, 2)});
     EXPECT_TRUE(remove.isEmpty());
     answers = {MsgResult::Yes};
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, {},
@@ -206,8 +214,7 @@ protected:
     // What the wizard's rows say at its end.
     QStringList run()
     {
-        Form_NVRSetting wizard(
-            {com, *recorders, accounts}, [this] { ++finished; }, nullptr);
+        Form_NVRSetting wizard({com, *recorders, accounts}, {[this] { ++finished; }, [this] { ++discarded; }}, nullptr);
         QStringList rows;
         QObject::connect(&wizard, &QDialog::finished, &wizard, [&] {
             auto* grid = wizard.findChild<QTableView*>(u"Grid_DetectStatus"_s);
@@ -223,7 +230,11 @@ protected:
     void step(const QString& name, const QString& widget, std::function<void()> act)
     {
         driver.add(
-            name, [widget] { return Driver::usable(widget); }, std::move(act));
+            name,
+            [widget] {
+                return Driver::usable(widget) && QApplication::activeWindow() == QApplication::activeModalWidget();
+            },
+            std::move(act));
     }
     void search()
     {
@@ -232,35 +243,139 @@ protected:
             QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
         });
     }
+    static void enter(const QString& widget) { QTest::keyClick(Driver::find(widget), Qt::Key_Return); }
+    static QString note() { return QApplication::activeModalWidget()->findChild<ActionBar*>()->noteLabel()->text(); }
+    static QString spokenStep() { return QApplication::activeModalWidget()->findChild<StepStrip*>()->accessibleName(); }
     static QAbstractItemModel* list() { return Driver::find<QTableView>(u"Grid_SearchList"_s)->model(); }
 
     Driver driver;
     int finished = 0;
+    int discarded = 0;
 };
 
-TEST_F(WizardWindow, FoundRecordersAreChosenDetectedAndSaved)
+TEST_F(WizardWindow, FoundRecordersAreAddedTheFailedOnesWithAnotherLogin)
 {
+    nameLength = 40;
+    ownLogin = 2;
     startSite({Family::Svr, Family::Txr632, Family::OmluPro, Family::Svd, Family::Svr}, true);
     store(2, 4);
-    fault(1, {FaultKind::CutOff, 30, "/getsvrcapability.cgi"});
+    accounts = {{0, u"root"_s, u"unknown"_s}}; // what is typed counts, not the known accounts
     search();
     step(u"found"_s, u"lbSearch"_s, [] { // usable again: the search is over
         Driver::type(u"txtSearchFilter"_s, kNetwork);
         EXPECT_EQ(list()->rowCount(), 4) << "the decoder is left out";
+        for (int row = 0; row < 4; ++row)
+            EXPECT_EQ(list()->index(row, 0).data().toString().size(), kRecorderNameLength);
         Driver::click(u"lbNext_1"_s); // nothing is checked
+        Driver::click(u"lbBack"_s);
+        EXPECT_TRUE(Driver::find<QAbstractButton>(u"OptMode_0"_s)->isChecked());
+        Driver::type(u"Text_Manual_3"_s, u"admin"_s);
+        Driver::type(u"Text_Manual_4"_s, u"admin"_s);
+        enter(u"Text_Manual_4"_s);
+        EXPECT_EQ(list()->rowCount(), 4) << "what was found is still there";
     });
     step(u"told"_s, u"Chk_SelectAll"_s, [this] {
         EXPECT_EQ(boxes, QStringList{GetLangString(832)});
+        EXPECT_TRUE(Driver::find(u"Grid_SearchList"_s)->hasFocus());
+        QTest::keyClick(Driver::find(u"Grid_SearchList"_s), Qt::Key_Space); // checks the row
+        EXPECT_EQ(list()->index(0, 0).data(Qt::CheckStateRole), Qt::Checked);
+        Driver::find(u"Chk_SelectAll"_s)->setFocus();
         QTest::keyClick(Driver::find(u"Chk_SelectAll"_s), Qt::Key_Space);
         Driver::click(u"lbNext_1"_s);
     });
-    step(u"detected"_s, u"lbNext_2"_s, [] { Driver::click(u"lbNext_2"_s); });
+    step(u"one failed"_s, u"lbRetry"_s, [this] {
+        EXPECT_EQ(note(), GetLangString(1031).arg(2).arg(3).arg(1));
+        EXPECT_TRUE(Driver::find(u"txtRetryUser"_s)->hasFocus());
+        Driver::type(u"txtRetryUser"_s, u"chief"_s);
+        Driver::type(u"txtRetryPassword"_s, u"other"_s);
+        enter(u"txtRetryPassword"_s);
+    });
+    step(u"added"_s, u"lbNext_2"_s, [this] {
+        EXPECT_EQ(note(), GetLangString(1030).arg(3).arg(3));
+        EXPECT_FALSE(Driver::find(u"lbRetry"_s));
+        Driver::click(u"lbBack"_s);
+        for (int row = 0; row < 4; ++row)
+            EXPECT_FALSE(list()->index(row, 0).flags().testFlag(Qt::ItemIsEnabled)) << "the station has them all";
+        answers = {MsgResult::Cancel, MsgResult::Yes};
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+        EXPECT_TRUE(Driver::usable(u"lbBack"_s)) << "Cancel stays";
+        Driver::click(u"lbCancel"_s); // Yes saves them
+    });
     const QStringList rows = run();
-    EXPECT_EQ(rows.count(GetLangString(297)), 2);
-    EXPECT_EQ(rows.count(GetLangString(7)), 1) << "one has broken off, the others went on";
+    EXPECT_EQ(rows.count(GetLangString(297)), 3);
+    EXPECT_EQ(boxes.size(), 3);
     EXPECT_EQ(finished, 1);
-    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 3);
+    EXPECT_EQ(discarded, 0);
+    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 4);
     EXPECT_FALSE(recorders->SVRWorkList[1].sSVR_IP.isEmpty()) << "the free slots, in order";
+    EXPECT_EQ(requests(0, "/login.cgi"), 1) << "what was added is not asked again";
+}
+
+TEST_F(WizardWindow, TypedRecorderIsAskedAboutBeforeItIsDoubledOrLost)
+{
+    startSite({Family::Svr, Family::Svr});
+    store(0, 1);
+    QString address;
+    int port = 0;
+    site->call([&](Site& running) {
+        address = running.device(0).address().toString();
+        port = running.device(0).port();
+    });
+    const auto escape = [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); };
+    step(u"choice"_s, u"Text_Manual_0"_s, [&, escape] {
+        EXPECT_TRUE(spokenStep().startsWith(u"1/2"_s)) << "who types does not search";
+        Driver::type(u"Text_Manual_0"_s, u" Name 0 "_s);
+        escape(); // No: stays
+        enter(u"Text_Manual_0"_s);
+        EXPECT_TRUE(Driver::find(u"Text_Manual_1"_s)->hasFocus());
+        EXPECT_TRUE(Driver::find(u"Text_Manual_1"_s)->property("faulty").toBool());
+        Driver::type(u"Text_Manual_1"_s, u' ' + address + u' ');
+        EXPECT_FALSE(Driver::find(u"Text_Manual_1"_s)->property("faulty").toBool());
+        Driver::type(u"Text_Manual_2"_s, QString::number(port));
+        enter(u"Text_Manual_2"_s); // doubled, No
+        EXPECT_TRUE(Driver::find(u"Text_Manual_0"_s)->hasFocus());
+        answers = {MsgResult::Yes};
+        enter(u"Text_Manual_0"_s);
+    });
+    step(u"added"_s, u"lbNext_2"_s, [&, escape] {
+        EXPECT_TRUE(spokenStep().startsWith(u"2/2"_s));
+        answers = {MsgResult::Cancel, MsgResult::No};
+        escape();
+        EXPECT_TRUE(Driver::usable(u"lbNext_2"_s));
+        escape();
+    });
+    run();
+    EXPECT_EQ(boxes.join(u'|').toStdString(),
+              QStringList({GetLangString(1036) + u"\n\nName 0"_s, GetLangString(491),
+                           GetLangString(1037).arg(u"Name 0"_s), GetLangString(1037).arg(u"Name 0"_s),
+                           GetLangString(1035).arg(u"Name 0"_s), GetLangString(1035).arg(u"Name 0"_s)})
+                  .join(u'|')
+                  .toStdString());
+    EXPECT_EQ(finished, 0);
+    EXPECT_EQ(discarded, 1);
+    EXPECT_EQ(recorders->SVRWorkList[1].sSVR_IP, address);
+}
+
+// One click means one step, also when the hand clicks twice.
+TEST_F(WizardWindow, SecondHalfOfADoubleClickReachesNoFrame)
+{
+    const int interval = QApplication::doubleClickInterval();
+    QApplication::setDoubleClickInterval(100000);
+    step(u"choice"_s, u"OptMode_0"_s, [this] {
+        QTest::keyClick(Driver::find(u"OptMode_0"_s), Qt::Key_Space);
+        Driver::click(u"lbNext_0"_s);
+        Driver::click(u"lbNext_1"_s); // the same button, the same place
+        EXPECT_TRUE(boxes.isEmpty());
+        Driver::click(u"lbBack"_s); // elsewhere: nobody's second half
+        EXPECT_TRUE(Driver::find(u"lbNext_0"_s));
+        Driver::click(u"lbNext_0"_s);
+        QApplication::setDoubleClickInterval(0);
+        Driver::click(u"lbNext_1"_s); // later
+        EXPECT_EQ(boxes.size(), 1);
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    run();
+    QApplication::setDoubleClickInterval(interval);
 }
 
 TEST_F(WizardWindow, ASearchWithoutAnswerSaysSoAndCanBeGivenUp)
@@ -293,7 +408,7 @@ TEST_F(WizardWindow, EscapeStopsADetectionEvenInTheMiddleOfARequest)
             QTest::keyClick(Driver::find(u"lbNext_2"_s), Qt::Key_Return);
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         });
-    step(u"stopped"_s, u"lbNext_2"_s, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    step(u"stopped"_s, u"lbNext_2"_s, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); }); // No
     QElapsedTimer time;
     time.start();
     QStringList rows = run();

@@ -75,7 +75,7 @@ public:
         if (prepare)
             prepare();
         visit(name, dialog);
-        dialog.close();
+        dialog.hide(); // closing may mean a question, or one level back
     }
     // Whatever modal window `open` brings up and waits for.
     void modal(const QString& name, const std::function<void()>& open)
@@ -159,8 +159,7 @@ void Visitor::clear()
 
 void Visitor::wizard()
 {
-    Form_NVRSetting dialog(
-        {m_com, m_station.recorders, m_station.accounts}, [] {}, &m_desk);
+    Form_NVRSetting dialog({m_com, m_station.recorders, m_station.accounts}, {}, &m_desk);
     show(u"wizard-0"_s, dialog);
     show(u"wizard-1"_s, dialog, [&] {
         dialog.LoadFrame(1);
@@ -205,8 +204,7 @@ void Visitor::recorder()
     const DetectContext context{m_com, m_station.recorders, m_station.accounts};
     if (!DetectNVR(context, item, [](const DetectStatus&) {}))
         throw std::runtime_error("the simulated recorder is not detected");
-    Form_NVRSetting dialog(
-        context, [] {}, &m_desk);
+    Form_NVRSetting dialog(context, {}, &m_desk);
     dialog.SetNVR(kAnswering, {});
     show(u"recorder-3"_s, dialog);
     show(u"recorder-4"_s, dialog, [] { ClickCell(u"Grid_ChannelList"_s, kFishEye, ChannelListModel::Edit); });

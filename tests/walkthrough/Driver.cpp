@@ -9,6 +9,11 @@
 
 using namespace Qt::StringLiterals;
 
+Driver::Driver()
+{
+    QApplication::setDoubleClickInterval(0);
+}
+
 void Driver::add(const QString& name, std::function<bool()> ready, std::function<void()> act)
 {
     m_steps.push_back({name, std::move(ready), std::move(act)});

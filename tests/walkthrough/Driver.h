@@ -22,6 +22,9 @@ public:
         std::function<void()> act;
     };
 
+    // Steps follow each other faster than any hand: no two clicks of them make a double click.
+    Driver();
+
     void add(const QString& name, std::function<bool()> ready, std::function<void()> act);
     // Runs all steps; throws std::runtime_error naming the step that never got ready or whose action threw.
     void run(int millisecondsAStep = 30000);

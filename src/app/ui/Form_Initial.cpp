@@ -208,7 +208,8 @@ void Form_Initial::buildPages()
     auto* recorders = new RecordersPage(m_station.recorders, m_com.http);
     m_nvrPage = recorders->list();
     connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
-    connect(m_nvrPage, &NVRPage::editWanted, this, &Form_Initial::showRecorder);
+    connect(m_nvrPage, &NVRPage::editWanted, this, [this](int slot) { showRecorder(slot, false); });
+    connect(m_nvrPage, &NVRPage::renameWanted, this, [this](int slot) { showRecorder(slot, true); });
     connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
         RemoveSVR(m_station, m_com, slot);
         m_nvrPage->Grid_SVR_Set_withDB();
@@ -360,14 +361,14 @@ DetectContext Form_Initial::detectContext()
 
 void Form_Initial::showWizard()
 {
-    Form_NVRSetting wizard(
-        detectContext(), [this] { finishNewRecorders(); }, this);
+    Form_NVRSetting wizard(detectContext(), {[this] { finishNewRecorders(); }, [this] { DropNewRecorders(m_station); }},
+                           this);
     wizard.exec();
     m_nvrPage->Grid_SVR_Set_withDB();
     updateHeader();
 }
 
-void Form_Initial::showRecorder(int slot)
+void Form_Initial::showRecorder(int slot, bool rename)
 {
     ModifyHooks hooks;
     hooks.RemoveSVR = [this](int removed) { RemoveSVR(m_station, m_com, removed); };
@@ -380,6 +381,8 @@ void Form_Initial::showRecorder(int slot)
     };
     Form_NVRSetting form(detectContext(), {}, this);
     form.SetNVR(slot, hooks);
+    if (rename)
+        form.editName();
     form.exec();
     m_nvrPage->Grid_SVR_Set_withDB();
     updateHeader();

@@ -63,7 +63,7 @@ private:
     void askExit();
     DetectContext detectContext();
     void showWizard();
-    void showRecorder(int slot); // opens a stored recorder (slot from 0), modally
+    void showRecorder(int slot, bool rename); // opens a stored recorder (slot from 0), modally
     void finishNewRecorders();
     bool login();
     void showFirstUserNotice();

@@ -2,11 +2,13 @@
 
 #include "look/style/Theme.h"
 #include "look/tables/StatusDelegate.h"
+#include "look/widgets/SecondClick.h"
 
 #include <QHash>
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QShortcut>
 #include <QStyle>
 #include <QStyledItemDelegate>
 #include <QTableView>
@@ -285,4 +287,34 @@ void StatusColumn(QTableView* table, int column)
         QObject::connect(model, &QAbstractItemModel::dataChanged, heights, &RowHeights::some);
         QObject::connect(model, &QAbstractItemModel::modelReset, heights, &RowHeights::all);
     }
+}
+
+void ActOnRows(QTableView* table, RowColumns columns, std::function<void(const QModelIndex& cell)> act)
+{
+    WatchClicks();
+    const auto acts = [columns](const QModelIndex& cell) {
+        return cell.column() == columns.open || cell.column() == columns.remove;
+    };
+    const auto in = [act](const QModelIndex& cell, int column) {
+        if (cell.isValid())
+            act(column < 0 ? cell : cell.siblingAtColumn(column));
+    };
+    QObject::connect(table, &QTableView::clicked, table, [acts, act](const QModelIndex& cell) {
+        if (acts(cell))
+            act(cell);
+    });
+    QObject::connect(table, &QTableView::doubleClicked, table, [acts, in, columns](const QModelIndex& cell) {
+        if (!acts(cell) && !cell.flags().testFlag(Qt::ItemIsUserCheckable))
+            in(cell, columns.open);
+    });
+    const auto key = [table, in](Qt::Key which, int column) {
+        auto* shortcut = new QShortcut(which, table, nullptr, nullptr, Qt::WidgetShortcut);
+        shortcut->setAutoRepeat(false); // a key held down does not go on in what it has opened
+        QObject::connect(shortcut, &QShortcut::activated, table,
+                         [table, in, column] { in(table->currentIndex(), column); });
+    };
+    key(Qt::Key_Return, columns.open);
+    key(Qt::Key_Enter, columns.open);
+    if (columns.remove >= 0)
+        key(Qt::Key_Delete, columns.remove);
 }

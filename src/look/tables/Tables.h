@@ -1,7 +1,10 @@
 #pragma once
 
+#include <functional>
+
 class QAbstractItemView;
 class QHeaderView;
+class QModelIndex;
 class QTableView;
 class QTreeView;
 
@@ -17,3 +20,14 @@ void MonospaceColumn(QAbstractItemView* view, int column);
 // A dot before the words and, where the model gives a progress, a thin bar below them (see StatusRoles.h). Long words
 // wrap and the rows grow with them. Call it after the model is set.
 void StatusColumn(QTableView* table, int column);
+
+// The columns that act on their row; -1 for none.
+struct RowColumns
+{
+    int open = -1;
+    int remove = -1;
+};
+// One way to act on the rows of a list: a click selects, and acts at once only in the two columns. A double click,
+// Return and Enter stand for the column that opens, Delete for the one that removes; without a column that opens they
+// mean the row. A cell with a check is left to its check. `act` gets the cell.
+void ActOnRows(QTableView* table, RowColumns columns, std::function<void(const QModelIndex& cell)> act);

@@ -6,6 +6,7 @@
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
 #include "look/widgets/ElidedLabel.h"
+#include "look/widgets/SecondClick.h"
 #include "look/widgets/StepStrip.h"
 
 #include <QBitmap>
@@ -237,6 +238,7 @@ void DialogFrame::showEvent(QShowEvent* event)
     place.moveBottom(std::min(place.bottom(), available.bottom()));
     place.moveTopLeft({std::max(place.left(), available.left()), std::max(place.top(), available.top())});
     move(place.topLeft());
+    DropSecondClick(); // nothing here was under the pointer when it pressed
     if (!parentWidget())
         return;
     if (isModal() && !m_scrim)
@@ -246,6 +248,7 @@ void DialogFrame::showEvent(QShowEvent* event)
 void DialogFrame::hideEvent(QHideEvent* event)
 {
     QDialog::hideEvent(event);
+    DropSecondClick();
     delete m_scrim;
 }
 

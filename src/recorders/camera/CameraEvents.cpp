@@ -141,3 +141,13 @@ RecorderOutcome WriteRecorderCameraEvents(Form_COM& com, SVRRecord& svr, const C
     const std::vector<int> channels = CameraChannels(svr);
     return IsProFamily(svr.sSVR_DeviceType) ? WritePro(com, svr, bits, channels) : WriteSvr(com, svr, bits, channels);
 }
+
+bool TakeRecorderCameraEvents(Form_COM& com, SVRRecord& svr)
+{
+    CameraEventBits bits{};
+    if (!svr.bSVR_N_EventSupport || !ReadRecorderCameraEvents(com, svr, bits).ok)
+        return false;
+    for (int channel = 0; channel < kMaxChannel; ++channel)
+        At(svr.channels, channel).bSub_CH_Cam_MD_Enabled = At(bits, channel) != 0;
+    return true;
+}

@@ -13,3 +13,7 @@ RecorderOutcome ReadRecorderCameraEvents(Form_COM& com, const SVRRecord& svr, Ca
 // Writes the switches of all channels with a camera and takes them over into bSub_CH_Cam_MD_Enabled. Channels that the
 // recorder refuses are named in the outcome's message and lose their switch in the record; the others are written.
 RecorderOutcome WriteRecorderCameraEvents(Form_COM& com, SVRRecord& svr, const CameraEventBits& bits);
+
+// Takes the switches as the recorder has them into its record. False where it has none or cannot tell: the record's
+// stay.
+bool TakeRecorderCameraEvents(Form_COM& com, SVRRecord& svr);

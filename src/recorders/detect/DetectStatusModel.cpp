@@ -48,11 +48,47 @@ void DetectStatusModel::setChannels(int row, int channels)
     changed(row);
 }
 
+const NVRDetectItem& DetectStatusModel::item(int row) const
+{
+    return At(m_items, row);
+}
+
+void DetectStatusModel::tryAgain(const QString& user, const QString& password)
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (At(m_rows, row).started && At(m_rows, row).status.state == DetectStatus::State::Done)
+            continue;
+        At(m_rows, row) = {};
+        At(m_items, row).sUser = user;
+        At(m_items, row).sPassword = password;
+        changed(row);
+    }
+}
+
+bool DetectStatusModel::waits(int row) const
+{
+    return !At(m_rows, row).started;
+}
+
+int DetectStatusModel::rowsIn(DetectStatus::State state) const
+{
+    return static_cast<int>(std::count_if(
+        m_rows.begin(), m_rows.end(), [state](const Row& row) { return row.started && row.status.state == state; }));
+}
+
 int DetectStatusModel::finishedRows() const
 {
-    return static_cast<int>(std::count_if(m_rows.begin(), m_rows.end(), [](const Row& row) {
-        return row.started && row.status.state != DetectStatus::State::Running;
-    }));
+    return doneRows() + failedRows();
+}
+
+int DetectStatusModel::doneRows() const
+{
+    return rowsIn(DetectStatus::State::Done);
+}
+
+int DetectStatusModel::failedRows() const
+{
+    return rowsIn(DetectStatus::State::Failed);
 }
 
 int DetectStatusModel::rowCount(const QModelIndex& parent) const

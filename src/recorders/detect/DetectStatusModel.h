@@ -25,10 +25,15 @@ public:
 
     explicit DetectStatusModel(QObject* parent = nullptr);
     void setItems(std::vector<NVRDetectItem> items); // all waiting
-    const std::vector<NVRDetectItem>& items() const { return m_items; }
+    const NVRDetectItem& item(int row) const;
+    // Whatever is not done waits again, for another login.
+    void tryAgain(const QString& user, const QString& password);
     void setStatus(int row, const DetectStatus& status);
     void setChannels(int row, int channels);
+    bool waits(int row) const;
     int finishedRows() const; // done or failed
+    int doneRows() const;
+    int failedRows() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -43,6 +48,7 @@ private:
         int channels = -1;
     };
     QVariant text(int row, int column) const;
+    int rowsIn(DetectStatus::State state) const;
     void changed(int row);
 
     std::vector<NVRDetectItem> m_items;

@@ -10,6 +10,8 @@
 #include "support/Conversions.h"
 #include "support/HostNames.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -337,6 +339,22 @@ ManualFault ValidateManualNVR(const QString& name, const QString& address, const
     if (port.trimmed().isEmpty())
         return {492, ManualField::Port};
     return {};
+}
+
+QStringList DoubleNames(const RecorderSet& recorders, const std::vector<NVRDetectItem>& items)
+{
+    QStringList doubles;
+    for (const NVRDetectItem& item : items) {
+        auto same = std::count_if(items.begin(), items.end(),
+                                  [&](const NVRDetectItem& other) { return other.sName == item.sName; });
+        for (int slot = 0; slot < kMaxSVR; ++slot) {
+            const SVRRecord& record = At(recorders.SVRWorkList, slot);
+            same += slot != item.iSlot && !record.sSVR_IP.isEmpty() && record.sSVR_Name == item.sName ? 1 : 0;
+        }
+        if (same > 1 && !doubles.contains(item.sName))
+            doubles += item.sName;
+    }
+    return doubles;
 }
 
 bool LoginLevelPasses(const QString& loginReply, const QString& family)

@@ -7,6 +7,8 @@
 #include <functional>
 #include <vector>
 
+inline constexpr int kRecorderNameLength = 31; // characters that a recorder's name field takes
+
 // A recorder to be detected.
 struct NVRDetectItem
 {
@@ -71,6 +73,10 @@ struct ManualFault
 };
 // Resolves a host name, so it may wait (at most 10 seconds).
 ManualFault ValidateManualNVR(const QString& name, const QString& address, const QString& port);
+
+// Those names of `items` that another item or another occupied slot of the working generation has too, each once. An
+// item's own slot does not count.
+QStringList DoubleNames(const RecorderSet& recorders, const std::vector<NVRDetectItem>& items);
 
 // Logs in to a recorder, reads what it can do and its channels, and fills the slot or edit record. True on success; on
 // failure nothing is changed and the report's last message says why. The last report of a success is message 297, or

@@ -1,6 +1,7 @@
 #include "recorders/detect/RecorderCall.h"
 
 #include "app/language/Languages.h"
+#include "platform/MsgBox.h"
 #include "platform/Wait.h"
 
 using namespace Qt::StringLiterals;
@@ -38,4 +39,13 @@ RecorderOutcome RecorderOutcome::FailedPlain(int message, const QString& suffix)
 RecorderOutcome RecorderOutcome::Done(int message)
 {
     return {true, message, {}, message == 0 ? QString() : GetLangString(kInformation), -1};
+}
+
+void TellOutcome(const RecorderOutcome& outcome)
+{
+    if (outcome.message == 0)
+        return;
+    const bool mendable = outcome.field >= 0;
+    const qint32 style = outcome.ok ? kBoxInformation | kBoxSuccess : mendable ? kBoxWarning : kBoxError;
+    MsgBox(outcome.text(), BoxStyle(style), outcome.title);
 }

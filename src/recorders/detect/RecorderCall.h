@@ -27,3 +27,6 @@ struct RecorderOutcome
     static RecorderOutcome FailedPlain(int message, const QString& suffix = {});
     static RecorderOutcome Done(int message = 0);
 };
+
+// Shows the box of an outcome, if it has one: what went wrong, what the operator can put right, or that it is done.
+void TellOutcome(const RecorderOutcome& outcome);

@@ -18,18 +18,35 @@ void SearchListModel::clear()
     endResetModel();
 }
 
+bool SearchListModel::inStation(const FoundDevice& device) const
+{
+    return std::any_of(m_recorders.SVRWorkList.begin(), m_recorders.SVRWorkList.end(), [&](const SVRRecord& record) {
+        return !record.sSVR_IP.isEmpty() && record.sSVR_IP == device.Address && record.iSVR_HttpPort == device.Port;
+    });
+}
+
 void SearchListModel::add(const FoundDevice& device)
 {
     if (device.IsSvd)
         return;
-    const auto same = [&](const SVRRecord& record) {
-        return !record.sSVR_IP.isEmpty() && record.sSVR_IP == device.Address && record.iSVR_HttpPort == device.Port;
-    };
-    const bool known = std::any_of(m_recorders.SVRWorkList.begin(), m_recorders.SVRWorkList.end(), same);
     const int row = rowCount();
     beginInsertRows({}, row, row);
-    m_rows.push_back({device, known, false});
+    m_rows.push_back({device, inStation(device), false});
+    QString& name = m_rows.back().device.Name;
+    name = name.simplified().left(kRecorderNameLength).trimmed();
+    if (name.isEmpty())
+        name = device.Address.left(kRecorderNameLength);
     endInsertRows();
+}
+
+void SearchListModel::refresh()
+{
+    for (Row& row : m_rows) {
+        row.known = inStation(row.device);
+        row.checked = row.checked && !row.known;
+    }
+    if (!m_rows.empty())
+        emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
 }
 
 int SearchListModel::checkedRows() const
@@ -43,7 +60,7 @@ bool SearchListModel::known(int row) const
     return At(m_rows, row).known;
 }
 
-std::vector<NVRDetectItem> SearchListModel::chosen() const
+std::vector<NVRDetectItem> SearchListModel::chosen(const QString& user, const QString& password) const
 {
     std::vector<NVRDetectItem> items;
     for (const Row& row : m_rows) {
@@ -54,6 +71,8 @@ std::vector<NVRDetectItem> SearchListModel::chosen() const
         item.sIP = row.device.Address;
         item.iPort = row.device.Port;
         item.sModel = row.device.Model;
+        item.sUser = user;
+        item.sPassword = password;
         items.push_back(item);
     }
     return items;

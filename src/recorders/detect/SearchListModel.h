@@ -25,11 +25,14 @@ public:
 
     explicit SearchListModel(const RecorderSet& recorders, QObject* parent = nullptr);
     void clear();
+    // A device that tells no name goes by its address; a longer name than a recorder's field takes is cut.
     void add(const FoundDevice& device);
+    // Recorders were added to the station, or taken back: which devices it has is settled anew.
+    void refresh();
     int checkedRows() const; // without the known ones
     bool known(int row) const;
-    // The checked rows in order, each for the first free slot.
-    std::vector<NVRDetectItem> chosen() const;
+    // The checked rows in order, each for the first free slot, with one login for all.
+    std::vector<NVRDetectItem> chosen(const QString& user, const QString& password) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -47,6 +50,7 @@ private:
         bool checked = false;
     };
     bool room() const;
+    bool inStation(const FoundDevice& device) const;
 
     const RecorderSet& m_recorders;
     std::vector<Row> m_rows;

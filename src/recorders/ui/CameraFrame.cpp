@@ -2,8 +2,10 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
-#include "platform/MsgBox.h"
+#include "app/shell/Boxes.h"
+#include "look/widgets/Fields.h"
 #include "recorders/ui/HeldBack.h"
+#include "recorders/ui/Keys.h"
 #include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_CameraFrame.h"
 #include "support/Conversions.h"
@@ -44,8 +46,7 @@ CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
                {Control::BitRate, m_ui->cmbCameraDetail_3},
                {Control::LensMode, m_ui->Cmb_LensMode},
                {Control::LeftMode, m_ui->cmbLeftMode},
-               {Control::RightMode, m_ui->cmbRightMode},
-               {Control::FishEyeMode, m_ui->cmbVideoID}}};
+               {Control::RightMode, m_ui->cmbRightMode}}};
     for (std::size_t i = 0; i < txtCam.size(); ++i) {
         txtCam[i]->setMaxLength(RecorderFields::kLengths[i]);
         connect(txtCam[i], &QLineEdit::textEdited, this, &CameraFrame::takeFields);
@@ -60,6 +61,7 @@ CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
             render();
         });
     }
+    OnKey(this, Qt::Key_F5, [this] { lbCamDetect_Click(); });
     connect(&m_edit, &CameraEdit::choicesChanged, this, &CameraFrame::render);
     connect(m_ui->lbCamDetect, &QPushButton::clicked, this, &CameraFrame::lbCamDetect_Click);
     connect(m_ui->lbCamSearch, &QPushButton::clicked, this, &CameraFrame::searchWanted);
@@ -137,19 +139,19 @@ void CameraFrame::render()
         m_ui->cameraChoices->setRowVisible(row.box, choice.shown);
         anything = anything || choice.shown;
     }
-    m_ui->lbNothingKnown->setVisible(!anything);
+    const CameraEdit::Choice& view = m_edit.choice(Control::FishEyeMode);
+    m_ui->cmbVideoID->setText(view.text());
+    m_ui->cameraChoices->setRowVisible(m_ui->cmbVideoID, view.shown);
+    m_ui->lbNothingKnown->setVisible(!anything && !view.shown);
     m_ui->CamBrandID->setText(m_edit.brand());
     emit stateChanged();
 }
 
 void CameraFrame::report(const RecorderOutcome& outcome)
 {
-    if (outcome.message != 0)
-        MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
-    if (outcome.field >= 0) {
-        At(txtCam, outcome.field)->setFocus();
-        At(txtCam, outcome.field)->selectAll();
-    }
+    TellOutcome(outcome);
+    if (outcome.field >= 0)
+        PointAtFault(At(txtCam, outcome.field));
 }
 
 // Runs a call that waits for the recorder, the page held back and saying what goes on.
@@ -181,7 +183,7 @@ bool CameraFrame::apply()
         report(allowed);
         return false;
     }
-    if (MsgBox(GetLangString(kAskWrite), AskBoxStyle(), GetLangString(kNotice)) != MsgResult::Yes)
+    if (!Ask(kAskWrite, kNotice))
         return false;
     const RecorderOutcome written = ask(kWriting, [this] { return m_edit.writeBack(); });
     report(written);

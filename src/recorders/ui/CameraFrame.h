@@ -59,5 +59,5 @@ private:
     CameraEdit m_edit;
     std::unique_ptr<Ui::CameraFrame> m_ui;
     std::array<QLineEdit*, 5> txtCam;
-    std::array<Row, CameraEdit::kControls> m_rows;
+    std::array<Row, CameraEdit::kControls - 1> m_rows; // all but the fish-eye view, which is told and not chosen
 };

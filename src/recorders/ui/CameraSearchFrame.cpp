@@ -4,13 +4,12 @@
 #include "app/log/Module_Log.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
-#include "platform/MsgBox.h"
 #include "recorders/camera/CameraEdit.h"
 #include "recorders/ui/HeldBack.h"
+#include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_CameraSearchFrame.h"
 
 #include <QHeaderView>
-#include <QShortcut>
 #include <QSortFilterProxyModel>
 
 using namespace Qt::StringLiterals;
@@ -35,17 +34,14 @@ CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, QWidget* parent)
     MonospaceColumn(grid, CameraSearchModel::Address);
     grid->setSortingEnabled(true);
     grid->sortByColumn(CameraSearchModel::Address, Qt::AscendingOrder);
-    static constexpr std::array widths{220, 240, 300};
-    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
+    static constexpr std::array widths{200, 200, 0, 110};
+    for (int column = 0; column < CameraSearchModel::ColumnCount; ++column)
         grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
-    connect(grid, &QTableView::clicked, this, &CameraSearchFrame::choose);
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
-        auto* shortcut = new QShortcut(key, grid, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, &CameraSearchFrame::chooseCurrent);
-    }
-    auto* again = new QShortcut(QKeySequence(Qt::Key_F5), this);
-    again->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(again, &QShortcut::activated, this, &CameraSearchFrame::lb_CamReSearch_Click);
+    grid->horizontalHeader()->setStretchLastSection(false);
+    grid->horizontalHeader()->setSectionResizeMode(CameraSearchModel::Model, QHeaderView::Stretch);
+    ActOnRows(grid, {}, [this](const QModelIndex& row) { choose(row); });
+    OnKey(this, Qt::Key_F5, [this] { lb_CamReSearch_Click(); });
+    OnKey(this, QKeySequence::Find, [this] { m_ui->txtCamSearchFilter->setFocus(); });
     connect(m_ui->txtCamSearchFilter, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_proxy->setFilterFixedString(text);
         showFound();
@@ -122,8 +118,7 @@ void CameraSearchFrame::lb_CamReSearch_Click()
         setSearching(false);
         if (hasChoice())
             m_ui->Grid_CamSearchList->setFocus();
-        if (outcome.message != 0)
-            MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
+        TellOutcome(outcome);
     });
 }
 

@@ -3,24 +3,21 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
-#include "look/tables/Tables.h"
+#include "app/shell/Boxes.h"
 #include "look/widgets/ActionBar.h"
+#include "look/widgets/SecondClick.h"
 #include "look/widgets/StepStrip.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
 #include "recorders/ui/CameraFrame.h"
 #include "recorders/ui/CameraSearchFrame.h"
-#include "recorders/ui/HeldBack.h"
+#include "recorders/ui/DetectStatusFrame.h"
 #include "recorders/ui/NVRDetailFrame.h"
+#include "recorders/ui/RecorderSearchFrame.h"
 #include "recorders/ui/ui_Form_NVRSetting.h"
 #include "support/Conversions.h"
 
-#include <QApplication>
-#include <QCheckBox>
-#include <QKeyEvent>
 #include <QPushButton>
-#include <QSortFilterProxyModel>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +29,16 @@ constexpr int kFrameStatus = 2;
 constexpr int kFrameDetail = 3;
 constexpr int kFrameCamera = 4;
 constexpr int kFrameCamSearch = 5;
-constexpr int kStatusRows = 11; // rows of the status grid on show at a time
+
+enum Message
+{
+    kNoneFound = 954,
+    kWithSelected = 955,
+    kNoneSelected = 832,
+    kFinish = 873,
+    kAskKeepAdded = 1035,
+    kAskDropTyped = 1036
+};
 
 // The buttons and the title of a frame: object names and message numbers.
 struct FrameFace
@@ -52,76 +58,53 @@ constexpr std::array<FrameFace, 6> kFaces{{{"lbNext_0", 277, "lbCancel", 475, 28
 
 } // namespace
 
-Form_NVRSetting::Form_NVRSetting(DetectContext context, std::function<void()> finish, QWidget* parent)
+Form_NVRSetting::Form_NVRSetting(DetectContext context, WizardHooks wizard, QWidget* parent)
     : DialogFrame(parent)
-    , m_context(context)
-    , m_finish(std::move(finish))
+    , m_context(std::move(context))
+    , m_wizard(std::move(wizard))
     , m_ui(std::make_unique<Ui::Form_NVRSetting>())
-    , m_status(new DetectStatusModel(this))
-    , m_found(new SearchListModel(context.recorders, this))
-    , m_foundProxy(new QSortFilterProxyModel(this))
-    , Timer_StartDetect(new QTimer(this))
 {
     setObjectName(u"Form_NVRSetting"_s);
     m_ui->setupUi(content());
+    m_context.stopped = [this] { return m_stopped; };
+    m_search = new RecorderSearchFrame(m_context.com.finder, m_context.recorders, m_ui->frames);
+    m_ui->frames->addWidget(m_search);
+    m_status = new DetectStatusFrame(m_context, m_ui->frames);
+    m_ui->frames->addWidget(m_status);
     m_cancel = footer()->addButton(QString());
+    m_back = footer()->addButton(QString());
+    m_back->setObjectName(u"lbBack"_s);
     m_next = footer()->addButton(QString(), "primary"_L1);
     m_next->setDefault(true);
     connect(m_cancel, &QPushButton::clicked, this, &Form_NVRSetting::pressCancel);
+    connect(m_back, &QPushButton::clicked, this, &Form_NVRSetting::lbBack_Click);
     connect(m_next, &QPushButton::clicked, this, &Form_NVRSetting::pressNext);
 
     m_manual = std::make_unique<RecorderFields>(std::array<QLineEdit*, RecorderFields::kCount>{
         m_ui->Text_Manual_0, m_ui->Text_Manual_1, m_ui->Text_Manual_2, m_ui->Text_Manual_3, m_ui->Text_Manual_4});
-    m_ui->Text_Manual_2->setText(u"80"_s);
-
-    QTableView* grid = m_ui->Grid_DetectStatus;
-    grid->setModel(m_status);
-    StyleTable(grid);
-    MonospaceColumn(grid, DetectStatusModel::Address);
-    StatusColumn(grid, DetectStatusModel::Status);
-    static constexpr std::array widths{170, 140, 70, 120, 70};
-    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
-        grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
-
-    m_context.stopped = [this] { return m_stopped; };
-    m_foundProxy->setSourceModel(m_found);
-    m_foundProxy->setFilterKeyColumn(-1);
-    m_foundProxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_foundProxy->setSortLocaleAware(true);
-    QTableView* list = m_ui->Grid_SearchList;
-    list->setModel(m_foundProxy);
-    StyleTable(list);
-    MonospaceColumn(list, SearchListModel::Address);
-    list->setSortingEnabled(true);
-    list->sortByColumn(-1, Qt::AscendingOrder); // in order of arrival until a head is chosen
-    static constexpr std::array searchWidths{240, 150, 80, 130};
-    for (int column = 0; column < static_cast<int>(searchWidths.size()); ++column)
-        list->setColumnWidth(column, searchWidths[static_cast<std::size_t>(column)]);
-    connect(m_ui->txtSearchFilter, &QLineEdit::textChanged, m_foundProxy, &QSortFilterProxyModel::setFilterFixedString);
-    connect(m_ui->Chk_SelectAll, &QCheckBox::clicked, this, [this](bool checked) { // the rows on show, from the top
-        for (int row = 0; row < m_foundProxy->rowCount(); ++row)
-            m_foundProxy->setData(m_foundProxy->index(row, SearchListModel::DeviceName),
-                                  checked ? Qt::Checked : Qt::Unchecked, Qt::CheckStateRole);
+    m_ui->Text_Manual_2->setText(QString::number(kUsualPort));
+    connect(m_ui->OptMode_1, &QRadioButton::toggled, this, &Form_NVRSetting::showSteps);
+    connect(m_search, &RecorderSearchFrame::changed, this, &Form_NVRSetting::showChosen);
+    connect(m_status, &DetectStatusFrame::busyChanged, this, [this](bool busy, bool stoppable) {
+        setBusy(busy, stoppable);
+        if (!busy)
+            detectionEnded();
     });
-    connect(m_ui->lbSearch, &QPushButton::clicked, this, &Form_NVRSetting::lbSearch_Click);
-    connect(m_found, &SearchListModel::dataChanged, this, &Form_NVRSetting::showChosen);
-    connect(&m_context.com.finder, &FinderBridge::DeviceFound, this, [this](const FoundDevice& device) {
-        if (m_frame == kFrameSearch)
-            m_found->add(device);
-    });
-    connect(&m_context.com.finder, &FinderBridge::Finished, this, &Form_NVRSetting::searchEnded);
-
-    Timer_StartDetect->setSingleShot(true);
-    connect(Timer_StartDetect, &QTimer::timeout, this, &Form_NVRSetting::detectAll);
+    connect(m_status, &DetectStatusFrame::progressed, this, &Form_NVRSetting::showDetection);
+    WatchClicks();
     fillSlots();
     ChangeLanguage();
     LoadFrame(kFrameChoose);
-    resize(820, 560);
+    takeRoom({820, 560}, 0.7);
 }
 
-Form_NVRSetting::~Form_NVRSetting()
+Form_NVRSetting::~Form_NVRSetting() = default;
+
+// At least as large as its frames like it, more where the window behind it has it.
+void Form_NVRSetting::takeRoom(QSize least, double share)
 {
-    m_context.com.finder.Stop();
+    const QSize behind = parentWidget() ? parentWidget()->window()->size() : QSize();
+    resize(least.expandedTo(behind * share));
 }
 
 void Form_NVRSetting::fillSlots()
@@ -137,15 +120,26 @@ void Form_NVRSetting::fillSlots()
 void Form_NVRSetting::ChangeLanguage()
 {
     ApplyLanguage(this);
-    setCloseText(GetLangString(881));
-    steps()->setSteps({GetLangString(875), GetLangString(170), GetLangString(576)});
+    m_back->setText(GetLangString(880));
     m_manual->nameByLabels();
     m_ui->cmbSVRNo->setAccessibleName(GetLangString(892));
-    m_ui->Grid_DetectStatus->setAccessibleName(GetLangString(289));
-    m_ui->Grid_SearchList->setAccessibleName(GetLangString(288));
-    m_ui->txtSearchFilter->setPlaceholderText(GetLangString(953));
-    m_ui->txtSearchFilter->setAccessibleName(GetLangString(953));
-    m_ui->lbSearch->setText(GetLangString(170));
+    m_search->changeLanguage();
+    m_status->changeLanguage();
+}
+
+bool Form_NVRSetting::searches() const
+{
+    return m_ui->OptMode_0->isChecked();
+}
+
+// The steps of the chosen way: who types a recorder does not search.
+void Form_NVRSetting::showSteps()
+{
+    m_ui->manual->setEnabled(!searches());
+    const QString choose = GetLangString(875);
+    const QString detect = GetLangString(576);
+    steps()->setSteps(searches() ? QStringList{choose, GetLangString(170), detect} : QStringList{choose, detect});
+    steps()->setCurrent(!searches() && m_frame == kFrameStatus ? 1 : m_frame);
 }
 
 void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
@@ -180,19 +174,27 @@ void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
     m_camera->changeLanguage();
     m_camSearch->changeLanguage();
     m_detail->SetNVR(slot);
-    resize(1160, 680);
+    takeRoom({1160, 680}, 0.9);
     LoadFrame(kFrameDetail);
+}
+
+void Form_NVRSetting::editName()
+{
+    if (m_detail)
+        m_detail->editName();
 }
 
 void Form_NVRSetting::LoadFrame(int index)
 {
     m_frame = index;
-    const std::array<QWidget*, kFaces.size()> frames{m_ui->Frame_0, m_ui->Frame_1, m_ui->Frame_2,
-                                                     m_detail,      m_camera,      m_camSearch};
+    DropSecondClick();
+    const std::array<QWidget*, kFaces.size()> frames{m_ui->Frame_0, m_search, m_status,
+                                                     m_detail,      m_camera, m_camSearch};
     m_ui->frames->setCurrentWidget(At(frames, index));
     steps()->setVisible(index <= kFrameStatus);
     if (index <= kFrameStatus)
-        steps()->setCurrent(index);
+        showSteps();
+    m_back->setVisible(index == kFrameSearch || index == kFrameStatus);
     const FrameFace& face = At(kFaces, index);
     setWindowTitle(GetLangString(face.title).trimmed());
     m_next->setObjectName(QString::fromLatin1(face.next));
@@ -201,7 +203,7 @@ void Form_NVRSetting::LoadFrame(int index)
     m_cancel->setText(GetLangString(face.cancelText));
     footer()->setNote(QString());
     if (index == kFrameChoose)
-        m_ui->Text_Manual_0->setFocus();
+        (searches() ? static_cast<QWidget*>(m_ui->OptMode_0) : m_ui->Text_Manual_0)->setFocus();
     if (index == kFrameDetail) {
         const SVRRecord& record = m_context.recorders.SVREdit;
         setSubtitle(u"NVR %1  ·  "_s.arg(m_detail->slot() + 1) + record.sSVR_Name);
@@ -239,8 +241,12 @@ void Form_NVRSetting::pressCancel()
 // What the frame on show has to say about changes, and which button Return presses.
 void Form_NVRSetting::showChanges()
 {
-    if (!m_detail)
+    if (!m_detail) {
+        const bool again = m_frame == kFrameStatus && m_status->incomplete();
+        m_status->retryButton()->setDefault(again);
+        m_next->setDefault(!again);
         return;
+    }
     const bool recorderFirst = m_frame == kFrameDetail && m_detail->needsDetection();
     const bool cameraFirst = m_frame == kFrameCamera && m_camera->needsDetection();
     m_detail->detectButton()->setDefault(recorderFirst);
@@ -272,7 +278,8 @@ void Form_NVRSetting::lbModifyApply_Click(int index)
         return;
     Trapped("Form_NVRSetting - lbModifyApply_Click", [&] {
         if (index != 0) {
-            reject();
+            LeaveUnapplied(m_context.recorders, m_detail->slot(), m_hooks);
+            DialogFrame::reject();
         } else if (m_detail->apply(m_hooks)) {
             if (m_hooks.SaveCheck)
                 m_hooks.SaveCheck();
@@ -281,30 +288,41 @@ void Form_NVRSetting::lbModifyApply_Click(int index)
     });
 }
 
-void Form_NVRSetting::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Escape && m_frame > kFrameDetail)
-        pressCancel();
-    else
-        DialogFrame::keyPressEvent(event);
-}
-
 void Form_NVRSetting::lbNext_Click(int index)
 {
     if (m_busy)
         return;
     Trapped("Form_NVRSetting - lbNext_Click", [&] {
-        if (index == kFrameChoose && m_ui->OptMode_0->isChecked()) {
+        if (index == kFrameChoose && searches()) {
             LoadFrame(kFrameSearch);
-            lbSearch_Click();
+            m_search->open();
         } else if (index == kFrameChoose) {
             beginManual();
         } else if (index == kFrameSearch) {
             beginChosen();
         } else if (index == kFrameStatus) {
-            m_finish();
-            accept();
+            finishWizard();
         }
+    });
+}
+
+void Form_NVRSetting::lbBack_Click()
+{
+    if (m_busy)
+        return;
+    Trapped("Form_NVRSetting - lbBack_Click", [&] {
+        if (m_frame == kFrameStatus && searches()) {
+            LoadFrame(kFrameSearch);
+            m_search->open();
+            return;
+        }
+        m_search->stop();
+        if (m_frame == kFrameStatus && !m_status->incomplete()) { // added: the next one
+            m_ui->Text_Manual_0->clear();
+            m_ui->Text_Manual_1->clear();
+        }
+        fillSlots();
+        LoadFrame(kFrameChoose);
     });
 }
 
@@ -315,57 +333,22 @@ void Form_NVRSetting::lbCancel_Click()
         m_cancel->setEnabled(false);
         m_context.com.web.AbortWaited();
     } else {
-        reject();
+        leaveWizard(false);
     }
-}
-
-void Form_NVRSetting::lbSearch_Click()
-{
-    m_ui->Chk_SelectAll->setChecked(false);
-    m_found->clear();
-    showChosen();
-    m_ui->lbSearch->setText(GetLangString(170) + u"..."_s);
-    m_ui->lbSearch->setEnabled(false);
-    if (!m_context.com.finder.Search())
-        searchEnded();
-}
-
-void Form_NVRSetting::searchEnded()
-{
-    m_ui->lbSearch->setText(GetLangString(170));
-    m_ui->lbSearch->setEnabled(true);
-    if (m_frame == kFrameSearch && m_found->rowCount() == 0)
-        footer()->setNote(GetLangString(954));
 }
 
 void Form_NVRSetting::showChosen()
 {
-    footer()->setNote(
-        GetLangString(955).arg(OccupiedSlots(m_context.recorders.SVRWorkList) + m_found->checkedRows()).arg(kMaxSVR));
+    if (m_frame != kFrameSearch)
+        return;
+    const int selected = OccupiedSlots(m_context.recorders.SVRWorkList) + m_search->found().checkedRows();
+    footer()->setNote(m_search->nothingFound() ? GetLangString(kNoneFound)
+                                               : GetLangString(kWithSelected).arg(selected).arg(kMaxSVR));
 }
 
-void Form_NVRSetting::beginChosen()
+void Form_NVRSetting::showDetection()
 {
-    if (m_found->checkedRows() == 0) {
-        MsgBox(GetLangString(832), InfoBoxStyle(), GetLangString(570));
-        return;
-    }
-    m_context.com.finder.Stop();
-    searchEnded();
-    beginDetection(m_found->chosen());
-}
-
-void Form_NVRSetting::reject()
-{
-    if (m_busy) {
-        if (m_cancel->isEnabled() && m_cancel->property(kStopsWork).toBool())
-            lbCancel_Click();
-        return;
-    }
-    if (m_detail)
-        Trapped("Form_NVRSetting - lbModifyApply_Click",
-                [&] { LeaveUnapplied(m_context.recorders, m_detail->slot(), m_hooks); });
-    DialogFrame::reject();
+    footer()->setNote(m_status->summary());
 }
 
 void Form_NVRSetting::beginManual()
@@ -377,42 +360,120 @@ void Form_NVRSetting::beginManual()
         return;
     NVRDetectItem item = m_manual->item();
     item.iSlot = static_cast<qint16>(m_ui->cmbSVRNo->currentData().toInt());
-    beginDetection({item});
-}
-
-void Form_NVRSetting::beginDetection(std::vector<NVRDetectItem> items)
-{
-    m_status->setItems(std::move(items));
-    LoadFrame(kFrameStatus);
-    footer()->setNote(GetLangString(874).arg(0).arg(m_status->rowCount()));
-    setBusy(true);
-    Timer_StartDetect->start(0);
-}
-
-void Form_NVRSetting::detectAll()
-{
-    {
-        const HeldBack held{content()};
-        const std::vector<NVRDetectItem> items = m_status->items();
-        for (int row = 0; row < static_cast<int>(items.size()) && !Closing() && !m_stopped; ++row) {
-            NVRDetectItem item = At(items, row);
-            if (item.sIP.isEmpty())
-                continue;
-            if (item.iSlot < 0)
-                item.iSlot = static_cast<qint16>(FirstFreeSlot(m_context.recorders.SVRWorkList));
-            if ((row + 1) % kStatusRows == 0)
-                m_ui->Grid_DetectStatus->scrollTo(m_status->index(row, 0), QAbstractItemView::PositionAtTop);
-            const bool added = DetectNVR(m_context, item, [&](const DetectStatus& status) {
-                m_status->setStatus(row, status);
-                footer()->setNote(GetLangString(874).arg(m_status->finishedRows()).arg(m_status->rowCount()));
-            });
-            if (added)
-                m_status->setChannels(row, CameraCount(At(m_context.recorders.SVRWorkList, item.iSlot)));
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        }
+    if (!NamesSettled(m_context.recorders, {item})) {
+        m_manual->go(ManualField::Name);
+        return;
     }
-    setBusy(false);
-    m_next->setFocus();
+    LoadFrame(kFrameStatus);
+    m_status->begin({item});
+}
+
+void Form_NVRSetting::beginChosen()
+{
+    const NVRDetectItem login = m_manual->item();
+    std::vector<NVRDetectItem> items = m_search->found().chosen(login.sUser, login.sPassword);
+    if (items.empty()) {
+        Tell(Tone::Warning, kNoneSelected);
+        return;
+    }
+    if (!NamesSettled(m_context.recorders, items))
+        return;
+    m_search->stop();
+    LoadFrame(kFrameStatus);
+    m_status->begin(std::move(items));
+}
+
+void Form_NVRSetting::detectionEnded()
+{
+    m_next->setText(GetLangString(m_status->added().empty() ? Message::kClose : kFinish));
+    if (m_status->incomplete())
+        m_status->takeFocus();
+    else
+        m_next->setFocus();
+}
+
+void Form_NVRSetting::finishWizard()
+{
+    if (!m_status->added().empty() && m_wizard.finish)
+        m_wizard.finish();
+    accept();
+}
+
+bool Form_NVRSetting::typed() const
+{
+    const NVRDetectItem item = m_manual->item();
+    return !(item.sName.isEmpty() && item.sIP.isEmpty() && item.sUser.isEmpty() && item.sPassword.isEmpty() &&
+             item.iPort == kUsualPort);
+}
+
+void Form_NVRSetting::leaveWizard(bool askTyped)
+{
+    Trapped("Form_NVRSetting - lbCancel_Click", [&] {
+        QStringList names;
+        for (const int slot : m_status->added())
+            names += At(m_context.recorders.SVRWorkList, slot).sSVR_Name;
+        if (!names.isEmpty()) {
+            switch (MsgBox(GetLangString(kAskKeepAdded).arg(names.join(u", "_s)), BoxStyle(kBoxQuestionOrStay),
+                           GetLangString(Message::kInformation))) {
+            case MsgResult::Yes:
+                finishWizard();
+                return;
+            case MsgResult::No:
+                if (m_wizard.discard)
+                    m_wizard.discard();
+                break;
+            default:
+                return;
+            }
+        } else if (askTyped && typed() && !AskToDestroy(kAskDropTyped, m_manual->item().sName)) {
+            return;
+        }
+        DialogFrame::reject();
+    });
+}
+
+void Form_NVRSetting::leaveRecorder()
+{
+    switch (m_detail->changed() ? AskToLeave() : Leave::Discard) {
+    case Leave::Save:
+        lbModifyApply_Click(0);
+        break;
+    case Leave::Discard:
+        lbModifyApply_Click(1);
+        break;
+    case Leave::Stay:
+        break;
+    }
+}
+
+void Form_NVRSetting::leaveCamera()
+{
+    switch (m_camera->edit().changed() ? AskToLeave() : Leave::Discard) {
+    case Leave::Save:
+        lbCamModifyApply_Click(0);
+        break;
+    case Leave::Discard:
+        lbCamModifyApply_Click(1);
+        break;
+    case Leave::Stay:
+        break;
+    }
+}
+
+void Form_NVRSetting::reject()
+{
+    if (m_busy) {
+        if (m_cancel->isEnabled() && m_cancel->property(kStopsWork).toBool())
+            lbCancel_Click();
+    } else if (m_frame == kFrameCamSearch) {
+        LoadFrame(kFrameCamera);
+    } else if (m_frame == kFrameCamera) {
+        leaveCamera();
+    } else if (m_frame == kFrameDetail) {
+        leaveRecorder();
+    } else {
+        leaveWizard(true);
+    }
 }
 
 void Form_NVRSetting::setBusy(bool busy, bool stoppable)
@@ -420,6 +481,7 @@ void Form_NVRSetting::setBusy(bool busy, bool stoppable)
     m_busy = busy;
     const bool stop = busy && stoppable;
     m_next->setEnabled(!busy);
+    m_back->setEnabled(!busy);
     m_cancel->setEnabled(!busy || stoppable);
     m_cancel->setProperty(kStopsWork, stop);
     setProperty(kStopsWork, stop); // Esc

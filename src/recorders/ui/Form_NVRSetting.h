@@ -1,9 +1,7 @@
 #pragma once
 
 #include "look/widgets/DialogFrame.h"
-#include "recorders/detect/DetectStatusModel.h"
 #include "recorders/detect/ModifyApply.h"
-#include "recorders/detect/SearchListModel.h"
 #include "recorders/ui/RecorderFields.h"
 
 #include <functional>
@@ -11,14 +9,20 @@
 
 class CameraFrame;
 class CameraSearchFrame;
+class DetectStatusFrame;
 class NVRDetailFrame;
-class QLineEdit;
 class QPushButton;
-class QSortFilterProxyModel;
-class QTimer;
+class RecorderSearchFrame;
 namespace Ui {
 class Form_NVRSetting;
 }
+
+// What becomes of the recorders that the wizard has read into free slots. A hook that is not set is passed over.
+struct WizardHooks
+{
+    std::function<void()> finish;  // saves them: rights of the new recorders, then every marked record
+    std::function<void()> discard; // takes them out of the station again
+};
 
 // The pages of recorders, one frame at a time. Frames 0 to 2 are the wizard that brings recorders into the station: 0
 // choice of the way and the typed recorder, 1 the recorders that answered a search, 2 the running status of each
@@ -29,51 +33,57 @@ class Form_NVRSetting : public DialogFrame
     Q_OBJECT
 
 public:
-    // `finish` saves what was detected: rights of the new recorders, then every marked record.
-    Form_NVRSetting(DetectContext context, std::function<void()> finish, QWidget* parent);
+    Form_NVRSetting(DetectContext context, WizardHooks wizard, QWidget* parent);
     ~Form_NVRSetting() override;
 
     // Opens a stored recorder (working slot from 0) on frame 3, in place of the wizard.
     void SetNVR(int slot, ModifyHooks hooks);
+    // The keyboard goes to the recorder's name, ready to be typed anew.
+    void editName();
     void LoadFrame(int index); // hides all frames, shows this one
     int frame() const { return m_frame; }
     void ChangeLanguage();
 
+    // Esc and the close button: a work under way is stopped, a camera's frames go back one level, and what was typed or
+    // added is asked about before the window closes.
     void reject() override;
 
 public slots:
     void lbNext_Click(int index);
+    void lbBack_Click();                    // the frame that led to this one
     void lbCancel_Click();                  // while recorders are detected: stops, and keeps what is done
-    void lbSearch_Click();                  // searches anew
     void lbModifyApply_Click(int index);    // 0 applies and closes, 1 closes
     void lbCamModifyApply_Click(int index); // 0 writes the camera, 1 does not; both go back to frame 3
 
-protected:
-    void keyPressEvent(QKeyEvent* event) override; // Esc leads back a frame before it closes
-
 private:
+    void takeRoom(QSize least, double share);
     void fillSlots();
+    void showSteps();
+    bool searches() const;
+    bool typed() const; // in frame 0, beyond what stands there at first
     void beginManual();
     void beginChosen();
-    void beginDetection(std::vector<NVRDetectItem> items);
-    void searchEnded();
     void showChosen();
-    void detectAll();
+    void showDetection();
+    void detectionEnded();
+    void finishWizard();
+    void leaveWizard(bool askTyped);
+    void leaveRecorder();
+    void leaveCamera();
     void setBusy(bool busy, bool stoppable = true);
     void pressNext();
     void pressCancel();
     void showChanges();
 
     DetectContext m_context;
-    std::function<void()> m_finish;
+    WizardHooks m_wizard;
     std::unique_ptr<Ui::Form_NVRSetting> m_ui;
     std::unique_ptr<RecorderFields> m_manual;
-    DetectStatusModel* m_status;
-    SearchListModel* m_found;
-    QSortFilterProxyModel* m_foundProxy;
+    RecorderSearchFrame* m_search;
+    DetectStatusFrame* m_status;
     bool m_stopped = false;
-    QTimer* Timer_StartDetect;
     QPushButton* m_cancel;
+    QPushButton* m_back;
     QPushButton* m_next;
     NVRDetailFrame* m_detail = nullptr; // only with a stored recorder, as the frames behind it
     CameraFrame* m_camera = nullptr;

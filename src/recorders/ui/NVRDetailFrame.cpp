@@ -2,14 +2,15 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "look/style/Theme.h"
 #include "look/tables/Tables.h"
-#include "platform/MsgBox.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/CameraEvents.h"
 #include "recorders/camera/ChannelClear.h"
 #include "recorders/ui/HeldBack.h"
 #include "recorders/ui/IconProxy.h"
+#include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_NVRDetailFrame.h"
 #include "support/Conversions.h"
 
@@ -25,6 +26,7 @@ constexpr int kShortList = 6; // fewer channels than this draw a short grid
 constexpr int kReDetect = 703;
 constexpr int kTooManyEvents = 91;
 constexpr int kAskClear = 970;
+constexpr int kDelete = 877;
 constexpr int kWriting = 976;
 constexpr qint16 kBothEvents = 3; // the two bits of an older recorder's switch
 constexpr qint16 kEvent = 1;      // the one of a Pro recorder
@@ -61,11 +63,14 @@ NVRDetailFrame::NVRDetailFrame(DetectContext context, QWidget* parent)
         m_proxy->setFilterFixedString(text);
         showCounts();
     });
+    OnKey(this, Qt::Key_F5, [this] { lbNVRDetect_Click(); });
+    OnKey(this, QKeySequence::Find, [this] { m_ui->txtChannelFilter->setFocus(); });
+    OnKey(this, Qt::Key_F2, [this] { editName(); });
     connect(m_ui->txtChannelFilter, &QLineEdit::returnPressed, this, &NVRDetailFrame::takeFocus);
     // The box waits until the click that met the limit is over.
     connect(
-        m_channels, &ChannelListModel::limitReached, this,
-        [] { MsgBox(GetLangString(kTooManyEvents), InfoBoxStyle(), GetLangString(570)); }, Qt::QueuedConnection);
+        m_channels, &ChannelListModel::limitReached, this, [] { Tell(Tone::Warning, kTooManyEvents); },
+        Qt::QueuedConnection);
     for (int i = 0; i < RecorderFields::kCount; ++i)
         connect(m_fields.field(static_cast<ManualField>(i)), &QLineEdit::textChanged, this,
                 &NVRDetailFrame::changesChanged);
@@ -89,15 +94,10 @@ void NVRDetailFrame::prepareGrid()
     QHeaderView* head = grid->horizontalHeader();
     head->setStretchLastSection(false);
     head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
-    connect(grid, &QTableView::clicked, this, &NVRDetailFrame::Grid_ChannelList_Click);
-    const auto key = [this, grid](const QKeySequence& keys, auto&& does) {
-        auto* shortcut = new QShortcut(keys, grid, nullptr, nullptr, Qt::WidgetShortcut);
-        connect(shortcut, &QShortcut::activated, this, does);
-    };
-    key(Qt::Key_Return, [this] { act(ChannelListModel::Edit); });
-    key(Qt::Key_Enter, [this] { act(ChannelListModel::Edit); });
-    key(Qt::Key_Delete, [this] { act(ChannelListModel::Delete); });
-    key(Qt::Key_Space, [this] {
+    ActOnRows(grid, {ChannelListModel::Edit, ChannelListModel::Delete},
+              [this](const QModelIndex& cell) { Grid_ChannelList_Click(cell); });
+    auto* space = new QShortcut(Qt::Key_Space, grid, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(space, &QShortcut::activated, this, [this] {
         const QModelIndex cell = m_ui->Grid_ChannelList->currentIndex().siblingAtColumn(ChannelListModel::CameraEvent);
         const bool on = cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
         m_proxy->setData(cell, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
@@ -171,6 +171,11 @@ void NVRDetailFrame::takeFocus()
     m_ui->Grid_ChannelList->setFocus();
 }
 
+void NVRDetailFrame::editName()
+{
+    m_fields.go(ManualField::Name);
+}
+
 void NVRDetailFrame::showFacts()
 {
     const SVRRecord& record = m_context.recorders.SVREdit;
@@ -235,15 +240,8 @@ void NVRDetailFrame::lbNVRDetect_Click()
         }
         showFacts();
         if (last.message != kDetectStopped)
-            MsgBox(GetLangString(last.message) + last.suffix, InfoBoxStyle(), GetLangString(570));
+            Tell(detected ? Tone::Success : Tone::Error, GetLangString(last.message) + last.suffix);
     });
-}
-
-void NVRDetailFrame::act(int column)
-{
-    const QModelIndex current = m_ui->Grid_ChannelList->currentIndex();
-    if (current.isValid())
-        Grid_ChannelList_Click(current.siblingAtColumn(column));
 }
 
 void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
@@ -252,7 +250,7 @@ void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
         const int channel = cell.data(ChannelListModel::kChannelRole).toInt();
         if (cell.column() == ChannelListModel::Delete)
             clearChannel(channel);
-        else if (cell.column() != ChannelListModel::CameraEvent)
+        else if (cell.column() == ChannelListModel::Edit)
             emit channelWanted(channel);
     });
 }
@@ -274,8 +272,7 @@ RecorderOutcome NVRDetailFrame::ask(int words, const std::function<RecorderOutco
 {
     RecorderOutcome outcome;
     hold(words, [&] { outcome = call(); });
-    if (outcome.message != 0)
-        MsgBox(outcome.text(), InfoBoxStyle(), outcome.title);
+    TellOutcome(outcome);
     return outcome;
 }
 
@@ -283,7 +280,10 @@ void NVRDetailFrame::clearChannel(int channel)
 {
     if (At(m_context.recorders.SVREdit.channels, channel).sSub_CH_IP.isEmpty())
         return;
-    if (MsgBox(GetLangString(kAskClear).arg(channel + 1), AskBoxStyle(), GetLangString(877)) != MsgResult::Yes)
+    const SVRRecord& record = m_context.recorders.SVREdit;
+    const QString camera =
+        At(record.channels, channel).sSub_CH_Name + u"  ·  "_s + At(record.channels, channel).sSub_CH_IP;
+    if (!AskToDestroy(GetLangString(kAskClear).arg(channel + 1), camera, kDelete))
         return;
     const RecorderOutcome cleared =
         ask(kWriting, [&] { return ClearRecorderChannel(m_context.com, m_context.recorders, channel); });
@@ -303,11 +303,7 @@ void NVRDetailFrame::channelWritten(int channel)
 void NVRDetailFrame::readCameraEvents()
 {
     SVRRecord& record = m_context.recorders.SVREdit;
-    CameraEventBits bits{};
-    if (record.bSVR_N_EventSupport && ReadRecorderCameraEvents(m_context.com, record, bits).ok) {
-        for (int channel = 0; channel < kMaxChannel; ++channel)
-            At(record.channels, channel).bSub_CH_Cam_MD_Enabled = At(bits, channel) != 0;
-    }
+    TakeRecorderCameraEvents(m_context.com, record);
     m_channels->setCameraEvents(record.bSVR_N_EventSupport);
 }
 
@@ -356,8 +352,15 @@ bool NVRDetailFrame::apply(const ModifyHooks& hooks)
     const QString name = m_fields.item().sName;
     const ManualFault fault = name.isEmpty() ? ManualFault{553, ManualField::Name} : differing();
     if (fault.message != 0) {
-        MsgBox(GetLangString(fault.message), InfoBoxStyle(), GetLangString(570));
-        m_fields.go(fault.field);
+        m_fields.tell(fault);
+        return false;
+    }
+    NVRDetectItem renamed;
+    renamed.iSlot = static_cast<qint16>(m_slot);
+    renamed.sName = name;
+    if (name != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name &&
+        !NamesSettled(m_context.recorders, {renamed})) {
+        editName();
         return false;
     }
     if (!writeCameraEvents())

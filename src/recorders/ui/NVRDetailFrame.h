@@ -31,6 +31,7 @@ public:
     // The recorder has taken a change of a channel: the working slot follows, see TakeOverWritten.
     void channelWritten(int channel);
     void takeFocus(); // to the list
+    void editName();  // to the name
     // Takes everything over into the station, see ModifyApply; false: something is missing or was declined.
     bool apply(const ModifyHooks& hooks);
     bool changed() const; // something would be lost without apply
@@ -41,6 +42,7 @@ public:
 
 public slots:
     void lbNVRDetect_Click();
+    // The edit icon opens the channel, the delete icon asks and clears it; other columns do nothing.
     void Grid_ChannelList_Click(const QModelIndex& cell);
 
 signals:
@@ -52,7 +54,6 @@ signals:
 private:
     ManualFault differing() const; // message 703 and the first field that is not as detected
     void prepareGrid();
-    void act(int column); // of the current row
     void clearChannel(int channel);
     bool writeCameraEvents();
     void readCameraEvents();

@@ -2,18 +2,28 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
-#include "platform/MsgBox.h"
+#include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_NVRPage.h"
+#include "support/Conversions.h"
 
 #include <QHeaderView>
-#include <QShortcut>
 #include <QSortFilterProxyModel>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int kAskDelete = 483;
+
+// What a question about a recorder calls it.
+QString NameOf(const SVRRecord& record, int slot)
+{
+    return u"NVR %1  ·  "_s.arg(slot + 1) + record.sSVR_Name + u"  ·  "_s + record.sSVR_IP + u':' +
+           QString::number(record.iSVR_HttpPort);
+}
 
 // Sorts and filters the list, and gives its last two columns their icons.
 class ListProxy final : public QSortFilterProxyModel
@@ -55,14 +65,16 @@ NVRPage::NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent
         m_proxy->setFilterFixedString(text);
         showCounts();
     });
-    connect(m_ui->Grid_SVRsList, &QTableView::clicked, this, &NVRPage::Grid_SVRsList_Click);
-    connect(m_ui->Grid_SVRsList, &QTableView::doubleClicked, this, [this](const QModelIndex& cell) {
-        if (cell.column() != NVRListModel::Edit && cell.column() != NVRListModel::Delete)
-            Grid_SVRsList_Click(cell.siblingAtColumn(NVRListModel::Edit));
+    ActOnRows(m_ui->Grid_SVRsList, {NVRListModel::Edit, NVRListModel::Delete},
+              [this](const QModelIndex& cell) { Grid_SVRsList_Click(cell); });
+    OnKey(this, Qt::Key_F5, [this] { readAgain(); });
+    OnKey(this, QKeySequence::Find, [this] { m_ui->txtFilter->setFocus(); });
+    OnKey(this, Qt::Key_F2, [this] {
+        const QModelIndex row = m_ui->Grid_SVRsList->currentIndex();
+        if (row.isValid())
+            emit renameWanted(row.data(NVRListModel::kSlotRole).toInt());
     });
-    addKey(Qt::Key_Return, NVRListModel::Edit);
-    addKey(Qt::Key_Enter, NVRListModel::Edit);
-    addKey(Qt::Key_Delete, NVRListModel::Delete);
+    connect(m_ui->txtFilter, &QLineEdit::returnPressed, m_ui->Grid_SVRsList, qOverload<>(&QWidget::setFocus));
     // A changed state may bring a row into the filter or take it out.
     connect(m_model, &NVRListModel::dataChanged, this, &NVRPage::showCounts);
     Grid_SVR_Draw();
@@ -70,20 +82,17 @@ NVRPage::NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent
 
 NVRPage::~NVRPage() = default;
 
-void NVRPage::addKey(const QKeySequence& key, int column)
-{
-    auto* shortcut = new QShortcut(key, m_ui->Grid_SVRsList);
-    shortcut->setContext(Qt::WidgetShortcut);
-    connect(shortcut, &QShortcut::activated, this, [this, column] {
-        const QModelIndex row = m_ui->Grid_SVRsList->currentIndex();
-        if (row.isValid())
-            Grid_SVRsList_Click(row.siblingAtColumn(column));
-    });
-}
-
 void NVRPage::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
+    m_watch.start();
+}
+
+// Fills the list anew and asks every recorder at once.
+void NVRPage::readAgain()
+{
+    m_watch.stop();
+    Grid_SVR_Set_withDB();
     m_watch.start();
 }
 
@@ -160,7 +169,7 @@ void NVRPage::Grid_SVRsList_Click(const QModelIndex& cell)
         if (cell.column() == NVRListModel::Edit) {
             emit editWanted(slot);
         } else if (cell.column() == NVRListModel::Delete &&
-                   MsgBox(GetLangString(483), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes) {
+                   AskToDestroy(kAskDelete, NameOf(At(m_recorders.SVRList, slot), slot))) {
             emit removeWanted(slot);
         }
     });
@@ -170,7 +179,7 @@ void NVRPage::lbAdd_Click()
 {
     Trapped("Form_Initial - lbAdd_Click", [&] {
         if (OccupiedSlots(m_recorders.SVRWorkList) >= kMaxSVR) {
-            MsgBox(GetLangString(715) + u" (16)"_s, InfoBoxStyle(), GetLangString(570));
+            Tell(Tone::Warning, GetLangString(715) + u" (16)"_s);
             return;
         }
         emit wizardWanted();

@@ -28,13 +28,13 @@ public:
 public slots:
     // Opens the wizard, or says that the station is full.
     void lbAdd_Click();
-    // The edit icon opens the recorder, the delete icon asks and removes it; other columns do nothing. Enter and a
-    // double click anywhere else are as the edit icon, Delete as the delete icon.
+    // The edit icon opens the recorder, the delete icon asks and removes it; other columns do nothing.
     void Grid_SVRsList_Click(const QModelIndex& cell);
 
 signals:
     void wizardWanted();
-    void editWanted(int slot); // from 0
+    void editWanted(int slot);   // from 0
+    void renameWanted(int slot); // the same, and its name is what is to be changed
     void removeWanted(int slot);
 
 protected:
@@ -42,7 +42,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void addKey(const QKeySequence& key, int column);
+    void readAgain();
     void showCounts();
 
     const RecorderSet& m_recorders;

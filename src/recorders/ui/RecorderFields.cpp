@@ -1,7 +1,7 @@
 #include "recorders/ui/RecorderFields.h"
 
 #include "app/language/Languages.h"
-#include "platform/MsgBox.h"
+#include "app/shell/ui/TellFault.h"
 #include "support/Conversions.h"
 
 #include <QIntValidator>
@@ -9,6 +9,12 @@
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kAskDoubleName = 1037;
+
+} // namespace
 
 RecorderFields::RecorderFields(const std::array<QLineEdit*, kCount>& fields)
     : m_fields(fields)
@@ -33,24 +39,30 @@ void RecorderFields::go(ManualField which) const
     field(which)->selectAll();
 }
 
+void RecorderFields::tell(const ManualFault& fault) const
+{
+    TellFault(field(fault.field), fault.message);
+}
+
 bool RecorderFields::check() const
 {
     const NVRDetectItem typed = item();
+    field(ManualField::Name)->setText(typed.sName);
+    field(ManualField::Address)->setText(typed.sIP);
     ManualFault fault = ValidateManualNVR(typed.sName, typed.sIP, field(ManualField::Port)->text());
     if (fault.message == 0 && (typed.iPort < 1 || typed.iPort > 65535))
         fault = {556, ManualField::Port};
     if (fault.message == 0)
         return true;
-    MsgBox(GetLangString(fault.message), InfoBoxStyle(), GetLangString(570));
-    go(fault.field);
+    tell(fault);
     return false;
 }
 
 NVRDetectItem RecorderFields::item() const
 {
     NVRDetectItem item;
-    item.sName = field(ManualField::Name)->text();
-    item.sIP = field(ManualField::Address)->text();
+    item.sName = field(ManualField::Name)->text().trimmed();
+    item.sIP = field(ManualField::Address)->text().trimmed();
     item.iPort = field(ManualField::Port)->text().trimmed().toInt();
     item.sUser = field(ManualField::User)->text();
     item.sPassword = field(ManualField::Password)->text();
@@ -75,4 +87,10 @@ void RecorderFields::nameByLabels() const
                 edit->setAccessibleName(label->text());
         }
     }
+}
+
+bool NamesSettled(const RecorderSet& recorders, const std::vector<NVRDetectItem>& items)
+{
+    const QStringList doubles = DoubleNames(recorders, items);
+    return doubles.isEmpty() || Ask(GetLangString(kAskDoubleName).arg(doubles.join(u", "_s)));
 }

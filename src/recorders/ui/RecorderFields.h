@@ -6,22 +6,26 @@
 
 class QLineEdit;
 
+inline constexpr int kUsualPort = 80;
+
 // The five fields that say which recorder is meant and how to log in to it, in the order of ManualField. It gives the
 // fields their lengths, the port its digits, and the password its eye; the fields belong to their window.
 class RecorderFields
 {
 public:
     static constexpr int kCount = 5;
-    static constexpr std::array<int, kCount> kLengths{31, 255, 5, 31,
-                                                      31}; // characters; a camera's fields have the same
+    // Characters; a camera's fields have the same.
+    static constexpr std::array<int, kCount> kLengths{kRecorderNameLength, 255, 5, 31, 31};
     explicit RecorderFields(const std::array<QLineEdit*, kCount>& fields);
 
     // Says what is missing or wrong in a box and goes to that field. Looks a host name up, so it may wait.
     bool check() const;
-    // The recorder as typed; the slot is the caller's.
+    // The recorder as typed, without blanks round its name and address; the slot is the caller's.
     NVRDetectItem item() const;
     void set(const NVRDetectItem& item);
     QLineEdit* field(ManualField which) const;
+    // Says in a box what is wrong and leads to the field at fault.
+    void tell(const ManualFault& fault) const;
     // Puts the keyboard into a field with its text selected.
     void go(ManualField which) const;
     // The fields' labels are their buddies: their texts become the accessible names, once the language is settled.
@@ -30,3 +34,6 @@ public:
 private:
     std::array<QLineEdit*, kCount> m_fields;
 };
+
+// Two recorders of one name are told from each other by their numbers alone: whether that is meant is asked.
+bool NamesSettled(const RecorderSet& recorders, const std::vector<NVRDetectItem>& items);

@@ -1,0 +1,152 @@
+#include "recorders/ui/DetectStatusFrame.h"
+
+#include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "look/tables/Tables.h"
+#include "platform/Wait.h"
+#include "recorders/camera/CameraEvents.h"
+#include "recorders/ui/HeldBack.h"
+#include "recorders/ui/RecorderFields.h"
+#include "recorders/ui/ui_DetectStatusFrame.h"
+#include "support/Conversions.h"
+
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int kStatusRows = 11; // rows of the status grid on show at a time
+
+enum Message
+{
+    kDone = 874,
+    kAllAdded = 1030,
+    kSomeFailed = 1031
+};
+
+} // namespace
+
+DetectStatusFrame::DetectStatusFrame(DetectContext context, QWidget* parent)
+    : QWidget(parent)
+    , m_context(std::move(context))
+    , m_ui(std::make_unique<Ui::DetectStatusFrame>())
+    , m_status(new DetectStatusModel(this))
+    , Timer_StartDetect(new QTimer(this))
+{
+    m_ui->setupUi(this);
+    QTableView* grid = m_ui->Grid_DetectStatus;
+    grid->setModel(m_status);
+    StyleTable(grid);
+    grid->setSelectionMode(QAbstractItemView::SingleSelection);
+    MonospaceColumn(grid, DetectStatusModel::Address);
+    StatusColumn(grid, DetectStatusModel::Status);
+    static constexpr std::array widths{170, 140, 70, 120, 70};
+    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
+        grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    m_ui->retryBar->hide();
+    m_ui->txtRetryUser->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::User)));
+    m_ui->txtRetryPassword->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::Password)));
+    connect(m_ui->lbRetry, &QPushButton::clicked, this, &DetectStatusFrame::lbRetry_Click);
+    Timer_StartDetect->setSingleShot(true);
+    connect(Timer_StartDetect, &QTimer::timeout, this,
+            [this] { Trapped("Form_NVRSetting - Timer_StartDetect", [this] { detectAll(); }); });
+}
+
+DetectStatusFrame::~DetectStatusFrame() = default;
+
+void DetectStatusFrame::changeLanguage()
+{
+    m_ui->Grid_DetectStatus->setAccessibleName(GetLangString(289));
+    m_ui->txtRetryUser->setAccessibleName(m_ui->lbRetryUser->text());
+    m_ui->txtRetryPassword->setAccessibleName(m_ui->lbRetryPassword->text());
+}
+
+QPushButton* DetectStatusFrame::retryButton() const
+{
+    return m_ui->lbRetry;
+}
+
+void DetectStatusFrame::takeFocus()
+{
+    m_ui->txtRetryUser->setFocus();
+    m_ui->txtRetryUser->selectAll();
+}
+
+bool DetectStatusFrame::incomplete() const
+{
+    return !m_running && m_status->doneRows() < m_status->rowCount();
+}
+
+QString DetectStatusFrame::summary() const
+{
+    const int rows = m_status->rowCount();
+    if (m_running)
+        return GetLangString(kDone).arg(m_status->finishedRows()).arg(rows);
+    if (m_status->failedRows() == 0)
+        return GetLangString(kAllAdded).arg(m_status->doneRows()).arg(rows);
+    return GetLangString(kSomeFailed).arg(m_status->doneRows()).arg(rows).arg(m_status->failedRows());
+}
+
+void DetectStatusFrame::begin(std::vector<NVRDetectItem> items)
+{
+    if (!items.empty()) {
+        m_ui->txtRetryUser->setText(items.front().sUser);
+        m_ui->txtRetryPassword->setText(items.front().sPassword);
+    }
+    m_status->setItems(std::move(items));
+    start();
+}
+
+void DetectStatusFrame::lbRetry_Click()
+{
+    if (m_running)
+        return;
+    m_status->tryAgain(m_ui->txtRetryUser->text(), m_ui->txtRetryPassword->text());
+    start();
+}
+
+void DetectStatusFrame::start()
+{
+    m_running = true;
+    m_ui->retryBar->hide();
+    emit busyChanged(true, true);
+    emit progressed();
+    Timer_StartDetect->start(0);
+}
+
+void DetectStatusFrame::detectAll()
+{
+    {
+        const HeldBack held{this};
+        for (int row = 0; row < m_status->rowCount() && !Closing() && !m_context.stopped(); ++row) {
+            if (!m_status->waits(row) || m_status->item(row).sIP.isEmpty())
+                continue;
+            Trapped("Form_NVRSetting - Timer_StartDetect", [&] { detect(row); });
+            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        }
+    }
+    m_running = false;
+    m_ui->retryBar->setVisible(incomplete());
+    emit busyChanged(false, false);
+    emit progressed();
+}
+
+void DetectStatusFrame::detect(int row)
+{
+    NVRDetectItem item = m_status->item(row);
+    if (item.iSlot < 0)
+        item.iSlot = static_cast<qint16>(FirstFreeSlot(m_context.recorders.SVRWorkList));
+    if ((row + 1) % kStatusRows == 0)
+        m_ui->Grid_DetectStatus->scrollTo(m_status->index(row, 0), QAbstractItemView::PositionAtTop);
+    const bool added = DetectNVR(m_context, item, [&](const DetectStatus& status) {
+        m_status->setStatus(row, status);
+        emit progressed();
+    });
+    if (!added)
+        return;
+    m_added.push_back(item.iSlot);
+    SVRRecord& record = At(m_context.recorders.SVRWorkList, item.iSlot);
+    TakeRecorderCameraEvents(m_context.com, record);
+    m_status->setChannels(row, CameraCount(record));
+}
