@@ -323,8 +323,9 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
             const QStringList& camera = cameras[channel - 1];
             return GetLangString(970).arg(channel) + u"\n\n"_s + camera.join(u"  ·  "_s);
         };
-        EXPECT_EQ(boxes, QStringList({GetLangString(611), clear(1), clear(1), clear(2), GetLangString(721),
-                                      GetLangString(720), GetLangString(721)}));
+        const QString remove = GetLangString(721) + u"\n\nRecorder 1"_s;
+        EXPECT_EQ(boxes,
+                  QStringList({GetLangString(611), clear(1), clear(1), clear(2), remove, GetLangString(720), remove}));
         EXPECT_EQ(titles.mid(4), QStringList({u"Delete"_s, u"Notice"_s, u"Delete"_s}));
         EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR"_s).toInt(), 0);
         EXPECT_EQ(OccupiedSlots(recorders().SVRList), 0);

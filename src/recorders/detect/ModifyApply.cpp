@@ -1,7 +1,6 @@
 #include "recorders/detect/ModifyApply.h"
 
-#include "app/language/Languages.h"
-#include "platform/MsgBox.h"
+#include "app/shell/Boxes.h"
 #include "support/Conversions.h"
 
 #include <algorithm>
@@ -58,8 +57,8 @@ bool ModifyApply(RecorderSet& recorders, int slot, const QString& name, const Mo
     SVRRecord& edit = recorders.SVREdit;
     SVRRecord& work = At(recorders.SVRWorkList, slot);
     if (!HasCamera(edit)) {
-        if (MsgBox(GetLangString(kAskRemove), AskBoxStyle(), GetLangString(kDelete)) != MsgResult::Yes) {
-            MsgBox(GetLangString(kKeptWithoutChannels), InfoBoxStyle(), GetLangString(kNotice));
+        if (!AskToDestroy(kAskRemove, work.sSVR_Name, kDelete)) {
+            Tell(Tone::Information, kKeptWithoutChannels, kNotice);
             return false;
         }
         Call(hooks.RemoveSVR, slot);

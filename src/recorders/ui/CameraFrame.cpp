@@ -36,6 +36,8 @@ CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
 {
     m_ui->setupUi(this);
     m_ui->camProgress->hide();
+    m_ui->cameraArea->viewport()->setAutoFillBackground(false); // the dialog's own ground
+    m_ui->cameraBody->setAutoFillBackground(false);
     txtCam = {m_ui->txtCam_0, m_ui->txtCam_1, m_ui->txtCam_2, m_ui->txtCam_3, m_ui->txtCam_4};
     m_rows = {{{Control::VideoSource, m_ui->Cmb_VideoID},
                {Control::Format, m_ui->cmbFormat},

@@ -4,6 +4,7 @@
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
+#include "look/style/Theme.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/SecondClick.h"
 #include "look/widgets/StepStrip.h"
@@ -30,7 +31,7 @@ constexpr int kFrameDetail = 3;
 constexpr int kFrameCamera = 4;
 constexpr int kFrameCamSearch = 5;
 
-enum Message
+enum Words
 {
     kNoneFound = 954,
     kWithSelected = 955,
@@ -136,10 +137,11 @@ bool Form_NVRSetting::searches() const
 void Form_NVRSetting::showSteps()
 {
     m_ui->manual->setEnabled(!searches());
+    const bool withSearch = searches() || m_frame == kFrameSearch;
     const QString choose = GetLangString(875);
     const QString detect = GetLangString(576);
-    steps()->setSteps(searches() ? QStringList{choose, GetLangString(170), detect} : QStringList{choose, detect});
-    steps()->setCurrent(!searches() && m_frame == kFrameStatus ? 1 : m_frame);
+    steps()->setSteps(withSearch ? QStringList{choose, GetLangString(170), detect} : QStringList{choose, detect});
+    steps()->setCurrent(!withSearch && m_frame == kFrameStatus ? 1 : m_frame);
 }
 
 void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
@@ -243,8 +245,12 @@ void Form_NVRSetting::showChanges()
 {
     if (!m_detail) {
         const bool again = m_frame == kFrameStatus && m_status->incomplete();
-        m_status->retryButton()->setDefault(again);
-        m_next->setDefault(!again);
+        const auto lead = [](QPushButton* button, bool leads) {
+            button->setDefault(leads);
+            SetKind(button, leads ? "primary"_L1 : QLatin1StringView());
+        };
+        lead(m_status->retryButton(), again);
+        lead(m_next, !again);
         return;
     }
     const bool recorderFirst = m_frame == kFrameDetail && m_detail->needsDetection();

@@ -94,6 +94,8 @@ void NVRDetailFrame::prepareGrid()
     QHeaderView* head = grid->horizontalHeader();
     head->setStretchLastSection(false);
     head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
+    for (const int icon : {ChannelListModel::Edit, ChannelListModel::Delete})
+        grid->setColumnWidth(icon, head->minimumSectionSize());
     ActOnRows(grid, {ChannelListModel::Edit, ChannelListModel::Delete},
               [this](const QModelIndex& cell) { Grid_ChannelList_Click(cell); });
     auto* space = new QShortcut(Qt::Key_Space, grid, nullptr, nullptr, Qt::WidgetShortcut);
@@ -111,7 +113,7 @@ void NVRDetailFrame::changeLanguage()
     m_ui->txtChannelFilter->setAccessibleName(GetLangString(906));
     m_ui->Grid_ChannelList->setAccessibleName(GetLangString(298));
     // Columns are as wide as their contents want, and wider where a language has a long head.
-    static constexpr std::array widths{64, 140, 76, 230, 224, 110, 44, 44};
+    static constexpr std::array widths{64, 150, 76, 0, 190, 110, 48, 48};
     const QFontMetrics metrics(m_ui->Grid_ChannelList->horizontalHeader()->font());
     for (int column = 0; column < ChannelListModel::ColumnCount; ++column) {
         const QString text = m_channels->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
