@@ -243,7 +243,7 @@ private:
         pressInRow(
             desk, u"Grid_SVRsList"_s, [](int rows) { return rows - 1; }, Qt::Key_Delete);
         driver.add(
-            u"question"_s, [] { return Driver::boxText() == GetLangString(483); },
+            u"question"_s, [] { return Driver::boxText().startsWith(GetLangString(483)); },
             [this] {
                 m_audit << u"Modify Setting of NVR"_s << u"Modify Setting of Emap"_s;
                 const int device = m_slots.rbegin()->second;
