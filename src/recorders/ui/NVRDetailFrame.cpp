@@ -89,13 +89,13 @@ void NVRDetailFrame::prepareGrid()
     grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     MonospaceColumn(grid, ChannelListModel::Address);
     StatusColumn(grid, ChannelListModel::State);
-    grid->setSortingEnabled(true);
-    grid->sortByColumn(ChannelListModel::Number, Qt::AscendingOrder);
     QHeaderView* head = grid->horizontalHeader();
-    head->setStretchLastSection(false);
-    head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
     for (const int icon : {ChannelListModel::Edit, ChannelListModel::Delete})
         grid->setColumnWidth(icon, head->minimumSectionSize());
+    grid->setSortingEnabled(true);
+    grid->sortByColumn(ChannelListModel::Number, Qt::AscendingOrder);
+    head->setStretchLastSection(false);
+    head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
     ActOnRows(grid, {ChannelListModel::Edit, ChannelListModel::Delete},
               [this](const QModelIndex& cell) { Grid_ChannelList_Click(cell); });
     auto* space = new QShortcut(Qt::Key_Space, grid, nullptr, nullptr, Qt::WidgetShortcut);
