@@ -3641,7 +3641,7 @@ Chcete jej přesto použít?</translation>
     </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
-        <translation>Uložené heslo se nezobrazuje. Psaním je nahradíte.</translation>
+        <translation>Uložené heslo se nezobrazuje. Zadáním nového je nahradíte.</translation>
     </message>
 </context>
 </TS>

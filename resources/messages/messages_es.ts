@@ -3641,7 +3641,7 @@ Do you want to use it anyway?</source>
     </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
-        <translation>Una contraseña guardada no se muestra. Al escribir se sustituye.</translation>
+        <translation>Una contraseña guardada no se muestra. Si escribe otra, la sustituye.</translation>
     </message>
 </context>
 </TS>

@@ -3641,7 +3641,7 @@ Voulez-vous l’utiliser quand même ?</translation>
     </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
-        <translation>Un mot de passe enregistré n’est pas affiché. La saisie le remplace.</translation>
+        <translation>Un mot de passe enregistré n’est pas affiché. Toute saisie le remplace.</translation>
     </message>
 </context>
 </TS>

@@ -3641,7 +3641,7 @@ Usarlo comunque?</translation>
     </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
-        <translation>Una password salvata non viene mostrata. Digitando la si sostituisce.</translation>
+        <translation>Una password salvata non viene mostrata. Digitandone un’altra la si sostituisce.</translation>
     </message>
 </context>
 </TS>

@@ -3641,7 +3641,7 @@ Do you want to use it anyway?</source>
     </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
-        <translation>Сохранённый пароль не показывается. Ввод заменит его.</translation>
+        <translation>Сохранённый пароль не показывается. Введённый текст заменит его.</translation>
     </message>
 </context>
 </TS>

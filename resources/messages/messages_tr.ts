@@ -3641,7 +3641,7 @@ Yine de kullanmak istiyor musunuz?</translation>
     </message>
     <message id="1080">
         <source>A stored password is not shown. Typing replaces it.</source>
-        <translation>Kayıtlı parola gösterilmez. Yazmaya başlayınca değiştirilir.</translation>
+        <translation>Kayıtlı parola gösterilmez. Yenisini yazarsanız onun yerini alır.</translation>
     </message>
 </context>
 </TS>
