@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>Konfigurační databázi nelze otevřít: používá ji jiný program, nebo ji nelze přečíst. Nic se nezměnilo. Zkusit to znovu?</translation>
+        <translation>Konfigurační databázi nelze otevřít: používá ji jiný program, nebo ji nelze přečíst. Nic se nezměnilo. Chcete to zkusit znovu?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Uživatele se nepodařilo přečíst z databáze, proto se nikdo nemůže přihlásit. Zavřete program, který databázi používá, a spusťte znovu; důvod uvádí protokol.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Uživatele se nepodařilo přečíst z databáze, proto se nikdo nemůže přihlásit. Zavřete program, který databázi používá, a spusťte znovu. Důvod je uveden v souborech protokolu.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Tyto tabulky databáze se nepodařilo přečíst a nebudou přepsány: %1. Důvod uvádí protokol.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Tyto tabulky databáze se nepodařilo přečíst: %1. Zůstanou beze změny. Důvod je uveden v souborech protokolu.</translation>
     </message>
     <message id="995">
         <source>Export</source>

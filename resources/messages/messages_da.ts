@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>Konfigurationsdatabasen kan ikke åbnes: Et andet program bruger den, eller den kan ikke læses. Intet er ændret. Prøv igen?</translation>
+        <translation>Konfigurationsdatabasen kan ikke åbnes: Et andet program bruger den, eller den kan ikke læses. Intet er ændret. Vil du prøve igen?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Brugerne kunne ikke læses fra databasen, så ingen kan logge på. Luk det program, der bruger databasen, og start igen; loggen nævner årsagen.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Brugerne kunne ikke læses fra databasen, så ingen kan logge ind. Luk det program, der bruger databasen, og start igen. Årsagen står i logfilerne.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Disse tabeller i databasen kunne ikke læses og overskrives ikke: %1. Loggen nævner årsagen.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Disse tabeller i databasen kunne ikke læses: %1. De forbliver uændrede. Årsagen står i logfilerne.</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>Die Konfigurationsdatenbank lässt sich nicht öffnen: Ein anderes Programm hält sie fest, oder sie ist nicht lesbar. Es wurde nichts verändert. Noch einmal versuchen?</translation>
+        <translation>Die Konfigurationsdatenbank lässt sich nicht öffnen: Ein anderes Programm hält sie fest, oder sie ist nicht lesbar. Es wurde nichts verändert. Möchten Sie es noch einmal versuchen?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Die Benutzer konnten nicht aus der Datenbank gelesen werden; deshalb kann sich niemand anmelden. Schließen Sie das Programm, das die Datenbank festhält, und starten Sie neu; das Protokoll nennt den Grund.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Die Benutzer konnten nicht aus der Datenbank gelesen werden; deshalb kann sich niemand anmelden. Bitte das Programm schließen, das die Datenbank festhält, und neu starten. Die Ursache steht in den Protokolldateien.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Diese Tabellen der Datenbank konnten nicht gelesen werden und werden nicht überschrieben: %1. Das Protokoll nennt den Grund.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Diese Tabellen der Datenbank konnten nicht gelesen werden: %1. Sie bleiben unverändert. Die Ursache steht in den Protokolldateien.</translation>
     </message>
     <message id="995">
         <source>Export</source>

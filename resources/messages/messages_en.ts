@@ -3592,12 +3592,12 @@
         <translation>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</translation>
     </message>
     <message id="995">
         <source>Export</source>

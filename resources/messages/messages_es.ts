@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>No se puede abrir la base de datos de configuración: otro programa la tiene ocupada o no se puede leer. No se ha cambiado nada. ¿Intentarlo de nuevo?</translation>
+        <translation>No se puede abrir la base de datos de configuración: otro programa la tiene ocupada o no se puede leer. No se ha cambiado nada. ¿Desea intentarlo de nuevo?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>No se pudieron leer los usuarios de la base de datos, por lo que nadie puede iniciar sesión. Cierre el programa que ocupa la base de datos y vuelva a iniciar; el registro indica el motivo.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>No se pudieron leer los usuarios de la base de datos, por lo que nadie puede iniciar sesión. Cierre el programa que ocupa la base de datos y vuelva a iniciar. El motivo se indica en los archivos de registro.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Estas tablas de la base de datos no se pudieron leer y no se sobrescribirán: %1. El registro indica el motivo.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>No se pudieron leer estas tablas de la base de datos: %1. No se modificarán. El motivo se indica en los archivos de registro.</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>La base de configuration ne peut pas être ouverte : un autre programme l’occupe ou elle est illisible. Rien n’a été modifié. Réessayer ?</translation>
+        <translation>La base de données de configuration ne peut pas être ouverte : un autre programme l’occupe ou elle est illisible. Rien n’a été modifié. Voulez-vous réessayer ?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Les utilisateurs n’ont pas pu être lus dans la base de données ; personne ne peut donc se connecter. Fermez le programme qui occupe la base et redémarrez ; le journal indique la raison.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Les utilisateurs n’ont pas pu être lus dans la base de données ; personne ne peut donc se connecter. Fermez le programme qui occupe la base et redémarrez. La raison est indiquée dans les fichiers journaux.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Ces tables de la base de données n’ont pas pu être lues et ne seront pas écrasées : %1. Le journal indique la raison.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Ces tables de la base de données n’ont pas pu être lues : %1. Elles restent inchangées. La raison est indiquée dans les fichiers journaux.</translation>
     </message>
     <message id="995">
         <source>Export</source>

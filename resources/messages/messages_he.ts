@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>לא ניתן לפתוח את מסד נתוני התצורה: תוכנית אחרת מחזיקה בו, או שלא ניתן לקרוא אותו. דבר לא השתנה. לנסות שוב?</translation>
+        <translation>לא ניתן לפתוח את מסד נתוני התצורה: תוכנית אחרת מחזיקה בו, או שלא ניתן לקרוא אותו. דבר לא השתנה. האם לנסות שוב?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>לא ניתן היה לקרוא את המשתמשים ממסד הנתונים, ולכן איש אינו יכול להתחבר. סגרו את התוכנית שמחזיקה במסד הנתונים והפעילו מחדש; הסיבה רשומה ביומן.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>לא ניתן היה לקרוא את המשתמשים ממסד הנתונים, ולכן איש אינו יכול להיכנס. יש לסגור את התוכנית שמחזיקה במסד הנתונים ולהפעיל מחדש. הסיבה רשומה בקובצי היומן.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>לא ניתן היה לקרוא את הטבלאות האלה במסד הנתונים, והן לא יידרסו: %1. הסיבה רשומה ביומן.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>לא ניתן היה לקרוא את הטבלאות האלה במסד הנתונים: %1. הן יישארו ללא שינוי. הסיבה רשומה בקובצי היומן.</translation>
     </message>
     <message id="995">
         <source>Export</source>

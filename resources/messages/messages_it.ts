@@ -3592,12 +3592,12 @@
         <translation>Impossibile aprire il database di configurazione: un altro programma lo occupa oppure non è leggibile. Non è stato modificato nulla. Riprovare?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Impossibile leggere gli utenti dal database: nessuno può accedere. Chiudere il programma che occupa il database e riavviare; il registro indica il motivo.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Impossibile leggere gli utenti dal database: nessuno può accedere. Chiudere il programma che occupa il database e riavviare. Il motivo è indicato nei file di log.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Impossibile leggere queste tabelle del database; non verranno sovrascritte: %1. Il registro indica il motivo.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Impossibile leggere queste tabelle del database: %1. Restano invariate. Il motivo è indicato nei file di log.</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>設定データベースを開けません。ほかのプログラムが使用中か、読み取れません。何も変更されていません。もう一度試しますか?</translation>
+        <translation>設定データベースを開けません。ほかのプログラムが使用中か、読み取れません。何も変更されていません。もう一度試しますか？</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>データベースからユーザーを読み取れなかったため、誰もログインできません。データベースを使用しているプログラムを閉じて、もう一度起動してください。理由はログに記録されています。</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>データベースからユーザーを読み取れなかったため、誰もログインできません。データベースを使用しているプログラムを閉じて、もう一度起動してください。原因はログファイルに記録されています。</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>データベースの次のテーブルを読み取れませんでした。上書きはされません: %1。理由はログに記録されています。</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>データベースの次のテーブルを読み取れませんでした：%1。これらは変更されません。原因はログファイルに記録されています。</translation>
     </message>
     <message id="995">
         <source>Export</source>

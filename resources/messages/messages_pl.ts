@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>Nie można otworzyć bazy konfiguracji: używa jej inny program albo nie da się jej odczytać. Niczego nie zmieniono. Spróbować ponownie?</translation>
+        <translation>Nie można otworzyć bazy danych konfiguracji: używa jej inny program albo nie da się jej odczytać. Niczego nie zmieniono. Czy spróbować ponownie?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Nie udało się odczytać użytkowników z bazy danych, więc nikt nie może się zalogować. Zamknij program, który używa bazy, i uruchom ponownie; przyczynę podaje dziennik.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Nie udało się odczytać użytkowników z bazy danych, więc nikt nie może się zalogować. Zamknij program, który używa bazy, i uruchom ponownie. Przyczynę podano w plikach dziennika.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Nie udało się odczytać tych tabel bazy danych i nie zostaną nadpisane: %1. Przyczynę podaje dziennik.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Nie udało się odczytać tych tabel bazy danych: %1. Pozostaną bez zmian. Przyczynę podano w plikach dziennika.</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -3592,12 +3592,12 @@
         <translation>Не удаётся открыть базу данных конфигурации: её занимает другая программа или её нельзя прочитать. Ничего не изменено. Повторить попытку?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Не удалось прочитать пользователей из базы данных, поэтому войти никто не может. Закройте программу, которая занимает базу, и запустите снова; причина указана в журнале.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Не удалось прочитать пользователей из базы данных, поэтому войти никто не может. Закройте программу, которая занимает базу, и запустите снова. Причина указана в файлах журнала.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Эти таблицы базы данных не удалось прочитать, и они не будут перезаписаны: %1. Причина указана в журнале.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Не удалось прочитать эти таблицы базы данных: %1. Они останутся без изменений. Причина указана в файлах журнала.</translation>
     </message>
     <message id="995">
         <source>Export</source>

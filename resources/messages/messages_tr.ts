@@ -3589,15 +3589,15 @@
     </message>
     <message id="981">
         <source>The configuration database cannot be opened: another program holds it, or it cannot be read. Nothing has been changed. Try again?</source>
-        <translation>Yapılandırma veritabanı açılamıyor: başka bir program kullanıyor ya da okunamıyor. Hiçbir şey değiştirilmedi. Yeniden denensin mi?</translation>
+        <translation>Yapılandırma veritabanı açılamıyor: başka bir program kullanıyor ya da okunamıyor. Hiçbir şey değiştirilmedi. Yeniden denemek istiyor musunuz?</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>Kullanıcılar veritabanından okunamadı, bu nedenle kimse oturum açamaz. Veritabanını kullanan programı kapatıp yeniden başlatın; neden günlükte yazılıdır.</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>Kullanıcılar veritabanından okunamadı, bu nedenle kimse oturum açamaz. Veritabanını kullanan programı kapatıp yeniden başlatın. Nedeni günlük dosyalarında yazılı.</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>Veritabanının bu tabloları okunamadı ve üzerlerine yazılmayacak: %1. Neden günlükte yazılıdır.</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>Veritabanının şu tabloları okunamadı: %1. Oldukları gibi kalacaklar. Nedeni günlük dosyalarında yazılı.</translation>
     </message>
     <message id="995">
         <source>Export</source>

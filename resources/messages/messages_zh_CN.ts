@@ -3592,12 +3592,12 @@
         <translation>无法打开配置数据库：其他程序正在占用它，或无法读取。未做任何更改。是否重试？</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>无法从数据库读取用户，因此无人可以登录。请关闭占用数据库的程序后重新启动；原因见日志。</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>无法从数据库读取用户，因此无人可以登录。请关闭占用数据库的程序后重新启动。原因请见日志文件。</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>无法读取数据库的以下表，且不会被覆盖：%1。原因见日志。</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>无法读取数据库的以下表：%1。这些表将保持不变。原因请见日志文件。</translation>
     </message>
     <message id="995">
         <source>Export</source>

@@ -3592,12 +3592,12 @@
         <translation>無法開啟設定資料庫：其他程式正在佔用它，或無法讀取。未做任何變更。是否重試？</translation>
     </message>
     <message id="982">
-        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again; the log names the reason.</source>
-        <translation>無法從資料庫讀取使用者，因此無人可以登入。請關閉佔用資料庫的程式後重新啟動；原因見記錄檔。</translation>
+        <source>The users could not be read from the database, so nobody can log in. Close the program that holds the database and start again. The reason is in the log files.</source>
+        <translation>無法從資料庫讀取使用者，因此無人可以登入。請關閉佔用資料庫的程式後重新啟動。原因請參閱日誌檔。</translation>
     </message>
     <message id="983">
-        <source>These tables of the database could not be read, and nothing is written over them: %1. The log names the reason.</source>
-        <translation>無法讀取資料庫的以下資料表，且不會被覆寫：%1。原因見記錄檔。</translation>
+        <source>These tables of the database could not be read: %1. They stay as they are. The reason is in the log files.</source>
+        <translation>無法讀取資料庫的以下資料表：%1。這些資料表將維持不變。原因請參閱日誌檔。</translation>
     </message>
     <message id="995">
         <source>Export</source>
