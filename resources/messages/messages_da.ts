@@ -3636,7 +3636,7 @@ Vil du gemme?</translation>
     <message id="1037">
         <source>More than one recorder would have this name: %1.
 Do you want to use it anyway?</source>
-        <translation>Mere end én optager ville have dette navn: %1.
+        <translation>Flere optagere får dette navn: %1.
 Vil du bruge det alligevel?</translation>
     </message>
     <message id="1080">

@@ -3613,7 +3613,7 @@
     </message>
     <message id="1032">
         <source>Recorders that were not added can be tried again with another login.</source>
-        <translation>Nicht hinzugefügte Rekorder lassen sich mit einer anderen Anmeldung erneut versuchen.</translation>
+        <translation>Für nicht hinzugefügte Rekorder ist ein neuer Versuch mit einer anderen Anmeldung möglich.</translation>
     </message>
     <message id="1033">
         <source>Try again</source>
@@ -3636,7 +3636,7 @@ Möchten Sie speichern?</translation>
     <message id="1037">
         <source>More than one recorder would have this name: %1.
 Do you want to use it anyway?</source>
-        <translation>Mehr als ein Rekorder hätte diesen Namen: %1.
+        <translation>Mehrere Rekorder hätten diesen Namen: %1.
 Möchten Sie ihn trotzdem verwenden?</translation>
     </message>
     <message id="1080">

@@ -3613,7 +3613,7 @@
     </message>
     <message id="1032">
         <source>Recorders that were not added can be tried again with another login.</source>
-        <translation>Los grabadores que no se añadieron pueden probarse de nuevo con otro usuario y otra contraseña.</translation>
+        <translation>Puede volver a intentarlo con otro usuario y otra contraseña para los grabadores no añadidos.</translation>
     </message>
     <message id="1033">
         <source>Try again</source>

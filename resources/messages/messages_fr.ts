@@ -3613,7 +3613,7 @@
     </message>
     <message id="1032">
         <source>Recorders that were not added can be tried again with another login.</source>
-        <translation>Les enregistreurs qui n’ont pas été ajoutés peuvent être réessayés avec d’autres identifiants.</translation>
+        <translation>Vous pouvez réessayer avec d’autres identifiants pour les enregistreurs non ajoutés.</translation>
     </message>
     <message id="1033">
         <source>Try again</source>

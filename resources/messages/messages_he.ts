@@ -3636,7 +3636,7 @@ Do you want to save?</source>
     <message id="1037">
         <source>More than one recorder would have this name: %1.
 Do you want to use it anyway?</source>
-        <translation>ליותר ממקליט אחד יהיה השם הזה: %1.
+        <translation>שם זה יהיה ליותר ממקליט אחד: %1.
 האם להשתמש בו בכל זאת?</translation>
     </message>
     <message id="1080">

@@ -3613,7 +3613,7 @@
     </message>
     <message id="1032">
         <source>Recorders that were not added can be tried again with another login.</source>
-        <translation>I registratori non aggiunti possono essere riprovati con un altro accesso.</translation>
+        <translation>Per i registratori non aggiunti si può riprovare con altre credenziali.</translation>
     </message>
     <message id="1033">
         <source>Try again</source>

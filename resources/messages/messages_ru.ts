@@ -3636,7 +3636,7 @@ Do you want to save?</source>
     <message id="1037">
         <source>More than one recorder would have this name: %1.
 Do you want to use it anyway?</source>
-        <translation>Это имя будет у нескольких регистраторов: %1.
+        <translation>Это имя получат несколько регистраторов: %1.
 Всё равно использовать его?</translation>
     </message>
     <message id="1080">

@@ -3617,7 +3617,7 @@
     </message>
     <message id="1033">
         <source>Try again</source>
-        <translation>Yeniden dene</translation>
+        <translation>Yeniden Dene</translation>
     </message>
     <message id="1034">
         <source>Login</source>
