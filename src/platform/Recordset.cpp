@@ -1,18 +1,13 @@
 #include "platform/Recordset.h"
 
+#include "platform/EngineHandle.h"
+
 #include <QRegularExpression>
 #include <QSqlRecord>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString Quoted(const QString& identifier)
-{
-    QString doubled = identifier;
-    doubled.replace(u'"', u"\"\""_s);
-    return u'"' + doubled + u'"';
-}
 
 struct Statement
 {
@@ -34,7 +29,7 @@ Statement Translate(const QString& text)
                                                QRegularExpression::CaseInsensitiveOption |
                                                    QRegularExpression::DotMatchesEverythingOption);
     if (const auto match = deleteTop.match(text); match.hasMatch()) {
-        const QString table = Quoted(match.captured(1));
+        const QString table = QuotedName(match.captured(1));
         return {u"DELETE FROM %1 WHERE rowid IN (SELECT rowid FROM %1 ORDER BY rowid LIMIT %2)"_s.arg(
                     table, match.captured(2)),
                 {},
@@ -43,7 +38,7 @@ Statement Translate(const QString& text)
     if (const auto match = deleteRows.match(text); match.hasMatch())
         return {u"DELETE FROM "_s + match.captured(1), {}, true};
     if (const auto match = selectRows.match(text); match.hasMatch()) {
-        const QString table = Quoted(match.captured(1));
+        const QString table = QuotedName(match.captured(1));
         return {u"SELECT rowid, * FROM "_s + table + match.captured(2), match.captured(1), false};
     }
     return {text, {}, false};
@@ -80,7 +75,7 @@ void Recordset::open(const QString& source, Connection& connection, CursorType c
 
     Statement statement;
     if (command == CommandType::Table)
-        statement = {u"SELECT rowid, * FROM "_s + Quoted(source), source, false};
+        statement = {u"SELECT rowid, * FROM "_s + QuotedName(source), source, false};
     else
         statement = Translate(source);
     if (statement.deletes) {
@@ -168,8 +163,8 @@ qint64 Recordset::recordCount()
         throw StoreError(u"Operation is not allowed when the object is closed"_s);
     if (m_streaming)
         return -1; // unknown while rows stream by
-    if (!m_fetched && m_sql == u"SELECT rowid, * FROM "_s + Quoted(m_table)) {
-        QSqlQuery query = run(u"SELECT COUNT(*) FROM "_s + Quoted(m_table), {}, true);
+    if (!m_fetched && m_sql == u"SELECT rowid, * FROM "_s + QuotedName(m_table)) {
+        QSqlQuery query = run(u"SELECT COUNT(*) FROM "_s + QuotedName(m_table), {}, true);
         query.next();
         return query.value(0).toLongLong();
     }
@@ -212,6 +207,13 @@ int Recordset::fieldIndex(const QString& name) const
     if (found == m_index.constEnd())
         throw StoreError(u"Item '%1' cannot be found in the collection"_s.arg(name));
     return *found;
+}
+
+std::unique_ptr<RowInsert> Recordset::insertOf(const QStringList& fields) const
+{
+    if (!m_open || m_table.isEmpty())
+        throw StoreError(u"The recordset does not support updating"_s);
+    return std::make_unique<RowInsert>(*m_connection, m_table, fields);
 }
 
 void Recordset::requirePresentRow()
@@ -278,14 +280,14 @@ void Recordset::insertPending()
         QStringList marks;
         for (int i = 0; i < static_cast<int>(m_names.size()); ++i) {
             if (m_isSet[static_cast<std::size_t>(i)]) {
-                names << Quoted(m_names[i]);
+                names << QuotedName(m_names[i]);
                 marks << u"?"_s;
             }
         }
         const QString sql =
             names.isEmpty()
-                ? u"INSERT INTO %1 DEFAULT VALUES"_s.arg(Quoted(m_table))
-                : u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(Quoted(m_table), names.join(u','), marks.join(u','));
+                ? u"INSERT INTO %1 DEFAULT VALUES"_s.arg(QuotedName(m_table))
+                : u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(QuotedName(m_table), names.join(u','), marks.join(u','));
         auto query = std::make_unique<QSqlQuery>(m_connection->database());
         query->setForwardOnly(true);
         if (!query->prepare(sql)) {
@@ -318,12 +320,12 @@ void Recordset::changePresent()
     QVariantList values;
     for (std::size_t i = 0; i < m_pending.size(); ++i) {
         if (m_isSet[i]) {
-            assignments << Quoted(m_names[static_cast<qsizetype>(i)]) + u"=?"_s;
+            assignments << QuotedName(m_names[static_cast<qsizetype>(i)]) + u"=?"_s;
             values << m_pending[i];
         }
     }
     values << m_rowIds[static_cast<std::size_t>(m_order[static_cast<std::size_t>(m_row)])];
-    run(u"UPDATE %1 SET %2 WHERE rowid=?"_s.arg(Quoted(m_table), assignments.join(u',')), values, true);
+    run(u"UPDATE %1 SET %2 WHERE rowid=?"_s.arg(QuotedName(m_table), assignments.join(u',')), values, true);
     for (std::size_t i = 0; i < m_pending.size(); ++i) {
         if (m_isSet[i])
             m_cells[static_cast<std::size_t>(cell(m_row, static_cast<int>(i)))] = m_pending[i];
@@ -337,6 +339,7 @@ void Recordset::deleteRow()
     requirePresentRow();
     cancelUpdate();
     const auto position = m_order.begin() + m_row;
-    run(u"DELETE FROM %1 WHERE rowid=?"_s.arg(Quoted(m_table)), {m_rowIds[static_cast<std::size_t>(*position)]}, true);
+    run(u"DELETE FROM %1 WHERE rowid=?"_s.arg(QuotedName(m_table)), {m_rowIds[static_cast<std::size_t>(*position)]},
+        true);
     m_order.erase(position);
 }

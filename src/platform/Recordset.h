@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Connection.h"
+#include "platform/RowInsert.h"
 
 #include <QSqlQuery>
 #include <QStringList>
@@ -62,6 +63,8 @@ public:
     void setValue(const QString& name, const QVariant& value) { setValue(fieldIndex(name), value); }
     void update();
     void cancelUpdate();
+    // For adding many rows to the open table at once; they do not show in this recordset.
+    std::unique_ptr<RowInsert> insertOf(const QStringList& fields) const;
     void deleteRow(); // the present row; the following one becomes present
 
 private:

@@ -1,39 +1,18 @@
 #include "platform/RowStream.h"
 
-#include <QSqlDriver>
-#include <QVariant>
+#include "platform/EngineHandle.h"
 
-#include <cstring>
-#include <sqlite3.h>
+#include <QVariant>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-sqlite3* Handle(const Connection& connection)
-{
-    if (!connection.isOpen())
-        throw StoreError(u"Operation is not allowed when the connection is closed"_s);
-    const QVariant handle = connection.database().driver()->handle();
-    if (!handle.isValid() || std::strcmp(handle.typeName(), "sqlite3*") != 0)
-        throw StoreError(u"The store gives no handle"_s);
-    return *static_cast<sqlite3* const*>(handle.data());
-}
-
-[[noreturn]] void Fail(sqlite3* database, const QString& what)
-{
-    throw StoreError(what + u": "_s + QString::fromUtf8(sqlite3_errmsg(database)), sqlite3_errcode(database));
-}
-
-} // namespace
-
 RowStream::RowStream(const Connection& connection, const QString& sql, const QVariantList& values)
 {
-    sqlite3* database = Handle(connection);
+    sqlite3* database = EngineHandle(connection);
     const QByteArray bytes = sql.toUtf8();
     if (sqlite3_prepare_v2(database, bytes.constData(), static_cast<int>(bytes.size()), &m_statement, nullptr) !=
         SQLITE_OK)
-        Fail(database, sql.left(80));
+        FailWith(database, sql.left(80));
     for (int i = 0; i < static_cast<int>(values.size()); ++i) {
         const QVariant& value = values.at(i);
         if (value.metaType().id() == QMetaType::QString) {
@@ -57,7 +36,7 @@ bool RowStream::next()
     if (result == SQLITE_ROW)
         return true;
     if (result != SQLITE_DONE)
-        Fail(sqlite3_db_handle(m_statement), QString::fromUtf8(sqlite3_sql(m_statement)).left(80));
+        FailWith(sqlite3_db_handle(m_statement), QString::fromUtf8(sqlite3_sql(m_statement)).left(80));
     return false;
 }
 

@@ -73,10 +73,11 @@ qint16 OpenRecset(Databases& databases, const QString& table)
     return ok ? 1 : 0;
 }
 
-void OpenStatement(Databases& databases, const QString& statement, LockType lock, const QVariantList& values)
+void OpenStatement(Databases& databases, const QString& statement, LockType lock, const QVariantList& values,
+                   CursorType cursor)
 {
     if (!databases.DBConn)
         throw StoreError(u"Object variable not set"_s);
     databases.DBRec->close();
-    databases.DBRec->open(statement, *databases.DBConn, CursorType::Static, lock, CommandType::Text, values);
+    databases.DBRec->open(statement, *databases.DBConn, cursor, lock, CommandType::Text, values);
 }

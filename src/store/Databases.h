@@ -36,4 +36,5 @@ void CloseDB(Databases& databases);
 // Opens DBRec on a whole table, DBConn first when it is closed; 1 or 0 (one log line).
 qint16 OpenRecset(Databases& databases, const QString& table);
 // Opens DBRec on a statement after OpenRecset has proved the table; throws StoreError.
-void OpenStatement(Databases& databases, const QString& statement, LockType lock, const QVariantList& values = {});
+void OpenStatement(Databases& databases, const QString& statement, LockType lock, const QVariantList& values = {},
+                   CursorType cursor = CursorType::Static);

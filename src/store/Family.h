@@ -129,7 +129,7 @@ void Compare(std::vector<Difference>& list, const std::vector<FamilyRow<Row>>& b
 {
     const auto differ = [&](const Row& old, const Row& fresh, const FamilyRow<Row>& named) {
         for (const Column<Row>& column : columns) {
-            if (!column.write || column.info.use == FieldUse::ReadOnly || (column.info.shared && !named.first))
+            if (!column.put || column.info.use == FieldUse::ReadOnly || (column.info.shared && !named.first))
                 continue;
             QVariant was = column.write(old);
             QVariant is = column.write(fresh);

@@ -61,3 +61,44 @@ private:
     std::vector<Bound> m_columns;
     bool m_complete = true;
 };
+
+// Adds rows of one or more groups of columns to an open table. A column that the table lacks costs one log line when it
+// is looked up.
+template <class Row>
+class TableInsert
+{
+public:
+    template <std::size_t... N>
+    TableInsert(const Recordset& table, QLatin1String source, const std::array<Column<Row>, N>&... groups)
+    {
+        QStringList fields;
+        const auto take = [&](const auto& columns) {
+            for (const Column<Row>& column : columns) {
+                if (column.info.use != FieldUse::ReadWrite && column.info.use != FieldUse::WriteOnly)
+                    continue;
+                Trapped(source, [&] {
+                    const QString name = QString::fromLatin1(column.info.name);
+                    table.fieldIndex(name);
+                    fields << name;
+                    m_columns.push_back(&column);
+                });
+            }
+        };
+        (take(groups), ...);
+        m_insert = table.insertOf(fields);
+    }
+
+    // Throws what a value or the engine throws; the next row is a new one.
+    void add(const Row& row)
+    {
+        for (std::size_t i = 0; i < m_columns.size(); ++i) {
+            m_insert->setField(i);
+            m_columns[i]->put(row, *m_insert);
+        }
+        m_insert->add();
+    }
+
+private:
+    std::vector<const Column<Row>*> m_columns;
+    std::unique_ptr<RowInsert> m_insert;
+};

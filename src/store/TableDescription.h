@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/RowInsert.h"
 #include "support/Conversions.h"
 
 #include <QVariant>
@@ -35,6 +36,16 @@ struct FieldInfo
     bool shared = false; // of a record that has several rows: the same in each of them
 };
 
+// A value as a variant: numbers of 32 bits and less as int, never a null text.
+class VariantSink final : public CellSink
+{
+public:
+    void text(const QString& cell) override { value = cell.isNull() ? QVariant(QLatin1String("")) : QVariant(cell); }
+    void integer(qint64 cell) override { value = static_cast<int>(cell); }
+    void real(double cell) override { value = cell; }
+    QVariant value;
+};
+
 // One column over rows of type Row. `read` throws ConversionError for a value that does not fit.
 template <class Row>
 struct Column
@@ -42,7 +53,14 @@ struct Column
     using RowType = Row;
     FieldInfo info;
     void (*read)(Row&, const QVariant&);
-    QVariant (*write)(const Row&);
+    void (*put)(const Row&, CellSink&);
+
+    QVariant write(const Row& row) const
+    {
+        VariantSink sink;
+        put(row, sink);
+        return sink.value;
+    }
 
     constexpr Column with(FieldUse use) const
     {
@@ -109,14 +127,14 @@ T FromVariant(const QVariant& value)
 }
 
 template <class T>
-QVariant ToVariant(const T& value)
+void Put(CellSink& sink, const T& value)
 {
     if constexpr (std::is_same_v<T, QString>)
-        return value.isNull() ? QVariant(QLatin1String("")) : QVariant(value); // never a null text
-    else if constexpr (std::is_same_v<T, bool> || std::is_same_v<T, qint16>)
-        return QVariant(static_cast<int>(value));
+        sink.text(value);
+    else if constexpr (std::is_floating_point_v<T>)
+        sink.real(static_cast<double>(value));
     else
-        return QVariant(value);
+        sink.integer(static_cast<qint64>(value));
 }
 
 template <class M>
@@ -139,7 +157,7 @@ constexpr auto Field(const char* name)
     using T = typename M::Type;
     return Column<Row>{{name, table_detail::TypeOf<T>(), table_detail::DefaultOf<T>()},
                        [](Row& row, const QVariant& value) { row.*Member = table_detail::FromVariant<T>(value); },
-                       [](const Row& row) { return table_detail::ToVariant(row.*Member); }};
+                       [](const Row& row, CellSink& sink) { table_detail::Put(sink, row.*Member); }};
 }
 
 // Element `Index` (from 0) of an array member.
@@ -152,5 +170,5 @@ constexpr auto Element(const char* name)
     return Column<Row>{
         {name, table_detail::TypeOf<T>(), table_detail::DefaultOf<T>()},
         [](Row& row, const QVariant& value) { (row.*Member)[Index] = table_detail::FromVariant<T>(value); },
-        [](const Row& row) { return table_detail::ToVariant((row.*Member)[Index]); }};
+        [](const Row& row, CellSink& sink) { table_detail::Put(sink, (row.*Member)[Index]); }};
 }

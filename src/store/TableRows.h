@@ -15,7 +15,7 @@ qint16 ReadRows(Databases& databases, const QString& table, const QString& state
     if (OpenRecset(databases, table) == 0)
         return 0;
     const bool ok = Trapped(source, [&] {
-        OpenStatement(databases, statement, LockType::ReadOnly);
+        OpenStatement(databases, statement, LockType::ReadOnly, {}, CursorType::ForwardOnly);
         eachRow(*databases.DBRec);
         databases.unread.remove(table);
     });
@@ -83,14 +83,8 @@ void SaveRow(QLatin1String source, Work&& work)
 template <class Row, std::size_t N, class Fill>
 void AddRows(Recordset& rows, const std::array<Column<Row>, N>& columns, QLatin1String source, Fill&& fill)
 {
-    TableAccess<Row> access(rows, columns, source);
-    fill([&](const Row& row) {
-        SaveRow(source, [&] {
-            rows.addNew();
-            access.write(row);
-            rows.update();
-        });
-    });
+    TableInsert<Row> table(rows, source, columns);
+    fill([&](const Row& row) { SaveRow(source, [&] { table.add(row); }); });
 }
 
 // As one step: carries out `deleteRows` (a statement), opens the table and lets `addRows` write the new rows. Nothing

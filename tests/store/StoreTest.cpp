@@ -262,7 +262,7 @@ QVariantList Values(const std::array<Column<Row>, N>& columns, const Row& row)
 {
     QVariantList values;
     for (const Column<Row>& column : columns) {
-        if (column.write)
+        if (column.put)
             values << column.write(row);
     }
     return values;

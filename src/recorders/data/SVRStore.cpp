@@ -4,6 +4,7 @@
 #include "store/tables/SVRTable.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -44,28 +45,38 @@ void ReadRow(Recordset& rows, SVRAccess& access, int numberField, int channelFie
         access.pro.read(row);
 }
 
+// Replaces the rows of some slots. Recorders of the Pro families and others set different columns.
+qint16 SaveSlots(Databases& databases, RecorderSet& set, const std::vector<int>& indices)
+{
+    QStringList numbers;
+    for (const int slot : indices)
+        numbers << QString::number(slot + 1);
+    const QString deleteRows = u"Delete * From SVR Where iSVR_Num In (%1)"_s.arg(numbers.join(u','));
+    return ReplaceRows(databases, u"SVR"_s, deleteRows, kSaveSource, [&](Recordset& rows) {
+        std::optional<TableInsert<SVRRow>> plain;
+        std::optional<TableInsert<SVRRow>> pro;
+        for (const int slot : indices) {
+            SVRRecord& record = At(set.SVRList, slot);
+            const bool isPro = IsProFamily(record.sSVR_DeviceType);
+            if (isPro && !pro)
+                pro.emplace(rows, kSaveSource, SVRColumns, SVRProColumns, SVRPresetColumns);
+            if (!isPro && !plain)
+                plain.emplace(rows, kSaveSource, SVRColumns, SVRPresetColumns);
+            for (int channel = 0; channel < record.iSVR_Maxchannel; ++channel) {
+                if (!At(record.channels, channel).sSub_CH_IP.isEmpty())
+                    SaveRow(kSaveSource, [&] {
+                        (isPro ? pro : plain)->add({&record, &At(set.SVRProList, slot), channel});
+                    });
+            }
+        }
+    });
+}
+
 } // namespace
 
 qint16 SaveMySVR(Databases& databases, RecorderSet& set, int slot)
 {
-    const QString deleteRows = u"Delete * From SVR Where iSVR_Num="_s + QString::number(slot + 1);
-    return ReplaceRows(databases, u"SVR"_s, deleteRows, kSaveSource, [&](Recordset& rows) {
-        SVRRecord& record = At(set.SVRList, slot);
-        SVRAccess access(rows, kSaveSource);
-        for (int channel = 0; channel < record.iSVR_Maxchannel; ++channel) {
-            if (At(record.channels, channel).sSub_CH_IP.isEmpty())
-                continue;
-            SaveRow(kSaveSource, [&] {
-                const SVRRow row{&record, &At(set.SVRProList, slot), channel};
-                rows.addNew();
-                access.base.write(row);
-                if (IsProFamily(record.sSVR_DeviceType))
-                    access.pro.write(row);
-                access.presets.write(row);
-                rows.update();
-            });
-        }
-    });
+    return SaveSlots(databases, set, {slot});
 }
 
 qint16 GetSVREx(Databases& databases, RecorderSet& set)
@@ -168,11 +179,12 @@ RecordFamily SVRFamily(Databases& databases, RecorderSet& set)
     return MakeFamily(
         databases, {FamilyOrder::SVR, 1, 361, {u"SVR"_s}, kSaveSource}, SlotGenerations{set},
         [&databases, &set]() -> qint16 {
+            std::vector<int> indices;
             for (int slot = 0; slot < kMaxSVR; ++slot) {
-                if (At(set.SVRWorkList, slot).bSVR_Changed && SaveMySVR(databases, set, slot) == 0)
-                    return 0;
+                if (At(set.SVRWorkList, slot).bSVR_Changed)
+                    indices.push_back(slot);
             }
-            return 1;
+            return SaveSlots(databases, set, indices);
         },
         [&set](auto& list) {
             const auto before = ChannelRows(set, set.SVRList, set.SVRProList);

@@ -5,6 +5,7 @@
 
 #include <QStringList>
 #include <array>
+#include <charconv>
 
 // A row of table SVR is one channel of one recorder: the recorder's fields stand in each of its rows.
 struct SVRRow
@@ -19,7 +20,7 @@ namespace svr_table {
 using table_detail::DefaultOf;
 using table_detail::FromVariant;
 using table_detail::MemberOf;
-using table_detail::ToVariant;
+using table_detail::Put;
 using table_detail::TypeOf;
 
 // A field of the recorder.
@@ -29,7 +30,7 @@ constexpr auto Device(const char* name)
     using T = typename MemberOf<decltype(Member)>::Type;
     return Column<SVRRow>{{name, TypeOf<T>(), DefaultOf<T>()},
                           [](SVRRow& row, const QVariant& v) { row.svr->*Member = FromVariant<T>(v); },
-                          [](const SVRRow& row) { return ToVariant(row.svr->*Member); }}
+                          [](const SVRRow& row, CellSink& sink) { Put(sink, row.svr->*Member); }}
         .sharedByRows();
 }
 
@@ -41,7 +42,7 @@ constexpr auto DeviceOrZero(const char* name)
     return Column<SVRRow>{
         {name, TypeOf<T>(), DefaultOf<T>()},
         [](SVRRow& row, const QVariant& v) { row.svr->*Member = v.isNull() ? T(0) : FromVariant<T>(v); },
-        [](const SVRRow& row) { return ToVariant(row.svr->*Member); }}
+        [](const SVRRow& row, CellSink& sink) { Put(sink, row.svr->*Member); }}
         .sharedByRows();
 }
 
@@ -62,11 +63,11 @@ constexpr auto Channel(const char* name)
     if constexpr (std::is_base_of_v<typename MemberOf<decltype(Member)>::Class, SVRChannel>)
         return Column<SVRRow>{{name, TypeOf<T>(), DefaultOf<T>()},
                               [](SVRRow& row, const QVariant& v) { ChannelOf(row).*Member = FromVariant<T>(v); },
-                              [](const SVRRow& row) { return ToVariant(ChannelOf(row).*Member); }};
+                              [](const SVRRow& row, CellSink& sink) { Put(sink, ChannelOf(row).*Member); }};
     else
         return Column<SVRRow>{{name, TypeOf<T>(), DefaultOf<T>()},
                               [](SVRRow& row, const QVariant& v) { ProChannelOf(row).*Member = FromVariant<T>(v); },
-                              [](const SVRRow& row) { return ToVariant(ProChannelOf(row).*Member); }};
+                              [](const SVRRow& row, CellSink& sink) { Put(sink, ProChannelOf(row).*Member); }};
 }
 
 template <class T>
@@ -81,6 +82,15 @@ T StreamValue(QStringView text)
         return ToInt16(text);
 }
 
+// Texts of numbers are put together without a text of their own for each: a full station has 16,000 of them.
+inline constexpr int kTextReserve = 64;
+inline void AppendNumber(QString& text, int number)
+{
+    std::array<char, 12> digits;
+    const char* end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    text += QLatin1String(digits.data(), end - digits.data());
+}
+
 // The three stream values of a channel, joined by ";"; a boolean is "1" or "0".
 template <auto Member>
 constexpr auto Streams(const char* name)
@@ -93,15 +103,19 @@ constexpr auto Streams(const char* name)
                               for (qsizetype i = 0; auto& stream : ProChannelOf(row).streams)
                                   stream.*Member = StreamValue<T>(At(parts, i++));
                           },
-                          [](const SVRRow& row) {
-                              QStringList parts;
-                              for (const SVRProStream& stream : ProChannelOf(row).streams) {
+                          [](const SVRRow& row, CellSink& sink) {
+                              QString text;
+                              text.reserve(kTextReserve);
+                              const SVRProStreams& streams = ProChannelOf(row).streams;
+                              for (const SVRProStream& stream : streams) {
+                                  if (&stream != &streams.front())
+                                      text += u';';
                                   if constexpr (std::is_same_v<T, QString>)
-                                      parts << stream.*Member;
+                                      text += stream.*Member;
                                   else
-                                      parts << QString::number(static_cast<int>(stream.*Member));
+                                      AppendNumber(text, static_cast<int>(stream.*Member));
                               }
-                              return QVariant(parts.join(u';'));
+                              sink.text(text);
                           }};
 }
 
@@ -126,8 +140,9 @@ constexpr auto StreamLists(const char* name)
                                   stream.*Member = std::move(list);
                               }
                           },
-                          [](const SVRRow& row) {
+                          [](const SVRRow& row, CellSink& sink) {
                               QString text;
+                              text.reserve(kTextReserve);
                               const SVRProStreams& streams = ProChannelOf(row).streams;
                               for (const SVRProStream& stream : streams) {
                                   if (&stream != &streams.front())
@@ -136,10 +151,10 @@ constexpr auto StreamLists(const char* name)
                                   for (std::size_t i = 0; i < list.size(); ++i) {
                                       if (i > 0)
                                           text += u',';
-                                      text += QString::number(list[i]);
+                                      AppendNumber(text, list[i]);
                                   }
                               }
-                              return QVariant(text);
+                              sink.text(text);
                           }};
 }
 
@@ -162,12 +177,13 @@ constexpr auto Preset(const char* name)
                               preset.sPresetName = At(parts, 1);
                               preset.sPresetImage = At(parts, 2);
                           },
-                          [](const SVRRow& row) {
+                          [](const SVRRow& row, CellSink& sink) {
                               const SVRPreset& preset = ChannelOf(row).presets[Index];
-                              QString text = QString::number(preset.iPresetID);
+                              QString text;
+                              AppendNumber(text, preset.iPresetID);
                               if (!preset.sPresetName.isEmpty())
                                   text += u',' + preset.sPresetName + u',' + preset.sPresetImage;
-                              return QVariant(text);
+                              sink.text(text);
                           }};
 }
 
