@@ -1,6 +1,7 @@
 #include "platform/RowInsert.h"
 
 #include "platform/EngineHandle.h"
+#include "platform/RowStream.h"
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +49,12 @@ void RowInsert::integer(qint64 value)
 void RowInsert::real(double value)
 {
     sqlite3_bind_double(m_statement, static_cast<int>(m_field) + 1, value);
+}
+
+void RowInsert::copy(const RowStream& from, int field)
+{
+    m_texts[m_field] = {};
+    sqlite3_bind_value(m_statement, static_cast<int>(m_field) + 1, sqlite3_column_value(from.m_statement, field));
 }
 
 void RowInsert::add()

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+class RowStream;
 struct sqlite3_stmt;
 
 // Takes one value of a row.
@@ -32,6 +33,8 @@ public:
     void text(const QString& value) override;
     void integer(qint64 value) override;
     void real(double value) override;
+    // The value of a field of another file's present row, whatever its type.
+    void copy(const RowStream& from, int field);
     // Writes the row; fields that are not set again keep their values for the next one.
     void add();
 

@@ -22,5 +22,6 @@ public:
     QByteArrayView text(int field) const; // UTF-8, valid until next(); null reads as the empty text
 
 private:
+    friend class RowInsert; // copies values as they are
     sqlite3_stmt* m_statement = nullptr;
 };

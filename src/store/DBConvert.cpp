@@ -1,6 +1,8 @@
 #include "store/DBConvert.h"
 
 #include "app/log/Module_Log.h"
+#include "platform/EngineHandle.h"
+#include "platform/RowStream.h"
 #include "support/Conversions.h"
 
 #include <QHash>
@@ -220,15 +222,52 @@ void clsDBConvert::copyTable(const QString& table)
         m_source.open(byNumber ? u"Select * From EventTrigger ORDER BY SN"_s : table, m_sourceConnection,
                       CursorType::ForwardOnly, LockType::ReadOnly, byNumber ? CommandType::Text : CommandType::Table);
     });
-    for (qint64 i = 0; !m_source.eof() && !m_broken; ++i) {
+    for (qint64 i = 0; i < targetRows && !m_source.eof() && !m_broken; ++i) {
         report(table, i + 1, rows);
         Trapped(kConvertSource, [&] {
-            placeTarget(i, targetRows);
+            m_target.moveFirst();
+            m_target.move(i);
             for (const auto& [from, to] : fields)
                 m_target.setValue(to, m_source.value(from));
             noting([&] { m_target.update(); });
         });
         noting([&] { m_source.moveNext(); });
+    }
+    m_source.close();
+    if (!m_broken && rows > targetRows)
+        addRows(table, rows, targetRows, fields, byNumber ? u" ORDER BY SN"_s : QString());
+}
+
+// Rows beyond those of the template go over as they are, without a detour through values of our own.
+void clsDBConvert::addRows(const QString& table, qint64 rows, qint64 first,
+                           const std::vector<std::pair<int, int>>& fields, const QString& order)
+{
+    const QStringList sourceNames = noting([&] {
+        m_source.open(table, m_sourceConnection, CursorType::Keyset, LockType::ReadOnly, CommandType::Table);
+        return m_source.fieldNames();
+    });
+    const QStringList targetNames = m_target.fieldNames();
+    QStringList read{u"NULL"_s};
+    QStringList written;
+    for (const auto& [from, to] : fields) {
+        read << QuotedName(sourceNames.at(from));
+        written << targetNames.at(to);
+    }
+    const auto insert = m_target.insertOf(written);
+    const auto stream = noting([&] {
+        return std::make_unique<RowStream>(
+            m_sourceConnection, u"SELECT %1 FROM %2%3 LIMIT -1 OFFSET %4"_s.arg(read.join(u','), QuotedName(table),
+                                                                                order, QString::number(first)));
+    });
+    for (qint64 i = first; !m_broken && noting([&] { return stream->next(); }); ++i) {
+        report(table, i + 1, rows);
+        Trapped(kConvertSource, [&] {
+            for (int field = 0; field < static_cast<int>(fields.size()); ++field) {
+                insert->setField(static_cast<std::size_t>(field));
+                insert->copy(*stream, field + 1);
+            }
+            noting([&] { insert->add(); });
+        });
     }
 }
 

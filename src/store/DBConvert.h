@@ -5,6 +5,8 @@
 
 #include <QString>
 #include <functional>
+#include <utility>
+#include <vector>
 
 // Told before each row: the table, the row's number from 1 and the number of rows. Lets the progress window paint.
 using ConvertProgress = std::function<void(const QString& table, qint64 row, qint64 rows)>;
@@ -25,6 +27,9 @@ public:
 
 private:
     void copyTable(const QString& table);
+    // The source's rows from number `first` (from 0) on; `fields` are pairs of indices, source and target.
+    void addRows(const QString& table, qint64 rows, qint64 first, const std::vector<std::pair<int, int>>& fields,
+                 const QString& order);
     // Fills MotionROI and MotionSettings from the old table MDROI (region bitmap and sensitivity of a channel).
     void ConvertMDROI();
     // Carries out work on either file and notes that the file failed, which ends the conversion.
