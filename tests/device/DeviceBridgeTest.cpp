@@ -52,7 +52,7 @@ TEST_F(ParameterBridge, ReadsFactsAndChannelsOfARecorder)
     EXPECT_EQ(server.lastTarget(), "/param.cgi?action=get&group=camera_c12.device");
     EXPECT_EQ(channel.Name, u"%u4E2Dx"_s); // still escaped
     EXPECT_EQ(channel.IP, u"10.0.0.7"_s);
-    EXPECT_EQ(channel.HttpPort, 0); // no number: logged
+    EXPECT_FALSE(channel.HttpPort); // no number: logged
     EXPECT_EQ(channel.Password, u"a=b="_s);
     EXPECT_EQ(channel.Format, 1024);
     EXPECT_EQ(channel.Brand, 55);
@@ -144,19 +144,20 @@ TEST_F(ParameterBridge, ServicesFollowTheirDevice)
     EXPECT_EQ(com.Services.size(), 2u);
     EXPECT_EQ(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5), WaitResult::Done);
 
-    // A connected service is left alone, one that is down is registered anew at its present address.
+    // A service is registered anew at its recorder's present address; nobody asks the old one any more.
     other.answerWith("no");
     EXPECT_EQ(WaitUntil([&] { return status(15) == 0; }, 5), WaitResult::Done);
     ScriptedServer moved;
     list[1] = Recorder(moved);
     list[15] = Recorder(moved);
     com.SetProToDeviceBridge(list);
-    EXPECT_EQ(WaitUntil([&] { return status(15) > 0; }, 5), WaitResult::Done);
+    EXPECT_EQ(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5), WaitResult::Done);
     EXPECT_EQ(com.FindServiceSlot(15), 1);
-    const std::size_t asked = other.requests.size();
-    const std::size_t askedFirst = server.requests.size();
-    EXPECT_EQ(WaitUntil([&] { return server.requests.size() > askedFirst + 2; }, 5), WaitResult::Done);
-    EXPECT_EQ(other.requests.size(), asked);
+    const std::size_t asked = other.requests.size() + server.requests.size();
+    const std::size_t askedMoved = moved.requests.size();
+    com.SetProToDeviceBridge(list); // and those that are connected stay
+    EXPECT_EQ(WaitUntil([&] { return moved.requests.size() > askedMoved + 4; }, 5), WaitResult::Done);
+    EXPECT_EQ(other.requests.size() + server.requests.size(), asked);
 
     // A slot that is free or has become another family is asked no more; its row serves the next recorder.
     list[1] = SVRRecord();

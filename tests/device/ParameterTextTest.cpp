@@ -44,14 +44,17 @@ TEST(ParameterTexts, LinesFillTheChannel)
         ElementsAre(u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"5"_s, u"6"_s, u"7"_s));
 }
 
-TEST(ParameterTexts, ABadNumberStopsAndKeepsWhatWasRead)
+TEST(ParameterTexts, ABadNumberCostsItsKeyAndOneLineOfTheLog)
 {
+    const TemporaryStation station;
     SVRChannel svr;
-    EXPECT_THROW(
-        CHImageInfoPaser(svr, u"camera_c1.image.fps=15\ncamera_c1.image.quality=best\ncamera_c1.image.rotation=1"_s),
-        ConversionError);
+    const QString flood = u"camera_c1.image.quality=best\n"_s.repeated(5000);
+    CHImageInfoPaser(svr, u"camera_c1.image.fps=15\n"_s + flood + u"camera_c1.image.rotation=1"_s);
     EXPECT_EQ(svr.iCH_FPS, 15);
-    EXPECT_EQ(svr.iCH_Rotation, -1);
+    EXPECT_EQ(svr.iCH_Quality, -1);
+    EXPECT_EQ(svr.iCH_Rotation, 1);
+    const QString log = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).value(0);
+    EXPECT_EQ(station.read(QString(u"\\log\\"_s + log)).count("CHImageInfoPaser"), 1);
 }
 
 TEST(ParameterTexts, CodesAndNames)

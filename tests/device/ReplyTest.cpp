@@ -173,6 +173,19 @@ TEST_F(ChannelReplies, FailuresLeaveWhatWasNotRead)
     EXPECT_EQ(svr->channels[2].sSub_CH_Name, u"read"_s);
 }
 
+TEST_F(ChannelReplies, NamesAndListsAreCapped)
+{
+    const QByteArray name(1'000'000, 'n');
+    ASSERT_EQ(
+        list(Channel("1", "<Name>" + name + "</Name><System><Model>" + name + "</Model></System><Video><FMTList>" +
+                              name + "</FMTList><LensModeList><M>" + name + "</M></LensModeList></Video>")),
+        1);
+    EXPECT_EQ(svr->channels[0].sSub_CH_Name.size(), 255);
+    EXPECT_EQ(pro->channels[0].sCH_Pro_Model.size(), 255);
+    EXPECT_EQ(svr->channels[0].sCH_FMTList.size(), 65536);
+    EXPECT_EQ(pro->channels[0].sCH_Pro_LensModeList.size(), 65536);
+}
+
 TEST_F(ChannelReplies, AProbeFillsTheStreamSlots)
 {
     SVRProStreams& streams = pro->channels[2].streams;

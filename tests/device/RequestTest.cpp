@@ -139,6 +139,7 @@ TEST(Requests, GoOutByteForByte)
          R"(<Preset ID="4" DwellTime="15"/><Preset ID="1" DwellTime="15"/></PresetList></Seq></SeqList></CH></CHList>)"
          R"(</Param></CMD>)"},
         {BuildSetPresetSeq(2, u"4"_s, 15), ""},
+        {BuildSetPresetSeq(2, u","_s, 15), ""}, // which would clear the device's sequence
         {BuildGetActionList(), R"(<CMD ID="32777" ></CMD>)"},
         {BuildSetActionList(std::vector(1, Actions().back())),
          "<CMD ID=\"32775\"><Param><ActionList><Action CH=\"3\" Event=\"1\" ActionGroup=\"2\" TriggerID=\"3\" "
@@ -256,7 +257,7 @@ TEST_F(EventSettings, RefusedChannelsLoseTheirSwitchAndAreTold)
 {
     const QString reply =
         u"<RESPONSE RET=\"0\"><CHList><CH ID=\"1\" MDRet=\"0\" DIRet=\"0\"/><CH ID=\"2\" MDRet=\"7\"/>"
-        "<CH ID=\"99\" DIRet=\"1\"/><CH ID=\"4\" MDRet=\"0\" DIRet=\"-1\"/></CHList></RESPONSE>"_s;
+        "<CH ID=\"3\" MDRet=\"none\"/><CH ID=\"99\" DIRet=\"1\"/><CH ID=\"4\" MDRet=\"0\" DIRet=\"-1\"/></CHList></RESPONSE>"_s;
     EXPECT_EQ(apply(true, {{CMD_GET_MOTION_DI_RESULT, reply}}), 1);
     EXPECT_EQ(told, QStringList(u"2,99,4"_s));
     std::vector<bool> on;

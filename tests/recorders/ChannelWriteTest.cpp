@@ -38,6 +38,9 @@ TEST_F(ChannelWrite, ClearedChannelIsEmptyOnTheRecorderAndOnThePage)
         if (family != Family::Svr) {
             ASSERT_EQ(sent.size(), 4U);
             EXPECT_TRUE(sent[0].body.contains("<UserData>CONFIG_AP</UserData><Param><CH>3</CH></Param>"));
+        } else { // a strict device takes no empty number
+            EXPECT_TRUE(sent[0].target.contains(".device.httpport=80&"));
+            EXPECT_TRUE(sent[0].target.endsWith(".device.brand=0"));
         }
         EXPECT_TRUE(ClearRecorderChannel(com, *recorders, 2).ok); // nothing is left to clear
         EXPECT_TRUE(requests().empty());

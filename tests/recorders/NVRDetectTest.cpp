@@ -156,12 +156,17 @@ TEST_F(Detecting, RepliesThatBreakOffCostTheirRecorderOrTheirValuesOnly)
             site->call([&](Site& running) { running.device(static_cast<int>(c.device)).clearFaults(); });
         }
     }
-    // A document that ends in its middle though its page is whole.
-    for (const QByteArray& text : {QByteArray("<RESPONSE RET=\"0\"><CHList><CH><ID>1</ID><Na"), QByteArray("")}) {
+    // A document that ends in its middle though its page is whole, one with a bad channel behind a good one, and one of
+    // more channels than there are.
+    const QByteArray good = "<RESPONSE RET=\"0\"><CHList><CH ID=\"1\"><IP>10.0.0.1</IP></CH>";
+    const QByteArray texts[] = {"<RESPONSE RET=\"0\"><CHList><CH><ID>1</ID><Na", "",
+                                good + "<CH ID=\"2\"><HTTPPort>x</HTTPPort></CH></CHList></RESPONSE>",
+                                good + QByteArray("<CH ID=\"2\"></CH>").repeated(200'000) + "</CHList></RESPONSE>"};
+    for (const QByteArray& text : texts) {
         site->call([&](Site& running) {
             running.device(1).addFault({FaultKind::Body, 0, "/cmd.cgi", 24582, text, 0, 1});
         });
-        EXPECT_EQ(detect(item(1)), text.isEmpty() ? 7 : 719);
+        EXPECT_EQ(detect(item(1)), 7);
     }
     EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
 }
@@ -248,6 +253,88 @@ TEST_F(Detecting, NewDetectionKeepsWhatOnlyTheStationKnows)
     EXPECT_EQ(recorders->SVREdit.channels[0].lSub_CH_IntelligentID, 5);
     EXPECT_EQ(recorders->SVREdit.channels[1].lSub_CH_IntelligentID, -1);
     EXPECT_NE(recorders->SVREdit.channels[1].sSub_CH_IP, u"10.9.9.9"_s);
+}
+
+TEST_F(Detecting, NewDetectionKeepsWhatTheReplyDoesNotMention)
+{
+    start({Recorder(Family::OmluPro, 8, 3), Recorder(Family::Svr, 3, 3)});
+    const struct
+    {
+        std::size_t device;
+        simulators::Fault channels;
+        simulators::Fault system;
+    } cases[] = {{0,
+                  {FaultKind::Body, 0, "/cmd.cgi", 24582,
+                   "<RESPONSE RET=\"0\"><CHList><CH ID=\"1\"><IP>10.0.0.1</IP></CH>"
+                   "<CH ID=\"2\"><IP>10.0.0.2</IP></CH></CHList></RESPONSE>"},
+                  {FaultKind::Body, 0, "/cmd.cgi", 4100, "<RESPONSE RET=\"0\"><Name>x</Name></RESPONSE>"}},
+                 {1,
+                  {FaultKind::Body, 0, "/param.cgi", 0,
+                   "OK\ncamera_c1.device.ip=10.0.0.1\ncamera_c2.device.ip=10.0.0.2\ncamera_c3.device.ip=\n"},
+                  {FaultKind::Status, 500, "/getfwver.cgi"}}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.device);
+        ASSERT_EQ(detect(item(c.device)), 297);
+        const auto slot = c.device;
+        recorders->SVREdit = recorders->SVRWorkList[slot];
+        recorders->SVRProEdit = recorders->SVRProWorkList[slot];
+        recorders->SVREdit.iSVR_VideoPort = 7777;
+        for (std::size_t channel : {0U, 1U, 2U}) {
+            SVRChannel& camera = recorders->SVREdit.channels[channel];
+            camera.sSub_CH_IP = channel == 1 ? u"10.9.9.9"_s : u"10.0.0.1"_s;
+            camera.sSub_CH_Name = u"Hall"_s;
+            camera.sCH_Relativeformat = u"{}{}{640x480<1><1>}"_s;
+            camera.iSub_CH_VideoID = 2;
+            camera.iSub_CH_HttpPort = 8081;
+            camera.sCH_ResolutionList = u"640x480;;"_s;
+            recorders->SVRProEdit.channels[channel].streams[2].sFMT = u"h264"_s;
+            recorders->SVRProEdit.channels[channel].streams[2].sResolutionList = u"640x480"_s;
+        }
+        site->call([&](Site& running) {
+            running.device(static_cast<int>(c.device)).addFault(c.channels);
+            running.device(static_cast<int>(c.device)).addFault(c.system);
+        });
+        NVRDetectItem again = item(c.device);
+        again.iSlot = static_cast<qint16>(slot);
+        ASSERT_EQ(detect(again, DetectMode::Modify), 833);
+        EXPECT_EQ(recorders->SVREdit.iSVR_VideoPort, 7777);
+        EXPECT_EQ(recorders->SVREdit.iSVR_TimeZoneNum, 28);
+        for (std::size_t channel : {0U, 1U, 2U}) { // the same camera, another one, none
+            const SVRChannel& camera = recorders->SVREdit.channels[channel];
+            const bool same = channel == 0;
+            EXPECT_EQ(camera.sSub_CH_Name, same ? u"Hall"_s : QString());
+            EXPECT_EQ(camera.sCH_Relativeformat.isEmpty(), !same);
+            EXPECT_EQ(camera.iSub_CH_VideoID, same ? 2 : 0);
+            EXPECT_EQ(camera.iSub_CH_HttpPort, same ? 8081 : 80);
+            EXPECT_EQ(camera.sCH_ResolutionList.startsWith(u'6'), same);
+            const SVRProStream& stream = recorders->SVRProEdit.channels[channel].streams[2];
+            EXPECT_EQ(stream.sFMT + stream.sResolutionList, same ? u"h264640x480"_s : QString());
+        }
+    }
+}
+
+TEST_F(Detecting, AddressesAndNamesAreStoredAsTheyAreCompared)
+{
+    start({Recorder(Family::Svr, 8, 2), Recorder(Family::Txr632, 8, 2)});
+    NVRDetectItem typed = item(0);
+    typed.sIP = u"  "_s + typed.sIP + u' ';
+    typed.sName = u" Front door with a name beyond the field "_s;
+    site->call([](Site& running) { running.device(0).channel(1).cameraEvents = 3; });
+    EXPECT_EQ(detect(typed), 297);
+    const SVRRecord& added = recorders->SVRWorkList[0];
+    EXPECT_EQ(added.sSVR_IP, where[0].first);
+    EXPECT_EQ(added.sSVR_Name, u"Front door with a name beyond t"_s);
+    EXPECT_TRUE(added.channels[0].bSub_CH_Cam_MD_Enabled) << "as the recorder has it";
+    EXPECT_FALSE(added.channels[1].bSub_CH_Cam_MD_Enabled);
+    EXPECT_EQ(added.channels[0].presets[7].iPresetID, 8);
+    EXPECT_EQ(detect(typed), 78);
+    NVRDetectItem nameless = item(1);
+    nameless.sName = u" "_s;
+    EXPECT_EQ(detect(nameless), 297);
+    EXPECT_EQ(recorders->SVRWorkList[1].sSVR_Name, where[1].first);
+    EXPECT_EQ(ValidateManualNVR(u"x"_s, u" 10.0.0.3 "_s, u"80"_s).message, 0);
+    EXPECT_EQ(ValidateManualNVR(u"x"_s, u" 127.0.0.1 "_s, u"80"_s).message, 554);
+    EXPECT_EQ(ValidateManualNVR(u" "_s, u"10.0.0.3"_s, u"80"_s).message, 553);
 }
 
 TEST_F(Detecting, StopEndsTheRunAtItsNextStepAndChangesNothing)

@@ -199,6 +199,16 @@ TEST_F(RecorderWindows, TheWatchAsksOnlyWhileItRunsAndFollowsTheList)
     QTest::qWait(40);
     EXPECT_EQ(requests(0, "/getgid.cgi"), asked);
 
+    site->call([](simulators::Site& running) { running.device(1).clearFaults(); });
+    fault(1, {FaultKind::Unauthorized}); // each wrong password may count towards a lock
+    store(5, 1);
+    const int refusedBefore = requests(1, "/getgid.cgi");
+    watch.start();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return requests(0, "/getgid.cgi") > asked + 40; }, 5000));
+    EXPECT_EQ(watch.state(5).kind, ConnectionState::Kind::Refused);
+    EXPECT_LT(requests(1, "/getgid.cgi") - refusedBefore, 12);
+    watch.stop();
+
     HttpReply reply;
     for (const auto& [failure, message] :
          {std::pair{HttpFailure::NotResolved, 960}, {HttpFailure::BrokenOff, 962}, {HttpFailure::TooLarge, 962}}) {

@@ -166,19 +166,23 @@ TEST_F(SVRStoreTest, ANullZoneReadsAsZero)
     EXPECT_EQ(back->iSVR_MaxChannelAll, 8);
 }
 
-TEST_F(SVRStoreTest, WorkingChannelsWithoutCameraGetTheEmptyChannel)
+TEST_F(SVRStoreTest, ChannelsWithoutCameraGetTheEmptyChannelInBothGenerations)
 {
     open();
     fill(kFamilySVR);
     SaveMySVR(databases, *set, 2);
-    back->SVRWorkList[2].channels[5].sCH_FMTList = u"stale"_s;
+    for (auto* list : {&back->SVRWorkList, &back->SVRList})
+        (*list)[2].channels[5].sCH_FMTList = u"stale"_s;
     GetSVREx(databases, *back);
-    const SVRRecord& work = back->SVRWorkList[2];
-    EXPECT_EQ(work.channels[5].sCH_FMTList, QString());
-    EXPECT_EQ(work.channels[5].iSub_Channel, 6);
-    EXPECT_EQ(work.channels[5].iCH_GOP, -1);
-    EXPECT_EQ(work.channels[5].lSub_CH_IntelligentID, -1);
-    EXPECT_EQ(work.channels[5].iSub_CH_HttpPort, 80);
+    for (const auto* list : {&back->SVRWorkList, &back->SVRList}) {
+        const SVRChannel& empty = (*list)[2].channels[5];
+        EXPECT_EQ(empty.sCH_FMTList, QString());
+        EXPECT_EQ(empty.iSub_Channel, 6);
+        EXPECT_EQ(empty.iCH_GOP, -1);
+        EXPECT_EQ(empty.lSub_CH_IntelligentID, -1);
+        EXPECT_EQ(empty.iSub_CH_HttpPort, 80);
+        EXPECT_EQ(empty.presets[4].iPresetID, 5);
+    }
     EXPECT_EQ(back->SVRProWorkList[2].channels[5].streams[2].iBPSLower, std::vector<qint16>{-1});
 }
 

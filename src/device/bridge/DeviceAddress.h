@@ -9,4 +9,5 @@ struct DeviceAddress
     qint32 port = 80;
     QString user; // empty: no login is sent
     QString password;
+    friend bool operator==(const DeviceAddress&, const DeviceAddress&) = default;
 };

@@ -36,8 +36,9 @@ public:
         return std::nullopt;
     }
 
+    // A number that is none is logged and counts as not told.
     template <class Number>
-    void number(QLatin1String key, Number& target) const
+    void number(QLatin1String key, std::optional<Number>& target) const
     {
         const QString value = text(key).value_or(QString());
         if (value.isEmpty())

@@ -8,28 +8,30 @@
 #include <QTimer>
 #include <map>
 #include <memory>
+#include <optional>
 
 class WebBridge;
 
-// What family "SVR" says about itself.
+// What family "SVR" says about itself; what it does not tell has no value.
 struct RecorderFacts
 {
-    qint32 VideoPort = 0;
-    qint16 TimeZone = 0;
-    qint16 SummerTime = 0;
+    std::optional<qint32> VideoPort;
+    std::optional<qint16> TimeZone;
+    std::optional<qint16> SummerTime;
 };
 
-// One channel as family "SVR" describes it. A channel without a camera has an empty IP.
+// One channel as family "SVR" describes it. A channel without a camera has an empty IP. What it does not tell has no
+// value, or is a null text.
 struct RecorderChannel
 {
     QString Name; // escaped, as on the wire
     QString IP;
-    qint32 HttpPort = 0;
+    std::optional<qint32> HttpPort;
     QString UserName;
     QString Password;
-    qint32 Format = 0; // 256 MJPEG, 768 MPEG4, 1024 H.264
+    std::optional<qint32> Format; // 256 MJPEG, 768 MPEG4, 1024 H.264
     QString Resolution;
-    qint16 Brand = 0;
+    std::optional<qint16> Brand;
 };
 
 // What is written to a channel. A value without text is left out, except the six that name the camera.
@@ -74,7 +76,7 @@ public:
     DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent = nullptr);
     ~DeviceBridge() override;
 
-    // 0 and the record, or -1 (the record is untouched). A number that is none is logged and reads as 0.
+    // 0 and the record, or -1 (the record is untouched). A number that is none is logged and counts as not told.
     qint32 GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts);
     qint32 GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record);
 

@@ -98,8 +98,13 @@ void Form_COM::SetProToDeviceBridge(std::span<const SVRRecord> list)
     const auto served = [&](std::size_t index) {
         return index < count && !list[index].sSVR_IP.isEmpty() && list[index].sSVR_DeviceType == kFamilyTXR632;
     };
+    const auto addressOf = [&](std::size_t index) {
+        const SVRRecord& svr = list[index];
+        return DeviceAddress{svr.sSVR_IP, svr.iSVR_HttpPort, svr.sSVR_UserName, svr.sSVR_Password};
+    };
     for (std::size_t row = 0; row < Services.size(); ++row) {
-        if (Services[row].SvrIndex >= 0 && !served(static_cast<std::size_t>(Services[row].SvrIndex))) {
+        const auto index = static_cast<std::size_t>(Services[row].SvrIndex);
+        if (Services[row].SvrIndex >= 0 && (!served(index) || Services[row].device != addressOf(index))) {
             device.RemoveService(static_cast<qint16>(row));
             Services[row] = ServiceSlot();
         }
@@ -122,7 +127,7 @@ void Form_COM::SetProToDeviceBridge(std::span<const SVRRecord> list)
             continue;
         if (static_cast<std::size_t>(service) >= Services.size())
             Services.resize(static_cast<std::size_t>(service) + 1);
-        Services[static_cast<std::size_t>(service)] = {svrIndex, 0};
+        Services[static_cast<std::size_t>(service)] = {svrIndex, 0, addressOf(index)};
     }
 }
 

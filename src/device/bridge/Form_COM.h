@@ -25,6 +25,7 @@ struct ServiceSlot
 {
     qint16 SvrIndex = -1; // recorder slot, 0 to 15; -1: a number that is not ours
     qint16 Status = 0;    // last status reported; above 0: connected
+    DeviceAddress device = {};
 };
 
 inline constexpr qint16 kMailSlot = 0;
@@ -61,7 +62,7 @@ public:
     // First row of the recorder slot (0 to 15), or -1.
     qint16 FindServiceSlot(qint16 svrIndex) const;
     // Run when the recorder list has changed: every occupied slot of family "TXR632" (index 0 to 15) whose service is
-    // missing or down is registered anew. The services of other slots are removed.
+    // missing, down or at another address or login is registered anew. The services of other slots are removed.
     void SetProToDeviceBridge(std::span<const SVRRecord> list);
 
     // End of the run: stops the search and tells the owners of the other bridges.

@@ -55,11 +55,19 @@ JoinedTexts Joined(pugi::xml_node node, char separator)
     return joined;
 }
 
+void Cut(QString& text, qsizetype most)
+{
+    if (text.size() > most)
+        text.truncate(most);
+}
+
 // Readers of one element into the channel's cell of `Field`.
-template <auto Field>
+template <auto Field, qsizetype Most = kMaxDeviceText>
 void Text(ChannelTarget& target, pugi::xml_node node)
 {
-    Decode(RawText(node, target.scratch), Cell(target, Field));
+    QString& text = Cell(target, Field);
+    Decode(RawText(node, target.scratch), text);
+    Cut(text, Most);
 }
 template <auto Field>
 void Int16(ChannelTarget& target, pugi::xml_node node)
@@ -80,7 +88,9 @@ void Flag(ChannelTarget& target, pugi::xml_node node)
 template <auto Field>
 void TextList(ChannelTarget& target, pugi::xml_node node)
 {
-    Decode(Joined(node, ',').list.constData(), Cell(target, Field));
+    QString& text = Cell(target, Field);
+    Decode(Joined(node, ',').list.constData(), text);
+    Cut(text, kMaxDeviceList);
 }
 
 using Reader = ElementReader<ChannelTarget>;
@@ -138,7 +148,7 @@ constexpr auto kPtz = Elements<ChannelTarget>({
     {"SyncPreset", Int16<&SVRProChannel::iCH_Pro_SyncPreset>},
     kMove,
     {"SetPreset", Flag<&SVRProChannel::bCH_Pro_SetPreset>},
-    {"ModeList4FishEye", Text<&SVRChannel::sSub_CH_MD_FishEyeModeList>},
+    {"ModeList4FishEye", Text<&SVRChannel::sSub_CH_MD_FishEyeModeList, kMaxDeviceList>},
     {"Mode4FishEye", Text<&SVRChannel::sSub_CH_Mode4FishEye>},
 });
 
@@ -155,7 +165,7 @@ constexpr auto kProbePtz = Elements<ChannelTarget>({
     {"SyncPreset", Int16<&SVRProChannel::iCH_Pro_SyncPreset>},
     kMove,
     {"SetPreset", Flag<&SVRProChannel::bCH_Pro_SetPreset>},
-    {"ModeList4FishEye", Text<&SVRChannel::sSub_CH_MD_FishEyeModeList>},
+    {"ModeList4FishEye", Text<&SVRChannel::sSub_CH_MD_FishEyeModeList, kMaxDeviceList>},
     {"Mode4FishEye", Text<&SVRChannel::sSub_CH_Mode4FishEye>},
 });
 
@@ -167,6 +177,7 @@ constexpr Reader kSupportFmt{
 constexpr Reader kFmtList{"FMTList", [](ChannelTarget& target, pugi::xml_node node) {
                               QString& list = Cell(target, &SVRChannel::sCH_FMTList);
                               Decode(RawText(node, target.scratch), list);
+                              Cut(list, kMaxDeviceList);
                               list.replace(u' ', u',');
                           }};
 
@@ -361,7 +372,7 @@ void ParseSupportFmt(SVRProStreams& formats, pugi::xml_node child, qint16& slot)
     if (named == names.end())
         return;
     auto [sizes, count] = Joined(child, ' ');
-    if (count == 0)
+    if (count == 0 || sizes.size() > kMaxDeviceList)
         return;
     const auto own = static_cast<std::size_t>(named - names.begin());
     std::ranges::replace(sizes, ' ', ',');

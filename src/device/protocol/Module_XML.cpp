@@ -228,10 +228,11 @@ QString BuildGetPresetSeq(qint16 channel)
 QString BuildSetPresetSeq(qint16 channel, const QString& presets, qint16 dwell)
 {
     const qint32 number = WireChannel(channel);
-    if (!presets.contains(u','))
+    const QStringList listed = presets.split(u',', Qt::SkipEmptyParts);
+    if (!presets.contains(u',') || listed.isEmpty()) // a sequence of nothing would clear the device's
         return {};
     QString items;
-    for (const QString& preset : presets.split(u',', Qt::SkipEmptyParts))
+    for (const QString& preset : listed)
         items += Attribute("<Preset ID="_L1, preset) + Attribute(" DwellTime="_L1, dwell) + "/>"_L1;
     return Tagged(CMD_SET_PRESET_SEQ, "<CHList>"_L1 + Attribute("<CH ID="_L1, number) + "><SeqList>"_L1 +
                                           Attribute("<Seq ID="_L1, 1) + u'>' + Element("PresetList"_L1, items) +

@@ -66,18 +66,24 @@ constexpr Key kOnvifKeys[] = {
     {".h264resolution="_L1, &SVRChannel::sCH_Onvif_H264_Resolution},
 };
 
-void ReadKeys(std::span<const Key> keys, SVRChannel& channel, const QString& reply)
+// A key with a bad number is left alone from there on, with one line in the log.
+template <std::size_t N>
+void ReadKeys(QLatin1String source, const Key (&keys)[N], SVRChannel& channel, const QString& reply)
 {
+    std::array<bool, N> bad{};
     for (const QStringView piece : QStringTokenizer(ReadableLines(reply), u"camera")) {
-        for (const Key& key : keys) {
-            if (!piece.contains(key.key))
+        for (std::size_t i = 0; i < N; ++i) {
+            const Key& key = keys[i];
+            if (bad[i] || !piece.contains(key.key))
                 continue;
-            QString value = At(piece.split(u'='), 1).toString();
-            value.remove(u'\n').remove(u'\r');
-            if (key.text)
-                channel.*key.text = value;
-            else
-                channel.*key.number = ToInt16(value);
+            bad[i] = !Trapped(source, [&] {
+                QString value = At(piece.split(u'='), 1).toString();
+                value.remove(u'\n').remove(u'\r');
+                if (key.text)
+                    channel.*key.text = value.left(kMaxDeviceList);
+                else
+                    channel.*key.number = ToInt16(value);
+            });
         }
     }
 }
@@ -157,17 +163,17 @@ void RefuseQuote(const QString& text)
 
 void CHImageInfoPaser(SVRChannel& channel, const QString& reply)
 {
-    ReadKeys(kImageKeys, channel, reply);
+    ReadKeys(QLatin1String("Module_PublicFunction - CHImageInfoPaser"), kImageKeys, channel, reply);
 }
 
 void CHPTZInfoPaser(SVRChannel& channel, const QString& reply)
 {
-    ReadKeys(kPtzKeys, channel, reply);
+    ReadKeys(QLatin1String("Module_PublicFunction - CHPTZInfoPaser"), kPtzKeys, channel, reply);
 }
 
 void CHOnvifInfoPaser(SVRChannel& channel, const QString& reply)
 {
-    ReadKeys(kOnvifKeys, channel, reply);
+    ReadKeys(QLatin1String("Module_PublicFunction - CHOnvifInfoPaser"), kOnvifKeys, channel, reply);
 }
 
 QString GetFMTNameFromCode(const QString& text, qint16 mode)

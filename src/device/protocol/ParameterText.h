@@ -8,7 +8,7 @@
 // between device codes and the names the pages show.
 
 // Fill the image, PTZ and ONVIF fields of a channel from its reply. A key that the text does not hold leaves its field
-// alone. Throws ConversionError for a number that is none; what was read before stays.
+// alone, and so does one with a bad number, which is logged.
 void CHImageInfoPaser(SVRChannel& channel, const QString& reply);
 void CHPTZInfoPaser(SVRChannel& channel, const QString& reply);
 void CHOnvifInfoPaser(SVRChannel& channel, const QString& reply);

@@ -1,5 +1,6 @@
 #include "device/protocol/ReplyParsers.h"
 
+#include "app/log/Module_Log.h"
 #include "device/protocol/CameraText.h"
 #include "device/protocol/XmlReply.h"
 
@@ -231,13 +232,18 @@ QString ParseApplyResult(ReplyText reply)
     if (!result || Int16Of(result.value()) != 0)
         return {};
     QStringList refused;
+    int listed = 0;
     ForEachListed(document, "CHList", [&](pugi::xml_node channel) {
         const auto failed = [&](const char* name) {
             const pugi::xml_attribute code = channel.attribute(name);
             return code && Int16Of(code.value()) != 0;
         };
-        if (failed("MDRet") || failed("DIRet"))
-            refused += QString::fromUtf8(channel.attribute("ID").value());
+        if (++listed > kMaxChannel)
+            return;
+        Trapped("Form_NVRSetting - ApplyEventSettings", [&] {
+            if (failed("MDRet") || failed("DIRet"))
+                refused += QString::fromUtf8(channel.attribute("ID").value());
+        });
     });
     return refused.join(u',');
 }

@@ -65,7 +65,8 @@ QString ParseFishEyeMode(ReplyText reply);
 // Replaces the rows. 1, or -1 when the reply cannot be read.
 qint16 ParseActionList(ReplyText reply, std::vector<ActionRecord>& actions);
 
-// Numbers (from 1) of the channels that refused motion or digital-input detection, "3,5"; empty when RET is not 0.
+// Numbers (from 1) of the channels that refused motion or digital-input detection, "3,5"; empty when RET is not 0. A
+// result that is no number is logged and counts for nothing; at most 64 entries are read.
 QString ParseApplyResult(ReplyText reply);
 
 // Capabilities of the decoder's channels; nothing when RET is not 0.

@@ -147,7 +147,8 @@ bool TakeRecorderCameraEvents(Form_COM& com, SVRRecord& svr)
     CameraEventBits bits{};
     if (!svr.bSVR_N_EventSupport || !ReadRecorderCameraEvents(com, svr, bits).ok)
         return false;
-    for (int channel = 0; channel < kMaxChannel; ++channel)
-        At(svr.channels, channel).bSub_CH_Cam_MD_Enabled = At(bits, channel) != 0;
+    for (std::size_t channel = 0; channel < kMaxChannel; ++channel)
+        svr.channels[channel].bSub_CH_Cam_MD_Enabled =
+            bits[channel] != 0 && !svr.channels[channel].sSub_CH_IP.isEmpty();
     return true;
 }

@@ -6,6 +6,8 @@
 #include "recorders/camera/CameraWrite.h"
 #include "support/Conversions.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 enum Message
@@ -17,8 +19,11 @@ enum Message
 RecorderOutcome ClearOnDevice(Form_COM& com, const SVRRecord& svr, qint16 channel)
 {
     if (!IsProFamily(svr.sSVR_DeviceType)) {
-        const QString reply = com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), {},
-                                                    ChannelForm::Simple); // an empty address takes the camera off
+        ChannelParameters none; // an empty address takes the camera off
+        none.HttpPort = u"80"_s;
+        none.Brand = u"0"_s;
+        const QString reply =
+            com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), none, ChannelForm::Simple);
         if (reply.isEmpty())
             return RecorderOutcome::Failed(kNoServer);
         return DeviceBridge::DeviceTook(reply) ? RecorderOutcome::Done() : RefusedWrite(reply);

@@ -96,9 +96,10 @@ qint16 GetSVREx(Databases& databases, RecorderSet& set)
     Trapped(kGetSource, [&] {
         for (int slot = 0; slot < kMaxSVR; ++slot) {
             for (int channel = 0; channel < At(set.SVRList, slot).iSVR_Maxchannel; ++channel) {
-                SVRRecord& work = At(set.SVRWorkList, slot);
-                if (At(work.channels, channel).sSub_CH_IP.isEmpty())
-                    ClearChannel(work, At(set.SVRProWorkList, slot), channel);
+                if (At(At(set.SVRList, slot).channels, channel).sSub_CH_IP.isEmpty())
+                    ClearChannel(At(set.SVRList, slot), At(set.SVRProList, slot), channel);
+                if (At(At(set.SVRWorkList, slot).channels, channel).sSub_CH_IP.isEmpty())
+                    ClearChannel(At(set.SVRWorkList, slot), At(set.SVRProWorkList, slot), channel);
             }
         }
         set.iSVR_MaxChannelAll = 0;

@@ -8,6 +8,7 @@ namespace {
 
 constexpr double kSeconds = 2;
 constexpr qint64 kMaxReply = 64 * 1024;
+constexpr int kMostRefusals = 5; // each doubles the pause
 
 enum Message
 {
@@ -98,6 +99,7 @@ void ConnectionWatch::refresh()
         if (key == watched.address)
             continue;
         watched.address = key;
+        watched.refusals = 0;
         watched.next.stop();
         m_http.cancel(std::exchange(watched.transfer, 0));
         set(slot, key.isEmpty() ? ConnectionState() : ConnectionState{ConnectionState::Kind::Checking, kChecking});
@@ -129,8 +131,10 @@ void ConnectionWatch::ask(int slot)
     At(m_slots, slot).transfer = m_http.start(request, [this, slot](const HttpReply& reply) {
         Watched& watched = At(m_slots, slot);
         watched.transfer = 0;
-        watched.next.start(m_interval);
-        set(slot, ConnectionOf(reply));
+        const ConnectionState state = ConnectionOf(reply);
+        watched.refusals = state.kind == ConnectionState::Kind::Refused ? qMin(watched.refusals + 1, kMostRefusals) : 0;
+        watched.next.start(m_interval << watched.refusals);
+        set(slot, state);
     });
 }
 

@@ -26,7 +26,8 @@ struct ConnectionState
 ConnectionState ConnectionOf(const HttpReply& reply);
 
 // Asks every recorder of the stored generation whether it answers, again and again while it runs. Nothing waits for it:
-// requests are asynchronous and one recorder has one at a time, of two seconds at most.
+// requests are asynchronous and one recorder has one at a time, of two seconds at most. A recorder that refuses the
+// login is asked ever more rarely, up to 32 times the interval: many lock an account after some wrong passwords.
 class ConnectionWatch : public QObject
 {
     Q_OBJECT
@@ -54,6 +55,7 @@ private:
         quint64 transfer = 0;
         QTimer next;
         ConnectionState state;
+        int refusals = 0; // one after the other
     };
     void ask(int slot);
     void set(int slot, const ConnectionState& state);

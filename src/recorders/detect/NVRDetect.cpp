@@ -6,6 +6,7 @@
 #include "device/protocol/ParameterText.h"
 #include "device/protocol/ReplyParsers.h"
 #include "platform/Wait.h"
+#include "recorders/camera/CameraEvents.h"
 #include "recorders/camera/CameraLists.h"
 #include "support/Conversions.h"
 #include "support/HostNames.h"
@@ -16,6 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr QLatin1String kNoSizes(";;"); // of the three formats
 constexpr QLatin1String kSource("Form_NVRSetting - DetectNVR");
 constexpr qint32 kNewEventVersion = 30026804; // fourth piece of the firmware version
 
@@ -32,6 +34,7 @@ enum Message
     kGetInfo = 295,
     kInitialValue = 296,
     kAddSuccess = 297,
+    kNameEmpty = 553,
     kAddressFault = 554,
     kNotSupported = 619,
     kTooManyChannels = 716,
@@ -70,20 +73,53 @@ bool Stopped(const DetectContext& context)
     return Closing() || (context.stopped && context.stopped());
 }
 
+// What "camera_c<n>.device" tells of a channel.
+void TakeDevice(const RecorderChannel& read, SVRChannel& camera)
+{
+    if (!read.Name.isNull())
+        camera.sSub_CH_Name = Unescape(read.Name).left(kMaxDeviceText);
+    const std::pair<QString&, QString> texts[] = {{camera.sSub_CH_UserName, read.UserName},
+                                                  {camera.sSub_CH_Password, read.Password},
+                                                  {camera.sSub_CH_Resolution, read.Resolution}};
+    for (const auto& [field, text] : texts) {
+        if (!text.isNull())
+            field = text.left(kMaxDeviceText);
+    }
+    camera.iSub_CH_HttpPort = read.HttpPort.value_or(camera.iSub_CH_HttpPort);
+    camera.iSub_CH_Brand = read.Brand.value_or(camera.iSub_CH_Brand);
+    if (read.Format)
+        camera.sSub_CH_VideoFormat = GetFMTNameFromCode(QString::number(*read.Format), 0);
+}
+
+// As it is compared and stored: no blanks round address and name, a name of the length that fields have, and the
+// address where there is none.
+NVRDetectItem Trimmed(NVRDetectItem item)
+{
+    item.sIP = item.sIP.trimmed();
+    item.sName = item.sName.trimmed().left(kRecorderNameLength).trimmed();
+    if (item.sName.isEmpty())
+        item.sName = item.sIP.left(kRecorderNameLength);
+    return item;
+}
+
 // One run of DetectNVR.
 class Detection
 {
 public:
     Detection(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report, DetectMode mode)
         : m_context(context)
-        , m_item(item)
+        , m_item(Trimmed(item))
         , m_report(report)
         , m_modify(mode == DetectMode::Modify)
         , m_web(context.com.web)
-        , m_device{item.sIP, item.iPort, item.sUser, item.sPassword}
+        , m_device{m_item.sIP, item.iPort, item.sUser, item.sPassword}
         , m_svr(std::make_unique<SVRRecord>())
         , m_pro(std::make_unique<SVRProRecord>())
     {
+        if (!m_modify)
+            return;
+        *m_svr = context.recorders.SVREdit; // what the recorder does not mention stays
+        *m_pro = context.recorders.SVRProEdit;
     }
 
     void run()
@@ -110,8 +146,11 @@ public:
         m_svr->iSVR_ValidCH = static_cast<qint16>(CameraCount(*m_svr));
         if (m_svr->iSVR_ValidCH == 0)
             throw DetectFailure{kNoChannel};
-        say(kInitialValue, 95);
-        fillSlot();
+        say(kInitialValue, 90);
+        fillRecord();
+        TakeRecorderCameraEvents(m_context.com, *m_svr);
+        say(kInitialValue, 100);
+        store();
     }
 
 private:
@@ -184,19 +223,50 @@ private:
             readProChannels();
         else
             readSvrChannels();
-        if (m_modify)
-            keepOwnSettings();
+        for (int channel = m_channels; channel < kMaxChannel; ++channel)
+            ClearChannel(*m_svr, *m_pro, channel);
     }
 
     void readProChannels()
     {
         const QString reply = SendCmdXml(m_web, m_device, BuildGetChannels(false, m_channels));
-        if (!DeviceBridge::DeviceTook(reply))
+        const auto svr = std::make_unique<SVRRecord>(); // what the reply says by itself
+        const auto pro = std::make_unique<SVRProRecord>();
+        if (!DeviceBridge::DeviceTook(reply) || !parseChannels(reply, *svr, *pro) ||
+            !parseChannels(reply, *m_svr, *m_pro))
             throw DetectFailure{kConnectionError};
-        Trapped(kSource, [&] { ParseChannelList(reply, *m_svr, *m_pro); });
-        for (int channel = 0; channel < kMaxChannel; ++channel) {
-            if (channel >= m_channels || At(m_svr->channels, channel).sSub_CH_IP.isEmpty())
-                ClearChannel(*m_svr, *m_pro, channel);
+        for (std::size_t c = 0; c < kMaxChannel; ++c) {
+            const SVRChannel& told = svr->channels[c];
+            if (told.sSub_CH_IP.isEmpty()) {
+                ClearChannel(*m_svr, *m_pro, static_cast<int>(c));
+            } else if (!m_modify || told.sSub_CH_IP != m_context.recorders.SVREdit.channels[c].sSub_CH_IP) {
+                m_svr->channels[c] = told;
+                m_pro->channels[c] = pro->channels[c];
+            } else if (told.sCH_ResolutionList == kNoSizes) {
+                keepSizes(c);
+            }
+        }
+    }
+
+    // A list that breaks off half-way would leave cameras out.
+    static bool parseChannels(const QString& reply, SVRRecord& svr, SVRProRecord& pro)
+    {
+        qint16 result = 0;
+        return Trapped(kSource, [&] { result = ParseChannelList(reply, svr, pro); }) && result == 1;
+    }
+
+    // The reader empties the lists of sizes also where a reply has none.
+    void keepSizes(std::size_t channel)
+    {
+        m_svr->channels[channel].sCH_ResolutionList = m_context.recorders.SVREdit.channels[channel].sCH_ResolutionList;
+        const SVRProStreams& before = m_context.recorders.SVRProEdit.channels[channel].streams;
+        for (std::size_t slot = 0; slot < kMaxStream; ++slot) {
+            SVRProStream& stream = m_pro->channels[channel].streams[slot];
+            stream.sResolutionList = before[slot].sResolutionList;
+            stream.iFPSUpper = before[slot].iFPSUpper;
+            stream.iFPSLower = before[slot].iFPSLower;
+            stream.iBPSUpper = before[slot].iBPSUpper;
+            stream.iBPSLower = before[slot].iBPSLower;
         }
     }
 
@@ -209,40 +279,20 @@ private:
             RecorderChannel read;
             if (m_context.com.device.GetChannel(m_device, number, read) < 0)
                 throw DetectFailure{kConnectionError};
+            SVRChannel& camera = At(m_svr->channels, channel);
+            if (read.IP.isEmpty() || camera.sSub_CH_IP != read.IP)
+                ClearChannel(*m_svr, *m_pro, channel);
             if (read.IP.isEmpty())
                 continue;
-            SVRChannel& camera = At(m_svr->channels, channel);
-            camera.sSub_CH_Name = Unescape(read.Name);
             camera.sSub_CH_IP = read.IP;
-            camera.iSub_CH_HttpPort = read.HttpPort;
-            camera.sSub_CH_UserName = read.UserName;
-            camera.sSub_CH_Password = read.Password;
-            camera.sSub_CH_VideoFormat = GetFMTNameFromCode(QString::number(read.Format), 0);
-            camera.sSub_CH_Resolution = read.Resolution;
-            camera.iSub_CH_Brand = read.Brand;
+            TakeDevice(read, camera);
             // A group that cannot be had or read costs its own values only.
-            const bool onvif = read.Brand == kOnvifBrand;
+            const bool onvif = camera.iSub_CH_Brand == kOnvifBrand;
             const ChannelParams params = CgiGetChannelParams(m_web, m_device, number, onvif);
-            Trapped(kSource, [&] { CHImageInfoPaser(camera, params.Image); });
-            Trapped(kSource, [&] { CHPTZInfoPaser(camera, params.Ptz); });
+            CHImageInfoPaser(camera, params.Image);
+            CHPTZInfoPaser(camera, params.Ptz);
             if (onvif)
-                Trapped(kSource, [&] { CHOnvifInfoPaser(camera, params.Onvif); });
-        }
-    }
-
-    // What only the station knows of a camera survives a new detection as long as the channel has the same camera.
-    void keepOwnSettings()
-    {
-        for (std::size_t c = 0; c < kMaxChannel; ++c) {
-            SVRChannel& camera = m_svr->channels[c];
-            const SVRChannel& before = m_context.recorders.SVREdit.channels[c];
-            if (camera.sSub_CH_IP.isEmpty() || camera.sSub_CH_IP != before.sSub_CH_IP)
-                continue;
-            camera.presets = before.presets;
-            camera.lSub_CH_IntelligentID = before.lSub_CH_IntelligentID;
-            camera.bEventSet = before.bEventSet;
-            camera.bSub_CH_Cam_MD_Enabled = before.bSub_CH_Cam_MD_Enabled;
-            camera.iPower = before.iPower;
+                CHOnvifInfoPaser(camera, params.Onvif);
         }
     }
 
@@ -255,9 +305,9 @@ private:
         RecorderFacts facts;
         if (m_context.com.device.GetSystemFacts(m_device, facts) < 0)
             return;
-        m_svr->iSVR_VideoPort = facts.VideoPort;
-        m_svr->iSVR_TimeZoneNum = facts.TimeZone;
-        m_svr->iSVR_SummerTime = facts.SummerTime;
+        m_svr->iSVR_VideoPort = facts.VideoPort.value_or(m_svr->iSVR_VideoPort);
+        m_svr->iSVR_TimeZoneNum = facts.TimeZone.value_or(m_svr->iSVR_TimeZoneNum);
+        m_svr->iSVR_SummerTime = facts.SummerTime.value_or(m_svr->iSVR_SummerTime);
     }
 
     void readProSystem()
@@ -281,7 +331,7 @@ private:
         }
     }
 
-    void fillSlot()
+    void fillRecord()
     {
         m_svr->bSVR_Changed = true;
         m_svr->bSVR_ConnChanged = true;
@@ -299,6 +349,10 @@ private:
         m_svr->sSVR_DisplayDeviceType = m_capability.ModelName;
         m_svr->bSVR_CEventSupport = m_capability.CustomEventSupport;
         m_svr->sSVR_Version = m_capability.FirmwareVersion;
+    }
+
+    void store()
+    {
         if (m_modify) {
             m_context.recorders.SVREdit = *m_svr;
             m_context.recorders.SVRProEdit = *m_pro;
@@ -311,7 +365,7 @@ private:
     }
 
     const DetectContext& m_context;
-    const NVRDetectItem& m_item;
+    const NVRDetectItem m_item;
     const DetectReport& m_report;
     const bool m_modify;
     WebBridge& m_web;
@@ -326,10 +380,12 @@ private:
 
 } // namespace
 
-ManualFault ValidateManualNVR(const QString& name, const QString& address, const QString& port)
+ManualFault ValidateManualNVR(const QString& typedName, const QString& typedAddress, const QString& port)
 {
+    const QString name = typedName.trimmed();
+    const QString address = typedAddress.trimmed();
     if (name.isEmpty())
-        return {553, ManualField::Name};
+        return {kNameEmpty, ManualField::Name};
     if (address.isEmpty())
         return {491, ManualField::Address};
     if (!CheckIP(address) && GetIpByName(address).isEmpty())

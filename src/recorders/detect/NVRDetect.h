@@ -9,7 +9,7 @@
 
 inline constexpr int kRecorderNameLength = 31; // characters that a recorder's name field takes
 
-// A recorder to be detected.
+// A recorder to be detected. Blanks round name and address do not count; without a name it takes its address.
 struct NVRDetectItem
 {
     qint16 iSlot = -1; // target slot from 0; -1: the first free one at detection time
@@ -71,17 +71,18 @@ struct ManualFault
     int message = 0; // 0: nothing is wrong
     ManualField field = ManualField::Name;
 };
-// Resolves a host name, so it may wait (at most 10 seconds).
+// Blanks round name and address do not count. Resolves a host name, so it may wait (at most 10 seconds).
 ManualFault ValidateManualNVR(const QString& name, const QString& address, const QString& port);
 
 // Those names of `items` that another item or another occupied slot of the working generation has too, each once. An
 // item's own slot does not count.
 QStringList DoubleNames(const RecorderSet& recorders, const std::vector<NVRDetectItem>& items);
 
-// Logs in to a recorder, reads what it can do and its channels, and fills the slot or edit record. True on success; on
-// failure nothing is changed and the report's last message says why. The last report of a success is message 297, or
-// 833 for Modify. Waits on the device's replies (platform/Wait.h); ends early when Closing is set or
-// the operator stops it.
+// Logs in to a recorder, reads what it can do and its channels, and fills the slot or edit record. A recorder that is
+// read anew keeps what it does not mention, and so does each channel whose camera has the same address; one with
+// another camera starts fresh. True on success; on failure nothing is changed and the report's last message says why.
+// The last report of a success is message 297, or 833 for Modify. Waits on the device's replies (platform/Wait.h); ends
+// early when Closing is set or the operator stops it.
 bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report,
                DetectMode mode = DetectMode::Add);
 

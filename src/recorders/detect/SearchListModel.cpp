@@ -1,6 +1,7 @@
 #include "recorders/detect/SearchListModel.h"
 
 #include "app/language/Languages.h"
+#include "device/protocol/ReplyText.h"
 #include "support/Conversions.h"
 
 #include <algorithm>
@@ -32,6 +33,8 @@ void SearchListModel::add(const FoundDevice& device)
     const int row = rowCount();
     beginInsertRows({}, row, row);
     m_rows.push_back({device, inStation(device), false});
+    for (auto text : {&FoundDevice::Address, &FoundDevice::Brand, &FoundDevice::Model})
+        (m_rows.back().device.*text).truncate(kMaxDeviceText);
     QString& name = m_rows.back().device.Name;
     name = name.simplified().left(kRecorderNameLength).trimmed();
     if (name.isEmpty())

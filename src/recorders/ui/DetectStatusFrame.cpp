@@ -4,7 +4,6 @@
 #include "app/log/Module_Log.h"
 #include "look/tables/Tables.h"
 #include "platform/Wait.h"
-#include "recorders/camera/CameraEvents.h"
 #include "recorders/ui/HeldBack.h"
 #include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_DetectStatusFrame.h"
@@ -146,7 +145,5 @@ void DetectStatusFrame::detect(int row)
     if (!added)
         return;
     m_added.push_back(item.iSlot);
-    SVRRecord& record = At(m_context.recorders.SVRWorkList, item.iSlot);
-    TakeRecorderCameraEvents(m_context.com, record);
-    m_status->setChannels(row, CameraCount(record));
+    m_status->setChannels(row, CameraCount(At(m_context.recorders.SVRWorkList, item.iSlot)));
 }

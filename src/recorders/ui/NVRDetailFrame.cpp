@@ -228,13 +228,12 @@ void NVRDetailFrame::lbNVRDetect_Click()
                 showStep(GetLangString(status.message), status.percent);
             };
             detected = DetectNVR(m_context, item, report, DetectMode::Modify);
-            if (detected)
-                readCameraEvents();
         }
         emit busyChanged(false, false);
         if (detected) {
             m_detected = true;
             m_channels->setDetected(true);
+            m_channels->setCameraEvents(m_context.recorders.SVREdit.bSVR_N_EventSupport);
             m_fields.set(ItemOf(m_context.recorders.SVREdit));
             GridChannelList();
             showChannel(0);
@@ -299,14 +298,6 @@ void NVRDetailFrame::channelWritten(int channel)
     m_channels->refreshChannel(channel);
     showCounts();
     emit changesChanged();
-}
-
-// The recorder's own switches after a detection; where it cannot tell them the station's stay.
-void NVRDetailFrame::readCameraEvents()
-{
-    SVRRecord& record = m_context.recorders.SVREdit;
-    TakeRecorderCameraEvents(m_context.com, record);
-    m_channels->setCameraEvents(record.bSVR_N_EventSupport);
 }
 
 // Writes the switches that differ; the others stay as the recorder has them.

@@ -56,7 +56,6 @@ private:
     void prepareGrid();
     void clearChannel(int channel);
     bool writeCameraEvents();
-    void readCameraEvents();
     void hold(int words, const std::function<void()>& call);
     RecorderOutcome ask(int words, const std::function<RecorderOutcome()>& call);
     void showFacts();
