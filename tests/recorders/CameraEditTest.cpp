@@ -146,6 +146,32 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
     }
 }
 
+TEST_F(CameraPage, AnotherCameraBeginsAsAnEmptyChannel)
+{
+    for (const Family family : kFamilies) {
+        start(family);
+        SVRChannel& channel = recorders->SVREdit.channels[1];
+        channel.presets[0].sPresetName = u"Gate"_s;
+        channel.lSub_CH_IntelligentID = 5;
+        channel.bEventSet = channel.bSub_CH_Cam_MD_Enabled = true;
+        page->open(1);
+        const CameraEdit::Fields own = page->fields();
+        page->setFields(fieldsOf(101));
+        ASSERT_EQ(page->detect().message, 833);
+        page->setFields(own); // back to the one that the channel has, and away again
+        ASSERT_EQ(page->detect().message, 833);
+        EXPECT_TRUE(page->writeBack().ok);
+        EXPECT_EQ(channel.presets[0].sPresetName + QString::number(channel.lSub_CH_IntelligentID), u"Gate5"_s);
+        page->setFields(fieldsOf(101));
+        ASSERT_EQ(page->detect().message, 833);
+        EXPECT_TRUE(page->writeBack().ok);
+        EXPECT_EQ(channel.sSub_CH_IP, fieldsOf(101).address);
+        EXPECT_EQ(channel.iSub_Channel, 2);
+        EXPECT_EQ(channel.presets[0].sPresetName + QString::number(channel.lSub_CH_IntelligentID), u"-1"_s);
+        EXPECT_FALSE(channel.bEventSet || channel.bSub_CH_Cam_MD_Enabled);
+    }
+}
+
 TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
 {
     const QByteArray probe = "/system/detectcam.cgi";
@@ -401,7 +427,7 @@ TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
     EXPECT_EQ(camera.live.fps, 29);
     EXPECT_EQ(camera.lensMode, u"both"_s);
     EXPECT_EQ(camera.rightDisplayMode, u"normal"_s);
-    EXPECT_EQ(recorders->SVRProEdit.channels[11].streams[0].sResolution, u"320x240"_s);
+    EXPECT_NE(recorders->SVRProEdit.channels[11].streams[0].sResolution, u"320x240"_s) << "was never sent";
     EXPECT_EQ(recorders->SVRProEdit.channels[11].streams[2].iFrameRate, 29);
 
     // A size that allows less brings the rate down to what it allows; the other streams come within theirs.
@@ -412,7 +438,7 @@ TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
     EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
     EXPECT_EQ(entries(Control::FrameRate).last(), u"20"_s);
     EXPECT_TRUE(choose(Control::Format, u"jpeg"_s));
-    EXPECT_EQ(chosen(Control::Resolution), u"1280x720"_s);
+    EXPECT_EQ(chosen(Control::Resolution), u"640x480"_s) << "a size that the other format has stays";
 }
 
 TEST_F(CameraPage, SettingsOfANewerRecorderStayUnlessTheSizeForbidsThem)
@@ -450,6 +476,7 @@ TEST_F(CameraPage, FishEyeViewsComeFromTheProbe)
     EXPECT_EQ(entries(Control::FishEyeMode), (QStringList{u"Original"_s, u"Panorama"_s, u"Quad"_s}));
     EXPECT_EQ(chosen(Control::FishEyeMode), u"Panorama"_s);
     EXPECT_TRUE(choose(Control::FishEyeMode, u"Quad"_s));
+    EXPECT_EQ(chosen(Control::FishEyeMode), u"Panorama"_s) << "no recorder can be told";
 }
 
 TEST_F(CameraPage, StationHoldsNoMoreThanItsCameras)
@@ -489,12 +516,13 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
         {Family::Txr632, {FaultKind::Refuse, -3, "/cmd.cgi", CMD_SET_CHANNEL}, 608, true},
         {Family::Txr632, {FaultKind::Reset, 0, "/cmd.cgi", CMD_SET_CHANNEL}, 7, false},
         {Family::Txr632, {FaultKind::Refuse, -1, "/cmd.cgi", CMD_SAVE_CONFIG}, 722, false},
-        {Family::OmluPro, {FaultKind::Reset, 0, "/cmd.cgi", CMD_GET_CHANNELS}, 7, false},
-        {Family::OmluPro, {FaultKind::Body, 0, "/cmd.cgi", CMD_GET_CHANNELS, "<RESPONSE RET=\"-6\"/>"}, 608, true},
+        // The recorder has taken it and cannot be read afterwards: what was sent holds.
+        {Family::OmluPro, {FaultKind::Reset, 0, "/cmd.cgi", CMD_GET_CHANNELS}, 7, true},
+        {Family::OmluPro, {FaultKind::Body, 0, "/cmd.cgi", CMD_GET_CHANNELS, "<RESPONSE RET=\"-6\"/>"}, 7, true},
         {Family::OmluPro,
          {FaultKind::Body, 0, "/cmd.cgi", CMD_GET_CHANNELS,
           "<RESPONSE RET=\"0\"><CHList><CH ID=\"2\"><HTTPPort>x</HTTPPort></CH></CHList></RESPONSE>"},
-         608,
+         7,
          true},
     };
     std::optional<Family> running;
@@ -508,12 +536,13 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
         EXPECT_TRUE(choose(Control::Resolution, u"320x240"_s));
         fault(row.fault);
         const CameraEdit::Outcome outcome = page->writeBack();
-        EXPECT_FALSE(outcome.ok);
+        const bool taken = row.fault.cmd == CMD_GET_CHANNELS;
+        EXPECT_EQ(outcome.ok, taken);
         EXPECT_EQ(outcome.message, row.message) << row.fault.cmd;
         EXPECT_EQ(outcome.title, u"Notice"_s);
         EXPECT_EQ(log().count("Form_CameraSetting - cmbeditCam_Click") > before, row.logged) << row.fault.cmd;
-        EXPECT_EQ(recorders->SVREdit.channels[1].sSub_CH_Resolution, size);
-        EXPECT_FALSE(recorders->SVREdit.channels[1].bSub_CH_Modified);
+        EXPECT_EQ(recorders->SVREdit.channels[1].sSub_CH_Resolution, taken ? u"320x240"_s : size);
+        EXPECT_EQ(std::exchange(recorders->SVREdit.channels[1].bSub_CH_Modified, false), taken);
         EXPECT_EQ(entries(Control::Format).isEmpty(), row.family == Family::Svr); // emptied
     }
 

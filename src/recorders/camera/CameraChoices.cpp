@@ -133,13 +133,20 @@ void CameraEdit::CamDetailFill()
 void CameraEdit::fillFormat()
 {
     SVRChannel& svr = m_draft.svr;
+    const QString before = svr.sSub_CH_Resolution;
+    QStringList wanted;
     if (const int slot = format(); slot >= 0) {
+        const auto chosen = static_cast<std::size_t>(slot);
         svr.sSub_CH_VideoFormat = choice(Control::Format).text();
-        putState(m_draft.states[static_cast<std::size_t>(slot)]);
+        putState(m_draft.states[chosen]);
+        if (!m_seen[chosen]) // the size stays where the format has it
+            wanted += before;
+        m_seen[chosen] = true;
     }
     QString& present = svr.sSub_CH_Resolution;
     Choice& sizes = at(Control::Resolution);
-    setEntries(sizes, lists().resolutions(format()), {present});
+    wanted += present;
+    setEntries(sizes, lists().resolutions(format()), wanted);
     if (sizes.current >= 0)
         present = sizes.text();
     CameraDetailVauleAssign();
@@ -227,7 +234,7 @@ void CameraEdit::fillModes()
 void CameraEdit::choose(Control control, int entry)
 {
     Choice& chosen = at(control);
-    if (entry < 0 || entry >= chosen.entries.size() || entry == chosen.current)
+    if (control == Control::FishEyeMode || entry < 0 || entry >= chosen.entries.size() || entry == chosen.current)
         return;
     SVRChannel& svr = m_draft.svr;
     SVRProChannel& pro = m_draft.pro;
@@ -273,7 +280,6 @@ void CameraEdit::choose(Control control, int entry)
         pro.sCH_Pro_RightDisplayMode = text;
         break;
     case Control::FishEyeMode:
-        svr.sSub_CH_Mode4FishEye = text;
         break;
     }
     emit choicesChanged();

@@ -82,6 +82,8 @@ void CameraEdit::open(int channel)
     m_source = std::max<qint16>(m_draft.svr.iSub_CH_VideoID, 1);
     m_probeReply.clear();
     m_draft.states = lists().isPro() ? StatesOfStreams(m_draft.pro.streams) : FormatStates();
+    m_draft.told = m_draft.states;
+    m_seen = {};
     if (const int present = FormatIndex(m_draft.svr.sSub_CH_VideoFormat); present >= 0) {
         const auto slot = static_cast<std::size_t>(present);
         m_draft.states[slot] = presentState();
@@ -171,18 +173,25 @@ bool CameraEdit::sameCamera() const
            m_fields.port.trimmed() == m_detectedFields.port.trimmed();
 }
 
-// What an earlier camera has left would pass for what the asked one says.
+bool CameraEdit::storedCamera() const
+{
+    const SVRChannel& stored = editChannel();
+    return m_fields.address.trimmed() == stored.sSub_CH_IP &&
+           m_fields.port.trimmed().toInt() == stored.iSub_CH_HttpPort;
+}
+
+// What an earlier camera has left would pass for what the asked one says: another camera begins as an empty channel.
 CameraEdit::Draft CameraEdit::draftForDetection() const
 {
     Draft draft = m_draft;
+    if (!sameCamera()) {
+        draft = {};
+        draft.svr.iSub_CH_VideoID = 1;
+        if (storedCamera())
+            draft = {editChannel(), editProChannel(), {}, {}};
+        draft.svr.iSub_Channel = static_cast<qint16>(m_channel + 1);
+    }
     ForgetCamera(draft.svr, draft.pro);
-    if (sameCamera())
-        return draft;
-    draft.svr.iSub_CH_Brand = 0;
-    draft.svr.iSub_CH_VideoID = 1;
-    draft.pro.sCH_Pro_Model.clear();
-    draft.pro.sCH_Pro_Mac.clear();
-    draft.pro.lCH_Pro_RTPSPort = 0;
     return draft;
 }
 
@@ -230,6 +239,7 @@ CameraEdit::Outcome CameraEdit::ChannelDetectPro()
     draft.svr.sCH_ResolutionList =
         streams[0].sResolutionList + u';' + streams[1].sResolutionList + u';' + streams[2].sResolutionList;
     draft.states = StatesOfStreams(streams);
+    draft.told = draft.states;
     readFishEyeModes(draft.svr);
     return takeDetected(std::move(draft));
 }
@@ -248,6 +258,7 @@ CameraEdit::Outcome CameraEdit::takeDetected(Draft draft)
     m_changed = true;
     m_stale = false;
     m_source = std::max<qint16>(m_draft.svr.iSub_CH_VideoID, 1);
+    m_seen = {};
     CamDetailFill();
     return Outcome::Done(kDetectSuccess);
 }
@@ -336,6 +347,11 @@ CameraEdit::Outcome CameraEdit::writeBack()
     gather();
     Draft draft = m_draft;
     putFields(draft.svr);
+    for (int slot = 0; lists().isPro() && slot < kMaxStream; ++slot) { // one format is sent, the others stay
+        const auto other = static_cast<std::size_t>(slot);
+        if (slot != format())
+            PutState(draft.pro.streams, other, draft.told[other]);
+    }
     const Choice& rates = choice(Control::FrameRate);
     if (rates.shown) {
         draft.svr.sCH_FPS_Customer = rates.text();

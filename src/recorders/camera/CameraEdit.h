@@ -67,7 +67,8 @@ public:
     QString brand() const;                // CamBrandID: the number as text, empty when unknown
 
     const Choice& choice(Control control) const { return m_choices[static_cast<std::size_t>(control)]; }
-    // Selects an entry and refills what depends on it; an index outside the entries does nothing.
+    // Selects an entry and refills what depends on it; an index outside the entries does nothing. The fish-eye view is
+    // the camera's own and cannot be chosen.
     void choose(Control control, int index);
 
     bool detected() const { return m_detected; } // a detection has succeeded since the last change of the fields
@@ -77,7 +78,8 @@ public:
     Outcome detect();
     // lbCamModifyApply before its write: the station is full (716), a change needs a new detection (616).
     Outcome checkApply() const;
-    // cmbeditCam_Click after its question 611. Fields whose name and address are empty clear the channel.
+    // cmbeditCam_Click after its question 611. Fields whose name and address are empty clear the channel. Where the
+    // recorder has taken the channel and cannot be read afterwards, what was sent counts (and message 7 says so).
     Outcome writeBack();
     // The cameras that the recorder sees on its own network; none with a message when it cannot tell or sees none.
     std::vector<FoundCamera> searchCameras(Outcome& outcome);
@@ -91,7 +93,8 @@ private:
     {
         SVRChannel svr;
         SVRProChannel pro;
-        FormatStates states;
+        FormatStates states; // as the page leaves them
+        FormatStates told;   // as the recorder has them
     };
 
     CameraLists lists() const { return {m_draft.svr, m_draft.pro, IsProFamily(recorder().sSVR_DeviceType)}; }
@@ -108,6 +111,7 @@ private:
     Outcome ChannelDetectPro();
     bool sameCamera() const; // the lists are those of the address on the page
     Draft draftForDetection() const;
+    bool storedCamera() const; // the fields name the camera that the channel has
     void readFishEyeModes(SVRChannel& svr) const;
     Outcome takeDetected(Draft draft);
     Outcome refuse(Outcome outcome);
@@ -137,8 +141,9 @@ private:
     Fields m_detectedFields; // those that the lists belong to
     bool m_detected = false;
     bool m_changed = false;
-    bool m_stale = false; // the lists are empty or those of another source: only a detection helps
-    qint16 m_source = 0;  // video source that the lists belong to
-    QString m_probeReply; // older family: the answer that tells of the video sources
+    bool m_stale = false;                  // the lists are empty or those of another source: only a detection helps
+    qint16 m_source = 0;                   // video source that the lists belong to
+    QString m_probeReply;                  // older family: the answer that tells of the video sources
+    std::array<bool, kMaxStream> m_seen{}; // formats that were chosen on the page
     std::array<Choice, kControls> m_choices;
 };

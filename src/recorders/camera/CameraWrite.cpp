@@ -64,9 +64,17 @@ RecorderOutcome WriteProChannel(Form_COM& com, const DeviceAddress& recorder, SV
     if (!Accepted(SendCmdXml(com.web, recorder, BuildSaveConfig(kSaveChannels))))
         return RecorderOutcome::Failed(kSettingFault);
     const QString read = SendCmdXml(com.web, recorder, BuildGetChannels(true, static_cast<qint16>(channel + 1)));
-    if (read.isEmpty())
-        return RecorderOutcome::Failed(kConnectionError);
+    SVRChannel readBack = svr;
+    SVRProChannel readBackPro = pro;
     qint16 result = 0;
-    Trapped(kSource, [&] { result = ParseChannel(read, channel, svr, pro); });
-    return result == 1 ? RecorderOutcome::Done() : RefusedWrite(read);
+    Trapped(kSource, [&] { result = ParseChannel(read, channel, readBack, readBackPro); });
+    if (result != 1) {
+        LogTrap(kSource, u"Channel %1 was written and cannot be read back"_s.arg(channel + 1));
+        RecorderOutcome unread = RecorderOutcome::Failed(kConnectionError);
+        unread.ok = true;
+        return unread;
+    }
+    svr = std::move(readBack);
+    pro = std::move(readBackPro);
+    return RecorderOutcome::Done();
 }

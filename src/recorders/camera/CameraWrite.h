@@ -13,7 +13,7 @@ RecorderOutcome RefusedWrite(const QString& reply);
 RecorderOutcome WriteSvrChannel(Form_COM& com, const DeviceAddress& recorder, qint16 channel,
                                 const ChannelParameters& parameters);
 
-// Pro families: the whole channel, the save, and the channel as the recorder has it now into the pair. On failure the
-// pair may hold a part of the reply: give a copy.
+// Pro families: the whole channel, the save, and the channel as the recorder has it now into the pair. Where it cannot
+// be read back the pair stays as it is: the write is done all the same, with message 7.
 RecorderOutcome WriteProChannel(Form_COM& com, const DeviceAddress& recorder, SVRChannel& svr, SVRProChannel& pro,
                                 qint16 channel, const ChannelSettings& settings);
