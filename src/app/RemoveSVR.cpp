@@ -5,6 +5,8 @@
 #include "device/bridge/ModuleCGI.h"
 #include "support/Conversions.h"
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,12 +47,10 @@ void RemoveSVR(Station& station, Form_COM& com, int slot)
         SVRRecord& record = At(station.recorders.SVRWorkList, slot);
         if (record.bSVR_CEventSupport)
             SwitchOffCustomEvents(com.web, record);
-        ResetDetection(station.channelEvents, slot, record);
+        const auto held = std::make_unique<SVRRecord>(record);
         ClearRecorder(station.recorders, slot);
-        GrantNewRecorder(station.groups, slot);
         ClearChannels(station.recorders, slot);
-        NameChannelEvents(station.channelEvents, slot, record);
-        RemoveRecorderMaps(station.emap, slot);
+        station.events.removed.send(slot, *held);
         record.bSVR_Changed = true;
         SaveCheck(station);
         com.SetProToDeviceBridge(station.recorders.SVRList);

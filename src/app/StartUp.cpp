@@ -139,7 +139,7 @@ void FinishNewRecorders(Station& station)
     Trapped("Form_NVRSetting - lbNext_Click", [&] {
         for (int slot = 0; slot < kMaxSVR; ++slot) {
             if (At(station.recorders.SVRList, slot).sSVR_IP != At(station.recorders.SVRWorkList, slot).sSVR_IP)
-                GrantNewRecorder(station.groups, slot);
+                station.events.added.send(slot);
         }
         SaveNVRPrivilege(station.databases, station.groups,
                          [&](int slot) { return !At(station.recorders.SVRWorkList, slot).sSVR_Name.isEmpty(); });

@@ -24,5 +24,6 @@ void SettleCurrentGroup(Station& station);
 // After a run that saved something: the newest backup becomes the second one, and the database the newest.
 void RotateBackups();
 
-// The end of the wizard: a slot whose address is new gets every right for all groups, then everything marked is saved.
+// The end of the wizard: each slot whose address is new is told as added, so that it gets its rights, map and detection
+// settings; then everything marked is saved.
 void FinishNewRecorders(Station& station);

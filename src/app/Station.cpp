@@ -1,5 +1,6 @@
 #include "app/Station.h"
 
+#include "app/RecorderWiring.h"
 #include "app/log/Module_Log.h"
 #include "emap/EMapStore.h"
 #include "platform/Clock.h"
@@ -58,6 +59,7 @@ Station::Station()
     families.add(EMapGroupFamily(databases, emap));
     families.add(EMapIconFamily(databases, emap, recorders));
     families.add(UserFamily(databases, users, [] { return int(clsOSInfo().GetScreenCount()); }));
+    WireRecorderEvents(*this);
 }
 
 const GroupPrivilegeRecord& Station::currentGroup() const

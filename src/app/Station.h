@@ -2,6 +2,7 @@
 
 #include "emap/EMapSet.h"
 #include "events/ChannelEvents.h"
+#include "recorders/data/RecorderEvents.h"
 #include "recorders/data/RecorderSet.h"
 #include "store/BasicDefault.h"
 #include "store/Databases.h"
@@ -51,6 +52,7 @@ struct Station
     Databases databases;
     BasicDefaultSet basicDefault;
     RecorderSet recorders;
+    RecorderEvents events; // wired in RecorderWiring.h
     GroupSet groups;
     UserSet users;
     EMapSet emap;

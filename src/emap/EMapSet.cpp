@@ -85,6 +85,12 @@ void RenameRecorderMap(EMapSet& set, int slot, const QString& name)
     map->bChanged = true;
 }
 
+void RemoveCameraIcon(EMapSet& set, int slot, int channel)
+{
+    At(At(set.iconsEdit, slot).channels, channel) = EMapIcon();
+    At(set.iconsEdit, slot).bChanged = true;
+}
+
 void RemoveRecorderMaps(EMapSet& set, int slot)
 {
     const QString key = u'S' + QString::number(slot + 1);

@@ -42,5 +42,7 @@ bool AddRecorderMap(EMapSet& set, int slot, const QString& name);
 // The map follows the recorder's new name, and so do the cameras placed on it, which name their map. Without a map of
 // the slot nothing happens.
 void RenameRecorderMap(EMapSet& set, int slot, const QString& name);
+// A camera (channel from 0) is on no map any more.
+void RemoveCameraIcon(EMapSet& set, int slot, int channel);
 // The recorder's map and its sub-maps go, and its cameras are on no map. Ends with ReDimEMapGroup.
 void RemoveRecorderMaps(EMapSet& set, int slot);

@@ -90,14 +90,18 @@ qint16 SetEventInfo(Databases& databases, const ChannelEventSet& set, const Reco
     });
 }
 
+void ResetDetection(ChannelEventSet& set, int slot, int channel, const SVRChannel& held)
+{
+    IntelligentChannel& settings = At(At(set.edit, slot).channels, channel);
+    const bool changed = settings.bChanged || held.lSub_CH_IntelligentID > 0;
+    settings = IntelligentChannel();
+    settings.bChanged = changed;
+}
+
 void ResetDetection(ChannelEventSet& set, int slot, const SVRRecord& recorder)
 {
-    for (std::size_t channel = 0; channel < kMaxChannel; ++channel) {
-        IntelligentChannel& settings = At(set.edit, slot).channels[channel];
-        const bool changed = settings.bChanged || recorder.channels[channel].lSub_CH_IntelligentID > 0;
-        settings = IntelligentChannel();
-        settings.bChanged = changed;
-    }
+    for (int channel = 0; channel < kMaxChannel; ++channel)
+        ResetDetection(set, slot, channel, At(recorder.channels, channel));
 }
 
 void NameChannelEvents(ChannelEventSet& set, int slot, const SVRRecord& recorder)

@@ -27,6 +27,8 @@ qint16 SetEventInfo(Databases& databases, const ChannelEventSet& set, const Reco
 // The detection settings of every channel of a slot go back to their defaults. Those whose channel takes part in
 // analysis according to `recorder` are marked: their rows change with them.
 void ResetDetection(ChannelEventSet& set, int slot, const SVRRecord& recorder);
+// The same for one channel (from 0) by what it held.
+void ResetDetection(ChannelEventSet& set, int slot, int channel, const SVRChannel& held);
 // The event records of a slot: the camera's name where there is a camera, the defaults elsewhere.
 void NameChannelEvents(ChannelEventSet& set, int slot, const SVRRecord& recorder);
 

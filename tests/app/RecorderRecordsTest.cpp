@@ -1,6 +1,6 @@
-#include "app/AddedRecorder.h"
 #include "app/RemoveSVR.h"
 #include "app/StartUp.h"
+#include "device/bridge/Form_COM.h"
 #include "emap/EMapStore.h"
 #include "simulators/SimulatorThread.h"
 #include "support/Conversions.h"
@@ -42,7 +42,6 @@ protected:
             At(work.channels, channel).sSub_CH_IP = u"10.0.0.1"_s;
         }
         work.bSVR_Changed = true;
-        RecorderDetected(*desk, slot, work, DetectMode::Add);
         FinishNewRecorders(*desk);
     }
     QString rows(const QString& select)
@@ -271,6 +270,21 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     EXPECT_EQ(desk->channelEvents.events[0][2].sName, QString());
     EXPECT_EQ(desk->channelEvents.stored[0].channels[2].bMotionEnable, 0);
     EXPECT_FALSE(desk->families.ExitCheck());
+
+    // A channel that goes takes its detection settings and its place on the maps along.
+    SVRRecord& stays = desk->recorders.SVRWorkList[5];
+    for (int channel : {0, 1}) {
+        desk->emap.iconsEdit[5].channels[static_cast<std::size_t>(channel)].sParent = u"stays"_s;
+        const SVRChannel held = std::exchange(At(stays.channels, channel), SVRChannel());
+        if (channel == 0)
+            stays.channels[0].sSub_CH_IP = u"10.9.9.9"_s; // for another camera
+        desk->events.channelGone.send(5, channel, held);
+    }
+    EXPECT_EQ(desk->emap.iconsEdit[5].channels[0].sParent, u"stays"_s);
+    EXPECT_EQ(desk->emap.iconsEdit[5].channels[1].sParent, QString());
+    stays.bSVR_Changed = true;
+    SaveCheck(*desk);
+    EXPECT_EQ(rows(u"SELECT Channel FROM MotionSettings"_s), QString());
 
     // One that takes no custom events is not asked; one that is gone does not hold its removal up.
     RemoveSVR(*desk, com, 5);

@@ -36,7 +36,7 @@ protected:
             item.iPort = device.port();
         });
         const std::vector<NVRAccountRecord> accounts(1);
-        ASSERT_TRUE(DetectNVR({com, *recorders, accounts}, item, [](const DetectStatus&) {}));
+        ASSERT_TRUE(DetectNVR({com, *recorders, accounts, events}, item, [](const DetectStatus&) {}));
         recorders->SVREdit = recorders->SVRWorkList[0];
         recorders->SVRProEdit = recorders->SVRProWorkList[0];
         page = std::make_unique<CameraEdit>(com, *recorders);
@@ -98,6 +98,7 @@ protected:
     TemporaryStation station;
     Form_COM com;
     std::unique_ptr<RecorderSet> recorders;
+    RecorderEvents events;
     std::unique_ptr<simulators::SimulatorThread> site;
     std::unique_ptr<CameraEdit> page;
 

@@ -2,6 +2,7 @@
 
 #include "platform/MsgBox.h"
 #include "recorders/camera/ChannelListModel.h"
+#include "tests/TestMain.h"
 
 #include <QSortFilterProxyModel>
 #include <gtest/gtest.h>
@@ -26,11 +27,15 @@ protected:
         for (std::size_t c = 0; c < 2; ++c)
             work.channels[c].sSub_CH_IP = u"10.1.0.%1"_s.arg(c + 1);
         OpenEditPair(*set, 3);
-        hooks.RemoveSVR = [this](int slot) { called << u"remove %1"_s.arg(slot); };
-        hooks.recorderRenamed = [this](int slot, const QString& name) { called << u"renamed %1 "_s.arg(slot) + name; };
-        hooks.CheckPatternAfterSVRChange = [this] { called << u"patterns"_s; };
-        hooks.CheckDefaultStartAfterSVRChange = [this] { called << u"starts"_s; };
-        hooks.SaveCheck = [this] { called << u"save"_s; };
+        events.readAgain.subscribe([](int) { throw std::runtime_error("a subscriber that fails"); });
+        events.readAgain.subscribe([this](int slot) { called << u"read %1"_s.arg(slot); });
+        events.renamed.subscribe(
+            [this](int slot, const QString& name) { called << u"renamed %1 "_s.arg(slot) + name; });
+        events.channelChanged.subscribe(
+            [this](int slot, int channel) { called << u"changed %1 %2"_s.arg(slot).arg(channel); });
+        events.channelGone.subscribe([this](int slot, int channel, const SVRChannel& held) {
+            called << u"gone %1 %2 "_s.arg(slot).arg(channel) + held.sSub_CH_IP;
+        });
         SetMsgBoxHandler([this](const QString&, qint32, const QString&) { return answer; });
     }
     ~Applying() override { SetMsgBoxHandler(nullptr); }
@@ -39,18 +44,20 @@ protected:
     SVRRecord& edit() { return set->SVREdit; }
 
     std::unique_ptr<RecorderSet> set = std::make_unique<RecorderSet>();
-    ModifyHooks hooks;
+    RecorderEvents events;
+    TemporaryStation station; // for the log of the failing subscriber
     QStringList called;
     MsgResult answer = MsgResult::Yes;
 };
 
-TEST_F(Applying, TakesTheEditPairOverAndTellsOfARename)
+TEST_F(Applying, TakesTheEditPairOverAndTellsWhatFollows)
 {
+    edit().channels[0].sSub_CH_IP = u"10.1.0.9"_s;
     edit().channels[4].sSub_CH_IP = u"10.1.0.5"_s;
     edit().channels[4].bSub_CH_Modified = true;
     set->SVRProEdit.channels[4].sCH_Pro_Model = u"M"_s;
-    ASSERT_TRUE(ModifyApply(*set, 3, u"Yard"_s, hooks));
-    EXPECT_EQ(called, QStringList({u"patterns"_s, u"starts"_s}));
+    ASSERT_EQ(ModifyApply(*set, 3, u"Yard"_s, events), Modified::Applied);
+    EXPECT_EQ(called, QStringList({u"gone 3 0 10.1.0.1"_s, u"read 3"_s}));
     EXPECT_EQ(CameraCount(work()), 3);
     EXPECT_EQ(work().iSVR_ValidCH, 3);
     EXPECT_TRUE(work().bSVR_Changed);
@@ -59,46 +66,52 @@ TEST_F(Applying, TakesTheEditPairOverAndTellsOfARename)
     EXPECT_EQ(set->SVRProWorkList[3].channels[4].sCH_Pro_Model, u"M"_s);
 
     called.clear();
-    ASSERT_TRUE(ModifyApply(*set, 3, u"Depot"_s, hooks));
-    EXPECT_EQ(called, QStringList({u"renamed 3 Depot"_s, u"patterns"_s, u"starts"_s}));
+    ASSERT_EQ(ModifyApply(*set, 3, u"Depot"_s, events), Modified::Applied);
+    EXPECT_EQ(called, QStringList({u"read 3"_s, u"renamed 3 Depot"_s}));
     EXPECT_EQ(work().sSVR_Name, u"Depot"_s);
     EXPECT_TRUE(work().bSVR_ConnChanged);
-    EXPECT_TRUE(ModifyApply(*set, 3, u"Yard"_s, {})) << "hooks may be missing";
 }
 
-TEST_F(Applying, RecorderWithoutCamerasIsRemovedOrKeptButNeverSavedEmpty)
+TEST_F(Applying, RecorderWithoutCamerasIsRemovedOrStaysOpen)
 {
     edit().channels = SVRRecord().channels;
     edit().channels[8].sSub_CH_IP = u"10.1.0.9"_s; // beyond the recorder's channels
     answer = MsgResult::No;
-    EXPECT_FALSE(ModifyApply(*set, 3, u"Depot"_s, hooks));
-    EXPECT_EQ(called, QStringList());
+    EXPECT_EQ(ModifyApply(*set, 3, u"Depot"_s, events), Modified::Kept);
     EXPECT_EQ(work().sSVR_Name, u"Yard"_s);
     EXPECT_EQ(CameraCount(work()), 2);
-    EXPECT_FALSE(TakeOverWritten(*set, 3));
-    LeaveUnapplied(*set, 3, hooks);
+    EXPECT_EQ(LeaveUnapplied(*set, 3), Modified::Nothing);
     EXPECT_EQ(called, QStringList());
+    // The last cameras were cleared on the device: Cancel does not bring them back.
+    for (const int channel : {0, 1})
+        ASSERT_TRUE(TakeOverWritten(*set, 3, channel, events));
+    EXPECT_EQ(called, QStringList({u"gone 3 0 10.1.0.1"_s, u"gone 3 1 10.1.0.2"_s}));
+    EXPECT_EQ(LeaveUnapplied(*set, 3), Modified::Kept);
     answer = MsgResult::Yes;
-    EXPECT_TRUE(ModifyApply(*set, 3, u"Depot"_s, hooks));
-    EXPECT_EQ(called, QStringList({u"remove 3"_s}));
+    EXPECT_EQ(LeaveUnapplied(*set, 3), Modified::Remove);
+    EXPECT_EQ(ModifyApply(*set, 3, u"Depot"_s, events), Modified::Remove);
 }
 
-TEST_F(Applying, WrittenChannelsFollowAtOnceButNotTheLoginOrAnotherDevice)
+TEST_F(Applying, TheWrittenChannelFollowsAtOnceAndNothingElse)
 {
     edit().sSVR_Name = u"Depot"_s;
     edit().sSVR_UserName = u"operator"_s;
-    edit().channels[1].sSub_CH_IP.clear();
-    ASSERT_TRUE(TakeOverWritten(*set, 3));
-    EXPECT_EQ(work().sSVR_Name, u"Yard"_s);
-    EXPECT_EQ(work().sSVR_UserName, u"admin"_s);
-    EXPECT_EQ(CameraCount(work()), 1);
-    LeaveUnapplied(*set, 3, hooks);
-    EXPECT_EQ(called, QStringList({u"patterns"_s, u"starts"_s, u"save"_s}));
+    edit().channels[0].sSub_CH_Name = edit().channels[1].sSub_CH_Name = u"detected anew"_s;
+    edit().channels[0].bSub_CH_Cam_MD_Enabled = true;
+    ASSERT_TRUE(TakeOverWritten(*set, 3, 1, events));
+    EXPECT_EQ(work().sSVR_Name + work().sSVR_UserName, u"Yardadmin"_s);
+    EXPECT_EQ(work().channels[0].sSub_CH_Name, QString());
+    EXPECT_EQ(work().channels[1].sSub_CH_Name, u"detected anew"_s);
+    EXPECT_EQ(called, QStringList(u"changed 3 1"_s));
+    EXPECT_EQ(LeaveUnapplied(*set, 3), Modified::Applied);
+    ASSERT_TRUE(TakeOverSwitches(*set, 3));
+    EXPECT_TRUE(work().channels[0].bSub_CH_Cam_MD_Enabled);
+    EXPECT_EQ(work().channels[0].sSub_CH_Name, QString());
 
     edit().iSVR_HttpPort = 8080; // detected anew elsewhere
-    edit().channels[1].sSub_CH_IP = u"10.1.0.2"_s;
-    EXPECT_FALSE(TakeOverWritten(*set, 3));
-    EXPECT_EQ(CameraCount(work()), 1);
+    edit().channels[1].sSub_CH_IP.clear();
+    EXPECT_FALSE(TakeOverWritten(*set, 3, 1, events) || TakeOverSwitches(*set, 3));
+    EXPECT_EQ(CameraCount(work()), 2);
 }
 
 TEST_F(Applying, ChannelListSortsAddressesByNumberAndCountsSwitchesOverTheStation)

@@ -81,7 +81,8 @@ protected:
                 item.sIP = running.device(slot).address().toString();
                 item.iPort = running.device(slot).port();
             });
-            ASSERT_TRUE(DetectNVR({com, recorders(), station->accounts}, item, [](const DetectStatus&) {}));
+            ASSERT_TRUE(
+                DetectNVR({com, recorders(), station->accounts, station->events}, item, [](const DetectStatus&) {}));
         }
         SaveCheck(*station);
         desk->resize(1280, 800);

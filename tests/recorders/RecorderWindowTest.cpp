@@ -96,6 +96,7 @@ protected:
     std::unique_ptr<RecorderSet> recorders = std::make_unique<RecorderSet>();
     std::vector<NVRAccountRecord> accounts{{0, u"admin"_s, u"admin"_s}};
     Form_COM com;
+    RecorderEvents events;
     TemporaryStation station;
     QStringList boxes;
     QList<MsgResult> answers;
@@ -224,7 +225,8 @@ protected:
     // What the wizard's rows say at its end.
     QStringList run()
     {
-        Form_NVRSetting wizard({com, *recorders, accounts}, {[this] { ++finished; }, [this] { ++discarded; }}, nullptr);
+        Form_NVRSetting wizard({com, *recorders, accounts, events}, {[this] { ++finished; }, [this] { ++discarded; }},
+                               nullptr);
         QStringList rows;
         QObject::connect(&wizard, &QDialog::finished, &wizard, [&] {
             auto* grid = wizard.findChild<QTableView*>(u"Grid_DetectStatus"_s);

@@ -205,7 +205,7 @@ void Visitor::recorder()
     if (!DetectNVR(context, item, [](const DetectStatus&) {}))
         throw std::runtime_error("the simulated recorder is not detected");
     Form_NVRSetting dialog(context, {}, &m_desk);
-    dialog.SetNVR(kAnswering, {});
+    dialog.SetNVR(kAnswering, {}, {});
     show(u"recorder-3"_s, dialog);
     show(u"recorder-4"_s, dialog, [] { ClickCell(u"Grid_ChannelList"_s, kFishEye, ChannelListModel::Edit); });
     show(u"recorder-4-detected"_s, dialog, [] { Driver::click(u"lbCamDetect"_s); });

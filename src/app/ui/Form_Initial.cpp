@@ -1,6 +1,5 @@
 #include "app/ui/Form_Initial.h"
 
-#include "app/AddedRecorder.h"
 #include "app/RemoveSVR.h"
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
@@ -352,17 +351,13 @@ void Form_Initial::Timer_PrivilegeCheck()
 
 DetectContext Form_Initial::detectContext()
 {
-    DetectContext context{m_com, m_station.recorders, m_station.accounts};
-    context.filled = [this](int slot, const SVRRecord& record, DetectMode mode) {
-        RecorderDetected(m_station, slot, record, mode);
-    };
-    return context;
+    return {m_com, m_station.recorders, m_station.accounts, m_station.events};
 }
 
 void Form_Initial::showWizard()
 {
-    Form_NVRSetting wizard(detectContext(), {[this] { finishNewRecorders(); }, [this] { DropNewRecorders(m_station); }},
-                           this);
+    Form_NVRSetting wizard(detectContext(),
+                           {[this] { finishNewRecorders(); }, [this] { DropNewRecorders(m_station.recorders); }}, this);
     wizard.exec();
     m_nvrPage->Grid_SVR_Set_withDB();
     updateHeader();
@@ -370,17 +365,12 @@ void Form_Initial::showWizard()
 
 void Form_Initial::showRecorder(int slot, bool rename)
 {
-    ModifyHooks hooks;
-    hooks.RemoveSVR = [this](int removed) { RemoveSVR(m_station, m_com, removed); };
-    hooks.recorderRenamed = [this](int renamed, const QString& name) {
-        RenameRecorderMap(m_station.emap, renamed, name);
-    };
-    hooks.SaveCheck = [this] {
+    const auto save = [this] {
         SaveCheck(m_station);
         m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
     };
     Form_NVRSetting form(detectContext(), {}, this);
-    form.SetNVR(slot, hooks);
+    form.SetNVR(slot, save, [this](int removed) { RemoveSVR(m_station, m_com, removed); });
     if (rename)
         form.editName();
     form.exec();

@@ -52,6 +52,16 @@ QString ChannelLabel(const RecorderSet& set, int slot, int channel)
     return recorder.sSVR_Name + u": "_s + (camera.isEmpty() ? QString::number(channel + 1) : camera);
 }
 
+void DropNewRecorders(RecorderSet& recorders)
+{
+    for (int slot = 0; slot < kMaxSVR; ++slot) {
+        if (!At(recorders.SVRList, slot).sSVR_IP.isEmpty())
+            continue;
+        At(recorders.SVRWorkList, slot) = SVRRecord();
+        At(recorders.SVRProWorkList, slot) = SVRProRecord();
+    }
+}
+
 void ClearChannel(SVRRecord& record, SVRProRecord& pro, int channel)
 {
     At(record.channels, channel) = SVRChannel();

@@ -39,6 +39,9 @@ void ForEachChannel(Work&& work)
     }
 }
 
+// Frees every slot of the working generation that is free in the stored one.
+void DropNewRecorders(RecorderSet& recorders);
+
 // Puts an empty channel (index from 0) in its place.
 void ClearChannel(SVRRecord& record, SVRProRecord& pro, int channel);
 

@@ -1,9 +1,12 @@
 #include "recorders/detect/ModifyApply.h"
 
 #include "app/shell/Boxes.h"
+#include "platform/Wait.h"
 #include "support/Conversions.h"
 
 #include <algorithm>
+#include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -23,13 +26,6 @@ enum Message
     kNotice = 965
 };
 
-template <class Hook, class... Arguments>
-void Call(const Hook& hook, Arguments&&... arguments)
-{
-    if (hook)
-        hook(std::forward<Arguments>(arguments)...);
-}
-
 bool HasCamera(const SVRRecord& record)
 {
     const int channels = std::clamp(static_cast<int>(record.iSVR_Maxchannel), 0, kMaxChannel);
@@ -37,10 +33,18 @@ bool HasCamera(const SVRRecord& record)
                        [](const SVRChannel& channel) { return !channel.sSub_CH_IP.isEmpty(); });
 }
 
-void CheckScreens(const ModifyHooks& hooks)
+bool SameDevice(const SVRRecord& edit, const SVRRecord& work)
 {
-    Call(hooks.CheckPatternAfterSVRChange);
-    Call(hooks.CheckDefaultStartAfterSVRChange);
+    return edit.sSVR_IP == work.sSVR_IP && edit.iSVR_HttpPort == work.iSVR_HttpPort;
+}
+
+// Box 721, and 720 when the answer is No.
+Modified OfferRemoval(const SVRRecord& recorder)
+{
+    if (AskToDestroy(kAskRemove, recorder.sSVR_Name, kDelete))
+        return Modified::Remove;
+    Tell(Tone::Information, kKeptWithoutChannels, kNotice);
+    return Modified::Kept;
 }
 
 } // namespace
@@ -52,57 +56,69 @@ void OpenEditPair(RecorderSet& recorders, int slot)
     ForgetModified(recorders.SVREdit);
 }
 
-bool ModifyApply(RecorderSet& recorders, int slot, const QString& name, const ModifyHooks& hooks)
+Modified ModifyApply(RecorderSet& recorders, int slot, const QString& name, const RecorderEvents& events)
 {
     SVRRecord& edit = recorders.SVREdit;
     SVRRecord& work = At(recorders.SVRWorkList, slot);
-    if (!HasCamera(edit)) {
-        if (!AskToDestroy(kAskRemove, work.sSVR_Name, kDelete)) {
-            Tell(Tone::Information, kKeptWithoutChannels, kNotice);
-            return false;
-        }
-        Call(hooks.RemoveSVR, slot);
-        return true;
-    }
-    const bool renamed = name != work.sSVR_Name;
+    if (!HasCamera(edit))
+        return OfferRemoval(work);
+    const auto before = std::make_unique<SVRRecord>(work);
     edit.sSVR_Name = name;
     edit.iSVR_ValidCH = static_cast<qint16>(CameraCount(edit));
     ForgetModified(edit);
     edit.bSVR_Changed = true;
-    if (renamed) {
-        edit.bSVR_ConnChanged = true;
-        Call(hooks.recorderRenamed, slot, name);
-    }
+    const bool renamed = name != before->sSVR_Name;
+    edit.bSVR_ConnChanged = edit.bSVR_ConnChanged || renamed;
     work = edit;
     At(recorders.SVRProWorkList, slot) = recorders.SVRProEdit;
-    CheckScreens(hooks);
-    return true;
+    for (int channel = 0; channel < kMaxChannel; ++channel) {
+        const SVRChannel& held = At(before->channels, channel);
+        if (!held.sSub_CH_IP.isEmpty() && held.sSub_CH_IP != At(work.channels, channel).sSub_CH_IP)
+            events.channelGone.send(slot, channel, held);
+    }
+    events.readAgain.send(slot);
+    if (renamed)
+        events.renamed.send(slot, name);
+    return Modified::Applied;
 }
 
-bool TakeOverWritten(RecorderSet& recorders, int slot)
+bool TakeOverWritten(RecorderSet& recorders, int slot, int channel, const RecorderEvents& events)
 {
     const SVRRecord& edit = recorders.SVREdit;
     SVRRecord& work = At(recorders.SVRWorkList, slot);
-    if (edit.sSVR_IP != work.sSVR_IP || edit.iSVR_HttpPort != work.iSVR_HttpPort || !HasCamera(edit))
+    if (!SameDevice(edit, work))
         return false;
-    const QString name = work.sSVR_Name;
-    const QString user = work.sSVR_UserName;
-    const QString password = work.sSVR_Password;
-    work = edit;
-    work.sSVR_Name = name;
-    work.sSVR_UserName = user;
-    work.sSVR_Password = password;
-    work.iSVR_ValidCH = static_cast<qint16>(CameraCount(edit));
-    ForgetModified(work);
+    const SVRChannel before = std::exchange(At(work.channels, channel), At(edit.channels, channel));
+    SVRChannel& now = At(work.channels, channel);
+    now.bSub_CH_Modified = false;
+    At(At(recorders.SVRProWorkList, slot).channels, channel) = At(recorders.SVRProEdit.channels, channel);
+    work.iSVR_Maxchannel = std::max(work.iSVR_Maxchannel, static_cast<qint16>(channel + 1));
+    work.iSVR_ValidCH = static_cast<qint16>(CameraCount(work));
     work.bSVR_Changed = true;
-    At(recorders.SVRProWorkList, slot) = recorders.SVRProEdit;
+    if (!before.sSub_CH_IP.isEmpty() && before.sSub_CH_IP != now.sSub_CH_IP)
+        events.channelGone.send(slot, channel, before);
+    if (!now.sSub_CH_IP.isEmpty())
+        events.channelChanged.send(slot, channel);
     return true;
 }
 
-void LeaveUnapplied(const RecorderSet& recorders, int slot, const ModifyHooks& hooks)
+bool TakeOverSwitches(RecorderSet& recorders, int slot)
 {
-    if (!At(recorders.SVRWorkList, slot).bSVR_Changed)
-        return;
-    CheckScreens(hooks);
-    Call(hooks.SaveCheck);
+    SVRRecord& work = At(recorders.SVRWorkList, slot);
+    if (!SameDevice(recorders.SVREdit, work))
+        return false;
+    for (std::size_t channel = 0; channel < kMaxChannel; ++channel) {
+        if (recorders.SVREdit.channels[channel].sSub_CH_IP == work.channels[channel].sSub_CH_IP)
+            work.channels[channel].bSub_CH_Cam_MD_Enabled = recorders.SVREdit.channels[channel].bSub_CH_Cam_MD_Enabled;
+    }
+    work.bSVR_Changed = true;
+    return true;
+}
+
+Modified LeaveUnapplied(const RecorderSet& recorders, int slot)
+{
+    const SVRRecord& work = At(recorders.SVRWorkList, slot);
+    if (!work.bSVR_Changed || Closing())
+        return Modified::Nothing;
+    return HasCamera(work) ? Modified::Applied : OfferRemoval(work);
 }

@@ -1,33 +1,31 @@
 #pragma once
 
+#include "recorders/data/RecorderEvents.h"
 #include "recorders/data/RecorderSet.h"
-
-#include <functional>
-
-// What a change of a stored recorder touches beyond its own record. A hook that is not set is passed over.
-struct ModifyHooks
-{
-    std::function<void(int slot)> RemoveSVR; // takes the recorder out of the station and saves
-    std::function<void(int slot, const QString& name)> recorderRenamed; // its maps follow the new name
-    std::function<void()> CheckPatternAfterSVRChange;
-    std::function<void()> CheckDefaultStartAfterSVRChange;
-    std::function<void()> SaveCheck; // writes everything that is marked
-};
 
 // Makes the edit pair a copy of a working slot (from 0), with no channel edited yet.
 void OpenEditPair(RecorderSet& recorders, int slot);
 
+// What the page of a recorder leads to. Saving and removing are the caller's.
+enum class Modified
+{
+    Kept,    // the page stays: nothing was taken over
+    Nothing, // the page may go, there is nothing to save
+    Applied, // the page may go, its slot is marked for saving
+    Remove   // the operator wants the recorder removed
+};
+
 // Takes the edit pair, under the given name, over into its working slot and marks it for saving. A recorder that has no
-// camera left is offered for removal (boxes 721 and 720). False: it was kept, and nothing was taken over. Saving is the
-// caller's.
-bool ModifyApply(RecorderSet& recorders, int slot, const QString& name, const ModifyHooks& hooks);
+// camera left is offered for removal (boxes 721 and 720).
+Modified ModifyApply(RecorderSet& recorders, int slot, const QString& name, const RecorderEvents& events);
 
-// The device has taken a change of a channel: no Cancel calls that back, so the working slot follows at once and is
-// marked for saving. Name and login stay as they were: those are applied, not written to the device. Nothing happens
-// when the edit pair has come to describe another device, or has no camera left (a recorder without one vanishes from
-// the table, and that is asked first). True when the slot has followed.
-bool TakeOverWritten(RecorderSet& recorders, int slot);
+// The device has taken a change of a channel (from 0): no Cancel calls that back, so this channel of the working slot
+// follows at once and is marked for saving. Nothing else of the edit pair does, and nothing happens when the pair has
+// come to describe another device. True when the channel has followed.
+bool TakeOverWritten(RecorderSet& recorders, int slot, int channel, const RecorderEvents& events);
+// The same for the switches of the cameras' own events, of all channels.
+bool TakeOverSwitches(RecorderSet& recorders, int slot);
 
-// The page of a recorder is left without Apply: what TakeOverWritten has marked is checked against patterns and default
-// starts and saved.
-void LeaveUnapplied(const RecorderSet& recorders, int slot, const ModifyHooks& hooks);
+// The page of a recorder is left without Apply: whether what was written to the device must be saved. A recorder whose
+// last camera was cleared is offered for removal as above: one without a camera vanishes from the table.
+Modified LeaveUnapplied(const RecorderSet& recorders, int slot);

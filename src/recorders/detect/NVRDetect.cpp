@@ -360,8 +360,6 @@ private:
             At(m_context.recorders.SVRWorkList, m_slot) = *m_svr;
             At(m_context.recorders.SVRProWorkList, m_slot) = *m_pro;
         }
-        if (m_context.filled)
-            m_context.filled(m_slot, *m_svr, m_modify ? DetectMode::Modify : DetectMode::Add);
     }
 
     const DetectContext& m_context;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "device/bridge/Form_COM.h"
+#include "recorders/data/RecorderEvents.h"
 #include "recorders/data/RecorderSet.h"
 #include "store/records/UserRecords.h"
 
@@ -51,9 +52,8 @@ struct DetectContext
     Form_COM& com;
     RecorderSet& recorders;
     const std::vector<NVRAccountRecord>& accounts; // tried in order when no login is given; never empty
+    const RecorderEvents& events;                  // told what the pages do to recorders
     std::function<bool()> stopped = {};            // the operator wants no more: the run ends at its next step
-    // A recorder was read into its slot (from 0) or into the edit record: what else the station keeps of it follows.
-    std::function<void(int slot, const SVRRecord& record, DetectMode mode)> filled = {};
 };
 
 enum class ManualField

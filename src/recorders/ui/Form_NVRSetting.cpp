@@ -144,9 +144,10 @@ void Form_NVRSetting::showSteps()
     steps()->setCurrent(!withSearch && m_frame == kFrameStatus ? 1 : m_frame);
 }
 
-void Form_NVRSetting::SetNVR(int slot, ModifyHooks hooks)
+void Form_NVRSetting::SetNVR(int slot, std::function<void()> save, std::function<void(int slot)> remove)
 {
-    m_hooks = std::move(hooks);
+    m_save = std::move(save);
+    m_remove = std::move(remove);
     m_detail = new NVRDetailFrame(m_context, m_ui->frames);
     m_ui->frames->addWidget(m_detail);
     m_camera = new CameraFrame(m_context.com, m_context.recorders, m_ui->frames);
@@ -283,14 +284,19 @@ void Form_NVRSetting::lbModifyApply_Click(int index)
     if (m_busy)
         return;
     Trapped("Form_NVRSetting - lbModifyApply_Click", [&] {
-        if (index != 0) {
-            LeaveUnapplied(m_context.recorders, m_detail->slot(), m_hooks);
-            DialogFrame::reject();
-        } else if (m_detail->apply(m_hooks)) {
-            if (m_hooks.SaveCheck)
-                m_hooks.SaveCheck();
-            accept();
+        switch (index == 0 ? m_detail->apply() : LeaveUnapplied(m_context.recorders, m_detail->slot())) {
+        case Modified::Kept:
+            return;
+        case Modified::Nothing:
+            break;
+        case Modified::Applied:
+            m_save();
+            break;
+        case Modified::Remove:
+            m_detail->remove(m_remove);
+            break;
         }
+        index == 0 ? accept() : DialogFrame::reject();
     });
 }
 

@@ -36,8 +36,9 @@ public:
     Form_NVRSetting(DetectContext context, WizardHooks wizard, QWidget* parent);
     ~Form_NVRSetting() override;
 
-    // Opens a stored recorder (working slot from 0) on frame 3, in place of the wizard.
-    void SetNVR(int slot, ModifyHooks hooks);
+    // Opens a stored recorder (working slot from 0) on frame 3, in place of the wizard. `save` writes every marked
+    // record, `remove` takes the recorder of a slot out of the station and saves.
+    void SetNVR(int slot, std::function<void()> save, std::function<void(int slot)> remove);
     // The keyboard goes to the recorder's name, ready to be typed anew.
     void editName();
     void LoadFrame(int index); // hides all frames, shows this one
@@ -88,7 +89,8 @@ private:
     NVRDetailFrame* m_detail = nullptr; // only with a stored recorder, as the frames behind it
     CameraFrame* m_camera = nullptr;
     CameraSearchFrame* m_camSearch = nullptr;
-    ModifyHooks m_hooks;
+    std::function<void()> m_save;
+    std::function<void(int slot)> m_remove;
     int m_frame = 0;
     bool m_busy = false;
 };

@@ -294,7 +294,7 @@ void NVRDetailFrame::clearChannel(int channel)
 
 void NVRDetailFrame::channelWritten(int channel)
 {
-    TakeOverWritten(m_context.recorders, m_slot);
+    TakeOverWritten(m_context.recorders, m_slot, channel, m_context.events);
     m_channels->refreshChannel(channel);
     showCounts();
     emit changesChanged();
@@ -318,7 +318,7 @@ bool NVRDetailFrame::writeCameraEvents()
             bit = !on ? qint16(0) : bit != 0 ? bit : switchedOn;
         }
         outcome = WriteRecorderCameraEvents(m_context.com, record, bits);
-        TakeOverWritten(m_context.recorders, m_slot);
+        TakeOverSwitches(m_context.recorders, m_slot);
         return outcome;
     });
     m_channels->setCameraEvents(record.bSVR_N_EventSupport);
@@ -340,13 +340,13 @@ ManualFault NVRDetailFrame::differing() const
     return {};
 }
 
-bool NVRDetailFrame::apply(const ModifyHooks& hooks)
+Modified NVRDetailFrame::apply()
 {
     const QString name = m_fields.item().sName;
     const ManualFault fault = name.isEmpty() ? ManualFault{553, ManualField::Name} : differing();
     if (fault.message != 0) {
         m_fields.tell(fault);
-        return false;
+        return Modified::Kept;
     }
     NVRDetectItem renamed;
     renamed.iSlot = static_cast<qint16>(m_slot);
@@ -354,14 +354,14 @@ bool NVRDetailFrame::apply(const ModifyHooks& hooks)
     if (name != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name &&
         !NamesSettled(m_context.recorders, {renamed})) {
         editName();
-        return false;
+        return Modified::Kept;
     }
     if (!writeCameraEvents())
-        return false;
-    ModifyHooks held = hooks; // a removal tells the recorder
-    held.RemoveSVR = [&](int slot) {
-        if (hooks.RemoveSVR)
-            hold(kWriting, [&] { hooks.RemoveSVR(slot); });
-    };
-    return ModifyApply(m_context.recorders, m_slot, name, held);
+        return Modified::Kept;
+    return ModifyApply(m_context.recorders, m_slot, name, m_context.events);
+}
+
+void NVRDetailFrame::remove(const std::function<void(int slot)>& remove)
+{
+    hold(kWriting, [&] { remove(m_slot); });
 }

@@ -33,7 +33,9 @@ public:
     void takeFocus(); // to the list
     void editName();  // to the name
     // Takes everything over into the station, see ModifyApply; false: something is missing or was declined.
-    bool apply(const ModifyHooks& hooks);
+    Modified apply();
+    // Takes the recorder out of the station by `remove`, which may wait for it.
+    void remove(const std::function<void(int slot)>& remove);
     bool changed() const; // something would be lost without apply
     // Whether another address or login is typed than the edit pair's: then Detect is what Return presses.
     bool needsDetection() const { return differing().message != 0; }
