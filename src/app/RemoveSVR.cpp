@@ -3,6 +3,7 @@
 #include "app/log/Module_Log.h"
 #include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
+#include "recorders/detect/RecorderCall.h"
 #include "support/Conversions.h"
 
 #include <memory>
@@ -11,13 +12,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void SwitchOffCustomEvents(WebBridge& web, const SVRRecord& record)
+QString CustomEventsOff()
 {
     QString params;
     for (int channel = 1; channel <= kMaxChannel; ++channel)
         params += u"&customevent_c%1=0"_s.arg(channel);
-    CgiSetBasicEvent(web, {record.sSVR_IP, record.iSVR_HttpPort, record.sSVR_UserName, record.sSVR_Password}, params,
-                     kCgiSynchronous);
+    return params;
 }
 
 // What concerns the recorder as a whole. Its channels follow by themselves.
@@ -41,12 +41,12 @@ void ClearChannels(RecorderSet& recorders, int slot)
 
 } // namespace
 
-void RemoveSVR(Station& station, Form_COM& com, int slot)
+QCoro::Task<> RemoveSVR(Station& station, Form_COM& com, int slot, Work& work)
 {
+    if (slot >= 0 && slot < kMaxSVR && station.recorders.SVRWorkList[static_cast<std::size_t>(slot)].bSVR_CEventSupport)
+        co_await CgiSetBasicEvent(com.web, AddressOf(At(station.recorders.SVRWorkList, slot)), CustomEventsOff(), work);
     Trapped("Form_Initial - RemoveSVR", [&] {
         SVRRecord& record = At(station.recorders.SVRWorkList, slot);
-        if (record.bSVR_CEventSupport)
-            SwitchOffCustomEvents(com.web, record);
         const auto held = std::make_unique<SVRRecord>(record);
         ClearRecorder(station.recorders, slot);
         ClearChannels(station.recorders, slot);

@@ -23,12 +23,13 @@ Work::Work(QObject* parent)
 
 Work::~Work()
 {
+    m_leaving = true;
     blockSignals(true);
     stop();
     std::erase(AllWork(), this);
 }
 
-bool Work::start(Body body)
+bool Work::start(Body body, std::function<void()> after)
 {
     if (m_running || Closing())
         return false;
@@ -37,25 +38,23 @@ bool Work::start(Body body)
     m_step.clear();
     m_percent = -1;
     emit runningChanged(true);
-    drive(this, std::move(body));
+    drive(this, std::move(body), std::move(after));
     return true;
 }
 
-QCoro::Task<> Work::drive(QPointer<Work> work, Body body)
+QCoro::Task<> Work::drive(QPointer<Work> work, Body body, std::function<void()> after)
 {
     try {
         QCoro::Task<> task = body();
         co_await task;
     } catch (...) { // NOLINT: the end must come; whoever starts a work traps
     }
-    if (work)
-        work->end();
-}
-
-void Work::end()
-{
-    m_running = false;
-    emit runningChanged(false);
+    if (!work)
+        co_return;
+    work->m_running = false;
+    emit work->runningChanged(false);
+    if (work && !work->m_leaving && after)
+        after();
 }
 
 void Work::stop()
@@ -91,6 +90,11 @@ void StopAllWork()
         if (std::find(AllWork().begin(), AllWork().end(), work) != AllWork().end())
             work->stop();
     }
+}
+
+bool AnyWorkRunning()
+{
+    return std::any_of(AllWork().begin(), AllWork().end(), [](const Work* work) { return work->running(); });
 }
 
 WorkAwaitable::~WorkAwaitable()

@@ -26,9 +26,10 @@ public:
     explicit Work(QObject* parent = nullptr);
     ~Work() override; // stops
 
-    // Runs `body`, which is kept until its task has ended. False, with nothing begun, while a task runs already or when
-    // the program is leaving. An exception that leaves the task is lost: StartWork (app/log) logs it.
-    bool start(Body body);
+    // Runs `body`, which is kept until its task has ended; `after` follows when the window's controls are back, but not
+    // when this object goes. False, with nothing begun, while a task runs already or when the program is leaving. An
+    // exception that leaves the task is lost: StartWork (app/log) logs it.
+    bool start(Body body, std::function<void()> after = {});
     bool running() const { return m_running; }
 
     // Ends the task: on Stop, on Esc, with the window. SetClosing(true) does it for every work there is.
@@ -49,18 +50,20 @@ signals:
 
 private:
     friend class WorkAwaitable;
-    static QCoro::Task<> drive(QPointer<Work> work, Body body);
-    void end();
+    static QCoro::Task<> drive(QPointer<Work> work, Body body, std::function<void()> after);
 
     std::vector<WorkAwaitable*> m_waiting;
     bool m_running = false;
     bool m_stopped = false;
+    bool m_leaving = false;
     QString m_step;
     int m_percent = -1;
 };
 
 // Stops every work there is; SetClosing calls it.
 void StopAllWork();
+// Whether a work is running.
+bool AnyWorkRunning();
 
 // What a coroutine waits for on behalf of a work. Of a stopped work it does not even begin. A subclass begins in
 // begin(), calls finish() once when it is done, never from within begin(), and gives up in abandon(), after which the

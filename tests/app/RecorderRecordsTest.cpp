@@ -4,8 +4,10 @@
 #include "emap/EMapStore.h"
 #include "simulators/SimulatorThread.h"
 #include "support/Conversions.h"
+#include "tests/Await.h"
 #include "tests/store/StoreFixture.h"
 
+#include <QElapsedTimer>
 #include <QSqlRecord>
 
 using namespace Qt::StringLiterals;
@@ -229,6 +231,8 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
         work.iSVR_HttpPort = running.device(0).port();
         running.device(0).channel(3).customEvents = 3;
     });
+    const QString address = work.sSVR_IP;
+    const qint32 port = work.iSVR_HttpPort;
     work.sSVR_UserName = work.sSVR_Password = u"admin"_s;
     work.sSVR_DeviceType = kFamilyTXR632;
     work.bSVR_CEventSupport = true;
@@ -250,7 +254,8 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     Form_COM com;
     com.SetProToDeviceBridge(desk->recorders.SVRList);
     EXPECT_EQ(com.FindServiceSlot(0), 0);
-    RemoveSVR(*desk, com, 0);
+    Work removal;
+    Await(RemoveSVR(*desk, com, 0, removal));
     EXPECT_EQ(com.FindServiceSlot(0), -1) << "nobody polls it any more";
     site.call([](Site& running) {
         EXPECT_EQ(running.device(0).channel(3).customEvents, 0);
@@ -286,11 +291,27 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     SaveCheck(*desk);
     EXPECT_EQ(rows(u"SELECT Channel FROM MotionSettings"_s), QString());
 
-    // One that takes no custom events is not asked; one that is gone does not hold its removal up.
-    RemoveSVR(*desk, com, 5);
-    addRecorder(1, u"unreachable"_s, 1);
+    // One that takes no custom events is not asked. A stop ends the question to one that does not answer, and the
+    // removal goes on.
+    Await(RemoveSVR(*desk, com, 5, removal));
+    addRecorder(1, u"silent"_s, 1);
     desk->recorders.SVRWorkList[1].bSVR_CEventSupport = true;
-    RemoveSVR(*desk, com, 1);
+    desk->recorders.SVRWorkList[1].sSVR_IP = address;
+    desk->recorders.SVRWorkList[1].iSVR_HttpPort = port;
+    site.call([](Site& running) { running.device(0).clearLog(); });
+    site.call([](Site& running) { running.device(0).addFault({simulators::FaultKind::Silent, 0, "/event/"}); });
+    ASSERT_TRUE(removal.start([&] { return RemoveSVR(*desk, com, 1, removal); }));
+    int asked = 0;
+    while (asked == 0) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        site.call([&](Site& running) { asked = running.device(0).requestCount("/event/"); });
+    }
+    EXPECT_FALSE(desk->recorders.SVRList[1].sSVR_IP.isEmpty());
+    QElapsedTimer time;
+    time.start();
+    removal.stop();
+    EXPECT_LT(time.elapsed(), 200);
+    EXPECT_FALSE(removal.running());
     EXPECT_EQ(rows(u"SELECT * FROM SVR"_s), QString());
     EXPECT_EQ(OccupiedSlots(desk->recorders.SVRList), 0);
     EXPECT_EQ(logLines("Form_Initial - RemoveSVR"), 0) << allLogs().toStdString();

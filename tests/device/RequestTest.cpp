@@ -1,5 +1,6 @@
 #include "device/protocol/Module_XML.h"
 #include "support/Conversions.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 
 #include <QMap>
@@ -213,14 +214,14 @@ protected:
     qint16 apply(bool motion, const QMap<qint32, QString>& replies = {})
     {
         sent.clear();
-        told.clear();
-        return ApplyEventSettings(
-            recorders, 1, motion, Actions(),
-            [&](const QString& xml) {
-                sent.push_back(xml.section(u'"', 1, 1).toInt());
-                return replies.value(sent.back(), kDone);
-            },
-            [&](const QString& channels) { told += channels; });
+        const std::vector<ActionRecord> actions = Actions();
+        const auto send = [&](QString xml) -> QCoro::Task<QString> {
+            sent.push_back(xml.section(u'"', 1, 1).toInt());
+            co_return replies.value(sent.back(), kDone);
+        };
+        const EventWrite write = Await(ApplyEventSettings(recorders, 1, motion, actions, send));
+        told = write.refused;
+        return write.result;
     }
     void SetUp() override
     {
@@ -231,7 +232,7 @@ protected:
     TemporaryStation station;
     std::vector<SVRRecord> recorders = std::vector<SVRRecord>(2);
     std::vector<qint32> sent;
-    QStringList told;
+    QString told;
 };
 
 TEST_F(EventSettings, AreWrittenInTheDevicesOrder)
@@ -259,7 +260,7 @@ TEST_F(EventSettings, RefusedChannelsLoseTheirSwitchAndAreTold)
         u"<RESPONSE RET=\"0\"><CHList><CH ID=\"1\" MDRet=\"0\" DIRet=\"0\"/><CH ID=\"2\" MDRet=\"7\"/>"
         "<CH ID=\"3\" MDRet=\"none\"/><CH ID=\"99\" DIRet=\"1\"/><CH ID=\"4\" MDRet=\"0\" DIRet=\"-1\"/></CHList></RESPONSE>"_s;
     EXPECT_EQ(apply(true, {{CMD_GET_MOTION_DI_RESULT, reply}}), 1);
-    EXPECT_EQ(told, QStringList(u"2,99,4"_s));
+    EXPECT_EQ(told, u"2,99,4"_s);
     std::vector<bool> on;
     for (const SVRChannel& channel : recorders[1].channels)
         on.push_back(channel.bSub_CH_Cam_MD_Enabled);

@@ -46,16 +46,16 @@ TEST_F(WorkTest, ATaskRunsOnTheEventLoopAndTellsTheWindow)
     std::vector<bool> held;
     QObject::connect(&work, &Work::runningChanged, &work, [&](bool running) { held.push_back(running); });
     const auto body = [&] { return AskThrice(com, device(), work, notes); };
-    ASSERT_TRUE(StartWork(work, u"Test - Ask"_s, body));
+    ASSERT_TRUE(StartWork(work, "Test - Ask"_L1, body));
     EXPECT_TRUE(notes.isEmpty());
-    EXPECT_FALSE(StartWork(work, u"Test - Ask"_s, body)); // one at a time
+    EXPECT_FALSE(StartWork(work, "Test - Ask"_L1, body)); // one at a time
     EXPECT_EQ(WaitUntil([&] { return !work.running(); }, 5), WaitResult::Done);
     EXPECT_EQ(notes, (QStringList{u"/00"_s, u"/10"_s, u"/20"_s}));
     EXPECT_EQ(work.step(), u"over"_s);
     EXPECT_THAT(held, ElementsAre(true, false));
 
     // What a task throws is one line of the log, and its work can be started again.
-    ASSERT_TRUE(StartWork(work, u"Test - Fault"_s, [&]() -> QCoro::Task<> {
+    ASSERT_TRUE(StartWork(work, "Test - Fault"_L1, [&]() -> QCoro::Task<> {
         const WebReply reply = co_await com.web.Get(device(), u"/x"_s, 60, work);
         throw std::runtime_error(reply.text.toStdString());
     }));
@@ -158,7 +158,7 @@ TEST_F(WorkTest, TogetherKeepsTheOrderAndTheLimit)
     };
     std::vector<std::optional<QString>> got;
     const auto run = [&](std::vector<Ask> tasks) {
-        ASSERT_TRUE(StartWork(work, u"Test - Together"_s, [&, tasks]() -> QCoro::Task<> {
+        ASSERT_TRUE(StartWork(work, "Test - Together"_L1, [&, tasks]() -> QCoro::Task<> {
             QCoro::Task<std::vector<std::optional<QString>>> all = Together<QString>(work, tasks, 3);
             got = co_await all;
         }));

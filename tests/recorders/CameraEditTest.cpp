@@ -56,7 +56,7 @@ TEST_F(CameraPage, FieldsAreCheckedInOrderBeforeAnythingIsAsked)
     };
     for (const auto& [fields, fault] : cases) {
         page->setFields(fields);
-        const CameraEdit::Outcome outcome = page->detect();
+        const CameraEdit::Outcome outcome = Await(page->detect(work));
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.message, fault.first);
         EXPECT_EQ(outcome.field, fault.second);
@@ -74,7 +74,7 @@ TEST_F(CameraPage, KnownCameraWithUnchangedFieldsAsksNothing)
     EXPECT_EQ(chosen(Control::Format), u"H.264"_s);
     EXPECT_EQ(chosen(Control::Resolution), u"1280x720"_s);
     EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
-    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_TRUE(page->detected());
     EXPECT_TRUE(requests().empty());
 
@@ -82,7 +82,7 @@ TEST_F(CameraPage, KnownCameraWithUnchangedFieldsAsksNothing)
     renamed.name += u" 2"_s;
     page->setFields(renamed);
     EXPECT_FALSE(page->detected());
-    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_EQ(requests().size(), 2U); // reachable, probe
 }
 
@@ -97,7 +97,7 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
         fields.name = u"Zufahrt 南"_s;
         page->setFields(fields);
         EXPECT_EQ(page->checkApply().message, 616);
-        EXPECT_EQ(page->detect().message, 833);
+        EXPECT_EQ(Await(page->detect(work)).message, 833);
         EXPECT_TRUE(recorders->SVREdit.channels[11].sSub_CH_IP.isEmpty()); // the edit record waits for the write
 
         EXPECT_TRUE(choose(Control::Format, pro ? u"h264"_s : u"H.264"_s));
@@ -108,7 +108,7 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
         EXPECT_TRUE(choose(Control::BitRate, u"512K"_s));
         EXPECT_TRUE(page->checkApply().ok);
         requests();
-        EXPECT_TRUE(page->writeBack().ok);
+        EXPECT_TRUE(Await(page->writeBack(work)).ok);
 
         const simulators::Camera camera = deviceCamera(12);
         EXPECT_EQ(camera.name, fields.name);
@@ -157,14 +157,14 @@ TEST_F(CameraPage, AnotherCameraBeginsAsAnEmptyChannel)
         page->open(1);
         const CameraEdit::Fields own = page->fields();
         page->setFields(fieldsOf(101));
-        ASSERT_EQ(page->detect().message, 833);
+        ASSERT_EQ(Await(page->detect(work)).message, 833);
         page->setFields(own); // back to the one that the channel has, and away again
-        ASSERT_EQ(page->detect().message, 833);
-        EXPECT_TRUE(page->writeBack().ok);
+        ASSERT_EQ(Await(page->detect(work)).message, 833);
+        EXPECT_TRUE(Await(page->writeBack(work)).ok);
         EXPECT_EQ(channel.presets[0].sPresetName + QString::number(channel.lSub_CH_IntelligentID), u"Gate5"_s);
         page->setFields(fieldsOf(101));
-        ASSERT_EQ(page->detect().message, 833);
-        EXPECT_TRUE(page->writeBack().ok);
+        ASSERT_EQ(Await(page->detect(work)).message, 833);
+        EXPECT_TRUE(Await(page->writeBack(work)).ok);
         EXPECT_EQ(channel.sSub_CH_IP, fieldsOf(101).address);
         EXPECT_EQ(channel.iSub_Channel, 2);
         EXPECT_EQ(channel.presets[0].sPresetName + QString::number(channel.lSub_CH_IntelligentID), u"-1"_s);
@@ -229,7 +229,7 @@ TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
         if (row.wrongPassword)
             fields.password = u"wrong"_s;
         page->setFields(fields);
-        const CameraEdit::Outcome outcome = page->detect();
+        const CameraEdit::Outcome outcome = Await(page->detect(work));
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.message, row.message) << row.camera << ' ' << row.fault.path.constData();
         EXPECT_EQ(outcome.suffix, row.suffix);
@@ -254,7 +254,7 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
            "qualityrange=1,2;1;3,4\r\nqualitystate=2;1;4\r\nratectrlrange=-1;0;0,1\r\nratectrlstate=-1;0;1\r\n"
            "bitraterange=-1;1;5,6\r\nbitratestate=-1;1;6\r\nrelativeformat={}{}{}\r\nspeedrange=1,9,1\r\n"
            "moverange=8\r\nzoomcontcap=1\r\nmovecontcap=x\r\n"});
-    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_EQ(page->brand(), u"12"_s);
     EXPECT_EQ(entries(Control::Format), (QStringList{u"MJPEG"_s, u"H.264"_s})); // MPEG4 is off
     EXPECT_EQ(chosen(Control::FrameRate), u"5"_s);
@@ -263,7 +263,7 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
     EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
     EXPECT_EQ(chosen(Control::RateControl), u"CBR"_s);
     EXPECT_EQ(chosen(Control::BitRate), u"1024K"_s);
-    EXPECT_TRUE(page->writeBack().ok);
+    EXPECT_TRUE(Await(page->writeBack(work)).ok);
     const SVRRecord& edit = recorders->SVREdit;
     EXPECT_EQ(edit.channels[11].iSub_CH_Brand, 12);
     EXPECT_EQ(edit.channels[11].sCH_FMTList, u"MJPEG,H.264"_s);
@@ -280,7 +280,7 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
     page->open(11);
     EXPECT_EQ(chosen(Control::FrameRate), u"N/A"_s);
     requests();
-    EXPECT_TRUE(page->writeBack().ok);
+    EXPECT_TRUE(Await(page->writeBack(work)).ok);
     EXPECT_FALSE(requests().back().target.contains(".fps="));
     EXPECT_EQ(edit.channels[11].iCH_FPS, 4);
 }
@@ -377,7 +377,7 @@ TEST_F(CameraPage, SourcesOfOneCameraHaveListsOfTheirOwn)
     });
     page->open(11);
     page->setFields(fieldsOf(5));
-    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(Await(page->detect(work)).message, 833);
     ASSERT_EQ(entries(Control::VideoSource), (QStringList{u"1"_s, u"2"_s}));
     EXPECT_EQ(entries(Control::Format), (QStringList{u"MJPEG"_s, u"H.264"_s})); // of its streams
     EXPECT_TRUE(choose(Control::Format, u"H.264"_s));
@@ -386,17 +386,17 @@ TEST_F(CameraPage, SourcesOfOneCameraHaveListsOfTheirOwn)
     EXPECT_TRUE(choose(Control::VideoSource, u"2"_s));
     EXPECT_FALSE(entries(Control::Resolution).contains(u"1280x720"_s));
     EXPECT_TRUE(requests().empty());
-    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_TRUE(requests().back().target.contains("&camera=2&brand="));
     EXPECT_EQ(chosen(Control::VideoSource), u"2"_s);
-    EXPECT_TRUE(page->writeBack().ok);
+    EXPECT_TRUE(Await(page->writeBack(work)).ok);
     EXPECT_EQ(deviceCamera(12).videoNumber, 2);
     EXPECT_EQ(recorders->SVREdit.channels[11].iSub_CH_VideoID, 2);
 
     // The lists of a source that no answer tells of want a detection, though no field has changed.
     EXPECT_TRUE(choose(Control::VideoSource, u"1"_s));
     EXPECT_EQ(page->checkApply().message, 616);
-    EXPECT_EQ(page->detect().message, 833);
+    EXPECT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_TRUE(requests().back().target.contains("&camera=1&brand="));
     EXPECT_TRUE(page->checkApply().ok);
     EXPECT_EQ(entries(Control::VideoSource).size(), 2);
@@ -409,7 +409,7 @@ TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
     start(Family::Txr632, 16, 5);
     page->open(11);
     page->setFields(fieldsOf(5)); // two lenses, 1280x720 and below
-    ASSERT_EQ(page->detect().message, 833);
+    ASSERT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_TRUE(choose(Control::Format, u"h264"_s));
     EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
     EXPECT_EQ(entries(Control::FrameRate).last(), u"30"_s);
@@ -422,7 +422,7 @@ TEST_F(CameraPage, StreamsOfANewerRecorderKeepTheirOwnSettings)
     EXPECT_EQ(chosen(Control::FrameRate), u"29"_s);
     EXPECT_TRUE(choose(Control::LensMode, u"both"_s));
     EXPECT_TRUE(choose(Control::RightMode, u"normal"_s));
-    EXPECT_TRUE(page->writeBack().ok);
+    EXPECT_TRUE(Await(page->writeBack(work)).ok);
     const simulators::Camera camera = deviceCamera(12);
     EXPECT_EQ(camera.live.fps, 29);
     EXPECT_EQ(camera.lensMode, u"both"_s);
@@ -472,7 +472,7 @@ TEST_F(CameraPage, FishEyeViewsComeFromTheProbe)
     start(Family::OmluPro);
     page->open(12);
     page->setFields(fieldsOf(7));
-    ASSERT_EQ(page->detect().message, 833);
+    ASSERT_EQ(Await(page->detect(work)).message, 833);
     EXPECT_EQ(entries(Control::FishEyeMode), (QStringList{u"Original"_s, u"Panorama"_s, u"Quad"_s}));
     EXPECT_EQ(chosen(Control::FishEyeMode), u"Panorama"_s);
     EXPECT_TRUE(choose(Control::FishEyeMode, u"Quad"_s));
@@ -535,7 +535,7 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
         const QString size = recorders->SVREdit.channels[1].sSub_CH_Resolution;
         EXPECT_TRUE(choose(Control::Resolution, u"320x240"_s));
         fault(row.fault);
-        const CameraEdit::Outcome outcome = page->writeBack();
+        const CameraEdit::Outcome outcome = Await(page->writeBack(work));
         const bool taken = row.fault.cmd == CMD_GET_CHANNELS;
         EXPECT_EQ(outcome.ok, taken);
         EXPECT_EQ(outcome.message, row.message) << row.fault.cmd;
@@ -552,13 +552,13 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
     recorders->SVREdit.channels[1].sCH_ResolutionList.clear();
     page->open(1);
     fault({FaultKind::Refuse, -3, "/param.cgi"});
-    EXPECT_EQ(page->writeBack().message, 615);
+    EXPECT_EQ(Await(page->writeBack(work)).message, 615);
     EXPECT_FALSE(requests().back().target.contains(".format="));
     page->open(2);
     CameraEdit::Fields fields = page->fields();
     fields.name = u"a \" b"_s;
     page->setFields(fields);
-    EXPECT_EQ(page->writeBack().message, 980);
+    EXPECT_EQ(Await(page->writeBack(work)).message, 980);
     EXPECT_TRUE(requests().empty());
 }
 
@@ -566,8 +566,7 @@ TEST_F(CameraPage, SearchListsWhatTheRecorderSees)
 {
     for (const Family family : kFamilies) {
         start(family, 8, 3);
-        CameraEdit::Outcome outcome;
-        const std::vector<FoundCamera> found = page->searchCameras(outcome);
+        const auto [outcome, found] = Await(page->searchCameras(work));
         EXPECT_TRUE(outcome.ok);
         ASSERT_EQ(found.size(), 7U); // three in use and four others
         EXPECT_EQ(found[2].IP, fieldsOf(3).address);
@@ -576,32 +575,55 @@ TEST_F(CameraPage, SearchListsWhatTheRecorderSees)
         EXPECT_EQ(found[2].Model, simulators::exampleCamera(3, family).model);
         for (const FaultKind kind : {FaultKind::Reset, FaultKind::GarbageBody, FaultKind::Unauthorized}) {
             fault({kind, 100});
-            EXPECT_TRUE(page->searchCameras(outcome).empty());
-            EXPECT_EQ(outcome.message, 609);
+            const CameraEdit::Search none = Await(page->searchCameras(work));
+            EXPECT_TRUE(none.found.empty());
+            EXPECT_EQ(none.outcome.message, 609);
         }
     }
 }
 
-TEST_F(CameraPage, WaitingKeepsTheLoopTurningAndEndsWithTheProgram)
+TEST_F(CameraPage, AStopEndsWhatARecorderDoesNotAnswer)
 {
-    start(Family::Svr);
-    page->open(11);
-    page->setFields(fieldsOf(101));
-    fault({FaultKind::Delay, 400, "/system/detectcam.cgi"});
-    int turns = 0;
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, &timer, [&] { ++turns; });
-    timer.start(10);
-    EXPECT_EQ(page->detect().message, 833);
-    EXPECT_GT(turns, 3);
-
-    page->setFields(fieldsOf(102));
-    fault({FaultKind::Silent, 0, "/system/detectcam.cgi"});
-    QTimer::singleShot(50, &timer, [] { SetClosing(true); });
-    const CameraEdit::Outcome outcome = page->detect();
-    SetClosing(false);
-    EXPECT_FALSE(outcome.ok);
-    EXPECT_EQ(outcome.message, 0); // no box in a program that is leaving
+    for (const Family family : kFamilies) {
+        start(family);
+        page->open(11);
+        page->setFields(fieldsOf(101));
+        const bool svr = family == Family::Svr;
+        const QByteArray probe = svr ? "/system/detectcam.cgi" : "/cmd.cgi";
+        const struct
+        {
+            QByteArray path; // not answered
+            std::function<QCoro::Task<CameraEdit::Outcome>(Work&)> call;
+        } cases[] = {
+            {probe, [this](Work& running) { return page->detect(running); }},
+            {svr ? "/param.cgi" : "/cmd.cgi", [this](Work& running) { return page->writeBack(running); }},
+            {svr ? "/system/searchcam.cgi" : "/cmd.cgi",
+             [this](Work& running) -> QCoro::Task<CameraEdit::Outcome> {
+                 const CameraEdit::Search search = co_await page->searchCameras(running);
+                 co_return search.outcome;
+             }},
+        };
+        for (const auto& c : cases) {
+            SCOPED_TRACE(c.path.constData());
+            fault({FaultKind::Silent, 0, c.path});
+            requests();
+            CameraEdit::Outcome outcome = CameraEdit::Outcome::Done();
+            Work running;
+            ASSERT_TRUE(running.start([&]() -> QCoro::Task<> {
+                QCoro::Task<CameraEdit::Outcome> call = c.call(running);
+                outcome = co_await call;
+            }));
+            waitFor([&] { return requestCount(c.path) > 0; });
+            QElapsedTimer time;
+            time.start();
+            running.stop();
+            EXPECT_LT(time.elapsed(), 200);
+            EXPECT_FALSE(running.running());
+            EXPECT_FALSE(outcome.ok);
+            EXPECT_EQ(com.http.open(), 0);
+            EXPECT_EQ(page->fields().address, fieldsOf(101).address);
+        }
+    }
 }
 
 } // namespace

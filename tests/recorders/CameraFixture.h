@@ -3,8 +3,10 @@
 #include "recorders/camera/CameraEdit.h"
 #include "recorders/detect/NVRDetect.h"
 #include "simulators/SimulatorThread.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <gmock/gmock.h>
 
@@ -36,16 +38,17 @@ protected:
             item.iPort = device.port();
         });
         const std::vector<NVRAccountRecord> accounts(1);
-        ASSERT_TRUE(DetectNVR({com, *recorders, accounts, events}, item, [](const DetectStatus&) {}));
+        ASSERT_TRUE(Await(DetectNVR(
+            {com, *recorders, accounts, events}, item, [](const DetectStatus&) {}, work)));
         recorders->SVREdit = recorders->SVRWorkList[0];
         recorders->SVRProEdit = recorders->SVRProWorkList[0];
         page = std::make_unique<CameraEdit>(com, *recorders);
         onDevice([](simulators::Device& device) { device.clearLog(); });
     }
 
-    void onDevice(const std::function<void(simulators::Device&)>& work)
+    void onDevice(const std::function<void(simulators::Device&)>& call)
     {
-        site->call([&](simulators::Site& running) { work(running.device(0)); });
+        site->call([&](simulators::Site& running) { call(running.device(0)); });
     }
     simulators::Camera deviceCamera(int number)
     {
@@ -61,6 +64,20 @@ protected:
             device.clearLog();
         });
         return log;
+    }
+    int requestCount(const QByteArray& path)
+    {
+        int count = 0;
+        onDevice([&](simulators::Device& device) { count = device.requestCount(path); });
+        return count;
+    }
+    // Lets the event loop run until the condition holds.
+    static void waitFor(const std::function<bool()>& done)
+    {
+        QDeadlineTimer deadline(10'000);
+        while (!done() && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        EXPECT_TRUE(done());
     }
     void fault(const simulators::Fault& fault)
     {
@@ -97,6 +114,7 @@ protected:
 
     TemporaryStation station;
     Form_COM com;
+    Work work;
     std::unique_ptr<RecorderSet> recorders;
     RecorderEvents events;
     std::unique_ptr<simulators::SimulatorThread> site;

@@ -19,13 +19,13 @@ TEST_F(ChannelWrite, ClearedChannelIsEmptyOnTheRecorderAndOnThePage)
     for (const Family family : kFamilies) {
         SCOPED_TRACE(qPrintable(simulators::familyName(family)));
         start(family);
-        RecorderOutcome outcome = ClearRecorderChannel(com, *recorders, 2);
+        RecorderOutcome outcome = Await(ClearRecorderChannel(com, *recorders, 2, work));
         EXPECT_TRUE(outcome.ok);
         // The same by emptied fields.
         page->open(3);
         page->setFields({{}, {}, u"80"_s, u"root"_s, {}});
         EXPECT_TRUE(page->checkApply().ok);
-        EXPECT_TRUE(page->writeBack().ok);
+        EXPECT_TRUE(Await(page->writeBack(work)).ok);
         onDevice([](simulators::Device& device) { device.reboot(); });
         for (const std::size_t channel : {2U, 3U}) {
             EXPECT_TRUE(deviceCamera(static_cast<int>(channel) + 1).ip.isEmpty());
@@ -42,9 +42,9 @@ TEST_F(ChannelWrite, ClearedChannelIsEmptyOnTheRecorderAndOnThePage)
             EXPECT_TRUE(sent[0].target.contains(".device.httpport=80&"));
             EXPECT_TRUE(sent[0].target.endsWith(".device.brand=0"));
         }
-        EXPECT_TRUE(ClearRecorderChannel(com, *recorders, 2).ok); // nothing is left to clear
+        EXPECT_TRUE(Await(ClearRecorderChannel(com, *recorders, 2, work)).ok); // nothing is left to clear
         EXPECT_TRUE(requests().empty());
-        EXPECT_ANY_THROW(ClearRecorderChannel(com, *recorders, 64));
+        EXPECT_ANY_THROW(Await(ClearRecorderChannel(com, *recorders, 64, work)));
     }
 }
 
@@ -60,7 +60,7 @@ TEST_F(ChannelWrite, FailedClearingLeavesTheChannel)
     for (const auto& [family, trouble, message] : cases) {
         start(family);
         fault(trouble);
-        const RecorderOutcome outcome = ClearRecorderChannel(com, *recorders, 1);
+        const RecorderOutcome outcome = Await(ClearRecorderChannel(com, *recorders, 1, work));
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.message, message);
         EXPECT_EQ(outcome.title, u"Notice"_s);
@@ -90,12 +90,12 @@ TEST_F(ChannelWrite, CameraEventsAreReadBackAsWritten)
             });
         SVRRecord& svr = recorders->SVREdit;
         const CameraEventBits bits{3, 2, 1, 0, 0, 1}; // channel 6 has no camera
-        EXPECT_TRUE(WriteRecorderCameraEvents(com, svr, bits).ok);
+        EXPECT_TRUE(Await(WriteRecorderCameraEvents(com, svr, bits, work)).ok);
         EXPECT_TRUE(svr.channels[0].bSub_CH_Cam_MD_Enabled && svr.channels[2].bSub_CH_Cam_MD_Enabled);
         EXPECT_FALSE(svr.channels[3].bSub_CH_Cam_MD_Enabled || svr.channels[5].bSub_CH_Cam_MD_Enabled);
         CameraEventBits read;
         read.fill(9);
-        EXPECT_TRUE(ReadRecorderCameraEvents(com, svr, read).ok);
+        EXPECT_TRUE(Await(ReadRecorderCameraEvents(com, svr, read, work)).ok);
         CameraEventBits expected{};
         for (std::size_t channel = 0; channel < 3; ++channel)
             expected[channel] = pro ? qint16(1) : bits[channel];
@@ -121,7 +121,8 @@ TEST_F(ChannelWrite, RefusedCameraEventsAreNamed)
         start(family, 16, 5);
         onDevice([](simulators::Device& device) { device.state().refusedEventChannels = {2, 4}; });
         SVRRecord& svr = recorders->SVREdit;
-        const RecorderOutcome outcome = WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 1, 1, 1, 0});
+        const RecorderOutcome outcome =
+            Await(WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 1, 1, 1, 0}, work));
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.message, 834);
         EXPECT_EQ(outcome.suffix, u" SVR:1 CH: 2,4"_s);
@@ -141,7 +142,7 @@ TEST_F(ChannelWrite, EachAnswerToCameraEventsHasItsMessage)
         for (SVRChannel& channel : svr.channels)
             channel.bSub_CH_Cam_MD_Enabled = false;
         fault({FaultKind::Body, 0, "/event/basicevent.cgi", 0, answer});
-        const RecorderOutcome outcome = WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 0, 2});
+        const RecorderOutcome outcome = Await(WriteRecorderCameraEvents(com, svr, CameraEventBits{1, 0, 2}, work));
         EXPECT_EQ(outcome.message, message) << answer.constData();
         EXPECT_EQ(outcome.ok, message == 0);
         EXPECT_EQ(svr.channels[0].bSub_CH_Cam_MD_Enabled, message == 0);
@@ -150,12 +151,13 @@ TEST_F(ChannelWrite, EachAnswerToCameraEventsHasItsMessage)
     }
     CameraEventBits bits{};
     fault({FaultKind::Body, 0, "/event/basicevent.cgi", 0, "Error"});
-    EXPECT_EQ(ReadRecorderCameraEvents(com, svr, bits).message, 9);
+    EXPECT_EQ(Await(ReadRecorderCameraEvents(com, svr, bits, work)).message, 9);
 
     for (const int cmd : {CMD_GET_ACTION_LIST, CMD_SET_MOTION_DETECT, CMD_SET_ACTION_LIST, CMD_SAVE_CONFIG}) {
         start(Family::OmluPro, 8, 3);
         fault({FaultKind::Reset, 0, "/cmd.cgi", cmd});
-        EXPECT_EQ(WriteRecorderCameraEvents(com, recorders->SVREdit, CameraEventBits{1}).message, 9) << cmd;
+        EXPECT_EQ(Await(WriteRecorderCameraEvents(com, recorders->SVREdit, CameraEventBits{1}, work)).message, 9)
+            << cmd;
         EXPECT_FALSE(recorders->SVREdit.channels[0].bSub_CH_Cam_MD_Enabled);
     }
 }

@@ -2,7 +2,9 @@
 
 #include "recorders/detect/SearchListModel.h"
 #include "simulators/SimulatorThread.h"
+#include "tests/Await.h"
 
+#include <QElapsedTimer>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
@@ -52,9 +54,8 @@ protected:
     int detect(const NVRDetectItem& wanted, DetectMode mode = DetectMode::Add)
     {
         DetectStatus last;
-        const bool done = DetectNVR(
-            {com, *recorders, accounts, events, stopped}, wanted, [&](const DetectStatus& status) { last = status; },
-            mode);
+        const auto tell = [&](const DetectStatus& status) { last = status; };
+        const bool done = Await(DetectNVR({com, *recorders, accounts, events}, wanted, tell, work, mode));
         EXPECT_EQ(done, last.state == State::Done);
         return last.message;
     }
@@ -62,7 +63,7 @@ protected:
     Form_COM com;
     std::unique_ptr<RecorderSet> recorders;
     std::vector<NVRAccountRecord> accounts{{}};
-    std::function<bool()> stopped;
+    Work work;
     RecorderEvents events;
     std::unique_ptr<simulators::SimulatorThread> site;
     std::vector<std::pair<QString, int>> where;
@@ -327,18 +328,104 @@ TEST_F(Detecting, AddressesAndNamesAreStoredAsTheyAreCompared)
     nameless.sName = u" "_s;
     EXPECT_EQ(detect(nameless), 297);
     EXPECT_EQ(recorders->SVRWorkList[1].sSVR_Name, where[1].first);
-    EXPECT_EQ(ValidateManualNVR(u"x"_s, u" 10.0.0.3 "_s, u"80"_s).message, 0);
-    EXPECT_EQ(ValidateManualNVR(u"x"_s, u" 127.0.0.1 "_s, u"80"_s).message, 554);
-    EXPECT_EQ(ValidateManualNVR(u" "_s, u"10.0.0.3"_s, u"80"_s).message, 553);
+    EXPECT_EQ(Await(ValidateManualNVR(u"x"_s, u" 10.0.0.3 "_s, u"80"_s, work)).message, 0);
+    EXPECT_EQ(Await(ValidateManualNVR(u"x"_s, u" 127.0.0.1 "_s, u"80"_s, work)).message, 554);
+    EXPECT_EQ(Await(ValidateManualNVR(u" "_s, u"10.0.0.3"_s, u"80"_s, work)).message, 553);
 }
 
-TEST_F(Detecting, StopEndsTheRunAtItsNextStepAndChangesNothing)
+// Wrong logins that each take 20 seconds, and a recorder that falls silent while its channels are read.
+TEST_F(Detecting, StopEndsTheRunAtOnceAndChangesNothing)
 {
     start({Recorder(Family::Svr, 64, 4)});
-    int asked = 0;
-    stopped = [&] { return ++asked > 10; };
-    EXPECT_EQ(detect(item(0)), 963);
-    EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
+    accounts.assign(6, {});
+    for (NVRAccountRecord& account : accounts)
+        account.sUser = account.sPass = u"wrong"_s;
+    const struct
+    {
+        simulators::Fault fault;
+        QByteArray path;
+        QString user;
+    } cases[] = {{{FaultKind::Delay, 20'000, "/login.cgi"}, "/login.cgi", {}},
+                 {{FaultKind::Silent, 0, "/param.cgi"}, "/param.cgi", u"admin"_s}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.path.constData());
+        const auto count = [&] {
+            int requests = 0;
+            site->call([&](Site& running) { requests = running.device(0).requestCount(c.path); });
+            return requests;
+        };
+        site->call([&](Site& running) {
+            running.device(0).clearFaults();
+            running.device(0).addFault(c.fault);
+        });
+        DetectStatus last;
+        ASSERT_TRUE(work.start([&]() -> QCoro::Task<> {
+            const auto tell = [&](const DetectStatus& status) { last = status; };
+            const DetectContext context{com, *recorders, accounts, events};
+            QCoro::Task<bool> detection = DetectNVR(context, item(0, c.user, c.user), tell, work);
+            co_await detection;
+        }));
+        while (count() == 0)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QElapsedTimer time;
+        time.start();
+        work.stop();
+        EXPECT_LT(time.elapsed(), 200);
+        EXPECT_FALSE(work.running());
+        EXPECT_EQ(last.message, 963);
+        EXPECT_EQ(com.http.open(), 0);
+        EXPECT_EQ(count(), 1);
+        EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
+    }
+}
+
+// The recorders of a list answer in the reverse of its order; what comes of them is as one after the other.
+TEST_F(Detecting, SideBySideChangesNothingButTheTime)
+{
+    std::vector<DeviceDescription> devices;
+    for (int i = 0; i < 7; ++i)
+        devices.push_back(i == 3 ? Recorder(Family::Svr, 4, 4) : Recorder(Family::Txr632, 64, 64));
+    start(devices);
+    std::vector<NVRDetectItem> items;
+    for (std::size_t i = 0; i < devices.size(); ++i)
+        items.push_back(item(i));
+    items.insert(items.begin() + 2, items[0]);        // a device that stands in the list before
+    items.insert(items.begin() + 3, NVRDetectItem()); // passed over
+    items[4].sPassword = u"wrong"_s;
+    items[5].iSlot = 9;
+    recorders->SVRWorkList[1].sSVR_IP = u"10.0.0.1"_s;
+
+    const auto outcome = [&](bool sideBySide) {
+        QStringList told(static_cast<qsizetype>(items.size()));
+        QList<int> filled;
+        const auto tell = [&](std::size_t row, const DetectStatus& status) {
+            told[static_cast<qsizetype>(row)] = QString::number(status.message) + status.suffix;
+            if (status.state == State::Done)
+                filled << status.slot;
+        };
+        const DetectContext context{com, *recorders, accounts, events};
+        if (sideBySide)
+            Await(DetectList(context, items, tell, work));
+        for (std::size_t row = 0; row < items.size() && !sideBySide; ++row) {
+            const auto tellRow = [&](const DetectStatus& status) { tell(row, status); };
+            if (!items[row].sIP.isEmpty())
+                Await(DetectNVR(context, items[row], tellRow, work));
+        }
+        for (const int slot : std::as_const(filled))
+            told += QString::number(slot) + u':' +
+                    QString::number(recorders->SVRWorkList[static_cast<std::size_t>(slot)].iSVR_HttpPort);
+        return told;
+    };
+    const auto before = std::make_unique<RecorderSet>(*recorders);
+    const QStringList wanted = outcome(false);
+    EXPECT_EQ(wanted[2], u"78"_s);
+    EXPECT_EQ(wanted[8], u"716(256)"_s);
+    *recorders = *before;
+    site->call([](Site& running) {
+        for (int i = 0; i < running.count(); ++i)
+            running.device(i).addFault({FaultKind::Delay, 5 * (running.count() - i)});
+    });
+    EXPECT_EQ(outcome(true), wanted);
 }
 
 FoundDevice Found(int n)

@@ -3,10 +3,12 @@
 #include "look/style/Theme.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
+#include "platform/Work.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/ChannelListModel.h"
 #include "recorders/detect/NVRDetect.h"
 #include "simulators/SimulatorThread.h"
+#include "tests/Await.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/walkthrough/Driver.h"
 
@@ -72,6 +74,7 @@ protected:
         desk = std::make_unique<Form_Initial>(*station);
         ASSERT_TRUE(desk->Form_Load());
         Form_COM com;
+        Work work;
         for (int slot = 0; slot < static_cast<int>(description.devices.size()); ++slot) {
             NVRDetectItem item;
             item.iSlot = static_cast<qint16>(slot);
@@ -81,8 +84,8 @@ protected:
                 item.sIP = running.device(slot).address().toString();
                 item.iPort = running.device(slot).port();
             });
-            ASSERT_TRUE(
-                DetectNVR({com, recorders(), station->accounts, station->events}, item, [](const DetectStatus&) {}));
+            ASSERT_TRUE(Await(DetectNVR(
+                {com, recorders(), station->accounts, station->events}, item, [](const DetectStatus&) {}, work)));
         }
         SaveCheck(*station);
         desk->resize(1280, 800);
@@ -143,7 +146,6 @@ protected:
             QTest::keyClick(box, Qt::Key_Down);
         EXPECT_EQ(box->currentText(), entry);
     }
-    static void press(const QString& name, Qt::Key key) { QTest::keyClick(Driver::find(name), key); }
 
     std::unique_ptr<Station> station = std::make_unique<Station>();
     std::unique_ptr<simulators::SimulatorThread> site;
@@ -172,7 +174,7 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
         Driver::type(u"TextNVRDetail_3"_s, u"admin"_s);
         Driver::click(u"lbNVRDetect"_s);
         Driver::type(u"TextNVRDetail_4"_s, u"wrong"_s);
-        press(u"TextNVRDetail_4"_s, Qt::Key_Return); // detects first
+        Driver::press(u"TextNVRDetail_4"_s, Qt::Key_Return); // detects first
         Driver::type(u"TextNVRDetail_4"_s, u"admin"_s);
         Driver::picture(u"detected"_s);
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 40, ChannelListModel::State).toString(), GetLangString(968));
@@ -211,7 +213,7 @@ TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
         Driver::click(u"lbModifyApply_0"_s);
     });
     driver.add(
-        u"stop"_s, [] { return Waiting() && buttonText(u"lbModifyApply_1"_s) == GetLangString(951); },
+        u"stop"_s, [] { return AnyWorkRunning() && buttonText(u"lbModifyApply_1"_s) == GetLangString(951); },
         [] {
             Driver::picture(u"detecting"_s);
             EXPECT_FALSE(Driver::find(u"lbModifyApply_0"_s)->isEnabled());
@@ -233,7 +235,7 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
     step(u"Grid_ChannelList"_s, [] {
         auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
         grid->setCurrentIndex(grid->model()->index(3, 0));
-        press(u"Grid_ChannelList"_s, Qt::Key_Return);
+        Driver::press(u"Grid_ChannelList"_s, Qt::Key_Return);
     });
     step(u"lbCamSearch"_s, [] {
         Driver::picture(u"camera-empty"_s);
@@ -245,33 +247,33 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
         site->call(
             [](Site& running) { running.device(0).state().network.erase(running.device(0).state().network.begin()); });
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 7);
-        press(u"Grid_CamSearchList"_s, Qt::Key_F5);
+        Driver::press(u"Grid_CamSearchList"_s, Qt::Key_F5);
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 6);
         Driver::type(u"txtCamSearchFilter"_s, u"10.121"_s);
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 1);
-        press(u"txtCamSearchFilter"_s, Qt::Key_Return); // goes to the list
+        Driver::press(u"txtCamSearchFilter"_s, Qt::Key_Return); // goes to the list
         EXPECT_TRUE(Driver::find(u"Grid_CamSearchList"_s)->hasFocus());
-        press(u"Grid_CamSearchList"_s, Qt::Key_Return);
+        Driver::press(u"Grid_CamSearchList"_s, Qt::Key_Return);
     });
     step(u"txtCam_4"_s, [] {
         EXPECT_EQ(text(u"txtCam_1"_s), u"192.168.10.121"_s);
         EXPECT_EQ(text(u"txtCam_2"_s), u"80"_s);
         Driver::type(u"txtCam_3"_s, u"root"_s);
-        press(u"txtCam_3"_s, Qt::Key_Return); // Return detects what is not detected yet: 607
+        Driver::press(u"txtCam_3"_s, Qt::Key_Return); // Return detects what is not detected yet: 607
         Driver::type(u"txtCam_4"_s, u"pass101"_s);
-        press(u"txtCam_4"_s, Qt::Key_Return);
+        Driver::press(u"txtCam_4"_s, Qt::Key_Return);
         Driver::picture(u"camera"_s);
         choose(u"cmbFormat"_s, u"H.264"_s);
         choose(u"cmbResolution"_s, u"1280x720"_s);
         choose(u"cmbCameraDetail_0"_s, u"10"_s);
-        press(u"txtCam_4"_s, Qt::Key_Return); // and writes what is: 611, No
+        Driver::press(u"txtCam_4"_s, Qt::Key_Return); // and writes what is: 611, No
         EXPECT_TRUE(Driver::usable(u"txtCam_4"_s));
-        press(u"txtCam_4"_s, Qt::Key_Return); // Yes
+        Driver::press(u"txtCam_4"_s, Qt::Key_Return); // Yes
     });
     step(u"Grid_ChannelList"_s, [] {
         Driver::picture(u"written"_s);
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 3, ChannelListModel::State).toString(), GetLangString(967));
-        press(u"Grid_ChannelList"_s, Qt::Key_Escape);
+        Driver::press(u"Grid_ChannelList"_s, Qt::Key_Escape);
     });
     waitClosed();
     driver.run(20000);
@@ -310,7 +312,7 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
             EXPECT_EQ(camera(0, 2).live.fps, 7);
             Driver::clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // No
             Driver::clickCell(u"Grid_ChannelList"_s, 0, ChannelListModel::Delete); // Yes
-            press(u"Grid_ChannelList"_s, Qt::Key_Delete);                          // no camera any more: nothing
+            Driver::press(u"Grid_ChannelList"_s, Qt::Key_Delete);                  // no camera any more: nothing
             Driver::clickCell(u"Grid_ChannelList"_s, 1, ChannelListModel::Delete); // Yes, the last one
             Driver::picture(u"cleared"_s);
             EXPECT_TRUE(camera(0, 2).ip.isEmpty());
@@ -338,7 +340,7 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
 TEST_F(NVRSettingWindow, NothingTypedIsLostUnaskedAndOneClickOnlySelects)
 {
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 4, 3), Recorder(Family::Svr, 4, 3)}));
-    const auto escape = [](const QString& widget) { press(widget, Qt::Key_Escape); };
+    const auto escape = [](const QString& widget) { Driver::press(widget, Qt::Key_Escape); };
     step(u"Grid_SVRsList"_s, [] {
         auto* grid = Driver::find<QTableView>(u"Grid_SVRsList"_s);
         grid->setFocus();
@@ -401,7 +403,7 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
         Driver::click(u"lbCamSearch"_s);
     });
     driver.add(
-        u"asking"_s, [] { return Waiting() && Driver::find(u"barCam"_s); },
+        u"asking"_s, [] { return AnyWorkRunning() && Driver::find(u"barCam"_s); },
         [] {
             Driver::picture(u"camera-asking"_s);
             EXPECT_FALSE(Driver::find(u"lbCamModifyApply_0"_s)->isEnabled());
@@ -532,7 +534,7 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
         EXPECT_FALSE(Driver::find<QLabel>(u"cmbVideoID"_s)->text().isEmpty()) << "the view is told, not chosen";
         Driver::click(u"lbCamModifyApply_1"_s);
     });
-    step(u"Grid_ChannelList"_s, [] { press(u"Grid_ChannelList"_s, Qt::Key_Escape); });
+    step(u"Grid_ChannelList"_s, [] { Driver::press(u"Grid_ChannelList"_s, Qt::Key_Escape); });
     waitClosed();
     driver.run(20000);
     EXPECT_EQ(boxes, QStringList(GetLangString(833)));
@@ -550,7 +552,7 @@ TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
         auto* grid = Driver::find<QTableView>(u"Grid_ChannelList"_s);
         grid->setFocus();
         grid->setCurrentIndex(grid->model()->index(row, ChannelListModel::Name));
-        press(u"Grid_ChannelList"_s, Qt::Key_Space);
+        Driver::press(u"Grid_ChannelList"_s, Qt::Key_Space);
     };
     openRecorder(0);
     step(u"Grid_ChannelList"_s, [this, toggle] {

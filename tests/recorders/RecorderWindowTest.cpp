@@ -4,7 +4,7 @@
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/StepStrip.h"
 #include "platform/MsgBox.h"
-#include "platform/Wait.h"
+#include "platform/Work.h"
 #include "recorders/detect/DetectStatusModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "recorders/ui/NVRPage.h"
@@ -414,10 +414,9 @@ TEST_F(WizardWindow, EscapeStopsADetectionEvenInTheMiddleOfARequest)
         Driver::click(u"lbNext_1"_s);
     });
     driver.add(
-        u"second one is asked"_s, [this] { return requests(1, "/login.cgi") > 0 && Waiting(); },
+        u"second one is asked"_s, [this] { return requests(1, "/login.cgi") > 0 && AnyWorkRunning(); },
         [] {
             EXPECT_FALSE(Driver::find(u"lbNext_2"_s)->isEnabled());
-            QTest::keyClick(Driver::find(u"lbNext_2"_s), Qt::Key_Return);
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         });
     step(u"stopped"_s, u"lbNext_2"_s, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); }); // No
@@ -425,7 +424,8 @@ TEST_F(WizardWindow, EscapeStopsADetectionEvenInTheMiddleOfARequest)
     time.start();
     QStringList rows = run();
     EXPECT_LT(time.elapsed(), 10000) << "the silent recorder is not waited for";
-    EXPECT_EQ(rows.count(GetLangString(963)), 1);
+    EXPECT_GE(rows.count(GetLangString(963)), 1);
+    EXPECT_EQ(rows.count(GetLangString(963)) + rows.count(GetLangString(297)), 3);
     EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), static_cast<int>(rows.count(GetLangString(297))));
     EXPECT_EQ(finished, 0);
 }

@@ -16,6 +16,7 @@
 #include "simulators/SimulatorThread.h"
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
+#include "tests/Await.h"
 #include "tests/walkthrough/Driver.h"
 #include "users/ui/Form_AccountEdit.h"
 #include "users/ui/Form_GroupPrivilege.h"
@@ -159,7 +160,7 @@ void Visitor::clear()
 
 void Visitor::wizard()
 {
-    Form_NVRSetting dialog({m_com, m_station.recorders, m_station.accounts}, {}, &m_desk);
+    Form_NVRSetting dialog({m_com, m_station.recorders, m_station.accounts, m_station.events}, {}, &m_desk);
     show(u"wizard-0"_s, dialog);
     show(u"wizard-1"_s, dialog, [&] {
         dialog.LoadFrame(1);
@@ -201,8 +202,10 @@ void Visitor::recorder()
         item.sIP = running.device(0).address().toString();
         item.iPort = running.device(0).port();
     });
-    const DetectContext context{m_com, m_station.recorders, m_station.accounts};
-    if (!DetectNVR(context, item, [](const DetectStatus&) {}))
+    const DetectContext context{m_com, m_station.recorders, m_station.accounts, m_station.events};
+    Work work;
+    if (!Await(DetectNVR(
+            context, item, [](const DetectStatus&) {}, work)))
         throw std::runtime_error("the simulated recorder is not detected");
     Form_NVRSetting dialog(context, {}, &m_desk);
     dialog.SetNVR(kAnswering, {}, {});

@@ -1,7 +1,10 @@
 #include "tests/walkthrough/Driver.h"
 
+#include "platform/Work.h"
+
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
@@ -105,6 +108,20 @@ void Driver::click(const QString& name)
     if (!widget)
         throw std::runtime_error("no widget " + name.toStdString());
     QTest::mouseClick(widget, Qt::LeftButton);
+    settle();
+}
+
+void Driver::press(const QString& name, Qt::Key key)
+{
+    QTest::keyClick(find(name), key);
+    settle();
+}
+
+void Driver::settle()
+{
+    const QDeadlineTimer deadline(30'000);
+    while (AnyWorkRunning() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
 }
 
 void Driver::type(const QString& name, const QString& text)
@@ -126,6 +143,7 @@ void Driver::clickCell(const QString& table, int row, int column)
     const QModelIndex cell = view->model()->index(row, column);
     view->scrollTo(cell);
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
+    settle();
 }
 
 void Driver::picture(const QString& name)

@@ -37,9 +37,12 @@ public:
         return qobject_cast<Widget*>(find(name));
     }
     static bool usable(const QString& name); // visible, enabled, and not behind a modal window
+    // A click, and so the others, is over when the work that it has begun has ended.
     static void click(const QString& name);
     static void type(const QString& name, const QString& text); // replaces what stands there
     static void clickCell(const QString& table, int row, int column);
+    static void press(const QString& name, Qt::Key key);
+    static void settle(); // until no work is running
     // With DESK_SCREENSHOTS set, the window on show is left in that folder as a picture.
     static void picture(const QString& name);
     static QString boxText();                     // of the box on show, empty without one

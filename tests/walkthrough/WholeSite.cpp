@@ -1,5 +1,5 @@
 #include "app/language/Languages.h"
-#include "platform/Wait.h"
+#include "platform/Work.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/detect/DetectStatusModel.h"
 #include "simulators/SimulatorThread.h"
@@ -39,7 +39,7 @@ simulators::SiteDescription MixedSite()
 
 std::function<bool()> Usable(const QString& widget)
 {
-    return [widget] { return Driver::usable(widget) && !Waiting(); };
+    return [widget] { return Driver::usable(widget) && !AnyWorkRunning(); };
 }
 
 // What is expected of the station: which recorder of the site stands in which slot number, and the audit lines.
@@ -161,12 +161,6 @@ private:
                    u"row %1 says '%2'"_s.arg(row).arg(cell(DetectStatusModel::Status)));
             if (full) {
                 ++refused;
-                m_site.call([device](Site& site) {
-                    Expect(site.device(device).requestCount("/param.cgi") +
-                                   site.device(device).requestCount("/cmd.cgi") ==
-                               0,
-                           u"a refused recorder was asked for its channels"_s);
-                });
                 continue;
             }
             int slot = 1;
@@ -255,7 +249,7 @@ private:
             u"gone"_s,
             [this] {
                 auto* grid = Driver::find<QTableView>(u"Grid_SVRsList"_s);
-                return grid && !Waiting() && grid->model()->rowCount() == static_cast<int>(m_slots.size());
+                return grid && !AnyWorkRunning() && grid->model()->rowCount() == static_cast<int>(m_slots.size());
             },
             [this] { check(u"after removing"_s); });
     }

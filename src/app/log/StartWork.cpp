@@ -1,6 +1,6 @@
 #include "app/log/StartWork.h"
 
-QCoro::Task<bool> TrappedTask(QString source, QCoro::Task<> task)
+QCoro::Task<bool> TrappedTask(QLatin1String source, QCoro::Task<> task)
 {
     QString fault;
     try {
@@ -15,10 +15,15 @@ QCoro::Task<bool> TrappedTask(QString source, QCoro::Task<> task)
     co_return false;
 }
 
-bool StartWork(Work& work, const QString& source, Work::Body body)
+bool StartWork(Work& work, QLatin1String source, Work::Body body, std::function<void()> after)
 {
-    return work.start([source, body = std::move(body)]() -> QCoro::Task<> {
+    const auto trapped = [source, body = std::move(body)]() -> QCoro::Task<> {
         QCoro::Task<> task = body();
         co_await TrappedTask(source, std::move(task));
-    });
+    };
+    const auto afterwards = [source, after = std::move(after)] {
+        if (after)
+            Trapped(source, after);
+    };
+    return work.start(trapped, afterwards);
 }

@@ -4,7 +4,7 @@
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "app/log/Module_Log.h"
+#include "app/log/StartWork.h"
 #include "app/shell/Boxes.h"
 #include "app/ui/MenuTable.h"
 #include "app/ui/PendingPage.h"
@@ -50,6 +50,7 @@ constexpr int kVideoWall = 9;
 constexpr int kSVD = 10;
 constexpr int kTooling = 11;
 constexpr int kExit = 12;
+constexpr int kWriting = 976;
 
 } // namespace
 
@@ -69,6 +70,7 @@ Form_Initial::Form_Initial(Station& station, QWidget* parent)
 
 Form_Initial::~Form_Initial()
 {
+    m_work.stop();
     delete m_frames; // pages use the bridges
 }
 
@@ -210,10 +212,17 @@ void Form_Initial::buildPages()
     connect(m_nvrPage, &NVRPage::editWanted, this, [this](int slot) { showRecorder(slot, false); });
     connect(m_nvrPage, &NVRPage::renameWanted, this, [this](int slot) { showRecorder(slot, true); });
     connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
-        RemoveSVR(m_station, m_com, slot);
-        m_nvrPage->Grid_SVR_Set_withDB();
-        updateHeader();
+        const auto remove = [this, slot] {
+            m_work.say(GetLangString(kWriting));
+            return RemoveSVR(m_station, m_com, slot, m_work);
+        };
+        StartWork(m_work, "Form_Initial - RemoveSVR"_L1, remove, [this] {
+            m_nvrPage->Grid_SVR_Set_withDB();
+            updateHeader();
+        });
     });
+    m_nvrPage->showWork(m_work);
+    connect(&m_work, &Work::runningChanged, m_rail, &QWidget::setDisabled);
 
     m_pages[0] = m_systemPage;
     m_pages[1] = recorders;
@@ -370,7 +379,7 @@ void Form_Initial::showRecorder(int slot, bool rename)
         m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
     };
     Form_NVRSetting form(detectContext(), {}, this);
-    form.SetNVR(slot, save, [this](int removed) { RemoveSVR(m_station, m_com, removed); });
+    form.SetNVR(slot, save, [this](int removed, Work& work) { return RemoveSVR(m_station, m_com, removed, work); });
     if (rename)
         form.editName();
     form.exec();
@@ -399,6 +408,7 @@ void Form_Initial::closeEvent(QCloseEvent* event)
         return;
     }
     event->ignore();
+    m_work.stop();
     if (m_close.m_CloseState() == 0)
         lbMenu_Click(kExit);
 }

@@ -99,4 +99,5 @@ private:
     bool m_progressCancelled = false;
     int m_pageIndex = 0;
     bool m_unloaded = false;
+    Work m_work;
 };

@@ -322,24 +322,30 @@ bool Accepted(const QString& reply)
     return !reply.isEmpty() && CheckCmdResult(reply) >= 0;
 }
 
-qint16 ApplyEventSettings(std::span<SVRRecord> recorders, qint16 svr, bool motion,
-                          std::span<const ActionRecord> actions, const std::function<QString(const QString& xml)>& send,
-                          const std::function<void(const QString& channels)>& refused)
+QCoro::Task<EventWrite> ApplyEventSettings(std::span<SVRRecord> recorders, qint16 svr, bool motion,
+                                           std::span<const ActionRecord> actions,
+                                           std::function<QCoro::Task<QString>(QString xml)> send)
 {
-    if (motion && !Accepted(send(BuildSetMotionDetect(recorders, svr, actions))))
-        return -1;
-    if (!Accepted(send(BuildSetActionList(actions))))
-        return -1;
+    EventWrite write;
+    QString reply;
     if (motion) {
-        const QString reply = send(BuildGetMotionDiResult());
-        const QString channels = Accepted(reply) ? ParseApplyResult(reply) : QString();
-        if (!channels.isEmpty()) {
-            for (const QString& number : channels.split(u',')) {
-                Trapped("Form_NVRSetting - ApplyEventSettings",
-                        [&] { At(At(recorders, svr).channels, ToInt16(number) - 1).bSub_CH_Cam_MD_Enabled = false; });
-            }
-            refused(channels);
+        reply = co_await send(BuildSetMotionDetect(recorders, svr, actions));
+        if (!Accepted(reply))
+            co_return write;
+    }
+    reply = co_await send(BuildSetActionList(actions));
+    if (!Accepted(reply))
+        co_return write;
+    if (motion) {
+        reply = co_await send(BuildGetMotionDiResult());
+        write.refused = Accepted(reply) ? ParseApplyResult(reply) : QString();
+        const QStringList numbers = write.refused.split(u',', Qt::SkipEmptyParts);
+        for (const QString& number : numbers) {
+            Trapped("Form_NVRSetting - ApplyEventSettings",
+                    [&] { At(At(recorders, svr).channels, ToInt16(number) - 1).bSub_CH_Cam_MD_Enabled = false; });
         }
     }
-    return Accepted(send(BuildSaveConfig(kSaveEvents))) ? 1 : -1;
+    reply = co_await send(BuildSaveConfig(kSaveEvents));
+    write.result = Accepted(reply) ? 1 : -1;
+    co_return write;
 }

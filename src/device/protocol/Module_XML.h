@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <functional>
+#include <qcorotask.h>
 #include <span>
 
 // Requests of the "CMD" protocol of recorders and decoders: one small XML document each, sent as "type=action&xml="
@@ -149,8 +150,13 @@ bool Accepted(const QString& reply);
 
 // Writes the event settings of recorder `svr` in the order the device wants: with `motion` the motion switches, then
 // the action list, then with `motion` the question which channels refused, then the save. `send` carries one request
-// and gives its reply. Channels that refused lose their motion switch in the record, and `refused` is told their
-// numbers ("3,5") for the operator's message. -1 when a write is not accepted (nothing later is sent), else 1.
-qint16 ApplyEventSettings(std::span<SVRRecord> recorders, qint16 svr, bool motion,
-                          std::span<const ActionRecord> actions, const std::function<QString(const QString& xml)>& send,
-                          const std::function<void(const QString& channels)>& refused);
+// and gives its reply. Channels that refused lose their motion switch in the record. What is referred to must outlive
+// the task.
+struct EventWrite
+{
+    qint16 result = -1; // -1 when a write is not accepted (nothing later is sent), else 1
+    QString refused;    // numbers of the channels ("3,5") for the operator's message
+};
+QCoro::Task<EventWrite> ApplyEventSettings(std::span<SVRRecord> recorders, qint16 svr, bool motion,
+                                           std::span<const ActionRecord> actions,
+                                           std::function<QCoro::Task<QString>(QString xml)> send);

@@ -143,7 +143,7 @@ DialogFrame::DialogFrame(QWidget* parent)
     m_close->setFixedSize(32, 32);
     m_close->setFocusPolicy(Qt::NoFocus); // Esc is its key
     setCloseText(u"Close"_s);
-    connect(m_close, &QToolButton::clicked, this, &DialogFrame::reject);
+    connect(m_close, &QToolButton::clicked, this, &QWidget::close); // ends in reject
 
     m_titleRow->setFixedHeight(kTitleHeight);
     auto* title = new QHBoxLayout(m_titleRow);

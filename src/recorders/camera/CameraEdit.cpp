@@ -129,7 +129,7 @@ QString CameraEdit::brand() const
     return number > 0 ? QString::number(number) : QString();
 }
 
-CameraEdit::Outcome CameraEdit::checkFields() const
+QCoro::Task<CameraEdit::Outcome> CameraEdit::checkFields(Work& work) const
 {
     const std::pair<const QString&, int> needed[] = {{m_fields.name, kNameEmpty},
                                                      {m_fields.address, kAddressEmpty},
@@ -138,33 +138,40 @@ CameraEdit::Outcome CameraEdit::checkFields() const
                                                      {m_fields.password, kPasswordEmpty}};
     for (int field = 0; const auto& [text, message] : needed) {
         if (text.isEmpty())
-            return Outcome::Failed(message, {}, field);
+            co_return Outcome::Failed(message, {}, field);
         ++field;
     }
     const QString address = m_fields.address.trimmed();
-    if (!CheckIP(address) && GetIpByName(address).isEmpty())
-        return Outcome::Failed(kAddressFault, {}, kAddress);
+    QString found = address;
+    if (!CheckIP(address))
+        found = co_await GetIpByName(address, work);
+    if (found.isEmpty())
+        co_return Outcome::Failed(kAddressFault, {}, kAddress);
     if (m_fields.name.contains(u'"'))
-        return Outcome::Failed(kNameQuote, {}, kName);
+        co_return Outcome::Failed(kNameQuote, {}, kName);
     if (!PortFits(m_fields.port))
-        return Outcome::Failed(kPortFault, {}, kPort);
-    return Outcome::Done();
+        co_return Outcome::Failed(kPortFault, {}, kPort);
+    co_return Outcome::Done();
 }
 
-CameraEdit::Outcome CameraEdit::detect()
+QCoro::Task<CameraEdit::Outcome> CameraEdit::detect(Work& work)
 {
-    if (const Outcome fault = checkFields(); !fault.ok)
-        return fault;
+    const Outcome fault = co_await checkFields(work);
+    if (!fault.ok)
+        co_return fault;
     const bool pro = lists().isPro();
     const bool ownSource = m_draft.svr.iSub_CH_VideoID == editChannel().iSub_CH_VideoID;
     if (!pro && ownSource && m_fields == storedFields() && HasStoredDetection({editChannel(), editProChannel(), pro})) {
         open(m_channel);
         m_detected = true;
-        return Outcome::Done(kDetectSuccess);
+        co_return Outcome::Done(kDetectSuccess);
     }
-    if (!CgiGetGid(m_com.web, AddressOf(recorder())))
-        return Outcome::Failed(kNoCamera);
-    return pro ? ChannelDetectPro() : detectSvr();
+    const bool answers = co_await CgiGetGid(m_com.web, AddressOf(recorder()), work);
+    if (!answers)
+        co_return Outcome::Failed(kNoCamera);
+    QCoro::Task<Outcome> detection = pro ? ChannelDetectPro(work) : detectSvr(work);
+    const Outcome outcome = co_await detection;
+    co_return outcome;
 }
 
 bool CameraEdit::sameCamera() const
@@ -195,7 +202,7 @@ CameraEdit::Draft CameraEdit::draftForDetection() const
     return draft;
 }
 
-CameraEdit::Outcome CameraEdit::detectSvr()
+QCoro::Task<CameraEdit::Outcome> CameraEdit::detectSvr(Work& work)
 {
     Draft draft = draftForDetection();
     const DeviceAddress recorder = AddressOf(this->recorder());
@@ -205,9 +212,12 @@ CameraEdit::Outcome CameraEdit::detectSvr()
     const QString brand = sameCamera() ? this->brand() : QString();
     auto source = std::max<qint16>(draft.svr.iSub_CH_VideoID, 1);
     const bool oneSource = choice(Control::VideoSource).shown;
-    const QString reply =
-        oneSource ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand)
-                  : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand);
+    QCoro::Task<QString> asked =
+        oneSource ? CgiDetectCameraAs(m_com.web, recorder, address, port, m_fields.user, password, source, brand, work)
+                  : CgiDetectCamera(m_com.web, recorder, address, port, m_fields.user, password, brand, work);
+    const QString reply = co_await asked;
+    if (work.stopped())
+        co_return Outcome();
     std::optional<DetectedCameraText> camera = ReadDetectedCamera(reply, source);
     if (camera && oneSource) { // the answer need not repeat how many there are
         camera->VideoSources = std::max(camera->VideoSources, m_draft.svr.iSub_CH_VideoIDCount);
@@ -216,32 +226,34 @@ CameraEdit::Outcome CameraEdit::detectSvr()
         camera = ReadDetectedCamera(reply, source);
     }
     if (!camera)
-        return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
+        co_return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
     if (!TakeDetectedText(*camera, draft.svr, draft.states))
-        return refuse(Outcome::FailedPlain(kUnusable));
+        co_return refuse(Outcome::FailedPlain(kUnusable));
     draft.svr.iSub_CH_VideoID = source;
     m_probeReply = reply.size() <= kMaxReplySize ? reply : QString();
-    return takeDetected(std::move(draft));
+    co_return takeDetected(std::move(draft));
 }
 
-CameraEdit::Outcome CameraEdit::ChannelDetectPro()
+QCoro::Task<CameraEdit::Outcome> CameraEdit::ChannelDetectPro(Work& work)
 {
     Draft draft = draftForDetection();
     const auto source = std::max<qint16>(draft.svr.iSub_CH_VideoID, 1);
-    const QString reply = SendCmdXml(m_com.web, AddressOf(recorder()),
-                                     BuildDetectCamera(m_fields.address.trimmed(), m_fields.port.trimmed().toInt(),
-                                                       m_fields.user, m_fields.password, source));
+    const QString request = BuildDetectCamera(m_fields.address.trimmed(), m_fields.port.trimmed().toInt(),
+                                              m_fields.user, m_fields.password, source);
+    const QString reply = co_await m_com.web.SendCmdXml(AddressOf(recorder()), request, work);
+    if (work.stopped())
+        co_return Outcome();
     qint16 result = -100;
     const bool read = Trapped(kDetectSource, [&] { result = ParseDetectedCamera(reply, draft.svr, draft.pro); });
     if (!read || result != 0)
-        return refuse(Outcome::FailedPlain(ProbeMessage(read ? result : qint16(-100))));
+        co_return refuse(Outcome::FailedPlain(ProbeMessage(read ? result : qint16(-100))));
     const SVRProStreams& streams = draft.pro.streams;
     draft.svr.sCH_ResolutionList =
         streams[0].sResolutionList + u';' + streams[1].sResolutionList + u';' + streams[2].sResolutionList;
     draft.states = StatesOfStreams(streams);
     draft.told = draft.states;
     readFishEyeModes(draft.svr);
-    return takeDetected(std::move(draft));
+    co_return takeDetected(std::move(draft));
 }
 
 void CameraEdit::readFishEyeModes(SVRChannel& svr) const
@@ -326,24 +338,24 @@ ChannelSettings CameraEdit::settings(const Draft& draft) const
     return out;
 }
 
-CameraEdit::Outcome CameraEdit::write(Draft& draft) const
+QCoro::Task<CameraEdit::Outcome> CameraEdit::write(Draft& draft, Work& work) const
 {
     const auto number = static_cast<qint16>(m_channel);
     if (!lists().isPro())
-        return WriteSvrChannel(m_com, AddressOf(recorder()), number, parameters());
-    return WriteProChannel(m_com, AddressOf(recorder()), draft.svr, draft.pro, number, settings(draft));
+        return WriteSvrChannel(m_com, AddressOf(recorder()), number, parameters(), work);
+    return WriteProChannel(m_com, AddressOf(recorder()), draft.svr, draft.pro, number, settings(draft), work);
 }
 
-CameraEdit::Outcome CameraEdit::writeBack()
+QCoro::Task<CameraEdit::Outcome> CameraEdit::writeBack(Work& work)
 {
     if (m_fields.name.isEmpty() && m_fields.address.trimmed().isEmpty()) {
-        const Outcome outcome = ClearRecorderChannel(m_com, m_recorders, m_channel);
+        const Outcome outcome = co_await ClearRecorderChannel(m_com, m_recorders, m_channel, work);
         if (outcome.ok)
             open(m_channel);
-        return outcome;
+        co_return outcome;
     }
     if (m_fields.name.contains(u'"')) // no device can be told
-        return Outcome::Failed(kNameQuote, {}, kName);
+        co_return Outcome::Failed(kNameQuote, {}, kName);
     gather();
     Draft draft = m_draft;
     putFields(draft.svr);
@@ -357,34 +369,36 @@ CameraEdit::Outcome CameraEdit::writeBack()
         draft.svr.sCH_FPS_Customer = rates.text();
         draft.svr.sCH_FPS_List_Customer = rates.entries.join(u',');
     }
-    const Outcome outcome = write(draft);
+    const Outcome outcome = co_await write(draft, work);
     if (!outcome.ok) {
-        if (!lists().isPro())
+        if (!lists().isPro() && !work.stopped())
             refuse(outcome);
-        return outcome;
+        co_return outcome;
     }
     readFishEyeModes(draft.svr);
     draft.svr.bSub_CH_Modified = true;
     editChannel() = draft.svr;
     editProChannel() = draft.pro;
     open(m_channel);
-    return outcome;
+    co_return outcome;
 }
 
-std::vector<FoundCamera> CameraEdit::searchCameras(Outcome& outcome)
+QCoro::Task<CameraEdit::Search> CameraEdit::searchCameras(Work& work)
 {
+    Search search;
+    std::vector<FoundCamera>& found = search.found;
     const DeviceAddress recorder = AddressOf(m_recorders.SVREdit);
-    std::vector<FoundCamera> found;
     if (IsProFamily(m_recorders.SVREdit.sSVR_DeviceType)) {
-        const QString reply = SendCmdXml(m_com.web, recorder, BuildSearchCameras());
+        const QString reply = co_await m_com.web.SendCmdXml(recorder, BuildSearchCameras(), work);
         if (Accepted(reply))
             Trapped("Form_NVRSetting - GetSVRCameraSearch", [&] { ParseSearchResult(reply, found); });
         std::erase_if(found, [](const FoundCamera& camera) { return camera.IP.isEmpty(); });
         if (found.size() > kMaxFoundCameras)
             found.resize(kMaxFoundCameras);
     } else {
-        found = ReadCameraSearch(GetSVRCameraSearch(m_com.web, recorder)).value_or(std::vector<FoundCamera>());
+        const QString reply = co_await GetSVRCameraSearch(m_com.web, recorder, work);
+        found = ReadCameraSearch(reply).value_or(std::vector<FoundCamera>());
     }
-    outcome = found.empty() ? Outcome::Failed(kNoCamera) : Outcome::Done();
-    return found;
+    search.outcome = found.empty() ? Outcome::Failed(kNoCamera) : Outcome::Done();
+    co_return search;
 }

@@ -14,8 +14,8 @@
 #include <vector>
 
 // The page of one camera without its window. Works on a draft of the channel; the edit pair (SVREdit, SVRProEdit)
-// takes it when the recorder has taken it, and stays as it was otherwise. Calls that talk to the recorder wait on the
-// replies (platform/Wait.h); only one runs at a time.
+// takes it when the recorder has taken it, and stays as it was otherwise. Calls that talk to the recorder await the
+// replies, one at a time; the page outlives them.
 class CameraEdit : public QObject
 {
     Q_OBJECT
@@ -75,14 +75,19 @@ public:
     bool changed() const { return m_changed; }   // something differs from what open() took
 
     // lbCamDetect. On failure the lists are emptied once the recorder has been asked.
-    Outcome detect();
+    QCoro::Task<Outcome> detect(Work& work);
     // lbCamModifyApply before its write: the station is full (716), a change needs a new detection (616).
     Outcome checkApply() const;
     // cmbeditCam_Click after its question 611. Fields whose name and address are empty clear the channel. Where the
     // recorder has taken the channel and cannot be read afterwards, what was sent counts (and message 7 says so).
-    Outcome writeBack();
+    QCoro::Task<Outcome> writeBack(Work& work);
     // The cameras that the recorder sees on its own network; none with a message when it cannot tell or sees none.
-    std::vector<FoundCamera> searchCameras(Outcome& outcome);
+    struct Search
+    {
+        Outcome outcome;
+        std::vector<FoundCamera> found;
+    };
+    QCoro::Task<Search> searchCameras(Work& work);
 
 signals:
     void choicesChanged();
@@ -106,16 +111,16 @@ private:
     void putState(const FormatState& state);
     Fields storedFields() const;
     void putFields(SVRChannel& svr) const;
-    Outcome checkFields() const;
-    Outcome detectSvr();
-    Outcome ChannelDetectPro();
+    QCoro::Task<Outcome> checkFields(Work& work) const;
+    QCoro::Task<Outcome> detectSvr(Work& work);
+    QCoro::Task<Outcome> ChannelDetectPro(Work& work);
     bool sameCamera() const; // the lists are those of the address on the page
     Draft draftForDetection() const;
     bool storedCamera() const; // the fields name the camera that the channel has
     void readFishEyeModes(SVRChannel& svr) const;
     Outcome takeDetected(Draft draft);
     Outcome refuse(Outcome outcome);
-    Outcome write(Draft& draft) const;
+    QCoro::Task<Outcome> write(Draft& draft, Work& work) const;
     ChannelParameters parameters() const;
     ChannelSettings settings(const Draft& draft) const;
 

@@ -38,13 +38,13 @@ std::vector<int> CameraChannels(const SVRRecord& svr)
     return channels;
 }
 
-bool ReadActions(Form_COM& com, const SVRRecord& svr, std::vector<ActionRecord>& actions)
+QCoro::Task<bool> ReadActions(Form_COM& com, DeviceAddress recorder, std::vector<ActionRecord>& actions, Work& work)
 {
-    const QString reply = SendCmdXml(com.web, AddressOf(svr), BuildGetActionList());
+    const QString reply = co_await com.web.SendCmdXml(recorder, BuildGetActionList(), work);
     qint16 result = -1;
     if (Accepted(reply))
         Trapped("Form_NVRSetting - ReadActions", [&] { result = ParseActionList(reply, actions); });
-    return result == 1;
+    co_return result == 1;
 }
 
 // One enabled action on motion for each channel that is on; those of the others are switched off. What else the list
@@ -77,33 +77,36 @@ void TakeSwitches(SVRRecord& svr, const CameraEventBits& bits, const std::vector
         At(svr.channels, channel).bSub_CH_Cam_MD_Enabled = At(bits, channel) != 0;
 }
 
-RecorderOutcome WritePro(Form_COM& com, SVRRecord& svr, const CameraEventBits& bits, const std::vector<int>& channels)
+QCoro::Task<RecorderOutcome> WritePro(Form_COM& com, SVRRecord& svr, CameraEventBits bits, std::vector<int> channels,
+                                      Work& work)
 {
     std::vector<ActionRecord> actions;
-    if (!ReadActions(com, svr, actions))
-        return RecorderOutcome::FailedPlain(kSendFault);
+    const DeviceAddress recorder = AddressOf(svr);
+    const bool told = co_await ReadActions(com, recorder, actions, work);
+    if (!told)
+        co_return RecorderOutcome::FailedPlain(kSendFault);
     PutSwitches(actions, bits, channels);
     const auto written = std::make_unique<SVRRecord>(svr);
     TakeSwitches(*written, bits, channels);
-    QString refused;
-    const qint16 result = ApplyEventSettings(
-        std::span(written.get(), 1), 0, true, actions,
-        [&](const QString& xml) { return SendCmdXml(com.web, AddressOf(svr), xml); },
-        [&](const QString& list) { refused = list; });
-    if (result < 0)
-        return RecorderOutcome::FailedPlain(kSendFault);
+    const std::span<SVRRecord> list(written.get(), 1);
+    const auto send = [&](QString xml) { return com.web.SendCmdXml(recorder, xml, work); };
+    const EventWrite write = co_await ApplyEventSettings(list, 0, true, actions, send);
+    if (write.result < 0)
+        co_return RecorderOutcome::FailedPlain(kSendFault);
     svr.channels = written->channels;
-    return refused.isEmpty() ? RecorderOutcome::Done() : Refused(svr, refused);
+    co_return write.refused.isEmpty() ? RecorderOutcome::Done() : Refused(svr, write.refused);
 }
 
-RecorderOutcome WriteSvr(Form_COM& com, SVRRecord& svr, const CameraEventBits& bits, const std::vector<int>& channels)
+QCoro::Task<RecorderOutcome> WriteSvr(Form_COM& com, SVRRecord& svr, CameraEventBits bits, std::vector<int> channels,
+                                      Work& work)
 {
-    const QString reply = CgiSetEventHttp(com.web, AddressOf(svr), CameraEventParameters(bits, channels), svr.iSVR_Num);
+    const QString parameters = CameraEventParameters(bits, channels);
+    const QString reply = co_await CgiSetEventHttp(com.web, AddressOf(svr), parameters, svr.iSVR_Num, work);
     if (!reply.contains("OK"_L1)) {
         if (reply.contains("-5341"_L1))
-            return RecorderOutcome::FailedPlain(kNoForwarding);
-        return RecorderOutcome::FailedPlain(!reply.isEmpty() && !reply.contains("Error"_L1) ? kChannelGone
-                                                                                            : kSendFault);
+            co_return RecorderOutcome::FailedPlain(kNoForwarding);
+        co_return RecorderOutcome::FailedPlain(!reply.isEmpty() && !reply.contains("Error"_L1) ? kChannelGone
+                                                                                               : kSendFault);
     }
     TakeSwitches(svr, bits, channels);
     QStringList refused;
@@ -111,44 +114,52 @@ RecorderOutcome WriteSvr(Form_COM& com, SVRRecord& svr, const CameraEventBits& b
         At(svr.channels, number - 1).bSub_CH_Cam_MD_Enabled = false;
         refused += QString::number(number);
     }
-    return refused.isEmpty() ? RecorderOutcome::Done() : Refused(svr, refused.join(u','));
+    co_return refused.isEmpty() ? RecorderOutcome::Done() : Refused(svr, refused.join(u','));
 }
 
 } // namespace
 
-RecorderOutcome ReadRecorderCameraEvents(Form_COM& com, const SVRRecord& svr, CameraEventBits& bits)
+QCoro::Task<RecorderOutcome> ReadRecorderCameraEvents(Form_COM& com, const SVRRecord& svr, CameraEventBits& bits,
+                                                      Work& work)
 {
+    const DeviceAddress recorder = AddressOf(svr);
     if (!IsProFamily(svr.sSVR_DeviceType)) {
-        const auto read = ReadCameraEvents(CgiGetBasicEvent(com.web, AddressOf(svr)));
+        const QString reply = co_await CgiGetBasicEvent(com.web, recorder, work);
+        const std::optional<CameraEventBits> read = ReadCameraEvents(reply);
         if (!read)
-            return RecorderOutcome::FailedPlain(kSendFault);
+            co_return RecorderOutcome::FailedPlain(kSendFault);
         bits = *read;
-        return RecorderOutcome::Done();
+        co_return RecorderOutcome::Done();
     }
     std::vector<ActionRecord> actions;
-    if (!ReadActions(com, svr, actions))
-        return RecorderOutcome::FailedPlain(kSendFault);
+    const bool told = co_await ReadActions(com, recorder, actions, work);
+    if (!told)
+        co_return RecorderOutcome::FailedPlain(kSendFault);
     bits.fill(0);
     for (const ActionRecord& action : actions) {
         if (action.Event == kMotionEvent && action.Enable == 1 && action.CH >= 1 && action.CH <= kMaxChannel)
             At(bits, action.CH - 1) = 1;
     }
-    return RecorderOutcome::Done();
+    co_return RecorderOutcome::Done();
 }
 
-RecorderOutcome WriteRecorderCameraEvents(Form_COM& com, SVRRecord& svr, const CameraEventBits& bits)
+QCoro::Task<RecorderOutcome> WriteRecorderCameraEvents(Form_COM& com, SVRRecord& svr, CameraEventBits bits, Work& work)
 {
     const std::vector<int> channels = CameraChannels(svr);
-    return IsProFamily(svr.sSVR_DeviceType) ? WritePro(com, svr, bits, channels) : WriteSvr(com, svr, bits, channels);
+    return IsProFamily(svr.sSVR_DeviceType) ? WritePro(com, svr, bits, channels, work)
+                                            : WriteSvr(com, svr, bits, channels, work);
 }
 
-bool TakeRecorderCameraEvents(Form_COM& com, SVRRecord& svr)
+QCoro::Task<bool> TakeRecorderCameraEvents(Form_COM& com, SVRRecord& svr, Work& work)
 {
     CameraEventBits bits{};
-    if (!svr.bSVR_N_EventSupport || !ReadRecorderCameraEvents(com, svr, bits).ok)
-        return false;
+    if (!svr.bSVR_N_EventSupport)
+        co_return false;
+    const RecorderOutcome read = co_await ReadRecorderCameraEvents(com, svr, bits, work);
+    if (!read.ok)
+        co_return false;
     for (std::size_t channel = 0; channel < kMaxChannel; ++channel)
         svr.channels[channel].bSub_CH_Cam_MD_Enabled =
             bits[channel] != 0 && !svr.channels[channel].sSub_CH_IP.isEmpty();
-    return true;
+    co_return true;
 }

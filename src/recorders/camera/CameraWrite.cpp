@@ -37,33 +37,39 @@ RecorderOutcome RefusedWrite(const QString& reply)
     return RecorderOutcome::Failed(kDetectFault);
 }
 
-RecorderOutcome WriteSvrChannel(Form_COM& com, const DeviceAddress& recorder, qint16 channel,
-                                const ChannelParameters& parameters)
+QCoro::Task<RecorderOutcome> WriteSvrChannel(Form_COM& com, DeviceAddress recorder, qint16 channel,
+                                             ChannelParameters parameters, Work& work)
 {
     const bool both = !parameters.Format.isEmpty() && !parameters.Resolution.isEmpty();
+    const ChannelForm form = both ? ChannelForm::Both : ChannelForm::Simple;
     QString reply;
-    Trapped(kSource, [&] {
-        reply = com.device.SetChannel(recorder, static_cast<qint16>(channel + 1), parameters,
-                                      both ? ChannelForm::Both : ChannelForm::Simple);
-    });
+    try {
+        reply = co_await com.device.SetChannel(recorder, static_cast<qint16>(channel + 1), parameters, form, work);
+    } catch (const std::exception& error) {
+        LogTrap(kSource, QString::fromUtf8(error.what()));
+    }
+    if (work.stopped())
+        co_return RecorderOutcome();
     if (DeviceBridge::DeviceTook(reply))
-        return RecorderOutcome::Done();
+        co_return RecorderOutcome::Done();
     if (!both && ResultOf(reply) < 0)
-        return RecorderOutcome::Failed(kFormatFault);
-    return RefusedWrite(reply);
+        co_return RecorderOutcome::Failed(kFormatFault);
+    co_return RefusedWrite(reply);
 }
 
-RecorderOutcome WriteProChannel(Form_COM& com, const DeviceAddress& recorder, SVRChannel& svr, SVRProChannel& pro,
-                                qint16 channel, const ChannelSettings& settings)
+QCoro::Task<RecorderOutcome> WriteProChannel(Form_COM& com, DeviceAddress recorder, SVRChannel& svr, SVRProChannel& pro,
+                                             qint16 channel, ChannelSettings settings, Work& work)
 {
-    const QString written = SendCmdXml(com.web, recorder, BuildSetChannel(settings));
+    const QString written = co_await com.web.SendCmdXml(recorder, BuildSetChannel(settings), work);
     if (written.isEmpty())
-        return RecorderOutcome::Failed(kConnectionError);
+        co_return RecorderOutcome::Failed(kConnectionError);
     if (!Accepted(written))
-        return RefusedWrite(written);
-    if (!Accepted(SendCmdXml(com.web, recorder, BuildSaveConfig(kSaveChannels))))
-        return RecorderOutcome::Failed(kSettingFault);
-    const QString read = SendCmdXml(com.web, recorder, BuildGetChannels(true, static_cast<qint16>(channel + 1)));
+        co_return RefusedWrite(written);
+    const QString saved = co_await com.web.SendCmdXml(recorder, BuildSaveConfig(kSaveChannels), work);
+    if (!Accepted(saved))
+        co_return RecorderOutcome::Failed(kSettingFault);
+    const QString request = BuildGetChannels(true, static_cast<qint16>(channel + 1));
+    const QString read = co_await com.web.SendCmdXml(recorder, request, work);
     SVRChannel readBack = svr;
     SVRProChannel readBackPro = pro;
     qint16 result = 0;
@@ -72,9 +78,9 @@ RecorderOutcome WriteProChannel(Form_COM& com, const DeviceAddress& recorder, SV
         LogTrap(kSource, u"Channel %1 was written and cannot be read back"_s.arg(channel + 1));
         RecorderOutcome unread = RecorderOutcome::Failed(kConnectionError);
         unread.ok = true;
-        return unread;
+        co_return unread;
     }
     svr = std::move(readBack);
     pro = std::move(readBackPro);
-    return RecorderOutcome::Done();
+    co_return RecorderOutcome::Done();
 }

@@ -16,37 +16,39 @@ enum Message
     kSettingFault = 722
 };
 
-RecorderOutcome ClearOnDevice(Form_COM& com, const SVRRecord& svr, qint16 channel)
+QCoro::Task<RecorderOutcome> ClearOnDevice(Form_COM& com, DeviceAddress recorder, bool pro, qint16 number, Work& work)
 {
-    if (!IsProFamily(svr.sSVR_DeviceType)) {
+    if (!pro) {
         ChannelParameters none; // an empty address takes the camera off
         none.HttpPort = u"80"_s;
         none.Brand = u"0"_s;
-        const QString reply =
-            com.device.SetChannel(AddressOf(svr), static_cast<qint16>(channel + 1), none, ChannelForm::Simple);
+        const QString reply = co_await com.device.SetChannel(recorder, number, none, ChannelForm::Simple, work);
         if (reply.isEmpty())
-            return RecorderOutcome::Failed(kNoServer);
-        return DeviceBridge::DeviceTook(reply) ? RecorderOutcome::Done() : RefusedWrite(reply);
+            co_return RecorderOutcome::Failed(kNoServer);
+        co_return DeviceBridge::DeviceTook(reply) ? RecorderOutcome::Done() : RefusedWrite(reply);
     }
-    const DeviceAddress recorder = AddressOf(svr);
-    if (!Accepted(SendCmdXml(com.web, recorder, BuildClearChannel(static_cast<qint16>(channel + 1)))))
-        return RecorderOutcome::Failed(kNoServer);
-    if (!Accepted(SendCmdXml(com.web, recorder, BuildSaveConfig(kSaveChannels))))
-        return RecorderOutcome::Failed(kSettingFault);
-    return RecorderOutcome::Done();
+    const QString cleared = co_await com.web.SendCmdXml(recorder, BuildClearChannel(number), work);
+    if (!Accepted(cleared))
+        co_return RecorderOutcome::Failed(kNoServer);
+    const QString saved = co_await com.web.SendCmdXml(recorder, BuildSaveConfig(kSaveChannels), work);
+    if (!Accepted(saved))
+        co_return RecorderOutcome::Failed(kSettingFault);
+    co_return RecorderOutcome::Done();
 }
 
 } // namespace
 
-RecorderOutcome ClearRecorderChannel(Form_COM& com, RecorderSet& recorders, int channel)
+QCoro::Task<RecorderOutcome> ClearRecorderChannel(Form_COM& com, RecorderSet& recorders, int channel, Work& work)
 {
     SVRRecord& svr = recorders.SVREdit;
     if (At(svr.channels, channel).sSub_CH_IP.isEmpty())
-        return RecorderOutcome::Done();
-    const RecorderOutcome outcome = ClearOnDevice(com, svr, static_cast<qint16>(channel));
+        co_return RecorderOutcome::Done();
+    const auto number = static_cast<qint16>(channel + 1);
+    const RecorderOutcome outcome =
+        co_await ClearOnDevice(com, AddressOf(svr), IsProFamily(svr.sSVR_DeviceType), number, work);
     if (!outcome.ok)
-        return outcome;
+        co_return outcome;
     ClearChannel(svr, recorders.SVRProEdit, channel);
     At(svr.channels, channel).bSub_CH_Modified = true;
-    return outcome;
+    co_return outcome;
 }

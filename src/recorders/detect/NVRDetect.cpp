@@ -5,7 +5,6 @@
 #include "device/protocol/Module_XML.h"
 #include "device/protocol/ParameterText.h"
 #include "device/protocol/ReplyParsers.h"
-#include "platform/Wait.h"
 #include "recorders/camera/CameraEvents.h"
 #include "recorders/camera/CameraLists.h"
 #include "support/Conversions.h"
@@ -68,11 +67,6 @@ int MessageOfLogin(qint32 result)
     }
 }
 
-bool Stopped(const DetectContext& context)
-{
-    return Closing() || (context.stopped && context.stopped());
-}
-
 // What "camera_c<n>.device" tells of a channel.
 void TakeDevice(const RecorderChannel& read, SVRChannel& camera)
 {
@@ -106,10 +100,12 @@ NVRDetectItem Trimmed(NVRDetectItem item)
 class Detection
 {
 public:
-    Detection(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report, DetectMode mode)
+    Detection(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report, Work& work,
+              DetectMode mode)
         : m_context(context)
         , m_item(Trimmed(item))
         , m_report(report)
+        , m_work(work)
         , m_modify(mode == DetectMode::Modify)
         , m_web(context.com.web)
         , m_device{m_item.sIP, item.iPort, item.sUser, item.sPassword}
@@ -122,114 +118,136 @@ public:
         *m_pro = context.recorders.SVRProEdit;
     }
 
-    void run()
+    QCoro::Task<> run(DetectOrder* order, std::size_t row)
     {
-        m_slot = m_item.iSlot >= 0 ? m_item.iSlot : FirstFreeSlot(m_context.recorders.SVRWorkList);
-        At(m_context.recorders.SVRWorkList, m_slot);
-        const int cameras = CameraTotal(m_context.recorders.SVRWorkList);
         say(kLogin, 5);
-        const QString loginReply = logIn();
+        const QString loginReply = co_await logIn();
         say(kGetCapability, 20);
-        readCapability();
+        co_await readCapability();
         if (!LoginLevelPasses(loginReply, m_family))
             throw DetectFailure{kUnauthorised};
-        if (!m_modify)
-            refuseRepeatedAdd();
-        if (m_family == kFamilySVR)
-            readFirmwareVersion();
-        if (cameras > iChannelLimit)
-            throw DetectFailure{kTooManyChannels, u"(256)"_s};
-        say(kGetChannels, 40);
-        readChannels();
-        say(kGetInfo, 75);
-        readSystem();
-        m_svr->iSVR_ValidCH = static_cast<qint16>(CameraCount(*m_svr));
+        checkStation(); // what is refused already stays refused
+        std::exception_ptr fault;
+        try {
+            co_await readRecorder();
+        } catch (...) {
+            fault = std::current_exception();
+        }
+        if (order)
+            co_await order->turn(row);
+        if (m_work.stopped())
+            throw DetectFailure{kDetectStopped};
+        checkStation();
+        if (fault)
+            std::rethrow_exception(fault);
         if (m_svr->iSVR_ValidCH == 0)
             throw DetectFailure{kNoChannel};
-        say(kInitialValue, 90);
-        fillRecord();
-        TakeRecorderCameraEvents(m_context.com, *m_svr);
         say(kInitialValue, 100);
         store();
     }
 
+    int slot() const { return m_slot; }
+
 private:
     void say(int message, int percent)
     {
-        if (Stopped(m_context))
+        if (m_work.stopped())
             throw DetectFailure{kDetectStopped};
         m_report({message, percent, DetectStatus::State::Running, {}});
     }
 
-    qint32 tryLogin(const QString& user, const QString& password, QString& reply)
+    QCoro::Task<LoginReply> tryLogin(QString user, QString password)
     {
         m_device.user = user;
         m_device.password = password;
-        return CgiLogin(m_web, m_device, reply);
+        return CgiLogin(m_web, m_device, m_work);
     }
 
     // The login's reply; the login that worked stays in m_device.
-    QString logIn()
+    QCoro::Task<QString> logIn()
     {
-        QString reply;
-        qint32 result = -1;
+        LoginReply reply;
+        reply.result = -1;
         if (m_modify || !m_item.sUser.isEmpty() || !m_item.sPassword.isEmpty()) {
             const auto orAdmin = [](const QString& text) { return text.isEmpty() ? u"admin"_s : text; };
-            result = tryLogin(orAdmin(m_item.sUser), orAdmin(m_item.sPassword), reply);
+            reply = co_await tryLogin(orAdmin(m_item.sUser), orAdmin(m_item.sPassword));
         } else {
-            for (const NVRAccountRecord& account : m_context.accounts) {
-                result = tryLogin(account.sUser, account.sPass, reply);
-                if (result == 1)
+            const std::vector<NVRAccountRecord> accounts = m_context.accounts;
+            for (const NVRAccountRecord& account : accounts) {
+                reply = co_await tryLogin(account.sUser, account.sPass);
+                if (reply.result == 1 || m_work.stopped())
                     break;
             }
         }
-        if (result != 1)
-            throw DetectFailure{MessageOfLogin(result)};
-        return reply;
+        if (reply.result != 1)
+            throw DetectFailure{MessageOfLogin(reply.result)};
+        co_return reply.text;
     }
 
-    void readCapability()
+    QCoro::Task<> readCapability()
     {
-        if (CgiGetServerCapability(m_web, m_device, m_capability) == -1)
+        const std::optional<SvrCapability> read = co_await CgiGetServerCapability(m_web, m_device, m_work);
+        if (!read)
             throw DetectFailure{kConnectionError};
+        m_capability = *read;
         m_family = GetsDeviceType(m_capability.DeviceType, m_capability.MaxHDSupport);
         if (m_capability.DeviceType.contains("SVD"_L1) || (IsProFamily(m_family) && !m_capability.CMSSupport))
             throw DetectFailure{kNotSupported};
         m_channels = qBound(qint16(0), m_capability.MaxChannelSupport, qint16(kMaxChannel));
     }
 
-    void refuseRepeatedAdd() const
+    // What the other recorders of the station, and those that came before in the list, leave for this one.
+    void checkStation()
     {
-        for (const SVRRecord& other : m_context.recorders.SVRWorkList) {
-            if (!other.sSVR_IP.isEmpty() && other.sSVR_IP == m_item.sIP && other.iSVR_HttpPort == m_item.iPort)
+        const auto& known = m_context.recorders.SVRWorkList;
+        m_slot = m_item.iSlot >= 0 ? m_item.iSlot : FirstFreeSlot(known);
+        At(known, m_slot);
+        for (const SVRRecord& other : known) {
+            if (!m_modify && !other.sSVR_IP.isEmpty() && other.sSVR_IP == m_item.sIP &&
+                other.iSVR_HttpPort == m_item.iPort)
                 throw DetectFailure{kRepeatAdd};
         }
+        if (CameraTotal(known) > iChannelLimit)
+            throw DetectFailure{kTooManyChannels, u"(256)"_s};
     }
 
-    void readFirmwareVersion()
+    QCoro::Task<> readRecorder()
     {
-        const QString reply = CgiGetFwVersion(m_web, m_device);
+        if (m_family == kFamilySVR)
+            co_await readFirmwareVersion();
+        say(kGetChannels, 40);
+        co_await readChannels();
+        say(kGetInfo, 75);
+        co_await readSystem();
+        fillRecord();
+        if (m_svr->iSVR_ValidCH > 0)
+            co_await TakeRecorderCameraEvents(m_context.com, *m_svr, m_work);
+    }
+
+    QCoro::Task<> readFirmwareVersion()
+    {
+        const QString reply = co_await CgiGetFwVersion(m_web, m_device, m_work);
         if (!reply.contains("OK"_L1))
-            return;
+            co_return;
         Trapped(kSource, [&] {
             const QStringList pieces = reply.section(u'=', 1, 1).split(u'.');
             m_svr->bSVR_N_EventSupport = ToInt32(At(pieces, 3)) >= kNewEventVersion;
         });
     }
 
-    void readChannels()
+    QCoro::Task<> readChannels()
     {
         if (IsProFamily(m_family))
-            readProChannels();
+            co_await readProChannels();
         else
-            readSvrChannels();
+            co_await readSvrChannels();
         for (int channel = m_channels; channel < kMaxChannel; ++channel)
             ClearChannel(*m_svr, *m_pro, channel);
     }
 
-    void readProChannels()
+    QCoro::Task<> readProChannels()
     {
-        const QString reply = SendCmdXml(m_web, m_device, BuildGetChannels(false, m_channels));
+        const QString reply = co_await m_web.SendCmdXml(m_device, BuildGetChannels(false, m_channels), m_work);
         const auto svr = std::make_unique<SVRRecord>(); // what the reply says by itself
         const auto pro = std::make_unique<SVRProRecord>();
         if (!DeviceBridge::DeviceTook(reply) || !parseChannels(reply, *svr, *pro) ||
@@ -271,14 +289,16 @@ private:
     }
 
     // The older family describes one channel at a time, its picture and movement in groups of their own.
-    void readSvrChannels()
+    QCoro::Task<> readSvrChannels()
     {
         for (qint16 channel = 0; channel < m_channels; ++channel) {
             say(kGetChannels, 40 + 35 * channel / m_channels);
             const auto number = static_cast<qint16>(channel + 1);
-            RecorderChannel read;
-            if (m_context.com.device.GetChannel(m_device, number, read) < 0)
+            const std::optional<RecorderChannel> told =
+                co_await m_context.com.device.GetChannel(m_device, number, m_work);
+            if (!told)
                 throw DetectFailure{kConnectionError};
+            const RecorderChannel& read = *told;
             SVRChannel& camera = At(m_svr->channels, channel);
             if (read.IP.isEmpty() || camera.sSub_CH_IP != read.IP)
                 ClearChannel(*m_svr, *m_pro, channel);
@@ -288,7 +308,7 @@ private:
             TakeDevice(read, camera);
             // A group that cannot be had or read costs its own values only.
             const bool onvif = camera.iSub_CH_Brand == kOnvifBrand;
-            const ChannelParams params = CgiGetChannelParams(m_web, m_device, number, onvif);
+            const ChannelParams params = co_await CgiGetChannelParams(m_web, m_device, number, onvif, m_work);
             CHImageInfoPaser(camera, params.Image);
             CHPTZInfoPaser(camera, params.Ptz);
             if (onvif)
@@ -296,28 +316,28 @@ private:
         }
     }
 
-    void readSystem()
+    QCoro::Task<> readSystem()
     {
         if (IsProFamily(m_family)) {
-            readProSystem();
-            return;
+            co_await readProSystem();
+            co_return;
         }
-        RecorderFacts facts;
-        if (m_context.com.device.GetSystemFacts(m_device, facts) < 0)
-            return;
-        m_svr->iSVR_VideoPort = facts.VideoPort.value_or(m_svr->iSVR_VideoPort);
-        m_svr->iSVR_TimeZoneNum = facts.TimeZone.value_or(m_svr->iSVR_TimeZoneNum);
-        m_svr->iSVR_SummerTime = facts.SummerTime.value_or(m_svr->iSVR_SummerTime);
+        const std::optional<RecorderFacts> facts = co_await m_context.com.device.GetSystemFacts(m_device, m_work);
+        if (!facts)
+            co_return;
+        m_svr->iSVR_VideoPort = facts->VideoPort.value_or(m_svr->iSVR_VideoPort);
+        m_svr->iSVR_TimeZoneNum = facts->TimeZone.value_or(m_svr->iSVR_TimeZoneNum);
+        m_svr->iSVR_SummerTime = facts->SummerTime.value_or(m_svr->iSVR_SummerTime);
     }
 
-    void readProSystem()
+    QCoro::Task<> readProSystem()
     {
-        const QString system = SendCmdXml(m_web, m_device, BuildGetSystemInfo());
+        const QString system = co_await m_web.SendCmdXml(m_device, BuildGetSystemInfo(), m_work);
         if (!DeviceBridge::DeviceTook(system))
             throw DetectFailure{kConnectionError};
         Trapped(kSource, [&] { ParseSystemInfo(system, *m_svr); });
 
-        const QString device = SendCmdXml(m_web, m_device, BuildGetDeviceInfo());
+        const QString device = co_await m_web.SendCmdXml(m_device, BuildGetDeviceInfo(), m_work);
         Trapped(kSource, [&] {
             DeviceInfo info;
             ParseDeviceInfo(device, info);
@@ -326,7 +346,7 @@ private:
             m_svr->bSVR_Pro20Support = m_family == kFamilyOmluPro && version >= 2.0;
         });
         if (m_family == kFamilyTXR632) {
-            const QString time = SendCmdXml(m_web, m_device, BuildGetTime());
+            const QString time = co_await m_web.SendCmdXml(m_device, BuildGetTime(), m_work);
             Trapped(kSource, [&] { ParseTimeSettings(time, *m_svr); });
         }
     }
@@ -335,8 +355,6 @@ private:
     {
         m_svr->bSVR_Changed = true;
         m_svr->bSVR_ConnChanged = true;
-        m_svr->iSVR_Num = static_cast<qint16>(m_slot + 1);
-        m_svr->iSVRId = m_svr->iSVR_Num;
         m_svr->sSVR_Name = m_item.sName;
         m_svr->sSVR_IP = m_item.sIP;
         m_svr->iSVR_HttpPort = m_item.iPort;
@@ -349,10 +367,13 @@ private:
         m_svr->sSVR_DisplayDeviceType = m_capability.ModelName;
         m_svr->bSVR_CEventSupport = m_capability.CustomEventSupport;
         m_svr->sSVR_Version = m_capability.FirmwareVersion;
+        m_svr->iSVR_ValidCH = static_cast<qint16>(CameraCount(*m_svr));
     }
 
     void store()
     {
+        m_svr->iSVR_Num = static_cast<qint16>(m_slot + 1);
+        m_svr->iSVRId = m_svr->iSVR_Num;
         if (m_modify) {
             m_context.recorders.SVREdit = *m_svr;
             m_context.recorders.SVRProEdit = *m_pro;
@@ -365,6 +386,7 @@ private:
     const DetectContext& m_context;
     const NVRDetectItem m_item;
     const DetectReport& m_report;
+    Work& m_work;
     const bool m_modify;
     WebBridge& m_web;
     DeviceAddress m_device;
@@ -378,21 +400,25 @@ private:
 
 } // namespace
 
-ManualFault ValidateManualNVR(const QString& typedName, const QString& typedAddress, const QString& port)
+QCoro::Task<ManualFault> ValidateManualNVR(QString typedName, QString typedAddress, QString port, Work& work)
 {
     const QString name = typedName.trimmed();
     const QString address = typedAddress.trimmed();
-    if (name.isEmpty())
-        return {kNameEmpty, ManualField::Name};
-    if (address.isEmpty())
-        return {491, ManualField::Address};
-    if (!CheckIP(address) && GetIpByName(address).isEmpty())
-        return {kAddressFault, ManualField::Address};
-    if (address == "127.0.0.1"_L1)
-        return {kAddressFault, ManualField::Address};
-    if (port.trimmed().isEmpty())
-        return {492, ManualField::Port};
-    return {};
+    ManualFault fault;
+    if (name.isEmpty()) {
+        fault = {kNameEmpty, ManualField::Name};
+    } else if (address.isEmpty()) {
+        fault = {491, ManualField::Address};
+    } else {
+        QString found = address;
+        if (!CheckIP(address))
+            found = co_await GetIpByName(address, work);
+        if (found.isEmpty() || address == "127.0.0.1"_L1)
+            fault = {kAddressFault, ManualField::Address};
+        else if (port.trimmed().isEmpty())
+            fault = {492, ManualField::Port};
+    }
+    co_return fault;
 }
 
 QStringList DoubleNames(const RecorderSet& recorders, const std::vector<NVRDetectItem>& items)
@@ -423,21 +449,113 @@ bool LoginLevelPasses(const QString& loginReply, const QString& family)
     return group != u'7';
 }
 
-bool DetectNVR(const DetectContext& context, const NVRDetectItem& item, const DetectReport& report, DetectMode mode)
+class DetectOrder::Turn final : public WorkAwaitable
+{
+public:
+    Turn(DetectOrder& order, std::size_t row)
+        : WorkAwaitable(order.m_work)
+        , m_order(order)
+        , m_row(row)
+    {
+    }
+    ~Turn() override { abandon(); }
+    auto operator co_await() { return Awaiter<Turn>(*this); }
+    void result() const {}
+
+    std::size_t row() const { return m_row; }
+    void come()
+    {
+        abandon();
+        finish();
+    }
+
+protected:
+    void begin() override { m_order.m_waiting.push_back(this); }
+    void abandon() override { std::erase(m_order.m_waiting, this); }
+
+private:
+    DetectOrder& m_order;
+    std::size_t m_row;
+};
+
+QCoro::Task<> DetectOrder::turn(std::size_t row)
+{
+    if (reached(row))
+        co_return;
+    Turn turn(*this, row);
+    co_await turn;
+}
+
+void DetectOrder::ended(std::size_t row)
+{
+    m_ended.insert(row);
+    while (m_ended.erase(m_next) > 0)
+        ++m_next;
+    const auto due =
+        std::find_if(m_waiting.begin(), m_waiting.end(), [this](const Turn* turn) { return reached(turn->row()); });
+    if (due != m_waiting.end())
+        (*due)->come();
+}
+
+QCoro::Task<bool> DetectNVR(DetectContext context, NVRDetectItem item, DetectReport report, Work& work, DetectMode mode,
+                            DetectOrder* order, std::size_t row)
 {
     int message = kConnectionError;
     QString suffix;
     try {
-        Detection(context, item, report, mode).run();
-        report({mode == DetectMode::Modify ? kDetectSuccess : kAddSuccess, 100, DetectStatus::State::Done, {}});
-        return true;
+        Detection detection(context, item, report, work, mode);
+        co_await detection.run(order, row);
+        report({mode == DetectMode::Modify ? kDetectSuccess : kAddSuccess,
+                100,
+                DetectStatus::State::Done,
+                {},
+                detection.slot()});
+        co_return true;
     } catch (const DetectFailure& failure) {
         // A request that was broken off on the operator's wish is no fault of the recorder.
-        message = Stopped(context) ? kDetectStopped : failure.message;
-        suffix = Stopped(context) ? QString() : failure.suffix;
+        message = work.stopped() ? kDetectStopped : failure.message;
+        suffix = work.stopped() ? QString() : failure.suffix;
     } catch (const std::exception& error) {
         LogTrap(kSource, QString::fromUtf8(error.what()));
     }
     report({message, 100, DetectStatus::State::Failed, suffix});
-    return false;
+    co_return false;
+}
+
+namespace {
+
+// At most this many recorders are asked at a time: all that the station can hold.
+constexpr std::size_t kSideBySide = kMaxSVR;
+
+// One row of a list.
+QCoro::Task<bool> DetectRow(const DetectContext& context, const std::vector<NVRDetectItem>& items, std::size_t row,
+                            const ListReport& report, Work& work, DetectOrder& order)
+{
+    const NVRDetectItem& item = items[row];
+    bool added = false;
+    if (!item.sIP.isEmpty()) {
+        // A device that stands in the list before is asked again once that row has ended.
+        const auto same = [&](const NVRDetectItem& other) {
+            return other.sIP.trimmed() == item.sIP.trimmed() && other.iPort == item.iPort;
+        };
+        if (std::any_of(items.begin(), items.begin() + static_cast<std::ptrdiff_t>(row), same))
+            co_await order.turn(row);
+        const auto tell = [&](const DetectStatus& status) { report(row, status); };
+        added = co_await DetectNVR(context, item, tell, work, DetectMode::Add, &order, row);
+    }
+    order.ended(row);
+    co_return added;
+}
+
+} // namespace
+
+QCoro::Task<std::vector<std::optional<bool>>> DetectList(DetectContext context, std::vector<NVRDetectItem> items,
+                                                         ListReport report, Work& work)
+{
+    DetectOrder order(work);
+    std::vector<std::function<QCoro::Task<bool>()>> rows;
+    for (std::size_t row = 0; row < items.size(); ++row)
+        rows.push_back([&, row] { return DetectRow(context, items, row, report, work, order); });
+    std::vector<std::optional<bool>> added = co_await Together<bool>(work, std::move(rows), kSideBySide);
+    co_return added;
 }

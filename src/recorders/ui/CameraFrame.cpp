@@ -1,10 +1,9 @@
 #include "recorders/ui/CameraFrame.h"
 
 #include "app/language/Languages.h"
-#include "app/log/Module_Log.h"
+#include "app/log/StartWork.h"
 #include "app/shell/Boxes.h"
 #include "look/widgets/Fields.h"
-#include "recorders/ui/HeldBack.h"
 #include "recorders/ui/Keys.h"
 #include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_CameraFrame.h"
@@ -29,9 +28,10 @@ enum Message
 
 } // namespace
 
-CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
+CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, Work& work, QWidget* parent)
     : QWidget(parent)
     , m_edit(com, recorders)
+    , m_work(work)
     , m_ui(std::make_unique<Ui::CameraFrame>())
 {
     m_ui->setupUi(this);
@@ -64,6 +64,8 @@ CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent)
         });
     }
     OnKey(this, Qt::Key_F5, [this] { lbCamDetect_Click(); });
+    connect(&m_work, &Work::stepChanged, m_ui->lbCamStep, [this] { m_ui->lbCamStep->setText(m_work.step()); });
+    connect(&m_work, &Work::runningChanged, m_ui->camProgress, &QWidget::setVisible);
     connect(&m_edit, &CameraEdit::choicesChanged, this, &CameraFrame::render);
     connect(m_ui->lbCamDetect, &QPushButton::clicked, this, &CameraFrame::lbCamDetect_Click);
     connect(m_ui->lbCamSearch, &QPushButton::clicked, this, &CameraFrame::searchWanted);
@@ -151,43 +153,42 @@ void CameraFrame::render()
 
 void CameraFrame::report(const RecorderOutcome& outcome)
 {
+    if (!outcome.ok && m_work.stopped()) // a call that was stopped has nothing to say
+        return;
     TellOutcome(outcome);
     if (outcome.field >= 0)
         PointAtFault(At(txtCam, outcome.field));
 }
 
-// Runs a call that waits for the recorder, the page held back and saying what goes on.
-RecorderOutcome CameraFrame::ask(int words, const std::function<RecorderOutcome()>& call)
-{
-    emit busyChanged(true, false);
-    m_ui->lbCamStep->setText(GetLangString(words));
-    m_ui->camProgress->show();
-    RecorderOutcome outcome;
-    {
-        const HeldBack held{this};
-        Trapped("Form_NVRSetting - lbCamDetect_Click", [&] { outcome = call(); });
-    }
-    m_ui->camProgress->hide();
-    emit busyChanged(false, false);
-    render();
-    return outcome;
-}
-
 void CameraFrame::lbCamDetect_Click()
 {
-    Trapped("Form_NVRSetting - lbCamDetect_Click", [&] { report(ask(kAsking, [this] { return m_edit.detect(); })); });
+    const auto detect = [this] {
+        m_work.say(GetLangString(kAsking));
+        return m_edit.detect(m_work);
+    };
+    StartWork(m_work, "Form_NVRSetting - lbCamDetect_Click"_L1, detect, [this](const RecorderOutcome& outcome) {
+        render();
+        report(outcome);
+    });
 }
 
-bool CameraFrame::apply()
+void CameraFrame::apply()
 {
     const RecorderOutcome allowed = m_edit.checkApply();
     if (!allowed.ok) {
         report(allowed);
-        return false;
+        return;
     }
     if (!Ask(kAskWrite, kNotice))
-        return false;
-    const RecorderOutcome written = ask(kWriting, [this] { return m_edit.writeBack(); });
-    report(written);
-    return written.ok;
+        return;
+    const auto write = [this] {
+        m_work.say(GetLangString(kWriting));
+        return m_edit.writeBack(m_work);
+    };
+    StartWork(m_work, "Form_NVRSetting - lbCamModifyApply_Click"_L1, write, [this](const RecorderOutcome& outcome) {
+        render();
+        report(outcome);
+        if (outcome.ok)
+            emit written();
+    });
 }

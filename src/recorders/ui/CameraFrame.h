@@ -20,7 +20,7 @@ class CameraFrame : public QWidget
     Q_OBJECT
 
 public:
-    CameraFrame(Form_COM& com, RecorderSet& recorders, QWidget* parent);
+    CameraFrame(Form_COM& com, RecorderSet& recorders, Work& work, QWidget* parent);
     ~CameraFrame() override;
 
     void openChannel(int channel); // from 0
@@ -28,8 +28,8 @@ public:
     CameraEdit& edit() { return m_edit; }
     // A camera that a search has found takes the place of the address and port typed so far.
     void takeFound(const QString& address, int port);
-    // Writes the camera to its recorder, after a question. True: the recorder has taken it, and so has the edit pair.
-    bool apply();
+    // Writes the camera to its recorder, after a question.
+    void apply();
     // Whether the camera must be detected before it can be written: then Detect is what Return presses.
     bool needsDetection() const;
     QPushButton* detectButton() const;
@@ -41,7 +41,7 @@ public slots:
 
 signals:
     void searchWanted();
-    void busyChanged(bool busy, bool stoppable);
+    void written(); // the recorder has taken the camera, and so has the edit pair
     void stateChanged();
 
 private:
@@ -54,9 +54,9 @@ private:
     void takeFields();
     void showFields();
     void report(const RecorderOutcome& outcome);
-    RecorderOutcome ask(int words, const std::function<RecorderOutcome()>& call);
 
     CameraEdit m_edit;
+    Work& m_work; // the window's
     std::unique_ptr<Ui::CameraFrame> m_ui;
     std::array<QLineEdit*, 5> txtCam;
     std::array<Row, CameraEdit::kControls - 1> m_rows; // all but the fish-eye view, which is told and not chosen

@@ -1,11 +1,10 @@
 #include "recorders/ui/CameraSearchFrame.h"
 
 #include "app/language/Languages.h"
-#include "app/log/Module_Log.h"
+#include "app/log/StartWork.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
 #include "recorders/camera/CameraEdit.h"
-#include "recorders/ui/HeldBack.h"
 #include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_CameraSearchFrame.h"
 
@@ -14,9 +13,10 @@
 
 using namespace Qt::StringLiterals;
 
-CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, QWidget* parent)
+CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, Work& work, QWidget* parent)
     : QWidget(parent)
     , m_edit(edit)
+    , m_work(work)
     , m_ui(std::make_unique<Ui::CameraSearchFrame>())
     , m_found(new CameraSearchModel(this))
     , m_proxy(new QSortFilterProxyModel(this))
@@ -52,6 +52,10 @@ CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, QWidget* parent)
     connect(m_ui->lb_CamReSearch, &QPushButton::clicked, this, &CameraSearchFrame::lb_CamReSearch_Click);
     connect(m_ui->camSearchEmpty, &EmptyState::clicked, this, &CameraSearchFrame::lb_CamReSearch_Click);
     setSearching(false);
+    connect(&m_work, &Work::runningChanged, this, [this](bool running) {
+        if (!running)
+            setSearching(false);
+    });
 }
 
 CameraSearchFrame::~CameraSearchFrame() = default;
@@ -104,21 +108,18 @@ void CameraSearchFrame::showFound()
 
 void CameraSearchFrame::lb_CamReSearch_Click()
 {
-    Trapped("Form_NVRSetting - lb_CamReSearch_Click", [&] {
+    const auto search = [this] {
         m_found->setCameras({});
-        RecorderOutcome outcome;
-        emit busyChanged(true, false);
         setSearching(true);
-        {
-            const HeldBack held{this};
-            Trapped("Form_NVRSetting - GetSVRCameraSearch",
-                    [&] { m_found->setCameras(m_edit.searchCameras(outcome)); });
-        }
-        emit busyChanged(false, false);
-        setSearching(false);
+        return m_edit.searchCameras(m_work);
+    };
+    StartWork(m_work, "Form_NVRSetting - lb_CamReSearch_Click"_L1, search, [this](const CameraEdit::Search& result) {
+        m_found->setCameras(result.found);
+        showFound();
         if (hasChoice())
             m_ui->Grid_CamSearchList->setFocus();
-        TellOutcome(outcome);
+        if (result.outcome.ok || !m_work.stopped())
+            TellOutcome(result.outcome);
     });
 }
 

@@ -6,6 +6,7 @@
 #include <memory>
 
 class CameraEdit;
+class Work;
 class QSortFilterProxyModel;
 namespace Ui {
 class CameraSearchFrame;
@@ -17,7 +18,7 @@ class CameraSearchFrame : public QWidget
     Q_OBJECT
 
 public:
-    CameraSearchFrame(CameraEdit& edit, QWidget* parent);
+    CameraSearchFrame(CameraEdit& edit, Work& work, QWidget* parent);
     ~CameraSearchFrame() override;
 
     void open(); // searches only when nothing has been found yet
@@ -30,7 +31,6 @@ public slots:
 
 signals:
     void chosen(const QString& address, int port);
-    void busyChanged(bool busy, bool stoppable);
     void choiceChanged();
 
 private:
@@ -39,6 +39,7 @@ private:
     void setSearching(bool searching);
 
     CameraEdit& m_edit;
+    Work& m_work; // the window's
     std::unique_ptr<Ui::CameraSearchFrame> m_ui;
     CameraSearchModel* m_found;
     QSortFilterProxyModel* m_proxy;

@@ -1,15 +1,11 @@
 #include "recorders/ui/DetectStatusFrame.h"
 
 #include "app/language/Languages.h"
-#include "app/log/Module_Log.h"
+#include "app/log/StartWork.h"
 #include "look/tables/Tables.h"
-#include "platform/Wait.h"
-#include "recorders/ui/HeldBack.h"
 #include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_DetectStatusFrame.h"
 #include "support/Conversions.h"
-
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -26,12 +22,12 @@ enum Message
 
 } // namespace
 
-DetectStatusFrame::DetectStatusFrame(DetectContext context, QWidget* parent)
+DetectStatusFrame::DetectStatusFrame(DetectContext context, Work& work, QWidget* parent)
     : QWidget(parent)
     , m_context(std::move(context))
+    , m_work(work)
     , m_ui(std::make_unique<Ui::DetectStatusFrame>())
     , m_status(new DetectStatusModel(this))
-    , Timer_StartDetect(new QTimer(this))
 {
     m_ui->setupUi(this);
     QTableView* grid = m_ui->Grid_DetectStatus;
@@ -47,9 +43,6 @@ DetectStatusFrame::DetectStatusFrame(DetectContext context, QWidget* parent)
     m_ui->txtRetryUser->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::User)));
     m_ui->txtRetryPassword->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::Password)));
     connect(m_ui->lbRetry, &QPushButton::clicked, this, &DetectStatusFrame::lbRetry_Click);
-    Timer_StartDetect->setSingleShot(true);
-    connect(Timer_StartDetect, &QTimer::timeout, this,
-            [this] { Trapped("Form_NVRSetting - Timer_StartDetect", [this] { detectAll(); }); });
 }
 
 DetectStatusFrame::~DetectStatusFrame() = default;
@@ -74,13 +67,13 @@ void DetectStatusFrame::takeFocus()
 
 bool DetectStatusFrame::incomplete() const
 {
-    return !m_running && m_status->doneRows() < m_status->rowCount();
+    return !m_work.running() && m_status->doneRows() < m_status->rowCount();
 }
 
 QString DetectStatusFrame::summary() const
 {
     const int rows = m_status->rowCount();
-    if (m_running)
+    if (m_work.running())
         return GetLangString(kDone).arg(m_status->finishedRows()).arg(rows);
     if (m_status->failedRows() == 0)
         return GetLangString(kAllAdded).arg(m_status->doneRows()).arg(rows);
@@ -99,7 +92,7 @@ void DetectStatusFrame::begin(std::vector<NVRDetectItem> items)
 
 void DetectStatusFrame::lbRetry_Click()
 {
-    if (m_running)
+    if (m_work.running())
         return;
     m_status->tryAgain(m_ui->txtRetryUser->text(), m_ui->txtRetryPassword->text());
     start();
@@ -107,43 +100,39 @@ void DetectStatusFrame::lbRetry_Click()
 
 void DetectStatusFrame::start()
 {
-    m_running = true;
     m_ui->retryBar->hide();
-    emit busyChanged(true, true);
+    StartWork(
+        m_work, "Form_NVRSetting - Timer_StartDetect"_L1, [this] { return detectAll(); },
+        [this] {
+            m_ui->retryBar->setVisible(incomplete());
+            emit progressed();
+            emit ended();
+        });
     emit progressed();
-    Timer_StartDetect->start(0);
 }
 
-void DetectStatusFrame::detectAll()
+QCoro::Task<> DetectStatusFrame::detectAll()
 {
-    {
-        const HeldBack held{this};
-        for (int row = 0; row < m_status->rowCount() && !Closing() && !m_context.stopped(); ++row) {
-            if (!m_status->waits(row) || m_status->item(row).sIP.isEmpty())
-                continue;
-            Trapped("Form_NVRSetting - Timer_StartDetect", [&] { detect(row); });
-            QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    std::vector<int> rows;
+    std::vector<NVRDetectItem> items;
+    for (int row = 0; row < m_status->rowCount(); ++row) {
+        if (m_status->waits(row)) {
+            rows.push_back(row);
+            items.push_back(m_status->item(row));
         }
     }
-    m_running = false;
-    m_ui->retryBar->setVisible(incomplete());
-    emit busyChanged(false, false);
-    emit progressed();
+    const auto tell = [&](std::size_t index, const DetectStatus& status) { report(rows[index], status); };
+    co_await DetectList(m_context, items, tell, m_work);
 }
 
-void DetectStatusFrame::detect(int row)
+void DetectStatusFrame::report(int row, const DetectStatus& status)
 {
-    NVRDetectItem item = m_status->item(row);
-    if (item.iSlot < 0)
-        item.iSlot = static_cast<qint16>(FirstFreeSlot(m_context.recorders.SVRWorkList));
-    if ((row + 1) % kStatusRows == 0)
+    m_status->setStatus(row, status);
+    if (status.state == DetectStatus::State::Done) {
+        m_added.push_back(status.slot);
+        m_status->setChannels(row, CameraCount(At(m_context.recorders.SVRWorkList, status.slot)));
+    }
+    if (status.state != DetectStatus::State::Running && (row + 1) % kStatusRows == 0)
         m_ui->Grid_DetectStatus->scrollTo(m_status->index(row, 0), QAbstractItemView::PositionAtTop);
-    const bool added = DetectNVR(m_context, item, [&](const DetectStatus& status) {
-        m_status->setStatus(row, status);
-        emit progressed();
-    });
-    if (!added)
-        return;
-    m_added.push_back(item.iSlot);
-    m_status->setChannels(row, CameraCount(At(m_context.recorders.SVRWorkList, item.iSlot)));
+    emit progressed();
 }

@@ -6,7 +6,6 @@
 #include <memory>
 
 class QPushButton;
-class QTimer;
 namespace Ui {
 class DetectStatusFrame;
 }
@@ -17,11 +16,11 @@ class DetectStatusFrame : public QWidget
     Q_OBJECT
 
 public:
-    // `context.stopped` ends the run at its next step.
-    DetectStatusFrame(DetectContext context, QWidget* parent);
+    // `work` detects; it belongs to the window.
+    DetectStatusFrame(DetectContext context, Work& work, QWidget* parent);
     ~DetectStatusFrame() override;
 
-    // Detects the recorders one after the other, as soon as the event loop runs.
+    // Detects the recorders side by side.
     void begin(std::vector<NVRDetectItem> items);
     // The slots (from 0) that runs of this frame have filled, in order.
     const std::vector<int>& added() const { return m_added; }
@@ -36,18 +35,17 @@ public slots:
     void lbRetry_Click();
 
 signals:
-    void busyChanged(bool busy, bool stoppable);
     void progressed();
+    void ended();
 
 private:
     void start();
-    void detectAll();
-    void detect(int row);
+    QCoro::Task<> detectAll();
+    void report(int row, const DetectStatus& status);
 
     DetectContext m_context;
+    Work& m_work;
     std::unique_ptr<Ui::DetectStatusFrame> m_ui;
     DetectStatusModel* m_status;
-    QTimer* Timer_StartDetect;
     std::vector<int> m_added;
-    bool m_running = false;
 };

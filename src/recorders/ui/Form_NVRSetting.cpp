@@ -2,14 +2,13 @@
 
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "app/log/Module_Log.h"
+#include "app/log/StartWork.h"
 #include "app/shell/Boxes.h"
 #include "look/style/Theme.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/SecondClick.h"
 #include "look/widgets/StepStrip.h"
 #include "platform/MsgBox.h"
-#include "platform/Wait.h"
 #include "recorders/ui/CameraFrame.h"
 #include "recorders/ui/CameraSearchFrame.h"
 #include "recorders/ui/DetectStatusFrame.h"
@@ -33,6 +32,8 @@ constexpr int kFrameCamSearch = 5;
 
 enum Words
 {
+    kStop = 951,
+    kWriting = 976,
     kNoneFound = 954,
     kWithSelected = 955,
     kNoneSelected = 832,
@@ -67,10 +68,9 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, WizardHooks wizard, QWid
 {
     setObjectName(u"Form_NVRSetting"_s);
     m_ui->setupUi(content());
-    m_context.stopped = [this] { return m_stopped; };
     m_search = new RecorderSearchFrame(m_context.com.finder, m_context.recorders, m_ui->frames);
     m_ui->frames->addWidget(m_search);
-    m_status = new DetectStatusFrame(m_context, m_ui->frames);
+    m_status = new DetectStatusFrame(m_context, m_work, m_ui->frames);
     m_ui->frames->addWidget(m_status);
     m_cancel = footer()->addButton(QString());
     m_back = footer()->addButton(QString());
@@ -86,12 +86,9 @@ Form_NVRSetting::Form_NVRSetting(DetectContext context, WizardHooks wizard, QWid
     m_ui->Text_Manual_2->setText(QString::number(kUsualPort));
     connect(m_ui->OptMode_1, &QRadioButton::toggled, this, &Form_NVRSetting::showSteps);
     connect(m_search, &RecorderSearchFrame::changed, this, &Form_NVRSetting::showChosen);
-    connect(m_status, &DetectStatusFrame::busyChanged, this, [this](bool busy, bool stoppable) {
-        setBusy(busy, stoppable);
-        if (!busy)
-            detectionEnded();
-    });
+    connect(m_status, &DetectStatusFrame::ended, this, &Form_NVRSetting::detectionEnded);
     connect(m_status, &DetectStatusFrame::progressed, this, &Form_NVRSetting::showDetection);
+    connect(&m_work, &Work::runningChanged, this, &Form_NVRSetting::setBusy);
     WatchClicks();
     fillSlots();
     ChangeLanguage();
@@ -144,19 +141,21 @@ void Form_NVRSetting::showSteps()
     steps()->setCurrent(!withSearch && m_frame == kFrameStatus ? 1 : m_frame);
 }
 
-void Form_NVRSetting::SetNVR(int slot, std::function<void()> save, std::function<void(int slot)> remove)
+void Form_NVRSetting::SetNVR(int slot, std::function<void()> save, RemoveRecorder remove)
 {
     m_save = std::move(save);
     m_remove = std::move(remove);
-    m_detail = new NVRDetailFrame(m_context, m_ui->frames);
+    m_detail = new NVRDetailFrame(m_context, m_work, m_ui->frames);
     m_ui->frames->addWidget(m_detail);
-    m_camera = new CameraFrame(m_context.com, m_context.recorders, m_ui->frames);
+    m_camera = new CameraFrame(m_context.com, m_context.recorders, m_work, m_ui->frames);
     m_ui->frames->addWidget(m_camera);
-    m_camSearch = new CameraSearchFrame(m_camera->edit(), m_ui->frames);
+    m_camSearch = new CameraSearchFrame(m_camera->edit(), m_work, m_ui->frames);
     m_ui->frames->addWidget(m_camSearch);
-    connect(m_detail, &NVRDetailFrame::busyChanged, this, &Form_NVRSetting::setBusy);
-    connect(m_camera, &CameraFrame::busyChanged, this, &Form_NVRSetting::setBusy);
-    connect(m_camSearch, &CameraSearchFrame::busyChanged, this, &Form_NVRSetting::setBusy);
+    connect(m_detail, &NVRDetailFrame::applied, this, [this](Modified modified) { leave(modified, true); });
+    connect(m_camera, &CameraFrame::written, this, [this] {
+        m_detail->channelWritten(m_camera->channel());
+        LoadFrame(kFrameDetail);
+    });
     connect(m_detail, &NVRDetailFrame::changesChanged, this, &Form_NVRSetting::showChanges);
     connect(m_camera, &CameraFrame::stateChanged, this, &Form_NVRSetting::showChanges);
     connect(m_camSearch, &CameraSearchFrame::choiceChanged, this, &Form_NVRSetting::showChanges);
@@ -231,7 +230,7 @@ void Form_NVRSetting::pressNext()
 
 void Form_NVRSetting::pressCancel()
 {
-    if (m_busy || m_frame < kFrameDetail)
+    if (m_work.running() || m_frame < kFrameDetail)
         lbCancel_Click();
     else if (m_frame == kFrameDetail)
         lbModifyApply_Click(1);
@@ -259,7 +258,7 @@ void Form_NVRSetting::showChanges()
     m_detail->detectButton()->setDefault(recorderFirst);
     m_camera->detectButton()->setDefault(cameraFirst);
     m_next->setDefault(!recorderFirst && !cameraFirst);
-    m_next->setEnabled(!m_busy && (m_frame != kFrameCamSearch || m_camSearch->hasChoice()));
+    m_next->setEnabled(!m_work.running() && (m_frame != kFrameCamSearch || m_camSearch->hasChoice()));
     const bool changes =
         (m_frame == kFrameDetail && m_detail->changed()) || (m_frame == kFrameCamera && m_camera->edit().changed());
     footer()->setNote(changes ? GetLangString(868) : QString());
@@ -267,42 +266,54 @@ void Form_NVRSetting::showChanges()
 
 void Form_NVRSetting::lbCamModifyApply_Click(int index)
 {
-    if (m_busy)
+    if (m_work.running())
         return;
     Trapped("Form_NVRSetting - lbCamModifyApply_Click", [&] {
-        if (index == 0) {
-            if (!m_camera->apply())
-                return;
-            m_detail->channelWritten(m_camera->channel());
-        }
-        LoadFrame(kFrameDetail);
+        if (index == 0)
+            m_camera->apply();
+        else
+            LoadFrame(kFrameDetail);
     });
 }
 
 void Form_NVRSetting::lbModifyApply_Click(int index)
 {
-    if (m_busy)
+    if (m_work.running())
         return;
     Trapped("Form_NVRSetting - lbModifyApply_Click", [&] {
-        switch (index == 0 ? m_detail->apply() : LeaveUnapplied(m_context.recorders, m_detail->slot())) {
-        case Modified::Kept:
-            return;
-        case Modified::Nothing:
-            break;
-        case Modified::Applied:
-            m_save();
-            break;
-        case Modified::Remove:
-            m_detail->remove(m_remove);
-            break;
-        }
-        index == 0 ? accept() : DialogFrame::reject();
+        if (index == 0)
+            m_detail->apply();
+        else
+            leave(LeaveUnapplied(m_context.recorders, m_detail->slot()), false);
     });
+}
+
+// The page of a recorder may go, once what it leads to is done.
+void Form_NVRSetting::leave(Modified modified, bool applied)
+{
+    const auto go = [this, applied] { applied ? accept() : DialogFrame::reject(); };
+    switch (modified) {
+    case Modified::Kept:
+        return;
+    case Modified::Nothing:
+        break;
+    case Modified::Applied:
+        m_save();
+        break;
+    case Modified::Remove:
+        const auto remove = [this] {
+            m_work.say(GetLangString(kWriting)); // a removal tells the recorder
+            return m_remove(m_detail->slot(), m_work);
+        };
+        StartWork(m_work, "Form_NVRSetting - lbModifyApply_Click"_L1, remove, go);
+        return;
+    }
+    go();
 }
 
 void Form_NVRSetting::lbNext_Click(int index)
 {
-    if (m_busy)
+    if (m_work.running())
         return;
     Trapped("Form_NVRSetting - lbNext_Click", [&] {
         if (index == kFrameChoose && searches()) {
@@ -320,7 +331,7 @@ void Form_NVRSetting::lbNext_Click(int index)
 
 void Form_NVRSetting::lbBack_Click()
 {
-    if (m_busy)
+    if (m_work.running())
         return;
     Trapped("Form_NVRSetting - lbBack_Click", [&] {
         if (m_frame == kFrameStatus && searches()) {
@@ -340,13 +351,10 @@ void Form_NVRSetting::lbBack_Click()
 
 void Form_NVRSetting::lbCancel_Click()
 {
-    if (m_busy) {
-        m_stopped = true;
-        m_cancel->setEnabled(false);
-        m_context.com.web.AbortWaited();
-    } else {
+    if (m_work.running())
+        m_work.stop();
+    else
         leaveWizard(false);
-    }
 }
 
 void Form_NVRSetting::showChosen()
@@ -365,11 +373,19 @@ void Form_NVRSetting::showDetection()
 
 void Form_NVRSetting::beginManual()
 {
-    m_busy = true; // a name look-up may wait
-    const bool complete = m_manual->check();
-    m_busy = false;
-    if (!complete)
+    StartWork(
+        m_work, "Form_NVRSetting - lbNext_Click"_L1, [this] { return m_manual->check(m_work); },
+        [this](const ManualFault& fault) { takeManual(fault); });
+}
+
+void Form_NVRSetting::takeManual(const ManualFault& fault)
+{
+    if (m_work.stopped())
         return;
+    if (fault.message != 0) {
+        m_manual->tell(fault);
+        return;
+    }
     NVRDetectItem item = m_manual->item();
     item.iSlot = static_cast<qint16>(m_ui->cmbSVRNo->currentData().toInt());
     if (!NamesSettled(m_context.recorders, {item})) {
@@ -474,9 +490,8 @@ void Form_NVRSetting::leaveCamera()
 
 void Form_NVRSetting::reject()
 {
-    if (m_busy) {
-        if (m_cancel->isEnabled() && m_cancel->property(kStopsWork).toBool())
-            lbCancel_Click();
+    if (m_work.running()) {
+        m_work.stop();
     } else if (m_frame == kFrameCamSearch) {
         LoadFrame(kFrameCamera);
     } else if (m_frame == kFrameCamera) {
@@ -488,21 +503,22 @@ void Form_NVRSetting::reject()
     }
 }
 
-void Form_NVRSetting::setBusy(bool busy, bool stoppable)
+void Form_NVRSetting::closeEvent(QCloseEvent* event)
 {
-    m_busy = busy;
-    const bool stop = busy && stoppable;
+    m_work.stop();
+    DialogFrame::closeEvent(event);
+}
+
+void Form_NVRSetting::setBusy(bool busy)
+{
     m_next->setEnabled(!busy);
     m_back->setEnabled(!busy);
-    m_cancel->setEnabled(!busy || stoppable);
-    m_cancel->setProperty(kStopsWork, stop);
-    setProperty(kStopsWork, stop); // Esc
-    m_cancel->setText(GetLangString(stop ? 951 : At(kFaces, m_frame).cancelText));
+    m_cancel->setText(GetLangString(busy ? kStop : At(kFaces, m_frame).cancelText));
     if (busy) {
-        m_stopped = false;
-        if (stoppable)
-            m_cancel->setFocus();
+        m_held.emplace(content());
+        m_cancel->setFocus();
     } else {
+        m_held.reset();
         showChanges();
     }
 }

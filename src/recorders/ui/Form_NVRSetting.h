@@ -2,10 +2,12 @@
 
 #include "look/widgets/DialogFrame.h"
 #include "recorders/detect/ModifyApply.h"
+#include "recorders/ui/HeldBack.h"
 #include "recorders/ui/RecorderFields.h"
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class CameraFrame;
 class CameraSearchFrame;
@@ -38,7 +40,8 @@ public:
 
     // Opens a stored recorder (working slot from 0) on frame 3, in place of the wizard. `save` writes every marked
     // record, `remove` takes the recorder of a slot out of the station and saves.
-    void SetNVR(int slot, std::function<void()> save, std::function<void(int slot)> remove);
+    using RemoveRecorder = std::function<QCoro::Task<>(int slot, Work& work)>;
+    void SetNVR(int slot, std::function<void()> save, RemoveRecorder remove);
     // The keyboard goes to the recorder's name, ready to be typed anew.
     void editName();
     void LoadFrame(int index); // hides all frames, shows this one
@@ -48,6 +51,9 @@ public:
     // Esc and the close button: a work under way is stopped, a camera's frames go back one level, and what was typed or
     // added is asked about before the window closes.
     void reject() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override; // stops the work and goes on as Esc
 
 public slots:
     void lbNext_Click(int index);
@@ -63,6 +69,7 @@ private:
     bool searches() const;
     bool typed() const; // in frame 0, beyond what stands there at first
     void beginManual();
+    void takeManual(const ManualFault& fault);
     void beginChosen();
     void showChosen();
     void showDetection();
@@ -71,7 +78,8 @@ private:
     void leaveWizard(bool askTyped);
     void leaveRecorder();
     void leaveCamera();
-    void setBusy(bool busy, bool stoppable = true);
+    void leave(Modified modified, bool applied);
+    void setBusy(bool busy);
     void pressNext();
     void pressCancel();
     void showChanges();
@@ -82,7 +90,6 @@ private:
     std::unique_ptr<RecorderFields> m_manual;
     RecorderSearchFrame* m_search;
     DetectStatusFrame* m_status;
-    bool m_stopped = false;
     QPushButton* m_cancel;
     QPushButton* m_back;
     QPushButton* m_next;
@@ -90,7 +97,8 @@ private:
     CameraFrame* m_camera = nullptr;
     CameraSearchFrame* m_camSearch = nullptr;
     std::function<void()> m_save;
-    std::function<void(int slot)> m_remove;
+    RemoveRecorder m_remove;
     int m_frame = 0;
-    bool m_busy = false;
+    std::optional<HeldBack> m_held;
+    Work m_work; // stopped with the window, while all that it works for is still there
 };

@@ -1,14 +1,13 @@
 #include "recorders/ui/NVRDetailFrame.h"
 
 #include "app/language/Languages.h"
-#include "app/log/Module_Log.h"
+#include "app/log/StartWork.h"
 #include "app/shell/Boxes.h"
 #include "look/style/Theme.h"
 #include "look/tables/Tables.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/CameraEvents.h"
 #include "recorders/camera/ChannelClear.h"
-#include "recorders/ui/HeldBack.h"
 #include "recorders/ui/IconProxy.h"
 #include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_NVRDetailFrame.h"
@@ -44,9 +43,10 @@ NVRDetectItem ItemOf(const SVRRecord& record)
 
 } // namespace
 
-NVRDetailFrame::NVRDetailFrame(DetectContext context, QWidget* parent)
+NVRDetailFrame::NVRDetailFrame(DetectContext context, Work& work, QWidget* parent)
     : QWidget(parent)
     , m_context(std::move(context))
+    , m_work(work)
     , m_ui([this] {
         auto ui = std::make_unique<Ui::NVRDetailFrame>();
         ui->setupUi(this);
@@ -75,6 +75,14 @@ NVRDetailFrame::NVRDetailFrame(DetectContext context, QWidget* parent)
         connect(m_fields.field(static_cast<ManualField>(i)), &QLineEdit::textChanged, this,
                 &NVRDetailFrame::changesChanged);
     connect(m_channels, &ChannelListModel::dataChanged, this, &NVRDetailFrame::changesChanged);
+    connect(&m_work, &Work::stepChanged, this, [this] {
+        if (isVisible())
+            showStep(m_work.step(), m_work.percent());
+    });
+    connect(&m_work, &Work::runningChanged, this, [this](bool running) {
+        if (!running)
+            showFacts();
+    });
 }
 
 NVRDetailFrame::~NVRDetailFrame() = default;
@@ -209,40 +217,45 @@ bool NVRDetailFrame::changed() const
 
 void NVRDetailFrame::lbNVRDetect_Click()
 {
-    Trapped("Form_NVRSetting - lbNVRDetect_Click", [&] {
-        emit busyChanged(true, false);
-        const bool complete = m_fields.check();
-        if (!complete) {
-            emit busyChanged(false, false);
-            return;
-        }
-        NVRDetectItem item = m_fields.item();
-        item.iSlot = static_cast<qint16>(m_slot);
-        DetectStatus last;
-        bool detected = false;
-        emit busyChanged(true, true);
-        {
-            const HeldBack held{this};
-            const auto report = [&](const DetectStatus& status) {
-                last = status;
-                showStep(GetLangString(status.message), status.percent);
-            };
-            detected = DetectNVR(m_context, item, report, DetectMode::Modify);
-        }
-        emit busyChanged(false, false);
-        if (detected) {
-            m_detected = true;
-            m_channels->setDetected(true);
-            m_channels->setCameraEvents(m_context.recorders.SVREdit.bSVR_N_EventSupport);
-            m_fields.set(ItemOf(m_context.recorders.SVREdit));
-            GridChannelList();
-            showChannel(0);
-            emit changesChanged();
-        }
-        showFacts();
-        if (last.message != kDetectStopped)
-            Tell(detected ? Tone::Success : Tone::Error, GetLangString(last.message) + last.suffix);
-    });
+    StartWork(
+        m_work, "Form_NVRSetting - lbNVRDetect_Click"_L1, [this] { return detect(); },
+        [this](const Detected& detected) { takeDetected(detected); });
+}
+
+QCoro::Task<NVRDetailFrame::Detected> NVRDetailFrame::detect()
+{
+    Detected detected;
+    detected.fault = co_await m_fields.check(m_work);
+    if (detected.fault.message != 0 || m_work.stopped())
+        co_return detected;
+    NVRDetectItem item = m_fields.item();
+    item.iSlot = static_cast<qint16>(m_slot);
+    const auto report = [&](const DetectStatus& status) {
+        detected.last = status;
+        m_work.say(GetLangString(status.message), status.percent);
+    };
+    detected.done = co_await DetectNVR(m_context, item, report, m_work, DetectMode::Modify);
+    co_return detected;
+}
+
+void NVRDetailFrame::takeDetected(const Detected& detected)
+{
+    if (detected.done) {
+        m_detected = true;
+        m_channels->setDetected(true);
+        m_channels->setCameraEvents(m_context.recorders.SVREdit.bSVR_N_EventSupport);
+        m_fields.set(ItemOf(m_context.recorders.SVREdit));
+        GridChannelList();
+        showChannel(0);
+        emit changesChanged();
+    }
+    showFacts();
+    if (m_work.stopped())
+        return;
+    if (detected.fault.message != 0)
+        m_fields.tell(detected.fault);
+    else
+        Tell(detected.done ? Tone::Success : Tone::Error, GetLangString(detected.last.message) + detected.last.suffix);
 }
 
 void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
@@ -256,25 +269,11 @@ void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
     });
 }
 
-// Runs a call that waits for the recorder, the page held back and saying what goes on.
-void NVRDetailFrame::hold(int words, const std::function<void()>& call)
+// A call that was stopped has nothing to say.
+void NVRDetailFrame::tell(const RecorderOutcome& outcome) const
 {
-    emit busyChanged(true, false);
-    showStep(GetLangString(words), -1);
-    {
-        const HeldBack held{this};
-        Trapped("Form_NVRSetting - Grid_ChannelList_Click", call);
-    }
-    showFacts();
-    emit busyChanged(false, false);
-}
-
-RecorderOutcome NVRDetailFrame::ask(int words, const std::function<RecorderOutcome()>& call)
-{
-    RecorderOutcome outcome;
-    hold(words, [&] { outcome = call(); });
-    TellOutcome(outcome);
-    return outcome;
+    if (outcome.ok || !m_work.stopped())
+        TellOutcome(outcome);
 }
 
 void NVRDetailFrame::clearChannel(int channel)
@@ -286,10 +285,16 @@ void NVRDetailFrame::clearChannel(int channel)
         At(record.channels, channel).sSub_CH_Name + u"  ·  "_s + At(record.channels, channel).sSub_CH_IP;
     if (!AskToDestroy(GetLangString(kAskClear).arg(channel + 1), camera, kDelete))
         return;
-    const RecorderOutcome cleared =
-        ask(kWriting, [&] { return ClearRecorderChannel(m_context.com, m_context.recorders, channel); });
-    if (cleared.ok)
-        channelWritten(channel);
+    const auto clear = [this, channel] {
+        m_work.say(GetLangString(kWriting));
+        return ClearRecorderChannel(m_context.com, m_context.recorders, channel, m_work);
+    };
+    StartWork(m_work, "Form_NVRSetting - Grid_ChannelList_Click"_L1, clear,
+              [this, channel](const RecorderOutcome& cleared) {
+                  tell(cleared);
+                  if (cleared.ok)
+                      channelWritten(channel);
+              });
 }
 
 void NVRDetailFrame::channelWritten(int channel)
@@ -301,28 +306,22 @@ void NVRDetailFrame::channelWritten(int channel)
 }
 
 // Writes the switches that differ; the others stay as the recorder has them.
-bool NVRDetailFrame::writeCameraEvents()
+QCoro::Task<RecorderOutcome> NVRDetailFrame::writeCameraEvents(std::vector<std::pair<int, bool>> changes)
 {
-    const std::vector<std::pair<int, bool>> changes = m_channels->switched();
-    if (changes.empty())
-        return true;
+    m_work.say(GetLangString(kWriting));
     SVRRecord& record = m_context.recorders.SVREdit;
-    const RecorderOutcome written = ask(kWriting, [&] {
-        CameraEventBits bits{};
-        RecorderOutcome outcome = ReadRecorderCameraEvents(m_context.com, record, bits);
-        if (!outcome.ok)
-            return outcome;
-        for (const auto& [channel, on] : changes) {
-            qint16& bit = At(bits, channel);
-            const qint16 switchedOn = IsProFamily(record.sSVR_DeviceType) ? kEvent : kBothEvents;
-            bit = !on ? qint16(0) : bit != 0 ? bit : switchedOn;
-        }
-        outcome = WriteRecorderCameraEvents(m_context.com, record, bits);
-        TakeOverSwitches(m_context.recorders, m_slot);
-        return outcome;
-    });
-    m_channels->setCameraEvents(record.bSVR_N_EventSupport);
-    return written.ok;
+    CameraEventBits bits{};
+    RecorderOutcome outcome = co_await ReadRecorderCameraEvents(m_context.com, record, bits, m_work);
+    if (!outcome.ok)
+        co_return outcome;
+    for (const auto& [channel, on] : changes) {
+        qint16& bit = At(bits, channel);
+        const qint16 switchedOn = IsProFamily(record.sSVR_DeviceType) ? kEvent : kBothEvents;
+        bit = !on ? qint16(0) : bit != 0 ? bit : switchedOn;
+    }
+    outcome = co_await WriteRecorderCameraEvents(m_context.com, record, bits, m_work);
+    TakeOverSwitches(m_context.recorders, m_slot);
+    co_return outcome;
 }
 
 ManualFault NVRDetailFrame::differing() const
@@ -340,13 +339,13 @@ ManualFault NVRDetailFrame::differing() const
     return {};
 }
 
-Modified NVRDetailFrame::apply()
+void NVRDetailFrame::apply()
 {
     const QString name = m_fields.item().sName;
     const ManualFault fault = name.isEmpty() ? ManualFault{553, ManualField::Name} : differing();
     if (fault.message != 0) {
         m_fields.tell(fault);
-        return Modified::Kept;
+        return;
     }
     NVRDetectItem renamed;
     renamed.iSlot = static_cast<qint16>(m_slot);
@@ -354,14 +353,24 @@ Modified NVRDetailFrame::apply()
     if (name != At(m_context.recorders.SVRWorkList, m_slot).sSVR_Name &&
         !NamesSettled(m_context.recorders, {renamed})) {
         editName();
-        return Modified::Kept;
+        return;
     }
-    if (!writeCameraEvents())
-        return Modified::Kept;
-    return ModifyApply(m_context.recorders, m_slot, name, m_context.events);
+    const std::vector<std::pair<int, bool>> changes = m_channels->switched();
+    if (changes.empty()) {
+        takeOver();
+        return;
+    }
+    StartWork(
+        m_work, "Form_NVRSetting - lbModifyApply_Click"_L1, [this, changes] { return writeCameraEvents(changes); },
+        [this](const RecorderOutcome& written) {
+            m_channels->setCameraEvents(m_context.recorders.SVREdit.bSVR_N_EventSupport);
+            tell(written);
+            if (written.ok)
+                takeOver();
+        });
 }
 
-void NVRDetailFrame::remove(const std::function<void(int slot)>& remove)
+void NVRDetailFrame::takeOver()
 {
-    hold(kWriting, [&] { remove(m_slot); });
+    emit applied(ModifyApply(m_context.recorders, m_slot, m_fields.item().sName, m_context.events));
 }

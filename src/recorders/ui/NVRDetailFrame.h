@@ -20,8 +20,8 @@ class NVRDetailFrame : public QWidget
     Q_OBJECT
 
 public:
-    // `context.stopped` ends a detection at its next step.
-    NVRDetailFrame(DetectContext context, QWidget* parent);
+    // `work` asks the recorder; it belongs to the window.
+    NVRDetailFrame(DetectContext context, Work& work, QWidget* parent);
     ~NVRDetailFrame() override;
 
     void SetNVR(int slot); // opens the recorder of a working slot (from 0)
@@ -32,10 +32,9 @@ public:
     void channelWritten(int channel);
     void takeFocus(); // to the list
     void editName();  // to the name
-    // Takes everything over into the station, see ModifyApply; false: something is missing or was declined.
-    Modified apply();
-    // Takes the recorder out of the station by `remove`, which may wait for it.
-    void remove(const std::function<void(int slot)>& remove);
+    // Takes everything over into the station, see ModifyApply; applied() tells what came of it, unless something is
+    // missing.
+    void apply();
     bool changed() const; // something would be lost without apply
     // Whether another address or login is typed than the edit pair's: then Detect is what Return presses.
     bool needsDetection() const { return differing().message != 0; }
@@ -49,23 +48,31 @@ public slots:
 
 signals:
     void channelWanted(int channel); // from 0
-    // A device is being asked; `stoppable` while the context's `stopped` is looked at.
-    void busyChanged(bool busy, bool stoppable);
+    void applied(Modified modified);
     void changesChanged();
 
 private:
     ManualFault differing() const; // message 703 and the first field that is not as detected
     void prepareGrid();
     void clearChannel(int channel);
-    bool writeCameraEvents();
-    void hold(int words, const std::function<void()>& call);
-    RecorderOutcome ask(int words, const std::function<RecorderOutcome()>& call);
+    struct Detected
+    {
+        ManualFault fault;
+        DetectStatus last;
+        bool done = false;
+    };
+    QCoro::Task<Detected> detect();
+    void takeDetected(const Detected& detected);
+    QCoro::Task<RecorderOutcome> writeCameraEvents(std::vector<std::pair<int, bool>> changes);
+    void takeOver();
+    void tell(const RecorderOutcome& outcome) const;
     void showFacts();
     void showCounts();
     void showStep(const QString& words, int percent);
     void fitGrid();
 
     DetectContext m_context;
+    Work& m_work;
     std::unique_ptr<Ui::NVRDetailFrame> m_ui;
     RecorderFields m_fields;
     ChannelListModel* m_channels;

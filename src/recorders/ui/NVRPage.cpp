@@ -5,6 +5,7 @@
 #include "app/shell/Boxes.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
+#include "platform/Work.h"
 #include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_NVRPage.h"
 #include "support/Conversions.h"
@@ -172,6 +173,23 @@ void NVRPage::Grid_SVRsList_Click(const QModelIndex& cell)
                    AskToDestroy(kAskDelete, NameOf(At(m_recorders.SVRList, slot), slot))) {
             emit removeWanted(slot);
         }
+    });
+}
+
+void NVRPage::showWork(Work& work)
+{
+    connect(m_ui->lbRemoveStop, &QPushButton::clicked, &work, &Work::stop);
+    connect(&work, &Work::stepChanged, this, [this, &work] { m_ui->lbRemoveStep->setText(work.step()); });
+    connect(&work, &Work::runningChanged, this, [this](bool running) {
+        m_ui->lbRemoveStep->setVisible(running);
+        m_ui->lbRemoveStop->setVisible(running);
+        m_ui->lbAdd->setEnabled(!running);
+        m_ui->txtFilter->setEnabled(!running);
+        m_ui->stack->setEnabled(!running);
+        if (running)
+            m_ui->lbRemoveStop->setFocus();
+        else
+            m_ui->Grid_SVRsList->setFocus();
     });
 }
 

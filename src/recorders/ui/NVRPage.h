@@ -6,6 +6,7 @@
 #include <memory>
 
 class EmptyState;
+class Work;
 class QSortFilterProxyModel;
 namespace Ui {
 class NVRPage;
@@ -24,6 +25,8 @@ public:
     void Grid_SVR_Draw();       // prepares the list and its heads
     void Grid_SVR_Set_withDB(); // fills it from the stored generation
     void changeLanguage();
+    // Holds the list back while the work of the window runs, behind its step and Stop.
+    void showWork(Work& work);
 
 public slots:
     // Opens the wizard, or says that the station is full.

@@ -44,18 +44,16 @@ void RecorderFields::tell(const ManualFault& fault) const
     TellFault(field(fault.field), fault.message);
 }
 
-bool RecorderFields::check() const
+QCoro::Task<ManualFault> RecorderFields::check(Work& work) const
 {
     const NVRDetectItem typed = item();
     field(ManualField::Name)->setText(typed.sName);
     field(ManualField::Address)->setText(typed.sIP);
-    ManualFault fault = ValidateManualNVR(typed.sName, typed.sIP, field(ManualField::Port)->text());
+    const QString port = field(ManualField::Port)->text();
+    ManualFault fault = co_await ValidateManualNVR(typed.sName, typed.sIP, port, work);
     if (fault.message == 0 && (typed.iPort < 1 || typed.iPort > 65535))
         fault = {556, ManualField::Port};
-    if (fault.message == 0)
-        return true;
-    tell(fault);
-    return false;
+    co_return fault;
 }
 
 NVRDetectItem RecorderFields::item() const

@@ -18,8 +18,8 @@ public:
     static constexpr std::array<int, kCount> kLengths{kRecorderNameLength, 255, 5, 31, 31};
     explicit RecorderFields(const std::array<QLineEdit*, kCount>& fields);
 
-    // Says what is missing or wrong in a box and goes to that field. Looks a host name up, so it may wait.
-    bool check() const;
+    // What is missing or wrong, see ValidateManualNVR. Blanks round name and address are taken off.
+    QCoro::Task<ManualFault> check(Work& work) const;
     // The recorder as typed, without blanks round its name and address; the slot is the caller's.
     NVRDetectItem item() const;
     void set(const NVRDetectItem& item);
