@@ -286,12 +286,14 @@ void clsDBConvert::ConvertMDROI()
         });
         m_target.open(target, m_targetConnection, CursorType::Keyset, LockType::Optimistic, CommandType::Table);
         const qint64 targetRows = m_target.recordCount();
+        const int slotField = m_source.fieldIndex(u"iSVR"_s);
+        const int channelField = m_source.fieldIndex(u"iCH"_s);
         for (qint64 i = 0; !m_source.eof() && !m_broken; ++i) {
             report(u"MDROI"_s, i + 1, rows);
             Trapped(kMDROISource, [&] {
                 placeTarget(i, targetRows);
-                const auto channel =
-                    channels.constFind({m_source.value(u"iSVR"_s).toLongLong(), m_source.value(u"iCH"_s).toLongLong()});
+                const auto channel = channels.constFind(
+                    {m_source.value(slotField).toLongLong(), m_source.value(channelField).toLongLong()});
                 if (channel != channels.constEnd())
                     m_target.setValue(u"Channel"_s, channel->lSub_CH_IntelligentID);
                 fill(channel == channels.constEnd() ? nullptr : &*channel);
@@ -302,12 +304,15 @@ void clsDBConvert::ConvertMDROI()
     };
 
     Trapped(kMDROISource, [&] {
+        std::vector<int> fields; // of the target, looked up once
         walk(u"MotionROI"_s, [&](const ChannelFacts*) {
+            for (int line = static_cast<int>(fields.size()); line < kROILines; ++line)
+                fields.push_back(m_target.fieldIndex(u"ROI_%1"_s.arg(line, 2, 10, QLatin1Char('0'))));
             const int rows = Int16Field(m_source.value(u"iRow"_s));
             const int columns = Int16Field(m_source.value(u"iCol"_s));
             const QString bitmap = TextField(m_source.value(u"sROI"_s));
             for (int line = 0; line < kROILines; ++line)
-                m_target.setValue(u"ROI_%1"_s.arg(line, 2, 10, QLatin1Char('0')), ROILine(bitmap, line, rows, columns));
+                m_target.setValue(At(fields, line), ROILine(bitmap, line, rows, columns));
         });
     });
     walk(u"MotionSettings"_s, [&](const ChannelFacts* channel) {
