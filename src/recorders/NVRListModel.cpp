@@ -82,6 +82,8 @@ int NVRListModel::columnCount(const QModelIndex& parent) const
 
 QVariant NVRListModel::data(const QModelIndex& index, int role) const
 {
+    if (!hasIndex(index.row(), index.column()))
+        return {};
     const int slot = At(m_slots, index.row());
     const SVRRecord& record = At(m_recorders.SVRList, slot);
     if (role == kSlotRole)

@@ -1,5 +1,9 @@
 #include "recorders/detect/NVRDetect.h"
 
+#include "recorders/NVRListModel.h"
+#include "recorders/camera/CameraSearchModel.h"
+#include "recorders/camera/ChannelListModel.h"
+#include "recorders/detect/DetectStatusModel.h"
 #include "recorders/detect/SearchListModel.h"
 #include "simulators/SimulatorThread.h"
 #include "tests/Await.h"
@@ -431,6 +435,43 @@ TEST_F(Detecting, SideBySideChangesNothingButTheTime)
 FoundDevice Found(int n)
 {
     return {u"Device %1"_s.arg(n), u"10.0.0.%1"_s.arg(n), 80, u"Brand"_s, u"Model"_s, false};
+}
+
+// A view that lags behind asks for cells that have gone; an exception would end the program.
+TEST(RecorderModels, AnswerForCellsThatAreNotThere)
+{
+    const auto recorders = std::make_unique<RecorderSet>();
+    HttpClient http;
+    const ConnectionWatch watch(http, *recorders);
+    SearchListModel found(*recorders);
+    found.add(Found(1));
+    DetectStatusModel status;
+    status.setItems({NVRDetectItem()});
+    ChannelListModel channels(*recorders);
+    recorders->SVREdit.iSVR_Maxchannel = 1;
+    channels.refill();
+    NVRListModel list(*recorders, watch);
+    CameraSearchModel cameras;
+    std::vector<std::pair<QAbstractItemModel*, QModelIndex>> cells;
+    for (QAbstractItemModel* model :
+         std::initializer_list<QAbstractItemModel*>{&found, &status, &channels, &list, &cameras}) {
+        cells.emplace_back(model, QModelIndex());
+        cells.emplace_back(model, model->index(0, 0));
+    }
+    found.clear();
+    status.setItems({});
+    recorders->SVREdit.iSVR_Maxchannel = 0;
+    for (const auto& [model, cell] : cells) {
+        for (const int role : {int(Qt::DisplayRole), int(Qt::CheckStateRole), int(Qt::ToolTipRole)}) {
+            EXPECT_NO_THROW(model->data(cell, role));
+            EXPECT_NO_THROW(model->setData(cell, Qt::Checked, role));
+        }
+        EXPECT_NO_THROW(model->flags(cell));
+        for (const int section : {-1, 99})
+            EXPECT_NO_THROW(model->headerData(section, Qt::Horizontal, Qt::DisplayRole));
+    }
+    EXPECT_NO_THROW(status.setStatus(1, {}));
+    EXPECT_NO_THROW(status.setChannels(-1, 4));
 }
 
 TEST(SearchList, KnownDevicesAreFixedAndChecksEndWhereTheStationIsFull)

@@ -28,6 +28,8 @@ int CameraSearchModel::columnCount(const QModelIndex& parent) const
 
 QVariant CameraSearchModel::data(const QModelIndex& index, int role) const
 {
+    if (!hasIndex(index.row(), index.column()))
+        return {};
     const FoundCamera& found = camera(index.row());
     if (role == Qt::TextAlignmentRole && index.column() == Port)
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
@@ -50,7 +52,7 @@ QVariant CameraSearchModel::data(const QModelIndex& index, int role) const
 QVariant CameraSearchModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     static constexpr std::array<int, ColumnCount> heads{379, 381, 382, 551};
-    if (orientation != Qt::Horizontal)
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
         return {};
     if (role == Qt::TextAlignmentRole && section == Port)
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);

@@ -178,6 +178,8 @@ QVariant ChannelListModel::data(const QModelIndex& index, int role) const
 {
     const int channel = index.row();
     const int column = index.column();
+    if (!hasIndex(channel, column))
+        return {};
     switch (role) {
     case kChannelRole:
         return channel;
@@ -231,7 +233,7 @@ Qt::ItemFlags ChannelListModel::flags(const QModelIndex& index) const
 QVariant ChannelListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     static constexpr std::array<int, ColumnCount> heads{55, 363, 364, 579, 403, 781, 0, 0};
-    if (orientation != Qt::Horizontal)
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
         return {};
     if (role == Qt::TextAlignmentRole && (section == Number || section == Port))
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);

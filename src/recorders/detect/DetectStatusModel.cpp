@@ -28,6 +28,8 @@ void DetectStatusModel::setItems(std::vector<NVRDetectItem> items)
 
 void DetectStatusModel::setStatus(int row, const DetectStatus& status)
 {
+    if (!hasIndex(row, Status))
+        return;
     At(m_rows, row).started = true;
     At(m_rows, row).status = status;
     changed(row);
@@ -44,6 +46,8 @@ void DetectStatusModel::changed(int row)
 
 void DetectStatusModel::setChannels(int row, int channels)
 {
+    if (!hasIndex(row, Channels))
+        return;
     At(m_rows, row).channels = channels;
     changed(row);
 }
@@ -125,6 +129,8 @@ QVariant DetectStatusModel::text(int row, int column) const
 
 QVariant DetectStatusModel::data(const QModelIndex& index, int role) const
 {
+    if (!hasIndex(index.row(), index.column()))
+        return {};
     const Row& row = At(m_rows, index.row());
     if (role == Qt::DisplayRole)
         return text(index.row(), index.column());
@@ -148,7 +154,7 @@ QVariant DetectStatusModel::data(const QModelIndex& index, int role) const
 QVariant DetectStatusModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     static constexpr std::array<int, ColumnCount> heads{278, 363, 364, 382, 280, 403};
-    if (orientation != Qt::Horizontal)
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
         return {};
     if (role == Qt::TextAlignmentRole && (section == Port || section == Channels))
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);

@@ -98,6 +98,8 @@ int SearchListModel::columnCount(const QModelIndex& parent) const
 
 QVariant SearchListModel::data(const QModelIndex& index, int role) const
 {
+    if (!hasIndex(index.row(), index.column()))
+        return {};
     const Row& row = At(m_rows, index.row());
     if (role == Qt::CheckStateRole && index.column() == DeviceName)
         return row.known || row.checked ? Qt::Checked : Qt::Unchecked;
@@ -123,7 +125,7 @@ QVariant SearchListModel::data(const QModelIndex& index, int role) const
 
 bool SearchListModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::CheckStateRole || !index.isValid() || index.column() != DeviceName)
+    if (role != Qt::CheckStateRole || !hasIndex(index.row(), index.column()) || index.column() != DeviceName)
         return false;
     Row& row = At(m_rows, index.row());
     const bool checked = value.toInt() == Qt::Checked;
@@ -136,7 +138,7 @@ bool SearchListModel::setData(const QModelIndex& index, const QVariant& value, i
 
 Qt::ItemFlags SearchListModel::flags(const QModelIndex& index) const
 {
-    if (At(m_rows, index.row()).known)
+    if (!hasIndex(index.row(), index.column()) || At(m_rows, index.row()).known)
         return Qt::NoItemFlags;
     const Qt::ItemFlags usual = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     return index.column() == DeviceName ? usual | Qt::ItemIsUserCheckable : usual;
@@ -145,7 +147,7 @@ Qt::ItemFlags SearchListModel::flags(const QModelIndex& index) const
 QVariant SearchListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     static constexpr std::array<int, ColumnCount> heads{278, 363, 364, 381, 382};
-    if (orientation != Qt::Horizontal)
+    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
         return {};
     if (role == Qt::TextAlignmentRole && section == Port)
         return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
