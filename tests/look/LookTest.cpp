@@ -16,6 +16,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QDir>
+#include <QHeaderView>
 #include <QPainter>
 #include <QProgressBar>
 #include <QPushButton>
@@ -26,6 +27,7 @@
 #include <QTest>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <array>
 #include <cmath>
 #include <gmock/gmock.h>
 
@@ -372,4 +374,30 @@ TEST(LookTables, RowsShowHoverAndSelection)
         EXPECT_EQ(colour(1, column), Token("accentGround"_L1).name());
         EXPECT_EQ(colour(2, column), Token("surface"_L1).name());
     }
+}
+
+TEST(LookTables, RowsAndColumnsKeepTheirMeasure)
+{
+    QStandardItemModel model(1, 3);
+    model.setHorizontalHeaderLabels({u"Name"_s, u"State"_s, u"Rest"_s});
+    model.setData(model.index(0, 1), u"Connected"_s);
+    QTableView table;
+    table.setModel(&model);
+    StyleTable(&table);
+    StatusColumn(&table, 1);
+    table.verticalHeader()->setDefaultSectionSize(TableRowHeight() + 20); // so that the measuring is seen
+    model.setData(model.index(0, 2), u"Gatehouse North"_s);
+    SetColumnWidths(&table, std::array{300, 200});
+    table.resize(420, 300);
+    table.show();
+    EXPECT_TRUE(QTest::qWaitFor([&table] { return table.rowHeight(0) == TableRowHeight(); })) << table.rowHeight(0);
+    // The others give the last one what its cells want, as long as they have air.
+    EXPECT_GE(table.columnWidth(2), static_cast<QAbstractItemView&>(table).sizeHintForColumn(2));
+    // A width that a column has just now because it gave way, and that is wanted from now on, stays.
+    const int narrow = table.columnWidth(0);
+    ASSERT_LT(narrow, 300);
+    SetColumnWidths(&table, std::array{narrow});
+    table.resize(900, 300);
+    EXPECT_TRUE(QTest::qWaitFor([&table] { return table.columnWidth(1) == 200; }));
+    EXPECT_EQ(table.columnWidth(0), narrow);
 }

@@ -477,6 +477,10 @@ TEST_F(CameraPage, FishEyeViewsComeFromTheProbe)
     EXPECT_EQ(chosen(Control::FishEyeMode), u"Panorama"_s);
     EXPECT_TRUE(choose(Control::FishEyeMode, u"Quad"_s));
     EXPECT_EQ(chosen(Control::FishEyeMode), u"Panorama"_s) << "no recorder can be told";
+    // One that the list lacks is told all the same, in place of the first.
+    recorders->SVREdit.channels[6].sSub_CH_Mode4FishEye = u"Ceiling"_s;
+    page->open(6);
+    EXPECT_EQ(chosen(Control::FishEyeMode), u"Ceiling"_s);
 }
 
 TEST_F(CameraPage, StationHoldsNoMoreThanItsCameras)

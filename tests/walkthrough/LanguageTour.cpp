@@ -1,5 +1,6 @@
-// language_tour <station folder> <picture folder>: pictures of every page and window in the fourteen languages, light
-// and dark, for translators and for looking after the layouts.
+// language_tour <station folder> <picture folder> [<width>x<height> [<language>,...]]: pictures of every page and
+// window in the fourteen languages or those named, light and dark, for translators and for looking after the layouts.
+// The size is the main window's in logical pixels; QT_SCALE_FACTOR draws them larger.
 #include "app/Station.h"
 #include "app/language/Languages.h"
 #include "app/ui/Form_Initial.h"
@@ -24,8 +25,7 @@ void Save(Form_Initial& desk, QWidget& window, const QString& file)
     QPixmap picture = desk.grab();
     if (&window != &desk) {
         QPainter painter(&picture);
-        painter.drawPixmap((picture.width() - window.width()) / 2, (picture.height() - window.height()) / 2,
-                           window.grab());
+        painter.drawPixmap(desk.rect().center() - window.rect().center(), window.grab());
     }
     picture.save(file);
 }
@@ -36,13 +36,15 @@ int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    if (argc != 3) {
-        std::fputs("usage: language_tour STATION PICTURES\n", stderr);
+    if (argc < 3 || argc > 5) {
+        std::fputs("usage: language_tour STATION PICTURES [WIDTHxHEIGHT [LANGUAGE,...]]\n", stderr);
         return 2;
     }
     SetAppPath(QDir(QString::fromLocal8Bit(argv[1])).absolutePath());
     const QDir pictures(QString::fromLocal8Bit(argv[2]));
     pictures.mkpath(u"."_s);
+    const QStringList size = QString::fromLocal8Bit(argc > 3 ? argv[3] : "1280x720").split(u'x');
+    const QStringList chosen = QString::fromLocal8Bit(argc > 4 ? argv[4] : "").split(u',', Qt::SkipEmptyParts);
     InstallMsgBoxWindow();
     try {
         for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
@@ -51,9 +53,11 @@ int main(int argc, char** argv)
             Form_Initial desk(*station);
             if (!desk.Form_Load())
                 return 1;
-            desk.resize(1280, 720);
+            desk.resize(size.first().toInt(), size.last().toInt());
             desk.show();
             for (int language = 1; language <= kLanguages; ++language) {
+                if (!chosen.isEmpty() && !chosen.contains(QString::number(language)))
+                    continue;
                 SetLanguage(language);
                 SetBoxStyles(language == kRightToLeftLanguage);
                 desk.ChangeLanguage();

@@ -74,7 +74,11 @@ void StatusDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option
         line.setLeft(content.left() + kDot + 8);
     }
     painter->setFont(item.font);
-    painter->setPen(Token(!enabled ? "disabled"_L1 : status == Status::None && percent < 0 ? "muted"_L1 : "text"_L1));
+    // What goes on is read while the table is held back.
+    painter->setPen(Token(percent >= 0             ? "text"_L1
+                          : !enabled               ? "disabled"_L1
+                          : status == Status::None ? "muted"_L1
+                                                   : "text"_L1));
     const auto alignment = static_cast<int>(QStyle::visualAlignment(item.direction, Qt::AlignLeft | Qt::AlignVCenter));
     if (percent < 0 && WordsHeight(item, line.width()) <= line.height())
         painter->drawText(place(line), alignment | Qt::TextWordWrap, item.text);

@@ -91,6 +91,13 @@ public:
         return QObject::eventFilter(watched, event);
     }
 
+    // A width somebody sets, be it the very one the section has just now, is the one it gets back later.
+    void set(int section, int width)
+    {
+        m_given.remove(section);
+        m_table->setColumnWidth(section, width);
+    }
+
 private:
     void follow(QAbstractItemModel* model)
     {
@@ -144,8 +151,8 @@ private:
             const auto* view = static_cast<const QAbstractItemView*>(m_table);
             return std::max(needed(section), view->sizeHintForColumn(section) + 1);
         };
-        // Air goes first, then what the cells would like.
-        giveWay(shown, (rest < 0 ? 0 : needed(rest)), content);
+        // Air goes first, for the sake of the cells of the last one too; then what the cells would like.
+        giveWay(shown, (rest < 0 ? 0 : content(rest)), content);
         giveWay(shown, (rest < 0 ? 0 : needed(rest)), needed);
         for (const int section : std::as_const(shown))
             m_given[section].second = heads->sectionSize(section);
@@ -220,8 +227,10 @@ private:
     void fit()
     {
         const int rows = m_table->model() ? m_table->model()->rowCount() : 0;
+        // The table's own measure takes the hidden row heads in, which want more than the cells.
+        const QAbstractItemView* cells = m_table;
         for (int row = m_first; row < rows && row <= m_last; ++row)
-            m_table->resizeRowToContents(row);
+            m_table->setRowHeight(row, std::max(cells->sizeHintForRow(row), TableRowHeight()));
     }
 
     QTableView* m_table;
@@ -275,6 +284,17 @@ void StyleTree(QTreeView* tree)
 void MonospaceColumn(QAbstractItemView* view, int column)
 {
     view->setItemDelegateForColumn(column, new MonospaceDelegate(view));
+}
+
+void SetColumnWidths(QTableView* table, std::span<const int> widths)
+{
+    HeadRoom* room = nullptr;
+    for (QObject* child : table->children())
+        room = room ? room : dynamic_cast<HeadRoom*>(child);
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+        if (widths[column] > 0 && room)
+            room->set(static_cast<int>(column), widths[column]);
+    }
 }
 
 void StatusColumn(QTableView* table, int column)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 
 class QAbstractItemView;
 class QHeaderView;
@@ -15,6 +16,9 @@ class QTreeView;
 void StyleTable(QTableView* table);
 // The same for a tree or list: hover, row height, no frame decorations.
 void StyleTree(QTreeView* tree);
+// Sets the columns from the first on to these widths, in px; one of 0 is left alone. Columns that give way to long
+// heads get them back when there is room, also where a column is as wide as that at the moment.
+void SetColumnWidths(QTableView* table, std::span<const int> widths);
 // Sets a column in the figures face, for addresses, ports and times.
 void MonospaceColumn(QAbstractItemView* view, int column);
 // A dot before the words and, where the model gives a progress, a thin bar below them (see StatusRoles.h). Long words

@@ -228,7 +228,11 @@ void CameraEdit::fillModes()
     QStringList views;
     for (const FishEyeMode& mode : modes)
         views += mode.sModeName;
-    setEntries(at(Control::FishEyeMode), lists().isPro() ? views : QStringList(), {svr.sSub_CH_Mode4FishEye});
+    // The view is told, not chosen: one the list lacks is the camera's present one all the same.
+    const QString& present = svr.sSub_CH_Mode4FishEye;
+    if (!views.isEmpty() && !views.contains(present))
+        views.prepend(present.isEmpty() ? QString(kAbsent) : present);
+    setEntries(at(Control::FishEyeMode), lists().isPro() ? views : QStringList(), {present});
 }
 
 void CameraEdit::choose(Control control, int entry)

@@ -35,8 +35,7 @@ CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, Work& work, QWidget* pare
     grid->setSortingEnabled(true);
     grid->sortByColumn(CameraSearchModel::Address, Qt::AscendingOrder);
     static constexpr std::array widths{200, 200, 0, 110};
-    for (int column = 0; column < CameraSearchModel::ColumnCount; ++column)
-        grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    SetColumnWidths(grid, widths);
     grid->horizontalHeader()->setStretchLastSection(false);
     grid->horizontalHeader()->setSectionResizeMode(CameraSearchModel::Model, QHeaderView::Stretch);
     ActOnRows(grid, {}, [this](const QModelIndex& row) { choose(row); });

@@ -37,8 +37,7 @@ DetectStatusFrame::DetectStatusFrame(DetectContext context, Work& work, QWidget*
     MonospaceColumn(grid, DetectStatusModel::Address);
     StatusColumn(grid, DetectStatusModel::Status);
     static constexpr std::array widths{170, 140, 70, 120, 70};
-    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
-        grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    SetColumnWidths(grid, widths);
     m_ui->retryBar->hide();
     m_ui->txtRetryUser->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::User)));
     m_ui->txtRetryPassword->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::Password)));

@@ -121,13 +121,14 @@ void NVRDetailFrame::changeLanguage()
     m_ui->txtChannelFilter->setAccessibleName(GetLangString(906));
     m_ui->Grid_ChannelList->setAccessibleName(GetLangString(298));
     // Columns are as wide as their contents want, and wider where a language has a long head.
-    static constexpr std::array widths{64, 150, 76, 0, 190, 110, 48, 48};
+    std::array widths{64, 150, 76, 0, 190, 110, 48, 48};
     const QFontMetrics metrics(m_ui->Grid_ChannelList->horizontalHeader()->font());
     for (int column = 0; column < ChannelListModel::ColumnCount; ++column) {
         const QString text = m_channels->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         const int head = text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + kHeadRoom;
-        m_ui->Grid_ChannelList->setColumnWidth(column, qMax(At(widths, column), head));
+        At(widths, column) = qMax(At(widths, column), head);
     }
+    SetColumnWidths(m_ui->Grid_ChannelList, widths);
 }
 
 void NVRDetailFrame::SetNVR(int slot)

@@ -115,8 +115,7 @@ void NVRPage::Grid_SVR_Draw()
     head->moveSection(head->visualIndex(NVRListModel::Connection), NVRListModel::Edit);
     head->setStretchLastSection(false);
     static constexpr std::array widths{76, 0, 196, 92, 92, 92, 48, 48, 196};
-    for (int column = 0; column < NVRListModel::ColumnCount; ++column)
-        grid->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    SetColumnWidths(grid, widths);
     head->setSectionResizeMode(NVRListModel::Name, QHeaderView::Stretch);
 }
 

@@ -34,8 +34,7 @@ RecorderSearchFrame::RecorderSearchFrame(FinderBridge& finder, const RecorderSet
     list->setSortingEnabled(true);
     list->sortByColumn(-1, Qt::AscendingOrder); // in order of arrival until a head is chosen
     static constexpr std::array widths{0, 150, 80, 130, 180};
-    for (int column = 0; column < SearchListModel::ColumnCount; ++column)
-        list->setColumnWidth(column, widths[static_cast<std::size_t>(column)]);
+    SetColumnWidths(list, widths);
     list->horizontalHeader()->setStretchLastSection(false);
     list->horizontalHeader()->setSectionResizeMode(SearchListModel::DeviceName, QHeaderView::Stretch);
     // The check of the first column is hit by the pointer alone: Space and a double click anywhere in the row do it

@@ -56,8 +56,7 @@ QTableView* MakeGrid(const QString& name, QAbstractItemModel* model, const QList
     grid->setModel(model);
     StyleTable(grid);
     grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    for (qsizetype column = 0; column < widths.size(); ++column)
-        grid->setColumnWidth(static_cast<int>(column), widths[column]);
+    SetColumnWidths(grid, widths);
     return grid;
 }
 
