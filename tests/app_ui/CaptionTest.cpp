@@ -92,8 +92,8 @@ TEST_F(CaptionTest, FitEveryWindowInEveryLanguage)
         for (const QString& line : CutCaptions(desk).filter(u"optStartUp"_s))
             cut << u"narrow / "_s + line;
         desk.resize(1280, 720);
-        EXPECT_LE(desk.minimumSizeHint().width(), 1280) << "language " << language;
-        EXPECT_LE(desk.minimumSizeHint().height(), 720) << "language " << language;
+        EXPECT_LE(desk.minimumSizeHint().width(), 960) << "language " << language;
+        EXPECT_LE(desk.minimumSizeHint().height(), 510) << "language " << language;
         EXPECT_TRUE(cut.isEmpty()) << "language " << language << '\n' << cut.join(u'\n').toStdString();
     }
 }

@@ -112,7 +112,8 @@ TEST_F(ShellTest, SystemPageEditsByKeyboardAndSavesOnApply)
     EXPECT_EQ(audit(), (QStringList{u"Open Rigging Desk"_s, u"Modify Setting of System"_s}));
 
     QTest::keyClicks(name, u"x"_s);
-    Driver::click(u"lbSystemApply_1"_s);
+    Driver::find(u"lbSystemApply_1"_s)->setFocus();
+    press(u"lbSystemApply_1"_s, Qt::Key_Return);
     EXPECT_EQ(name->text(), u"Tor 7"_s) << "Cancel falls back to the edit record";
     name->clear();
     Driver::click(u"lbSystemApply_0"_s);

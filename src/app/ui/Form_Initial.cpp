@@ -33,9 +33,11 @@
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QToolButton>
 
@@ -51,6 +53,15 @@ constexpr int kSVD = 10;
 constexpr int kTooling = 11;
 constexpr int kExit = 12;
 constexpr int kWriting = 976;
+
+// Asks for the room of the page on show alone, so that on a small screen no page is scrolled for the widest one's sake.
+class PageStack : public QStackedWidget
+{
+public:
+    PageStack() { connect(this, &QStackedWidget::currentChanged, this, &QWidget::updateGeometry); }
+    QSize sizeHint() const override { return currentWidget() ? currentWidget()->sizeHint() : QSize(); }
+    QSize minimumSizeHint() const override { return currentWidget() ? currentWidget()->minimumSizeHint() : QSize(); }
+};
 
 } // namespace
 
@@ -145,7 +156,7 @@ void Form_Initial::buildWindow()
     setWindowIcon(ProgramIcon());
     m_rail = new NavRail;
     m_header = new PageHeader;
-    m_frames = new QStackedWidget;
+    m_frames = new PageStack;
     m_frames->setObjectName(u"Frame_Setting"_s);
     buildPages();
 
@@ -193,7 +204,12 @@ void Form_Initial::buildWindow()
         m_firstUser = nullptr;
     });
     page->addWidget(m_firstUser);
-    page->addWidget(m_frames, 1);
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(m_frames);
+    page->addWidget(scroll, 1);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(0);
@@ -399,6 +415,17 @@ void Form_Initial::askExit()
         m_close.start();
     else
         PaintMenu(m_pageIndex);
+}
+
+// Enter presses the button that has the focus, as it does in dialogs.
+void Form_Initial::keyPressEvent(QKeyEvent* event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (enter && button && !button->isCheckable() && !event->isAutoRepeat())
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 void Form_Initial::closeEvent(QCloseEvent* event)
