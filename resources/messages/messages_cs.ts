@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exportovat</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Klávesy</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Zobrazit klávesy</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Přejmenovat nebo upravit vybranou položku</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Načíst stránku znovu</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filtrovat seznam</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Přejít na stránku</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Stisknout tlačítko nebo otevřít vybranou položku</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Odebrat vybranou položku</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Zrušit nebo zavřít</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Přidáno: %1 z %2</translation>

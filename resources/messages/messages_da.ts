@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Eksporter</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Taster</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Vis tasterne</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Omdøb eller rediger den valgte post</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Læs siden igen</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filtrer listen</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Gå til en side</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Tryk på knappen eller åbn den valgte post</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Fjern den valgte post</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Annuller eller luk</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Tilføjet: %1 af %2</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exportieren</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Tasten anzeigen</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Gewählten Eintrag umbenennen oder bearbeiten</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Seite neu einlesen</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Liste filtern</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Zu einer Seite gehen</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Schaltfläche drücken oder gewählten Eintrag öffnen</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Gewählten Eintrag entfernen</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Abbrechen oder schließen</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Hinzugefügt: %1 von %2</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Export</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Keys</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Show the keys</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Rename or edit the selected entry</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Read the page again</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filter the list</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Go to a page</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Press the button or open the selected entry</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Remove the selected entry</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Cancel or close</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Added: %1 of %2</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exportar</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Mostrar las teclas</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Cambiar el nombre o editar la entrada seleccionada</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Volver a leer la página</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filtrar la lista</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Ir a una página</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Pulsar el botón o abrir la entrada seleccionada</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Quitar la entrada seleccionada</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Cancelar o cerrar</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Añadidos: %1 de %2</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Exporter</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Afficher les touches</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Renommer ou modifier l’entrée sélectionnée</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Relire la page</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filtrer la liste</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Aller à une page</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Activer le bouton ou ouvrir l’entrée sélectionnée</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Supprimer l’entrée sélectionnée</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Annuler ou fermer</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Ajoutés : %1 sur %2</translation>

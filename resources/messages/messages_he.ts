@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>ייצוא</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>מקשים</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>הצגת המקשים</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>שינוי שם או עריכה של הרשומה הנבחרת</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>קריאת הדף מחדש</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>סינון הרשימה</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>מעבר לדף</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>לחיצה על הכפתור או פתיחת הרשומה הנבחרת</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>הסרת הרשומה הנבחרת</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>ביטול או סגירה</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>נוספו: %1 מתוך %2</translation>

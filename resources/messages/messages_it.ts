@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Esporta</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Tasti</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Mostra i tasti</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Rinomina o modifica la voce selezionata</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Rileggi la pagina</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filtra l’elenco</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Vai a una pagina</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Premi il pulsante o apri la voce selezionata</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Rimuovi la voce selezionata</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Annulla o chiudi</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Aggiunti: %1 di %2</translation>

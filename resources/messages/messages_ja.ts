@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>エクスポート</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>キー操作</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>キー操作を表示</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>選択した項目の名前変更または編集</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>ページを再読み込み</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>一覧を絞り込む</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>ページへ移動</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>ボタンを押す、または選択した項目を開く</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>選択した項目を削除</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>キャンセルまたは閉じる</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>追加済み：%1 / %2</translation>

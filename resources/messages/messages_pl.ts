@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Eksportuj</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Klawisze</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Pokaż klawisze</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Zmień nazwę lub edytuj wybraną pozycję</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Odczytaj stronę ponownie</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Filtruj listę</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Przejdź do strony</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Naciśnij przycisk lub otwórz wybraną pozycję</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Usuń wybraną pozycję</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Anuluj lub zamknij</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Dodano: %1 z %2</translation>

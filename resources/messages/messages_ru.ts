@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Экспортировать</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Клавиши</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Показать клавиши</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Переименовать или изменить выбранную запись</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Прочитать страницу заново</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Фильтровать список</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Перейти на страницу</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Нажать кнопку или открыть выбранную запись</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Удалить выбранную запись</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>Отменить или закрыть</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Добавлено: %1 из %2</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>Dışa Aktar</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>Tuşlar</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>Tuşları göster</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>Seçili girdiyi yeniden adlandır veya düzenle</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>Sayfayı yeniden oku</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>Listeyi süz</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>Bir sayfaya git</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>Düğmeye bas veya seçili girdiyi aç</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>Seçili girdiyi kaldır</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>İptal et veya kapat</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>Eklenen: %1 / %2</translation>

@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>导出</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>快捷键</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>显示快捷键</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>重命名或编辑所选条目</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>重新读取页面</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>筛选列表</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>转到页面</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>按下按钮或打开所选条目</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>移除所选条目</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>取消或关闭</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>已添加：%1 / %2</translation>

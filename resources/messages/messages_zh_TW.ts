@@ -3603,6 +3603,42 @@
         <source>Export</source>
         <translation>匯出</translation>
     </message>
+    <message id="1000">
+        <source>Keys</source>
+        <translation>快速鍵</translation>
+    </message>
+    <message id="1001">
+        <source>Show the keys</source>
+        <translation>顯示快速鍵</translation>
+    </message>
+    <message id="1002">
+        <source>Rename or edit the selected entry</source>
+        <translation>重新命名或編輯所選項目</translation>
+    </message>
+    <message id="1003">
+        <source>Read the page again</source>
+        <translation>重新讀取頁面</translation>
+    </message>
+    <message id="1004">
+        <source>Filter the list</source>
+        <translation>篩選清單</translation>
+    </message>
+    <message id="1005">
+        <source>Go to a page</source>
+        <translation>前往頁面</translation>
+    </message>
+    <message id="1006">
+        <source>Press the button or open the selected entry</source>
+        <translation>按下按鈕或開啟所選項目</translation>
+    </message>
+    <message id="1007">
+        <source>Remove the selected entry</source>
+        <translation>移除所選項目</translation>
+    </message>
+    <message id="1008">
+        <source>Cancel or close</source>
+        <translation>取消或關閉</translation>
+    </message>
     <message id="1030">
         <source>Added: %1 of %2</source>
         <translation>已新增：%1 / %2</translation>

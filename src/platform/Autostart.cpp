@@ -25,15 +25,66 @@ QString Folder(AutostartScope scope)
     return base + u"/autostart/"_s;
 }
 
+// Values escape backslashes and line ends (freedesktop.org desktop entries, "Possible value types").
+QString EscapedValue(QString text)
+{
+    text.replace(u'\\', u"\\\\"_s);
+    text.replace(u'\n', u"\\n"_s);
+    text.replace(u'\r', u"\\r"_s);
+    return text.replace(u'\t', u"\\t"_s);
+}
+
+QString UnescapedValue(const QString& text)
+{
+    QString plain;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] != u'\\' || i + 1 == text.size()) {
+            plain += text[i];
+            continue;
+        }
+        const QChar letter = text[++i];
+        plain += letter == u'n' ? u'\n' : letter == u'r' ? u'\r' : letter == u't' ? u'\t' : letter;
+    }
+    return plain;
+}
+
+// An argument stands in double quotes, its quotes, backquotes, dollars and backslashes behind a backslash; "%" would
+// begin a field code ("The Exec key").
+QString QuotedProgram(const QString& program)
+{
+    QString quoted;
+    for (const QChar letter : program) {
+        if (u"\"`$\\"_s.contains(letter))
+            quoted += u'\\';
+        quoted += letter;
+        if (letter == u'%')
+            quoted += letter;
+    }
+    return u'"' + quoted + u'"';
+}
+
+QString UnquotedProgram(const QString& command)
+{
+    QString program;
+    for (qsizetype i = 1; i + 1 < command.size(); ++i) {
+        if (command[i] == u'\\' || command[i] == u'%')
+            ++i;
+        program += command[i];
+    }
+    return program;
+}
+
 } // namespace
 
-bool SetAutostart(AutostartScope scope, const QString& name, const QString& command)
+bool SetAutostart(AutostartScope scope, const QString& name, const QString& program)
 {
     QDir().mkpath(Folder(scope));
     QSaveFile file(Folder(scope) + name + u".desktop"_s);
     if (!file.open(QIODevice::WriteOnly))
         return false;
-    file.write((u"[Desktop Entry]\nType=Application\nName="_s + name + u"\nExec="_s + command + u"\n"_s).toUtf8());
+    file.write((u"[Desktop Entry]\nType=Application\nName="_s + EscapedValue(name) + u"\nExec="_s +
+                EscapedValue(QuotedProgram(program)) + u"\n"_s)
+                   .toUtf8());
     return file.commit();
 }
 
@@ -43,7 +94,7 @@ bool DeleteAutostart(AutostartScope scope, const QString& name)
     return !file.exists() || file.remove();
 }
 
-QString AutostartCommand(AutostartScope scope, const QString& name)
+QString AutostartProgram(AutostartScope scope, const QString& name)
 {
     QFile file(Folder(scope) + name + u".desktop"_s);
     if (!file.open(QIODevice::ReadOnly))
@@ -51,7 +102,7 @@ QString AutostartCommand(AutostartScope scope, const QString& name)
     const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
     for (const QString& line : lines) {
         if (line.startsWith("Exec="_L1))
-            return line.mid(5);
+            return UnquotedProgram(UnescapedValue(line.mid(5)));
     }
     return {};
 }

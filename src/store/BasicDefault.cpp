@@ -83,7 +83,7 @@ void StartUp_Reg(const BasicDefaultRecord& record)
     const QString name = CMS_Core;
     Trapped(source, [&] {
         if (record.bStartup) {
-            if (!SetAutostart(AutostartScope::User, name, u'"' + ProgramPath(name) + u'"'))
+            if (!SetAutostart(AutostartScope::User, name, ProgramPath(name)))
                 throw StoreError(GetRegistryErrorText(12));
         } else if (!DeleteAutostart(AutostartScope::User, name)) {
             throw StoreError(GetRegistryErrorText(14));

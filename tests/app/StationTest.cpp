@@ -382,8 +382,8 @@ TEST_F(StationTest, EachTouchedPageIsSavedOnceAndAudited)
     texts.sort();
     EXPECT_EQ(texts, (QStringList{u"Modify Setting of NVR"_s, u"Modify Setting of System"_s,
                                   u"Modify Setting of User Group"_s}));
-    EXPECT_EQ(AutostartCommand(AutostartScope::User, u"CMS_Core"_s), u'"' + ProgramPath(u"CMS_Core"_s) + u'"');
-    EXPECT_EQ(AutostartCommand(AutostartScope::Machine, u"CMS_Core"_s), QString());
+    EXPECT_EQ(AutostartProgram(AutostartScope::User, u"CMS_Core"_s), ProgramPath(u"CMS_Core"_s));
+    EXPECT_EQ(AutostartProgram(AutostartScope::Machine, u"CMS_Core"_s), QString());
 
     start(); // another run on the same files
     EXPECT_EQ(fresh->basicDefault.stored.sSystemName, u"renamed"_s);
@@ -392,7 +392,7 @@ TEST_F(StationTest, EachTouchedPageIsSavedOnceAndAudited)
     fresh->basicDefault.edit.bStartup = false;
     fresh->basicDefault.edit.bChanged = true;
     SaveCheck(*fresh);
-    EXPECT_EQ(AutostartCommand(AutostartScope::User, u"CMS_Core"_s), QString());
+    EXPECT_EQ(AutostartProgram(AutostartScope::User, u"CMS_Core"_s), QString());
 }
 
 TEST_F(StationTest, EveryFamilyTellsWhatASaveWouldChange)
@@ -453,6 +453,16 @@ TEST(FamilyRegister, SavesWhatDoesNotCountAtTheClose)
     EXPECT_TRUE(families.ExitCheck());
     EXPECT_TRUE(families.SaveCheck([](int) {}));
     EXPECT_EQ(saved, 2);
+}
+
+TEST_F(StationTest, AutostartOfAnyPathIsEscaped)
+{
+    const QString program = u"/opt/50% \"off\"/$a\\b`c\nd"_s;
+    ASSERT_TRUE(SetAutostart(AutostartScope::User, u"Odd"_s, program));
+    EXPECT_EQ(AutostartProgram(AutostartScope::User, u"Odd"_s), program);
+    EXPECT_EQ(read(u"\\config\\autostart\\Odd.desktop"), "[Desktop Entry]\nType=Application\nName=Odd\n"
+                                                         R"(Exec="/opt/50%% \\"off\\"/\\$a\\\\b\\`c\nd")"
+                                                         "\n");
 }
 
 TEST_F(StationTest, RevertingAPageBringsBackItsStoredRecordsOnly)

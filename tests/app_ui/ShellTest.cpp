@@ -1,10 +1,13 @@
 #include "app/Station.h"
 #include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
 #include "app/ui/Form_Initial.h"
 #include "app/ui/MsgBoxWindow.h"
+#include "app/ui/Remembered.h"
 #include "look/style/Theme.h"
 #include "platform/Clock.h"
 #include "platform/MsgBox.h"
+#include "platform/UserSettings.h"
 #include "platform/Wait.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/walkthrough/Driver.h"
@@ -12,13 +15,32 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
+#include <QHeaderView>
 #include <QLineEdit>
+#include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// What a user's settings file would hold.
+class NotedSettings final : public UserSettings
+{
+public:
+    explicit NotedSettings(QVariantMap& map)
+        : m_map(map)
+    {
+    }
+    QVariant value(const QString& key) const override { return m_map.value(key); }
+    void setValue(const QString& key, const QVariant& value) override { m_map[key] = value; }
+
+private:
+    QVariantMap& m_map;
+};
 
 // The desk started on a station of its own; boxes are answered from a list unless a test shows them.
 class ShellTest : public StoreFixture
@@ -39,6 +61,8 @@ protected:
     {
         desk.reset();
         SetMsgBoxHandler(nullptr);
+        UseUserSettings(nullptr);
+        SetCurrentUser({});
         SetClosing(false);
         SetLanguage(1);
         SetBoxStyles(false);
@@ -63,6 +87,12 @@ protected:
         desk->resize(1280, 720);
         desk->show();
         return QTest::qWaitForWindowExposed(desk.get());
+    }
+    void end()
+    {
+        answers = {MsgResult::Yes, MsgResult::No};
+        desk->close();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return desk->unloaded(); }, 10000));
     }
     void press(const QString& name, Qt::Key key) { QTest::keyClick(Driver::find(name), key); }
     QStringList audit()
@@ -211,6 +241,88 @@ TEST_F(ShellTest, RightsDecideTheMenu)
     EXPECT_EQ(shown, (QList<int>{8, 11, 12}));
 }
 
+TEST_F(ShellTest, ColoursWindowColumnsAndPageAreThereAgainAtTheNextStart)
+{
+    QVariantMap settings;
+    UseUserSettings(std::make_unique<NotedSettings>(settings));
+    const Scheme before = CurrentScheme();
+    const Scheme other = before == Scheme::Dark ? Scheme::Light : Scheme::Dark;
+    ASSERT_TRUE(start());
+    Driver::click(u"btnTheme"_s);
+    EXPECT_EQ(CurrentScheme(), other) << "one click is one switch";
+    Driver::click(u"lbMenu_3"_s);
+    QHeaderView* head = Driver::find<QTableView>(u"Grid_GroupList"_s)->horizontalHeader();
+    const QPoint edge(head->sectionViewportPosition(1) - 1, head->height() / 2);
+    const int width = head->sectionSize(0);
+    QTest::mousePress(head->viewport(), Qt::LeftButton, {}, edge);
+    QTest::mouseMove(head->viewport(), edge + QPoint(20, 0));
+    QTest::mouseMove(head->viewport(), edge + QPoint(40, 0));
+    QTest::mouseRelease(head->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
+    const int dragged = head->sectionSize(0);
+    EXPECT_NE(dragged, width);
+    desk->resize(1111, 666);
+    end();
+
+    ApplyTheme(*qApp, before);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(desk->m_PageIndex(), 3);
+    EXPECT_TRUE(Driver::find<QAbstractButton>(u"lbMenu_3"_s)->isChecked());
+    EXPECT_EQ(Driver::find<QTableView>(u"Grid_GroupList"_s)->horizontalHeader()->sectionSize(0), dragged);
+    EXPECT_EQ(RememberedScheme(), other);
+    PlaceWindow(*desk);
+    EXPECT_EQ(desk->size(), QSize(1111, 666));
+    for (const auto& [key, value] : settings.asKeyValueRange())
+        EXPECT_TRUE(key == "colours"_L1 || key == "window"_L1 || key == "page"_L1 || key.startsWith("columns/"_L1));
+}
+
+TEST_F(ShellTest, KeysLeadToPagesAndPressWhatHasTheFocus)
+{
+    ASSERT_TRUE(start());
+    QTest::keyClick(desk.get(), Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(desk->m_PageIndex(), 1);
+    QTest::keyClick(desk.get(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(desk->m_PageIndex(), 9);
+    QTest::keyClick(desk.get(), Qt::Key_1, Qt::ControlModifier);
+    Driver::find(u"lbSystemApply_2"_s)->setFocus();
+    press(u"lbSystemApply_2"_s, Qt::Key_Return);
+    EXPECT_EQ(boxes.size(), 1) << "Return exports";
+    boxes.clear();
+    station->basicDefault.edit.sSystemName = u"read anew"_s;
+    QTest::keyClick(desk.get(), Qt::Key_F5);
+    EXPECT_EQ(Driver::find<QLineEdit>(u"Text1_fm0_0"_s)->text(), u"read anew"_s);
+    QTest::keyClicks(Driver::find(u"Text1_fm0_0"_s), u"X"_s);
+    answers = {MsgResult::Cancel};
+    QTest::keyClick(desk.get(), Qt::Key_F5);
+    EXPECT_EQ(boxes, QStringList{GetLangString(514)}) << "what was typed is not read over";
+    EXPECT_EQ(Driver::find<QLineEdit>(u"Text1_fm0_0"_s)->text(), u"read anewX"_s);
+    QString shown;
+    QTimer::singleShot(0, desk.get(), [&] {
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        shown = dialog ? dialog->objectName() : QString();
+        if (dialog)
+            dialog->reject();
+    });
+    QTest::keyClick(desk.get(), Qt::Key_F1);
+    EXPECT_EQ(shown, u"Form_Keys"_s);
+}
+
+TEST_F(ShellTest, WithoutALoginNobodyGoesOnAfterTheFirstUserWasMade)
+{
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(Driver::find(u"firstUserNotice"_s));
+    UserRecord& chief = station->users.edit[0];
+    chief.sUser = u"chief"_s;
+    chief.bChanged = true;
+    SaveCheck(*station);
+    Driver driver;
+    driver.add(
+        u"users"_s, [] { return true; }, [] { Driver::click(u"lbMenu_3"_s); });
+    driver.add(
+        u"login"_s, [] { return Driver::usable(u"imgBtn_Exit"_s); }, [] { Driver::click(u"imgBtn_Exit"_s); });
+    driver.run();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return desk->unloaded(); }, 10000));
+}
+
 TEST_F(ShellTest, ASecondInstanceSaysSoAndEnds)
 {
     ASSERT_TRUE(start());
@@ -226,9 +338,7 @@ TEST_F(ShellTest, ClosingTheWindowAsksLikeExitAndKeepsTheDeskOnNo)
     desk->close();
     EXPECT_TRUE(desk->isVisible());
     EXPECT_EQ(boxes, QStringList{GetLangString(509)});
-    answers = {MsgResult::Yes, MsgResult::No};
-    desk->close();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return desk->unloaded(); }, 10000));
+    end();
     EXPECT_FALSE(QFile::exists(path(kBackup1File))) << "nothing was saved, so no backup is written";
 }
 

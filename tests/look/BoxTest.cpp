@@ -141,6 +141,7 @@ TEST(LookFields, TheFieldAtFaultIsOutlinedUntilItChanges)
     const auto edge = [&window](const QWidget* field) {
         return window.grab().toImage().pixelColor(field->geometry().center().x(), field->geometry().top());
     };
+    EXPECT_EQ(edge(spin), Token("control"_L1)) << "a border that can be seen";
     for (QWidget* field : std::initializer_list<QWidget*>{line, combo, spin}) {
         SCOPED_TRACE(field->metaObject()->className());
         PointAtFault(field);

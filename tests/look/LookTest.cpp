@@ -11,6 +11,7 @@
 #include "look/widgets/PasswordField.h"
 #include "look/widgets/StatusLabel.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
@@ -134,9 +135,9 @@ TEST(LookTheme, TextKeepsItsContrastOnEveryGround)
         {{"ok"_L1}, {"okGround"_L1}, 4.5},
         {{"warning"_L1}, {"warningGround"_L1}, 4.5},
         {{"bad"_L1}, {"badGround"_L1}, 4.5},
-        // what is switched off stays readable; borders of check boxes and the focus ring stay visible
+        // what is switched off stays readable; borders of fields and the focus ring stay visible
         {{"disabled"_L1}, {"background"_L1, "surface"_L1, "raised"_L1}, 3.0},
-        {{"control"_L1}, {"surface"_L1, "field"_L1}, 3.0},
+        {{"control"_L1}, {"surface"_L1, "field"_L1, "background"_L1, "raised"_L1}, 3.0},
         {{"accent"_L1}, grounds, 3.0},
     };
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark})
@@ -293,6 +294,25 @@ TEST(LookNavRail, KeyboardWalksTheEntriesOnShow)
     EXPECT_EQ(rail.currentIndex(), 3) << "the bottom entry is no page";
     EXPECT_EQ(clicked.count(), 2);
     EXPECT_EQ(clicked.last().first().toInt(), 4);
+}
+
+TEST(LookNavRail, EntriesAreAnnouncedAsWhatTheyAre)
+{
+    NavRail rail;
+    rail.addEntry("system"_L1, u"System"_s);
+    rail.addEntry("nvr"_L1, u"NVR"_s);
+    rail.addBottomEntry("exit"_L1, u"Exit"_s);
+    QSignalSpy pressed(&rail, &NavRail::entryClicked);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&rail)->role(), QAccessible::PageTabList);
+    for (int i = 0; i < 3; ++i) {
+        QAccessibleInterface* access = QAccessible::queryAccessibleInterface(rail.entry(i));
+        EXPECT_EQ(access->role(), i < 2 ? QAccessible::PageTab : QAccessible::Button);
+        EXPECT_EQ(access->state().selected, i == 0);
+        EXPECT_EQ(access->text(QAccessible::Name), rail.entry(i)->text());
+        access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        rail.setCurrentIndex(0);
+    }
+    EXPECT_EQ(pressed.count(), 3);
 }
 
 TEST(LookNavRail, DotHasWords)

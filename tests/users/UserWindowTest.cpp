@@ -107,8 +107,14 @@ TEST_F(UserWindowTest, AFreshStationMakesItsFirstAdministrator)
         Driver::type(u"txtUser_7"_s, u"secret"_s);
         Driver::click(u"lbUserApply_0"_s);
     });
-    waitClosed(u"Form_UserSetting"_s);
+    step(u"txtLogin_0"_s, [] {
+        Driver::type(u"txtLogin_0"_s, u"chief"_s);
+        Driver::type(u"txtLogin_1"_s, u"secret"_s);
+        Driver::click(u"imgBtn_OK"_s);
+    });
+    waitClosed(u"Form_Login"_s);
     driver.run(10000);
+    EXPECT_EQ(CurrentUser(), u"chief"_s) << "the one who was made logs in at once";
     EXPECT_EQ(boxes, QStringList({GetLangString(606), GetLangString(607), GetLangString(359), GetLangString(640)}));
     EXPECT_EQ(row(u"SELECT sUser||'/'||sPSWD||'/'||iGroup||'/'||sPhoto FROM UserData"_s).toString(),
               u"chief/secret/0/"_s);

@@ -2,9 +2,11 @@
 
 #include "app/Station.h"
 #include "app/language/Languages.h"
+#include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "app/ui/FileChooserWindow.h"
 #include "app/ui/Form_Initial.h"
-#include "app/ui/MenuTable.h"
+#include "app/ui/KeysWindow.h"
 #include "app/ui/MsgBoxWindow.h"
 #include "app/ui/UpdateWindow.h"
 #include "look/widgets/ProgressWindow.h"
@@ -56,6 +58,10 @@ public:
         : m_desk(desk)
         , m_station(station)
         , m_visit(visit)
+        , m_user(CurrentUser())
+        , m_users(station.users)
+        , m_accounts(station.accounts)
+        , m_recorders(std::make_unique<RecorderSet>(station.recorders))
     {
     }
 
@@ -112,11 +118,17 @@ private:
     Form_Initial& m_desk;
     Station& m_station;
     const VisitWindow& m_visit;
+    // What the station itself holds, back at the end.
+    QString m_user;
+    UserSet m_users;
+    std::vector<NVRAccountRecord> m_accounts;
+    std::unique_ptr<RecorderSet> m_recorders;
     Form_COM m_com;
 };
 
 void Visitor::furnish()
 {
+    m_station.recorders = *std::make_unique<RecorderSet>();
     static constexpr std::array names{u"Gatehouse", u"Склад 2"};
     static constexpr std::array addresses{u"192.168.10.21", u"nvr-2.local"};
     for (int slot = 0; slot < 2; ++slot) {
@@ -141,6 +153,7 @@ void Visitor::furnish()
     UserRecord night = chief;
     night.sUser = u"Nachtwache"_s;
     night.iGroup = 4;
+    SetCurrentUser(chief.sUser);
     m_station.users.edit = m_station.users.stored = {chief, night};
     m_station.accounts = {{0, u"admin"_s, u"admin"_s}, {1, u"root"_s, u"pass"_s}};
     const qint32 now = TimeToUtcSeconds(Now());
@@ -150,10 +163,10 @@ void Visitor::furnish()
 
 void Visitor::clear()
 {
-    for (std::size_t slot = 0; slot <= kAnswering; ++slot)
-        m_station.recorders.SVRList[slot] = m_station.recorders.SVRWorkList[slot] = SVRRecord();
-    m_station.users.edit = m_station.users.stored = {UserRecord()};
-    m_station.accounts = {NVRAccountRecord()};
+    m_station.recorders = *m_recorders;
+    m_station.users = m_users;
+    m_station.accounts = m_accounts;
+    SetCurrentUser(m_user);
     for (const int page : {kUsers, kRecorders, 0})
         Driver::click(u"lbMenu_%1"_s.arg(page));
 }
@@ -241,6 +254,9 @@ void Visitor::dialogs()
     InstallFileChooserWindow();
     modal(u"question"_s, [] { MsgBox(GetLangString(kLongestQuestion), AskBoxStyle(), GetLangString(570)); });
     modal(u"notice"_s, [] { MsgBox(GetLangString(kLongestNotice), InfoBoxStyle(), GetLangString(570)); });
+    modal(u"destroy"_s, [] { AskToDestroy(483, u"NVR 1  ·  Warehouse north  ·  192.168.10.40:8080"_s); });
+    modal(u"leave"_s, [] { AskToLeave(); });
+    modal(u"keys"_s, [this] { ShowKeys(&m_desk); });
     modal(u"file"_s, [] { Form_OpenFile({QDir::rootPath(), u"*.bmp;*.jpg;*.gif;*.png"_s, GetLangString(643)}); });
     SetMsgBoxHandler(boxes);
     SetFileChooserHandler(files);

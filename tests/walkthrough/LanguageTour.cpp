@@ -9,10 +9,13 @@
 #include "platform/AppPath.h"
 #include "platform/MsgBox.h"
 #include "tests/walkthrough/DeskWindows.h"
+#include "tests/walkthrough/Driver.h"
+#include "users/ui/Form_Login.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QTimer>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +31,23 @@ void Save(Form_Initial& desk, QWidget& window, const QString& file)
         painter.drawPixmap(desk.rect().center() - window.rect().center(), window.grab());
     }
     picture.save(file);
+}
+
+// On a station with users the first administrator's name and password are typed into the login.
+void LogIn(const Station& station)
+{
+    auto* login = qobject_cast<Form_Login*>(QApplication::activeModalWidget());
+    if (!login)
+        return;
+    for (const UserRecord& user : station.users.stored) {
+        if (user.iGroup != 0)
+            continue;
+        Driver::type(u"txtLogin_0"_s, user.sUser);
+        Driver::type(u"txtLogin_1"_s, user.sPSWD);
+        Driver::click(u"imgBtn_OK"_s);
+        return;
+    }
+    login->reject();
 }
 
 } // namespace
@@ -51,6 +71,7 @@ int main(int argc, char** argv)
             ApplyTheme(application, scheme);
             const auto station = std::make_unique<Station>();
             Form_Initial desk(*station);
+            QTimer::singleShot(0, &desk, [&] { LogIn(*station); });
             if (!desk.Form_Load())
                 return 1;
             desk.resize(size.first().toInt(), size.last().toInt());

@@ -1,20 +1,18 @@
 #include "app/ui/Form_Initial.h"
 
-#include "app/RemoveSVR.h"
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "app/log/StartWork.h"
+#include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
-#include "app/ui/MenuTable.h"
-#include "app/ui/PendingPage.h"
-#include "app/ui/RecordersPage.h"
-#include "app/ui/SystemPage.h"
-#include "app/ui/ToolingPage.h"
+#include "app/shell/ui/RememberColumns.h"
+#include "app/ui/KeysWindow.h"
+#include "app/ui/Remembered.h"
 #include "app/ui/UpdateWindow.h"
-#include "app/ui/UsersPage.h"
+#include "app/ui/ui_Form_Initial.h"
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
+#include "look/widgets/Fields.h"
 #include "look/widgets/NavRail.h"
 #include "look/widgets/PageHeader.h"
 #include "look/widgets/ProgressWindow.h"
@@ -22,8 +20,6 @@
 #include "platform/Clock.h"
 #include "platform/MsgBox.h"
 #include "platform/Wait.h"
-#include "recorders/ui/Form_NVRSetting.h"
-#include "recorders/ui/NVRPage.h"
 #include "store/SystemLog.h"
 #include "support/Conversions.h"
 #include "support/TimeSeconds.h"
@@ -32,13 +28,9 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QProcess>
-#include <QPushButton>
 #include <QScrollArea>
-#include <QStackedWidget>
+#include <QShortcut>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -46,22 +38,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kLoadSource("Form_Initial - Form_Load");
-constexpr int kSystem = 0;
-constexpr int kStartup = 8;
-constexpr int kVideoWall = 9;
-constexpr int kSVD = 10;
-constexpr int kTooling = 11;
-constexpr int kExit = 12;
-constexpr int kWriting = 976;
-
-// Asks for the room of the page on show alone, so that on a small screen no page is scrolled for the widest one's sake.
-class PageStack : public QStackedWidget
-{
-public:
-    PageStack() { connect(this, &QStackedWidget::currentChanged, this, &QWidget::updateGeometry); }
-    QSize sizeHint() const override { return currentWidget() ? currentWidget()->sizeHint() : QSize(); }
-    QSize minimumSizeHint() const override { return currentWidget() ? currentWidget()->minimumSizeHint() : QSize(); }
-};
+constexpr int kUnauthorised = 139;
+constexpr int kAskExit = 509;
+constexpr int kRunsAlready = 10;
 
 } // namespace
 
@@ -69,8 +48,12 @@ Form_Initial::Form_Initial(Station& station, QWidget* parent)
     : QWidget(parent)
     , m_station(station)
     , m_close(station, *this)
+    , m_ui(std::make_unique<Ui::Form_Initial>())
 {
     setObjectName(u"Form_Initial"_s);
+    m_context.save = [this] { SaveCheck(m_station); };
+    m_context.languageChanged = [this] { ChangeLanguage(); };
+    m_context.usersChanged = [this] { usersChanged(); };
     TimerCloseSystem.setInterval(500);
     connect(&TimerCloseSystem, &QTimer::timeout, this, [this] { m_close.tick(); });
     TimerCloseSystem.start();
@@ -81,7 +64,6 @@ Form_Initial::Form_Initial(Station& station, QWidget* parent)
 
 Form_Initial::~Form_Initial()
 {
-    m_work.stop();
     delete m_frames; // pages use the bridges
 }
 
@@ -95,7 +77,7 @@ bool Form_Initial::Form_Load()
     Trapped(kLoadSource, [&] { buildWindow(); });
 
     if (!m_instance.acquire()) {
-        Tell(Tone::Warning, 10);
+        Tell(Tone::Warning, kRunsAlready);
         return false;
     }
     Trapped(kLoadSource, [&] { loadRecordsAndPages(); });
@@ -110,15 +92,8 @@ bool Form_Initial::Form_Load()
     CheckRecords(m_station);
     updateHeader();
     showFirstUserNotice();
-    m_systemPage->SystemControl_Frame_Set();
-
-    Trapped(kLoadSource, [&] {
-        if (m_station.currentRights().Setting != 1 && m_pageIndex != kStartup) {
-            openPage(kStartup);
-            m_pageIndex = kStartup;
-            PaintMenu(kStartup);
-        }
-    });
+    m_pages[kFirstPage]->enter();
+    Trapped(kLoadSource, [&] { openFirstPage(); });
     Trapped(kLoadSource, [&] { m_com.SetProToDeviceBridge(m_station.recorders.SVRList); });
     m_station.Loading = false;
     SetClosing(false);
@@ -135,7 +110,7 @@ bool Form_Initial::login()
     const UserSet& users = m_station.users;
     if (IsFreshStation(users))
         return true;
-    Form_Login form(users.stored);
+    Form_Login form(users.stored, isVisible() ? this : nullptr);
     if (!users.read)
         form.refuse(GetLangString(982));
     if (form.exec() != QDialog::Accepted)
@@ -147,126 +122,129 @@ bool Form_Initial::login()
 
 void Form_Initial::showFirstUserNotice()
 {
-    if (m_firstUser)
-        m_firstUser->setVisible(CurrentUser().isEmpty() && SetUser_TotalNum(m_station.users) == 0);
+    m_ui->firstUserNotice->setVisible(m_noticeWanted && CurrentUser().isEmpty() &&
+                                      SetUser_TotalNum(m_station.users) == 0);
+}
+
+// From the first user on everybody logs in, the one who made him too: the audit log names who does what.
+void Form_Initial::usersChanged()
+{
+    showFirstUserNotice();
+    if (m_station.Loading || IsFreshStation(m_station.users) || !CurrentUser().isEmpty() ||
+        std::exchange(m_loginWanted, true))
+        return;
+    const auto ask = [this] {
+        m_loginWanted = false;
+        if (!login()) {
+            m_close.start();
+            return;
+        }
+        SettleCurrentGroup(m_station);
+        updateHeader();
+        Timer_PrivilegeCheck();
+        if (!isShown(m_pageIndex))
+            openFirstPage();
+    };
+    QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection); // the window in which he was made closes first
 }
 
 void Form_Initial::buildWindow()
 {
+    m_ui->setupUi(this);
     setWindowIcon(ProgramIcon());
-    m_rail = new NavRail;
-    m_header = new PageHeader;
-    m_frames = new PageStack;
-    m_frames->setObjectName(u"Frame_Setting"_s);
+    m_rail = m_ui->rail;
+    m_header = m_ui->header;
+    m_frames = m_ui->Frame_Setting;
     buildPages();
 
     for (int index = 0; index < kPages; ++index) {
-        NavEntry* entry = m_rail->addEntry(At(kMenuTable, index).icon, QString());
+        NavEntry* entry = m_rail->addEntry(At(PageTable(), index).face.icon, QString());
         entry->setObjectName(u"lbMenu_%1"_s.arg(index));
     }
-    m_rail->addBottomEntry(At(kMenuTable, kExit).icon, QString())->setObjectName(u"lbMenu_12"_s);
+    m_rail->addBottomEntry(ExitFace().icon, QString())->setObjectName(u"lbMenu_%1"_s.arg(kExit));
     connect(m_rail, &NavRail::entryClicked, this, &Form_Initial::lbMenu_Click);
 
     m_header->themeToggle()->setObjectName(u"btnTheme"_s);
-    connect(m_header->themeToggle(), &QToolButton::clicked, this, [this] {
-        ApplyTheme(*qApp, CurrentScheme() == Scheme::Dark ? Scheme::Light : Scheme::Dark);
-        updateHeader();
-    });
+    connect(&ThemeEvents(), &ThemeNotifier::schemeChanged, this, &Form_Initial::updateHeader);
+    // The header has switched by then.
+    connect(m_header->themeToggle(), &QToolButton::clicked, this, [] { RememberScheme(CurrentScheme()); });
 
-    auto* page = new QVBoxLayout;
-    page->setSpacing(0);
-    page->addWidget(m_header);
-    m_firstUser = new QFrame;
-    m_firstUser->setObjectName(u"firstUserNotice"_s);
-    SetRole(m_firstUser, "panel"_L1);
-    auto* notice = new QHBoxLayout(m_firstUser);
-    notice->setContentsMargins(24, 10, 24, 10);
-    auto* words = new QLabel;
-    words->setWordWrap(true);
-    words->setProperty("tag", u"Caption:900"_s);
-    auto* make = new QPushButton;
-    make->setObjectName(u"btnFirstUser"_s);
-    make->setProperty("tag", u"Caption:901"_s);
-    auto* later = new QPushButton;
-    later->setObjectName(u"btnFirstUserLater"_s);
-    later->setProperty("tag", u"Caption:902"_s);
-    SetKind(later, "quiet"_L1);
-    notice->addWidget(words, 1);
-    notice->addWidget(make);
-    notice->addWidget(later);
-    m_firstUser->hide();
-    connect(make, &QPushButton::clicked, this, [this] {
-        lbMenu_Click(3);
-        m_usersPage->lists()->lbUserAdd_Click();
+    m_ui->noticeIcon->setPixmap(Icon("warning"_L1, "warning"_L1).pixmap(20, 20));
+    m_ui->firstUserNotice->hide();
+    connect(m_ui->btnFirstUser, &QPushButton::clicked, this, [this] {
+        lbMenu_Click(kUsersPage);
+        if (m_pageIndex == kUsersPage)
+            page()->primaryAction();
     });
-    connect(later, &QPushButton::clicked, this, [this] {
-        m_firstUser->deleteLater();
-        m_firstUser = nullptr;
+    connect(m_ui->btnFirstUserLater, &QPushButton::clicked, this, [this] {
+        m_noticeWanted = false;
+        showFirstUserNotice();
     });
-    page->addWidget(m_firstUser);
-    auto* scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidgetResizable(true);
-    scroll->setWidget(m_frames);
-    page->addWidget(scroll, 1);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(0);
-    row->addWidget(m_rail);
-    row->addLayout(page, 1);
+    addKeys();
     m_headerClock.start();
 }
 
 void Form_Initial::buildPages()
 {
-    m_systemPage = new SystemPage(m_station);
-    connect(m_systemPage, &SystemPage::languageChanged, this, &Form_Initial::ChangeLanguage);
-    auto* recorders = new RecordersPage(m_station.recorders, m_com.http);
-    m_nvrPage = recorders->list();
-    connect(m_nvrPage, &NVRPage::wizardWanted, this, &Form_Initial::showWizard);
-    connect(m_nvrPage, &NVRPage::editWanted, this, [this](int slot) { showRecorder(slot, false); });
-    connect(m_nvrPage, &NVRPage::renameWanted, this, [this](int slot) { showRecorder(slot, true); });
-    connect(m_nvrPage, &NVRPage::removeWanted, this, [this](int slot) {
-        const auto remove = [this, slot] {
-            m_work.say(GetLangString(kWriting));
-            return RemoveSVR(m_station, m_com, slot, m_work);
-        };
-        StartWork(m_work, "Form_Initial - RemoveSVR"_L1, remove, [this] {
-            m_nvrPage->Grid_SVR_Set_withDB();
-            updateHeader();
-        });
-    });
-    m_nvrPage->showWork(m_work);
-    connect(&m_work, &Work::runningChanged, m_rail, &QWidget::setDisabled);
-
-    m_pages[0] = m_systemPage;
-    m_pages[1] = recorders;
-    m_usersPage = new UsersPage({m_station.databases, m_station.users, m_station.groups, m_station.recorders,
-                                 m_station.accounts, [this] { SaveCheck(m_station); }});
-    connect(m_usersPage->lists(), &UserPage::usersChanged, this, &Form_Initial::showFirstUserNotice);
-    m_pages[3] = m_usersPage;
-    m_pages[kTooling] = new ToolingPage(m_station);
+    const DeskParts parts{m_station, m_com, m_context};
     for (int index = 0; index < kPages; ++index) {
-        SettingsPage*& page = m_pages[static_cast<std::size_t>(index)];
-        if (!page)
-            page = new PendingPage;
+        Page* page = At(PageTable(), index).make(parts);
+        m_pages[static_cast<std::size_t>(index)] = page;
         page->setObjectName(u"Frame_Setting_%1"_s.arg(index));
-        connect(page, &SettingsPage::changesChanged, this, [this, index] {
-            m_rail->entry(index)->setDirty(m_pages[static_cast<std::size_t>(index)]->hasChanges(), GetLangString(868));
-        });
-        connect(page, &SettingsPage::subtitleChanged, this, &Form_Initial::updateHeader);
-        m_frames->addWidget(page);
+        connect(page, &Page::changesChanged, this,
+                [this, index, page] { m_rail->entry(index)->setDirty(page->hasChanges(), GetLangString(868)); });
+        connect(page, &Page::workRunning, m_rail, &QWidget::setDisabled);
+        connect(page, &Page::subtitleChanged, this, &Form_Initial::updateHeader);
+        // A window too small for a page scrolls it.
+        auto* room = new QScrollArea;
+        room->setFrameShape(QFrame::NoFrame);
+        room->setFocusPolicy(Qt::NoFocus);
+        room->setWidgetResizable(true);
+        room->setWidget(page);
+        m_frames->addWidget(room);
+        RememberColumns(page);
     }
+}
+
+// Keys of the desk; they act only while no dialog is over it.
+void Form_Initial::addKeys()
+{
+    const auto key = [this](const QKeySequence& keys, auto&& act) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, act);
+    };
+    for (int index = 0; index < 10; ++index) {
+        const auto digit = static_cast<Qt::Key>(Qt::Key_0 + (index + 1) % 10);
+        key(QKeySequence(Qt::CTRL | digit), [this, index] {
+            if (m_rail->isEnabled() && m_rail->entry(index)->isVisible())
+                lbMenu_Click(index);
+        });
+    }
+    key(Qt::Key_F1, [this] { ShowKeys(this); });
+    key(Qt::Key_F5, [this] {
+        if (page()->leave())
+            page()->reread();
+    });
+    key(QKeySequence::Find, [this] { FocusFilter(page()); });
+}
+
+Page* Form_Initial::page() const
+{
+    return At(m_pages, m_pageIndex);
+}
+
+bool Form_Initial::isShown(int page) const
+{
+    const auto shown = At(PageTable(), page).face.shown;
+    return !shown || shown(m_station.currentRights());
 }
 
 void Form_Initial::loadRecordsAndPages()
 {
     LoadRecords(m_station);
     m_station.basicDefault.edit = m_station.basicDefault.stored;
-    PaintMenu(kSystem);
-    m_systemPage->SystemControl_Frame_Set();
-    LoadFrame(kSystem);
+    PaintMenu(kFirstPage);
+    m_pages[kFirstPage]->enter();
+    LoadFrame(kFirstPage);
     m_station.families.InitialSetValue();
     ChangeLanguage();
 }
@@ -277,11 +255,11 @@ void Form_Initial::ChangeLanguage()
         ApplyLanguage(this);
         setWindowTitle(GetLangString(320));
         m_rail->setBrand(u"Rigging Desk"_s);
-        m_rail->setAccessibleName(GetLangString(882));
-        for (int index = 0; index < kMenuEntries; ++index)
-            m_rail->entry(index)->setText(MenuText(index));
-        for (SettingsPage* page : m_pages)
-            page->changeLanguage();
+        for (int index = 0; index < kPages; ++index) {
+            m_rail->entry(index)->setText(At(PageTable(), index).face.labelText());
+            At(m_pages, index)->changeLanguage();
+        }
+        m_rail->entry(kExit)->setText(ExitFace().labelText());
         updateHeader();
     });
 }
@@ -290,8 +268,8 @@ void Form_Initial::updateHeader()
 {
     if (!m_header)
         return;
-    m_header->setTitle(PageTitle(m_pageIndex));
-    m_header->setSubtitle(At(m_pages, m_pageIndex)->subtitle());
+    m_header->setTitle(At(PageTable(), m_pageIndex).face.titleText());
+    m_header->setSubtitle(page()->subtitle());
     m_header->setUser(CurrentUser());
     m_header->setClock(Now().toString(u"yyyy/MM/dd hh:mm:ss"));
     m_header->setThemeToggleText(GetLangString(CurrentScheme() == Scheme::Dark ? 871 : 870));
@@ -305,19 +283,33 @@ void Form_Initial::PaintMenu(int index)
 
 void Form_Initial::LoadFrame(int page)
 {
-    m_frames->setCurrentWidget(At(m_pages, page));
+    m_frames->setCurrentIndex(page);
 }
 
 void Form_Initial::openPage(int page)
 {
-    At(m_pages, page)->open();
+    At(m_pages, page)->enter();
     LoadFrame(page);
+    m_pageIndex = page;
+    updateHeader();
+}
+
+void Form_Initial::openFirstPage()
+{
+    const GroupPrivilegeRecord rights = m_station.currentRights();
+    const int last = RememberedPage();
+    const auto allowed = At(PageTable(), last).face.allowed;
+    const int first = rights.Setting != 1 ? kStartupPage : !allowed || allowed(rights) ? last : kFirstPage;
+    if (first == m_pageIndex)
+        return;
+    openPage(first);
+    PaintMenu(first);
 }
 
 void Form_Initial::lbMenu_Click(int index)
 {
     Trapped("Form_Initial - lbMenu_Click", [&] {
-        m_systemPage->stopClock();
+        page()->pause();
         PaintMenu(index);
         if (!PageLeaveCheck(m_pageIndex, index)) {
             PaintMenu(m_pageIndex);
@@ -327,105 +319,36 @@ void Form_Initial::lbMenu_Click(int index)
             askExit();
             return;
         }
-        if (index == kSVD && m_station.currentRights().SVDControl != 1) {
-            Tell(Tone::Warning, 139);
+        const auto allowed = At(PageTable(), index).face.allowed;
+        if (allowed && !allowed(m_station.currentRights())) {
+            Tell(Tone::Warning, kUnauthorised);
             return;
         }
-        if (m_pageIndex != index) {
+        if (m_pageIndex != index)
             openPage(index);
-            m_pageIndex = index;
-            updateHeader();
-        }
     });
 }
 
 bool Form_Initial::PageLeaveCheck(int current, int next)
 {
-    SettingsPage* page = At(m_pages, current);
-    if (current == next || !page->hasChanges())
-        return true;
-    switch (AskToLeave()) {
-    case Leave::Stay:
-        return false;
-    case Leave::Save:
-        page->applyAtLeave();
-        return !page->hasChanges(); // what cannot be applied keeps the page
-    case Leave::Discard:
-        page->revertAtLeave();
-        break;
-    }
-    return true;
+    return current == next || At(m_pages, current)->leave();
 }
 
+// A user without the right to change settings sees Startup and Exit, and Tooling with the right to export.
 void Form_Initial::Timer_PrivilegeCheck()
 {
     Trapped("Form_Initial - Timer_PrivilegeCheck", [&] {
-        const GroupPrivilegeRecord group = m_station.currentRights();
-        if (group.Setting == 1)
-            return;
-        for (int index = 0; index < kMenuEntries; ++index)
-            m_rail->entry(index)->setVisible(index == kStartup || index == kExit);
-        if (group.Export == 1) {
-            m_rail->entry(kTooling)->setVisible(true);
-            m_rail->entry(kVideoWall)->setVisible(false);
-        } else if (group.Export == 0) {
-            m_rail->entry(kTooling)->setVisible(false);
-        }
+        for (int index = 0; index < kPages; ++index)
+            m_rail->entry(index)->setVisible(isShown(index));
     });
-}
-
-DetectContext Form_Initial::detectContext()
-{
-    return {m_com, m_station.recorders, m_station.accounts, m_station.events};
-}
-
-void Form_Initial::showWizard()
-{
-    Form_NVRSetting wizard(detectContext(),
-                           {[this] { finishNewRecorders(); }, [this] { DropNewRecorders(m_station.recorders); }}, this);
-    wizard.exec();
-    m_nvrPage->Grid_SVR_Set_withDB();
-    updateHeader();
-}
-
-void Form_Initial::showRecorder(int slot, bool rename)
-{
-    const auto save = [this] {
-        SaveCheck(m_station);
-        m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
-    };
-    Form_NVRSetting form(detectContext(), {}, this);
-    form.SetNVR(slot, save, [this](int removed, Work& work) { return RemoveSVR(m_station, m_com, removed, work); });
-    if (rename)
-        form.editName();
-    form.exec();
-    m_nvrPage->Grid_SVR_Set_withDB();
-    updateHeader();
-}
-
-void Form_Initial::finishNewRecorders()
-{
-    FinishNewRecorders(m_station);
-    m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
 }
 
 void Form_Initial::askExit()
 {
-    if (Ask(509))
+    if (Ask(kAskExit))
         m_close.start();
     else
         PaintMenu(m_pageIndex);
-}
-
-// Enter presses the button that has the focus, as it does in dialogs.
-void Form_Initial::keyPressEvent(QKeyEvent* event)
-{
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
-    if (enter && button && !button->isCheckable() && !event->isAutoRepeat())
-        button->click();
-    else
-        QWidget::keyPressEvent(event);
 }
 
 void Form_Initial::closeEvent(QCloseEvent* event)
@@ -435,7 +358,7 @@ void Form_Initial::closeEvent(QCloseEvent* event)
         return;
     }
     event->ignore();
-    m_work.stop();
+    page()->stopWork();
     if (m_close.m_CloseState() == 0)
         lbMenu_Click(kExit);
 }
@@ -474,6 +397,8 @@ void Form_Initial::closeProgressAndHide()
         m_progress->deleteLater();
         m_progress = nullptr;
     }
+    RememberPlace(*this);
+    RememberPage(m_pageIndex);
     hide();
 }
 

@@ -2,29 +2,26 @@
 
 #include "app/CloseSequence.h"
 #include "app/Station.h"
+#include "app/ui/PageTable.h"
 #include "device/bridge/Form_COM.h"
 #include "platform/SingleInstance.h"
 
 #include <QTimer>
 #include <QWidget>
 #include <array>
+#include <memory>
 
 class NavEntry;
-class QFrame;
 class NavRail;
-class NVRPage;
+class Page;
 class PageHeader;
 class ProgressWindow;
 class QStackedWidget;
-class SettingsPage;
-class SystemPage;
-class UsersPage;
-struct DetectContext;
+namespace Ui {
+class Form_Initial;
+}
 
-inline constexpr int kPages = 12;       // 0 to 11 stand in Frame_Setting
-inline constexpr int kMenuEntries = 13; // the pages and Exit
-
-// The main window: navigation, the stack of pages, start-up and the close sequence.
+// The main window: navigation, the stack of pages, start-up and the close sequence. The pages are those of PageTable().
 class Form_Initial : public QWidget, private CloseHost
 {
     Q_OBJECT
@@ -51,23 +48,24 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void buildWindow();
     void buildPages();
+    void addKeys();
     void loadRecordsAndPages();
     void openPage(int page);
+    // With the rights of the user who has logged in: the page to begin with.
+    void openFirstPage();
     // False when the user stays.
     bool PageLeaveCheck(int current, int next);
     void Timer_PrivilegeCheck();
     void askExit();
-    DetectContext detectContext();
-    void showWizard();
-    void showRecorder(int slot, bool rename); // opens a stored recorder (slot from 0), modally
-    void finishNewRecorders();
     bool login();
+    void usersChanged();
     void showFirstUserNotice();
+    Page* page() const;
+    bool isShown(int page) const; // by the rights of the user's group
     void updateHeader();
     void Form_QueryUnload();
     void Form_Unload();
@@ -88,17 +86,16 @@ private:
     QTimer TimerCloseSystem;
     QTimer m_headerClock;
 
+    PageContext m_context;
+    std::unique_ptr<Ui::Form_Initial> m_ui;
     NavRail* m_rail = nullptr;
     PageHeader* m_header = nullptr;
     QStackedWidget* m_frames = nullptr;
-    std::array<SettingsPage*, kPages> m_pages{};
-    SystemPage* m_systemPage = nullptr;
-    NVRPage* m_nvrPage = nullptr;
-    UsersPage* m_usersPage = nullptr;
-    QFrame* m_firstUser = nullptr; // offers to make the first administrator
+    std::array<Page*, kPages> m_pages{};
+    bool m_noticeWanted = true; // not put off by the user
+    bool m_loginWanted = false; // the first user was made
     ProgressWindow* m_progress = nullptr;
     bool m_progressCancelled = false;
     int m_pageIndex = 0;
     bool m_unloaded = false;
-    Work m_work;
 };

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 PendingPage::PendingPage(QWidget* parent)
-    : SettingsPage(parent)
+    : Page(parent)
     , m_empty(new EmptyState(QLatin1String("empty-page")))
 {
     auto* column = new QVBoxLayout(this);

@@ -1,31 +1,35 @@
 #pragma once
 
-#include "app/language/Languages.h"
-#include "app/ui/SettingsPage.h"
-#include "recorders/ui/NVRPage.h"
+#include "app/ui/PageTable.h"
+#include "platform/Work.h"
 
-#include <QVBoxLayout>
+class NVRPage;
+struct DetectContext;
 
-// Page 1 of the main window: hosts the recorders' list.
-class RecordersPage : public SettingsPage
+// Page 1: hosts the recorders' list, and opens the windows that add and change recorders.
+class RecordersPage : public Page
 {
     Q_OBJECT
 
 public:
-    RecordersPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent = nullptr)
-        : SettingsPage(parent)
-        , m_list(new NVRPage(recorders, http))
-    {
-        auto* column = new QVBoxLayout(this);
-        column->setContentsMargins(0, 0, 0, 0);
-        column->addWidget(m_list);
-    }
-    NVRPage* list() const { return m_list; }
+    explicit RecordersPage(const DeskParts& parts);
 
-    void open() override { m_list->Grid_SVR_Set_withDB(); }
-    void changeLanguage() override { m_list->changeLanguage(); }
-    QString subtitle() const override { return GetLangString(864); }
+    void enter() override;
+    void changeLanguage() override;
+    QString subtitle() const override;
+    void primaryAction() override;
+    void stopWork() override { m_work.stop(); }
 
 private:
+    DetectContext detectContext();
+    void showWizard();
+    // Opens a stored recorder (slot from 0), modally; to rename it with the focus in its name.
+    void showRecorder(int slot, bool rename);
+    void save();
+
+    Station& m_station;
+    Form_COM& m_com;
+    const PageContext& m_context;
     NVRPage* m_list;
+    Work m_work; // a removal
 };

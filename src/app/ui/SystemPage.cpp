@@ -5,6 +5,7 @@
 #include "app/shell/Boxes.h"
 #include "app/ui/ui_SystemPage.h"
 #include "look/style/Icons.h"
+#include "look/widgets/Fields.h"
 #include "platform/Clock.h"
 #include "platform/MsgBox.h"
 #include "platform/clsOSInfo.h"
@@ -15,9 +16,9 @@
 
 using namespace Qt::StringLiterals;
 
-SystemPage::SystemPage(Station& station, QWidget* parent)
-    : SettingsPage(parent)
-    , m_station(station)
+SystemPage::SystemPage(const DeskParts& parts)
+    : m_station(parts.station)
+    , m_context(parts.context)
     , m_ui(std::make_unique<Ui::SystemPage>())
     , m_startUp(new QButtonGroup(this))
     , Timer_system(new QTimer(this))
@@ -59,9 +60,6 @@ QString SystemPage::subtitle() const
 
 void SystemPage::changeLanguage()
 {
-    m_ui->Text1_fm0_0->setAccessibleName(GetLangString(331));
-    m_ui->ImageCombo1->setAccessibleName(GetLangString(333));
-    m_ui->Cmb_Snap->setAccessibleName(GetLangString(336));
     m_ui->lbChanges->setText(hasChanges() ? GetLangString(868) : QString());
 }
 
@@ -69,9 +67,7 @@ void SystemPage::fillLanguages()
 {
     m_ui->ImageCombo1->clear();
     for (int language = 1; language <= kLanguages; ++language) {
-        m_ui->ImageCombo1->addItem(Flag(language), QString(), QString(u"Lang"_s + QString::number(language)));
-        m_ui->ImageCombo1->setItemData(language - 1, LanguageName(language), Qt::ToolTipRole);
-        m_ui->ImageCombo1->setItemData(language - 1, LanguageName(language), Qt::AccessibleTextRole);
+        m_ui->ImageCombo1->addItem(Flag(language), LanguageName(language), u"Lang%1"_s.arg(language));
     }
     qint16& language = m_station.basicDefault.edit.iLanguage;
     if (language < 1)
@@ -107,9 +103,15 @@ void SystemPage::SystemControl_Frame_Set()
     emit subtitleChanged();
 }
 
-void SystemPage::stopClock()
+void SystemPage::pause()
 {
     Timer_system->stop();
+}
+
+void SystemPage::revert()
+{
+    SystemControl_Frame_Set();
+    pause();
 }
 
 void SystemPage::showTime()
@@ -136,7 +138,7 @@ void SystemPage::lbSystemApply_Click(int index)
 {
     Trapped("Form_Initial - lbSystemApply_Click", [&] {
         if (index == 0) {
-            apply();
+            applyFields();
         } else if (index == 1) {
             SystemControl_Frame_Set();
         } else {
@@ -146,10 +148,10 @@ void SystemPage::lbSystemApply_Click(int index)
     });
 }
 
-void SystemPage::apply()
+void SystemPage::applyFields()
 {
     if (m_ui->Text1_fm0_0->text().isEmpty()) {
-        m_ui->Text1_fm0_0->setFocus();
+        PointAtFault(m_ui->Text1_fm0_0);
         return;
     }
     BasicDefaultRecord& edit = m_station.basicDefault.edit;
@@ -160,10 +162,10 @@ void SystemPage::apply()
     edit.iSnapCount = static_cast<qint16>(m_ui->Cmb_Snap->currentIndex() + 1);
     edit.bStartup = m_startUp->checkedId() != 0;
     edit.bStartupToHide = m_startUp->checkedId() == 2;
-    emit languageChanged();
+    m_context.languageChanged();
     SystemControl_Frame_Set();
     edit.bChanged = true;
-    SaveCheck(m_station);
+    m_context.save();
 }
 
 bool SystemPage::eventFilter(QObject* watched, QEvent* event)
@@ -174,5 +176,5 @@ bool SystemPage::eventFilter(QObject* watched, QEvent* event)
         if (text.size() == 1 && text.at(0).unicode() > 126 && text.at(0).unicode() != 127)
             return true;
     }
-    return SettingsPage::eventFilter(watched, event);
+    return Page::eventFilter(watched, event);
 }

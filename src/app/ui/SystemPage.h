@@ -1,7 +1,6 @@
 #pragma once
 
-#include "app/Station.h"
-#include "app/ui/SettingsPage.h"
+#include "app/ui/PageTable.h"
 
 #include <memory>
 
@@ -12,29 +11,27 @@ class SystemPage;
 }
 
 // Page 0: the facts of the installation, and the system's name, language, snapshots and way of starting.
-class SystemPage : public SettingsPage
+class SystemPage : public Page
 {
     Q_OBJECT
 
 public:
-    explicit SystemPage(Station& station, QWidget* parent = nullptr);
+    explicit SystemPage(const DeskParts& parts);
     ~SystemPage() override;
 
-    void open() override { SystemControl_Frame_Set(); }
+    void enter() override { SystemControl_Frame_Set(); }
     bool hasChanges() const override;
-    void applyAtLeave() override { lbSystemApply_Click(0); }
+    void apply() override { lbSystemApply_Click(0); }
+    void revert() override;
+    void pause() override;
     void changeLanguage() override;
     QString subtitle() const override;
 
     // Shows the edit record, makes Apply and Cancel inactive, starts the clock.
     void SystemControl_Frame_Set();
-    void stopClock();
 
 public slots:
     void lbSystemApply_Click(int index); // 0 Apply, 1 Cancel, 2 Export
-
-signals:
-    void languageChanged(); // Apply has set another live language
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -43,10 +40,11 @@ private:
     void fillLanguages();
     void noteChange();
     void setApplyActive(bool active);
-    void apply();
+    void applyFields();
     void showTime();
 
     Station& m_station;
+    const PageContext& m_context;
     std::unique_ptr<Ui::SystemPage> m_ui;
     QButtonGroup* m_startUp;
     QTimer* Timer_system;

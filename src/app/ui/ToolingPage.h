@@ -1,24 +1,22 @@
 #pragma once
 
-#include "app/Station.h"
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
-#include "app/ui/SettingsPage.h"
+#include "app/ui/PageTable.h"
 #include "tooling/ui/Form_Tooling.h"
 
 #include <QVBoxLayout>
 
 inline constexpr int kSystemLogExportAction = 12;
 
-// Page 11 of the main window: hosts the viewers and exports.
-class ToolingPage : public SettingsPage
+// Page 11: hosts the viewers and exports.
+class ToolingPage : public Page
 {
     Q_OBJECT
 
 public:
-    explicit ToolingPage(Station& station, QWidget* parent = nullptr)
-        : SettingsPage(parent)
-        , m_form(new Form_Tooling(station.databases, [&station] {
+    explicit ToolingPage(const DeskParts& parts)
+        : m_form(new Form_Tooling(parts.station.databases, [&station = parts.station] {
             RunEventAction(station, kSystemLogExportAction, -1, {}, CurrentUser());
         }))
     {
@@ -27,7 +25,7 @@ public:
         column->addWidget(m_form);
     }
 
-    void open() override { m_form->open(); }
+    void enter() override { m_form->open(); }
     void changeLanguage() override { m_form->changeLanguage(); }
     QString subtitle() const override { return GetLangString(731); }
 

@@ -1,33 +1,33 @@
 #pragma once
 
-#include "app/language/Languages.h"
-#include "app/ui/SettingsPage.h"
+#include "app/ui/PageTable.h"
 #include "users/ui/UserPage.h"
 
 #include <QVBoxLayout>
 
-// Page 3 of the main window: hosts the lists of users and groups.
-class UsersPage : public SettingsPage
+// Page 3: hosts the lists of users and groups.
+class UsersPage : public Page
 {
     Q_OBJECT
 
 public:
-    explicit UsersPage(UserPageContext context, QWidget* parent = nullptr)
-        : SettingsPage(parent)
-        , m_lists(new UserPage(std::move(context)))
+    explicit UsersPage(const DeskParts& parts)
+        : m_lists(new UserPage({parts.station.databases, parts.station.users, parts.station.groups,
+                                parts.station.recorders, parts.station.accounts, parts.context.save}))
     {
         auto* column = new QVBoxLayout(this);
         column->setContentsMargins(0, 0, 0, 0);
         column->addWidget(m_lists);
+        connect(m_lists, &UserPage::usersChanged, this, parts.context.usersChanged);
     }
-    UserPage* lists() const { return m_lists; }
 
-    void open() override
+    void enter() override
     {
         m_lists->Group_Table_Set();
         m_lists->User_Table_Set();
     }
     void changeLanguage() override { m_lists->changeLanguage(); }
+    void primaryAction() override { m_lists->lbUserAdd_Click(); }
 
 private:
     UserPage* m_lists;

@@ -2,8 +2,9 @@
 #include "app/ui/FileChooserWindow.h"
 #include "app/ui/Form_Initial.h"
 #include "app/ui/MsgBoxWindow.h"
-#include "look/style/Theme.h"
+#include "app/ui/Remembered.h"
 #include "platform/AppPath.h"
+#include "platform/UserSettings.h"
 #include "platform/clsOSInfo.h"
 
 #include <QApplication>
@@ -16,7 +17,8 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     SetAppPath(QApplication::applicationDirPath());
     clsOSInfo::setScreenCounter([] { return static_cast<int>(QGuiApplication::screens().size()); });
-    ApplyTheme(application, InitialScheme());
+    UseUserSettings(OpenUserSettings());
+    ApplyTheme(application, RememberedScheme());
     InstallMsgBoxWindow();
     InstallFileChooserWindow();
 
@@ -25,7 +27,7 @@ int main(int argc, char** argv)
     if (!window.Form_Load())
         return 0;
     QObject::connect(&window, &Form_Initial::closed, &application, &QApplication::quit, Qt::QueuedConnection);
-    window.resize(QGuiApplication::primaryScreen()->availableSize().boundedTo(QSize(1280, 800)));
+    PlaceWindow(window);
     window.show();
     return QApplication::exec();
 }

@@ -226,7 +226,7 @@ void PaintField(const QStyleOption& option, QPainter* painter, bool focused, boo
     const QColor border = faulty && enabled    ? Token("bad"_L1)
                           : focused && enabled ? Token("accent"_L1)
                           : !enabled           ? Token("line"_L1)
-                                               : Token(IsHovered(option) && !readOnly ? "control"_L1 : "edge"_L1);
+                                               : Token(IsHovered(option) && !readOnly ? "muted"_L1 : "control"_L1);
     PaintBox(painter, option.rect, kControlRadius, fill, border, focused && enabled ? 2 : 1);
 }
 

@@ -10,13 +10,16 @@
 #include <QDialog>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QSlider>
 #include <QTabBar>
 #include <QTableView>
 #include <QTextEdit>
+#include <QToolButton>
 #include <QTreeView>
 
 using namespace Qt::StringLiterals;
@@ -68,6 +71,8 @@ void DeskStyle::polish(QWidget* widget)
         qobject_cast<QAbstractSpinBox*>(widget) || qobject_cast<QLineEdit*>(widget) || qobject_cast<QSlider*>(widget) ||
         qobject_cast<QTabBar*>(widget) || qobject_cast<QHeaderView*>(widget))
         widget->setAttribute(Qt::WA_Hover);
+    if (qobject_cast<QPushButton*>(widget) || qobject_cast<QToolButton*>(widget))
+        widget->installEventFilter(this);
     if (auto* area = qobject_cast<QAbstractScrollArea*>(widget)) {
         // The frame paints the rounded ground; the viewport lets it through.
         area->viewport()->setAutoFillBackground(area->inherits("QComboBoxListView"));
@@ -84,6 +89,19 @@ void DeskStyle::polish(QWidget* widget)
             std::max(spin->minimumHeight(), std::max(kControlHeight, spin->fontMetrics().height() + 14)));
     if (auto* header = qobject_cast<QHeaderView*>(widget))
         header->setFont(DeskFont(0.92, true));
+}
+
+bool DeskStyle::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const auto* press = static_cast<QKeyEvent*>(event);
+        const bool enters = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
+        if (enters && !press->isAutoRepeat()) {
+            static_cast<QAbstractButton*>(watched)->click();
+            return true;
+        }
+    }
+    return QProxyStyle::eventFilter(watched, event);
 }
 
 int DeskStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const

@@ -28,4 +28,8 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
     QIcon standardIcon(StandardPixmap pixmap, const QStyleOption* option, const QWidget* widget) const override;
+
+protected:
+    // Return and Enter press the button that has the focus, whatever the default button of the window is.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };

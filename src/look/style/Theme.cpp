@@ -33,11 +33,11 @@ constexpr std::array kTokens{
     TokenValue{"hover"_L1, 0xffedf2f8, 0xff232c37},
     TokenValue{"railHover"_L1, 0xffdfe5ec, 0xff19202a},
     TokenValue{"field"_L1, 0xffffffff, 0xff171c23},
-    // lines: 1 px separators, borders of fields and buttons, borders of check boxes
+    // lines: 1 px separators, borders of buttons, borders of fields and check boxes
     TokenValue{"line"_L1, 0xffd5dce4, 0xff2f3a46},
     TokenValue{"rowLine"_L1, 0xffe3e8ee, 0xff28323d},
     TokenValue{"edge"_L1, 0xffbcc6d1, 0xff3b4856},
-    TokenValue{"control"_L1, 0xff87939f, 0xff5f6e7e},
+    TokenValue{"control"_L1, 0xff7f8b98, 0xff6b7a8a},
     // writing
     TokenValue{"text"_L1, 0xff1b232c, 0xffe6ebf0},
     TokenValue{"muted"_L1, 0xff566473, 0xff9aa7b5},

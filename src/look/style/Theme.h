@@ -49,7 +49,8 @@ QFont MonoFont(qreal factor = 0.96);
 int TableRowHeight();
 
 // Says what a widget is to the style: button kinds are "primary", "danger" and "quiet"; label roles are "title",
-// "cardTitle", "muted", "hint", "mono", "bad", "warning" and "ok"; frame roles are "card", "panel" and "actionBar".
+// "cardTitle", "muted", "hint", "mono", "bad", "warning" and "ok"; frame roles are "card", "panel",
+// "warningPanel" and "actionBar".
 // Both are dynamic properties (`kind`, `role`) that a .ui file can set as well.
 void SetKind(QWidget* widget, QLatin1StringView kind);
 void SetRole(QWidget* widget, QLatin1StringView role);

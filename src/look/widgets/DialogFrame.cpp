@@ -6,6 +6,7 @@
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
 #include "look/widgets/ElidedLabel.h"
+#include "look/widgets/Fields.h"
 #include "look/widgets/SecondClick.h"
 #include "look/widgets/StepStrip.h"
 
@@ -17,6 +18,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -26,6 +28,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kTitleHeight = 52;
+constexpr int kBeside = 42; // the frame's margins beside the content
 
 // Lies over the window behind a dialog and follows its size.
 class Scrim : public QWidget
@@ -117,7 +120,7 @@ private:
         const int room = m_frame.roomForContent();
         if (size.height() > room)
             size = QSize(size.width() + verticalScrollBar()->sizeHint().width(), room);
-        return size;
+        return {std::min(size.width(), m_frame.screen()->availableGeometry().width() - kBeside), size.height()};
     }
 
     const DialogFrame& m_frame;
@@ -144,6 +147,7 @@ DialogFrame::DialogFrame(QWidget* parent)
     m_close->setFocusPolicy(Qt::NoFocus); // Esc is its key
     setCloseText(u"Close"_s);
     connect(m_close, &QToolButton::clicked, this, &QWidget::close); // ends in reject
+    connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, this, [this] { FocusFilter(this); });
 
     m_titleRow->setFixedHeight(kTitleHeight);
     auto* title = new QHBoxLayout(m_titleRow);

@@ -84,6 +84,16 @@ void SetTimeFormat(QDateTimeEdit* field, const QString& format)
                            (field->calendarPopup() ? kDateFieldFrame : kTimeFieldFrame));
 }
 
+void FocusFilter(const QWidget* window)
+{
+    const QList<SearchField*> filters = window->findChildren<SearchField*>();
+    const auto shown = std::find_if(filters.begin(), filters.end(), [](auto* filter) { return filter->isVisible(); });
+    if (shown == filters.end())
+        return;
+    (*shown)->setFocus(Qt::ShortcutFocusReason);
+    (*shown)->selectAll();
+}
+
 void SelectOnFocus(QLineEdit* field)
 {
     field->installEventFilter(new FocusSelector(field));

@@ -24,6 +24,8 @@ protected:
 // Gives a date or time field its format, the figures face and a calendar. It reads from left to right in every desk: a
 // right-to-left field would turn the order of its parts round.
 void SetTimeFormat(QDateTimeEdit* field, const QString& format);
+// Ctrl+F: the first filter on show inside a window or page gets the focus, its text selected.
+void FocusFilter(const QWidget* window);
 // The whole text is selected whenever the field gets the focus, by the pointer too.
 void SelectOnFocus(QLineEdit* field);
 // Marks a line edit, combo box, spin box or time as faulty or not: a border in the colour of faults. The words belong

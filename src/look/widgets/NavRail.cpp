@@ -3,6 +3,7 @@
 #include "look/style/DeskPaint.h"
 #include "look/style/Icons.h"
 
+#include <QAccessibleWidget>
 #include <QButtonGroup>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -18,6 +19,53 @@ constexpr int kRailWidth = 212;
 constexpr int kWidestRail = 280;
 constexpr int kLabelLeft = 40;
 constexpr int kDotRoom = 24;
+
+// What assistive technology says of an entry: a tab of the pages, chosen or not; at the bottom a button.
+class EntryAccess : public QAccessibleWidget
+{
+public:
+    explicit EntryAccess(NavEntry* entry)
+        : QAccessibleWidget(entry)
+    {
+    }
+
+    QAccessible::Role role() const override
+    {
+        return entry().isCheckable() ? QAccessible::PageTab : QAccessible::Button;
+    }
+    QString text(QAccessible::Text text) const override
+    {
+        return text == QAccessible::Name ? entry().text() : QAccessibleWidget::text(text);
+    }
+    QAccessible::State state() const override
+    {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.selectable = entry().isCheckable();
+        state.selected = entry().isCheckable() && entry().isChecked();
+        return state;
+    }
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    void doAction(const QString& action) override
+    {
+        if (action == pressAction())
+            entry().click();
+        else
+            QAccessibleWidget::doAction(action);
+    }
+
+private:
+    NavEntry& entry() const { return *static_cast<NavEntry*>(widget()); }
+};
+
+QAccessibleInterface* MakeAccess(const QString&, QObject* object)
+{
+    if (auto* entry = qobject_cast<NavEntry*>(object))
+        return new EntryAccess(entry);
+    if (auto* rail = qobject_cast<NavRail*>(object))
+        return new QAccessibleWidget(rail, QAccessible::PageTabList);
+    return nullptr;
+}
+
 } // namespace
 
 NavEntry::NavEntry(QLatin1StringView icon, const QString& label, QWidget* parent)
@@ -149,6 +197,8 @@ NavRail::NavRail(QWidget* parent)
     , m_bottom(new QVBoxLayout)
     , m_group(new QButtonGroup(this))
 {
+    static const bool told = (QAccessible::installFactory(MakeAccess), true);
+    Q_UNUSED(told);
     m_group->setExclusive(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
 

@@ -40,7 +40,6 @@ CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, Work& work, QWidget* pare
     grid->horizontalHeader()->setSectionResizeMode(CameraSearchModel::Model, QHeaderView::Stretch);
     ActOnRows(grid, {}, [this](const QModelIndex& row) { choose(row); });
     OnKey(this, Qt::Key_F5, [this] { lb_CamReSearch_Click(); });
-    OnKey(this, QKeySequence::Find, [this] { m_ui->txtCamSearchFilter->setFocus(); });
     connect(m_ui->txtCamSearchFilter, &QLineEdit::textChanged, this, [this](const QString& text) {
         m_proxy->setFilterFixedString(text);
         showFound();

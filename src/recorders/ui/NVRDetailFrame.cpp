@@ -64,7 +64,6 @@ NVRDetailFrame::NVRDetailFrame(DetectContext context, Work& work, QWidget* paren
         showCounts();
     });
     OnKey(this, Qt::Key_F5, [this] { lbNVRDetect_Click(); });
-    OnKey(this, QKeySequence::Find, [this] { m_ui->txtChannelFilter->setFocus(); });
     OnKey(this, Qt::Key_F2, [this] { editName(); });
     connect(m_ui->txtChannelFilter, &QLineEdit::returnPressed, this, &NVRDetailFrame::takeFocus);
     // The box waits until the click that met the limit is over.

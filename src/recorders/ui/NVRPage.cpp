@@ -69,7 +69,6 @@ NVRPage::NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent
     ActOnRows(m_ui->Grid_SVRsList, {NVRListModel::Edit, NVRListModel::Delete},
               [this](const QModelIndex& cell) { Grid_SVRsList_Click(cell); });
     OnKey(this, Qt::Key_F5, [this] { readAgain(); });
-    OnKey(this, QKeySequence::Find, [this] { m_ui->txtFilter->setFocus(); });
     OnKey(this, Qt::Key_F2, [this] {
         const QModelIndex row = m_ui->Grid_SVRsList->currentIndex();
         if (row.isValid())

@@ -56,7 +56,6 @@ RecorderSearchFrame::RecorderSearchFrame(FinderBridge& finder, const RecorderSet
     m_ui->barSearch->hide();
     connect(m_ui->lbSearch, &QPushButton::clicked, this, &RecorderSearchFrame::lbSearch_Click);
     OnKey(this, Qt::Key_F5, [this] { m_ui->lbSearch->click(); });
-    OnKey(this, QKeySequence::Find, [this] { m_ui->txtSearchFilter->setFocus(); });
     connect(m_found, &SearchListModel::dataChanged, this, &RecorderSearchFrame::changed);
     connect(m_found, &SearchListModel::rowsInserted, this, &RecorderSearchFrame::changed);
     connect(&m_finder, &FinderBridge::DeviceFound, this, [this](const FoundDevice& device) {
