@@ -3,7 +3,7 @@
 #include "device/bridge/FinderBridge.h"
 #include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

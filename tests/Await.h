@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <exception>
 #include <optional>
 #include <qcorotask.h>
@@ -33,4 +34,14 @@ T Await(QCoro::Task<T> task)
         std::rethrow_exception(fault);
     if constexpr (!std::is_void_v<T>)
         return std::move(*result);
+}
+
+// Runs the event loop until the condition holds; false when it did not within the seconds.
+template <class Condition>
+bool WaitUntil(Condition&& holds, double seconds)
+{
+    const QDeadlineTimer deadline(static_cast<qint64>(seconds * 1000));
+    while (!holds() && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
+    return holds();
 }

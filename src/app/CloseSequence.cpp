@@ -4,7 +4,7 @@
 #include "app/shell/Boxes.h"
 #include "platform/AppPath.h"
 #include "platform/Clock.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
 

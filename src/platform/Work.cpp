@@ -1,6 +1,6 @@
 #include "platform/Work.h"
 
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 
 #include <QTimer>
 #include <algorithm>

@@ -1,15 +1,12 @@
 #include "support/HostNames.h"
 
-#include "platform/Wait.h"
-
 #include <QHostInfo>
 #include <QTimer>
 #include <memory>
-#include <optional>
 
 namespace {
 
-constexpr double kResolverSeconds = 10;
+constexpr int kResolverMs = 10'000;
 
 QString FirstIPv4(const QHostInfo& found)
 {
@@ -38,7 +35,7 @@ protected:
     {
         m_context = std::make_unique<QObject>();
         QHostInfo::lookupHost(m_host, m_context.get(), [this](const QHostInfo& found) { take(found); });
-        QTimer::singleShot(static_cast<int>(kResolverSeconds * 1000), m_context.get(), [this] { take(QHostInfo()); });
+        QTimer::singleShot(kResolverMs, m_context.get(), [this] { take(QHostInfo()); });
     }
     void abandon() override { m_context.reset(); } // the resolver's answer then goes nowhere
 
@@ -56,18 +53,6 @@ private:
 };
 
 } // namespace
-
-QString GetIpByName(const QString& host)
-{
-    if (host.trimmed().isEmpty())
-        return {};
-    // Shared with the look-up's callback, which may come after the wait has given up.
-    const auto found = std::make_shared<std::optional<QHostInfo>>();
-    QHostInfo::lookupHost(host.trimmed(), [found](const QHostInfo& info) { *found = info; });
-    if (WaitUntil([&] { return found->has_value(); }, kResolverSeconds) != WaitResult::Done)
-        return {};
-    return FirstIPv4(**found);
-}
 
 QCoro::Task<QString> GetIpByName(QString host, Work& work)
 {

@@ -3,8 +3,8 @@
 #include "app/log/Module_Log.h"
 #include "platform/AppPath.h"
 #include "platform/Clock.h"
+#include "platform/Closing.h"
 #include "platform/DatabaseFile.h"
-#include "platform/Wait.h"
 #include "tooling/LogTimes.h"
 
 #include <QDir>

@@ -6,9 +6,9 @@
 #include "app/ui/Remembered.h"
 #include "look/style/Theme.h"
 #include "platform/Clock.h"
+#include "platform/Closing.h"
 #include "platform/MsgBox.h"
 #include "platform/UserSettings.h"
-#include "platform/Wait.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/walkthrough/Driver.h"
 

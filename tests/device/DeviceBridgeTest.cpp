@@ -1,5 +1,6 @@
 #include "device/bridge/Form_COM.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 #include "tests/device/ScriptedServer.h"
 
@@ -18,6 +19,7 @@ protected:
     TemporaryStation station;
     ScriptedServer server;
     Form_COM com;
+    Work work;
 };
 
 SVRRecord Recorder(const ScriptedServer& at, const QString& family = u"TXR632"_s)
@@ -34,8 +36,7 @@ SVRRecord Recorder(const ScriptedServer& at, const QString& family = u"TXR632"_s
 TEST_F(ParameterBridge, ReadsFactsAndChannelsOfARecorder)
 {
     server.answerWith("OK\r\nsystem.videoport=8016\r\nsystem.timezone=31\r\nsystem.summertime=-1\r\n");
-    RecorderFacts facts;
-    EXPECT_EQ(com.device.GetSystemFacts(device(), facts), 0);
+    const RecorderFacts facts = Await(com.device.GetSystemFacts(device(), work)).value();
     EXPECT_EQ(server.lastTarget(), "/param.cgi?action=get&group=system");
     EXPECT_EQ(facts.VideoPort, 8016);
     EXPECT_EQ(facts.TimeZone, 31);
@@ -46,9 +47,7 @@ TEST_F(ParameterBridge, ReadsFactsAndChannelsOfARecorder)
                       "camera_c12.device.username=root\r\ncamera_c12.device.password=a=b=\r\n"
                       "camera_c12.device.format=1024\r\ncamera_c12.device.resolution=1920x1080\r\n"
                       "camera_c12.device.brand=55\r\n");
-    RecorderChannel channel;
-    channel.HttpPort = 7;
-    EXPECT_EQ(com.device.GetChannel(device(), 12, channel), 0);
+    RecorderChannel channel = Await(com.device.GetChannel(device(), 12, work)).value();
     EXPECT_EQ(server.lastTarget(), "/param.cgi?action=get&group=camera_c12.device");
     EXPECT_EQ(channel.Name, u"%u4E2Dx"_s); // still escaped
     EXPECT_EQ(channel.IP, u"10.0.0.7"_s);
@@ -58,15 +57,12 @@ TEST_F(ParameterBridge, ReadsFactsAndChannelsOfARecorder)
     EXPECT_EQ(channel.Brand, 55);
 
     server.answerWith("camera_c3.device.name=\r\ncamera_c3.device.ip=\r\ncamera_c3.device.httpport=\r\n");
-    EXPECT_EQ(com.device.GetChannel(device(), 3, channel), 0);
+    channel = Await(com.device.GetChannel(device(), 3, work)).value();
     EXPECT_EQ(channel.IP, QString());
 
     server.answerWith("ERROR\r\nRET=\"7\"\r\n");
-    channel.IP = u"kept"_s;
-    EXPECT_EQ(com.device.GetChannel(device(), 3, channel), -1);
-    EXPECT_EQ(com.device.GetSystemFacts(device(), facts), -1);
-    EXPECT_EQ(channel.IP, u"kept"_s);
-    EXPECT_EQ(facts.VideoPort, 8016);
+    EXPECT_FALSE(Await(com.device.GetChannel(device(), 3, work)));
+    EXPECT_FALSE(Await(com.device.GetSystemFacts(device(), work)));
 }
 
 TEST_F(ParameterBridge, WritesAChannelInItsTwoForms)
@@ -84,18 +80,20 @@ TEST_F(ParameterBridge, WritesAChannelInItsTwoForms)
                               "&camera_c64.device.httpport=80&camera_c64.device.username=root"
                               "&camera_c64.device.password=a%26b%3Dc%20d%25&camera_c64.device.brand=";
     server.answerWith("OK\r\nRET=\"0\"\r\n");
-    EXPECT_TRUE(DeviceBridge::DeviceTook(com.device.SetChannel(device(), 64, settings, ChannelForm::Simple)));
+    EXPECT_TRUE(
+        DeviceBridge::DeviceTook(Await(com.device.SetChannel(device(), 64, settings, ChannelForm::Simple, work))));
     EXPECT_EQ(server.lastTarget(), camera);
-    com.device.SetChannel(device(), 64, settings, ChannelForm::Both);
+    Await(com.device.SetChannel(device(), 64, settings, ChannelForm::Both, work));
     EXPECT_EQ(server.lastTarget(), QByteArray(camera + "&camera_c64.device.format=1024"
                                                        "&camera_c64.device.resolution=1920x1080"
                                                        "&camera_c64.device.bitrate=6"));
     server.answerWith("ERROR\r\nRET=\"10\"\r\n");
-    EXPECT_FALSE(DeviceBridge::DeviceTook(com.device.SetChannel(device(), 64, settings, ChannelForm::Both)));
+    EXPECT_FALSE(
+        DeviceBridge::DeviceTook(Await(com.device.SetChannel(device(), 64, settings, ChannelForm::Both, work))));
 
     const std::size_t sent = server.requests.size();
     settings.Password = u"a\"b"_s;
-    EXPECT_THROW(com.device.SetChannel(device(), 64, settings, ChannelForm::Both), std::invalid_argument);
+    EXPECT_THROW(Await(com.device.SetChannel(device(), 64, settings, ChannelForm::Both, work)), std::invalid_argument);
     EXPECT_EQ(server.requests.size(), sent);
 }
 
@@ -108,22 +106,22 @@ TEST_F(ParameterBridge, PresetsAndMovementAskThePtzPath)
         std::function<bool()> call;
         QByteArray query;
     } cases[] = {
-        {[&] { return bridge.GotoPreset(device(), 3, 8, 5); }, "channel=3&action=goto&preset=8&speed=5"},
-        {[&] { return bridge.SetPreset(device(), 3, 1, u"Tor \u4e2d"_s); },
+        {[&] { return Await(bridge.GotoPreset(device(), 3, 8, 5, work)); }, "channel=3&action=goto&preset=8&speed=5"},
+        {[&] { return Await(bridge.SetPreset(device(), 3, 1, u"Tor \u4e2d"_s, work)); },
          "channel=3&action=setpreset&preset=1&name=Tor%20%u4E2D"},
-        {[&] { return bridge.MovePtz(device(), 3, PtzAction::Move, 7, 2); },
+        {[&] { return Await(bridge.MovePtz(device(), 3, PtzAction::Move, 7, 2, work)); },
          "channel=3&action=move&direction=7&speed=2"},
-        {[&] { return bridge.MovePtz(device(), 3, PtzAction::Iris, 0, 1); },
+        {[&] { return Await(bridge.MovePtz(device(), 3, PtzAction::Iris, 0, 1, work)); },
          "channel=3&action=iris&direction=0&speed=1"},
-        {[&] { return bridge.StopPtz(device(), 3); }, "channel=3&action=stop"},
+        {[&] { return Await(bridge.StopPtz(device(), 3, work)); }, "channel=3&action=stop"},
     };
     for (const auto& c : cases) {
         EXPECT_TRUE(c.call());
         EXPECT_EQ(server.lastTarget(), QByteArray("/ptz.cgi?" + c.query));
     }
     server.answerWith("camera_c2.fisheye.mode=2P\r\n");
-    EXPECT_EQ(bridge.GetFishEyeMode(device(), 2), u"2P"_s);
-    EXPECT_FALSE(bridge.StopPtz(device(), 3));
+    EXPECT_EQ(Await(bridge.GetFishEyeMode(device(), 2, work)), u"2P"_s);
+    EXPECT_FALSE(Await(bridge.StopPtz(device(), 3, work)));
 }
 
 TEST_F(ParameterBridge, ServicesFollowTheirDevice)
@@ -142,21 +140,21 @@ TEST_F(ParameterBridge, ServicesFollowTheirDevice)
     EXPECT_EQ(com.FindServiceSlot(1), -1);
     com.SetProToDeviceBridge(list);
     EXPECT_EQ(com.Services.size(), 2u);
-    EXPECT_EQ(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5));
 
     // A service is registered anew at its recorder's present address; nobody asks the old one any more.
     other.answerWith("no");
-    EXPECT_EQ(WaitUntil([&] { return status(15) == 0; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return status(15) == 0; }, 5));
     ScriptedServer moved;
     list[1] = Recorder(moved);
     list[15] = Recorder(moved);
     com.SetProToDeviceBridge(list);
-    EXPECT_EQ(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return status(1) > 0 && status(15) > 0; }, 5));
     EXPECT_EQ(com.FindServiceSlot(15), 1);
     const std::size_t asked = other.requests.size() + server.requests.size();
     const std::size_t askedMoved = moved.requests.size();
     com.SetProToDeviceBridge(list); // and those that are connected stay
-    EXPECT_EQ(WaitUntil([&] { return moved.requests.size() > askedMoved + 4; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return moved.requests.size() > askedMoved + 4; }, 5));
     EXPECT_EQ(other.requests.size() + server.requests.size(), asked);
 
     // A slot that is free or has become another family is asked no more; its row serves the next recorder.
@@ -167,10 +165,10 @@ TEST_F(ParameterBridge, ServicesFollowTheirDevice)
     com.SetProToDeviceBridge(list);
     EXPECT_EQ(com.FindServiceSlot(1), -1);
     EXPECT_EQ(com.FindServiceSlot(15), -1);
-    EXPECT_EQ(WaitUntil([&] { return status(4) > 0; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return status(4) > 0; }, 5));
     const std::size_t before = server.requests.size() + moved.requests.size();
     const std::size_t rounds = other.requests.size() + 3;
-    EXPECT_EQ(WaitUntil([&] { return other.requests.size() > rounds; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return other.requests.size() > rounds; }, 5));
     EXPECT_EQ(server.requests.size() + moved.requests.size(), before);
 }
 

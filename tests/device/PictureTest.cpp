@@ -2,7 +2,8 @@
 #include "device/picture/CoreBridge.h"
 #include "device/picture/JpegBridge.h"
 #include "device/picture/LivePicture.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 #include "tests/device/ScriptedServer.h"
 
@@ -59,7 +60,7 @@ TEST_F(Pictures, SnapshotsAreWrittenWholeOrNotAtAll)
     const QString path = station.path(u"\\Images\\PresetImage\\imgPreset_0_4_1_1.jpg");
     server.answerWith(picture);
     core.GetSnapshot(device(), 5, 4, 1, path);
-    EXPECT_EQ(WaitUntil([&] { return !written.empty(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !written.empty(); }, 5));
     EXPECT_EQ(server.lastTarget(), "/snapshot.cgi?channel=5");
     EXPECT_EQ(written.front(), (QList<QVariant>{4, 1, path}));
     EXPECT_EQ(station.read(u"\\Images\\PresetImage\\imgPreset_0_4_1_1.jpg"), picture);
@@ -67,7 +68,7 @@ TEST_F(Pictures, SnapshotsAreWrittenWholeOrNotAtAll)
     // What is no picture leaves the file as it was.
     server.answerWith("<html>login</html>");
     core.GetSnapshot(device(), 5, 4, 1, path);
-    EXPECT_EQ(WaitUntil([&] { return !failed.empty(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !failed.empty(); }, 5));
     EXPECT_EQ(station.read(u"\\Images\\PresetImage\\imgPreset_0_4_1_1.jpg"), picture);
 
     server.answer = [](const ScriptedServer::Seen&) { return Answer{{}, false, 0, 0, true}; };
@@ -88,22 +89,22 @@ TEST_F(Pictures, ALivePictureAsksOnAtMostTenTimesASecondAndComesBack)
     QElapsedTimer timer;
     timer.start();
     live.Start(device(), 2);
-    EXPECT_EQ(WaitUntil([&] { return arrived.size() >= 4; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return arrived.size() >= 4; }, 5));
     EXPECT_GE(timer.elapsed(), 280);
     EXPECT_EQ(live.Picture().size(), QSize(32, 24));
 
     server.answerWith("gone");
-    EXPECT_EQ(WaitUntil([&] { return !lost.empty(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !lost.empty(); }, 5));
     server.answerWith(Picture(qRgb(0, 200, 0)));
     const qsizetype before = arrived.size();
-    EXPECT_EQ(WaitUntil([&] { return arrived.size() > before; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return arrived.size() > before; }, 5));
     EXPECT_EQ(lost.size(), 1);
 
     CoreBridge core(com);
     QSignalSpy written(&core, &CoreBridge::OnGetSnapshot);
     core.SaveCurrentPicture(live, 1, 8, station.path(u"\\Images\\now.bmp"));
     live.Stop();
-    EXPECT_EQ(WaitUntil([&] { return !written.empty(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !written.empty(); }, 5));
     EXPECT_EQ(station.read(u"\\Images\\now.bmp"), live.Jpeg());
     EXPECT_EQ(com.http.open(), 0);
 }

@@ -1,7 +1,8 @@
 #include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "support/Conversions.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 #include "tests/device/ScriptedServer.h"
 
@@ -24,18 +25,14 @@ protected:
     {
         return {u"127.0.0.1"_s, server.serverPort(), user, password};
     }
-    qint32 send(const QString& url, qint32 mode = 1, const DeviceAddress* to = nullptr)
-    {
-        const DeviceAddress target = to ? *to : device();
-        qint32 outCode = 1;
-        return com.web.SendCgi(target.address, target.port, target.user, target.password, 1, url, u"-"_s, {}, mode,
-                               outCode);
-    }
-    QString get(const QString& url, const DeviceAddress& to) { return CgiGet(com.web, to, url, 2); }
+    // Status of a request.
+    qint32 send(const QString& url, const DeviceAddress& to) { return Await(com.web.Get(to, url, 1, work)).status; }
+    QString get(const QString& url, const DeviceAddress& to) { return Await(CgiGet(com.web, to, url, work, 2)); }
 
     TemporaryStation station;
     ScriptedServer server;
     Form_COM com;
+    Work work;
 };
 
 QByteArray Md5(const QByteArray& text)
@@ -90,7 +87,7 @@ TEST_F(Bridge, TargetsAndBodiesGoOutByteForByte)
 
     server.answerWith("<RESPONSE RET=\"0\"/>");
     const QString xml = u"<CMD><Param>%41+&=\u4e2d</Param></CMD>"_s;
-    EXPECT_EQ(SendCmdXml(com.web, device(), xml), u"<RESPONSE RET=\"0\"/>"_s);
+    EXPECT_EQ(Await(com.web.SendCmdXml(device(), xml, work)), u"<RESPONSE RET=\"0\"/>"_s);
     const Seen& seen = server.requests.back();
     EXPECT_EQ(seen.line, "POST /cmd.cgi HTTP/1.1");
     EXPECT_EQ(seen.field("Content-Type"), "application/x-www-form-urlencoded");
@@ -125,10 +122,9 @@ TEST_F(Bridge, EveryFailureOfTransportIsNegativeAndLeavesNothingBehind)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         server.answer = [&](const Seen&) { return c.answer; };
-        com.web.SetTimeout(1);
         QElapsedTimer timer;
         timer.start();
-        EXPECT_EQ(send(u"/x.cgi"_s), c.result);
+        EXPECT_EQ(send(u"/x.cgi"_s, device()), c.result);
         EXPECT_LT(timer.elapsed(), 1900);
         EXPECT_EQ(com.web.Outstanding(), 0);
         EXPECT_EQ(com.http.open(), 0);
@@ -163,7 +159,7 @@ TEST_F(Bridge, AddressesThatCannotBeUsedAreRefused)
         {{u"127.0.0.1"_s, port, {}, {}}, u"/x HTTP/1.1\r\nX-Y: z"_s, kWebBadRequest},
     };
     for (const auto& c : cases) {
-        EXPECT_EQ(send(c.url, 1, &c.device), c.result) << c.device.address.toStdString() << ' ' << c.device.port;
+        EXPECT_EQ(send(c.url, c.device), c.result) << c.device.address.toStdString() << ' ' << c.device.port;
     }
     EXPECT_TRUE(server.requests.empty());
     EXPECT_EQ(com.web.Outstanding(), 0);
@@ -188,7 +184,7 @@ TEST_F(Bridge, DigestIsUsedWhenTheDeviceAsksAndRemembered)
     EXPECT_TRUE(server.requests.front().field("Authorization").startsWith("Basic "));
     EXPECT_EQ(server.requests.size(), 4u); // one of them twice
     server.requests.clear();
-    EXPECT_EQ(SendCmdXml(com.web, good, u"<CMD/>"_s), u"OK in\n"_s);
+    EXPECT_EQ(Await(com.web.SendCmdXml(good, u"<CMD/>"_s, work)), u"OK in\n"_s);
     EXPECT_EQ(server.requests.back().body, "type=action&xml=<CMD/>");
     for (const Seen& seen : server.requests) // a password is not sent in the clear once the device wants Digest
         EXPECT_FALSE(seen.field("Authorization").startsWith("Basic "));
@@ -214,9 +210,9 @@ TEST_F(Bridge, AnUnauthorisedRequestGivesA401TextAndTheLoginSaysSo)
         server.answer = [&](const Seen&) {
             return Answer{ScriptedServer::page(c.body, c.status, "WWW-Authenticate: Basic realm=\"R\"\r\n")};
         };
-        QString reply = u"old"_s;
-        EXPECT_EQ(CgiLogin(com.web, device(u"op"_s), reply), c.login) << c.body.data();
-        EXPECT_EQ(reply, c.reply);
+        const LoginReply login = Await(CgiLogin(com.web, device(u"op"_s), work));
+        EXPECT_EQ(login.result, c.login) << c.body.data();
+        EXPECT_EQ(login.text, c.reply);
     }
 }
 
@@ -261,98 +257,28 @@ TEST_F(Bridge, AsynchronousRequestsEndInOneEventEachAndAreReleased)
         return seen.line.contains("/bad") ? Answer{ScriptedServer::page("", "500 Oops")}
                                           : Answer{ScriptedServer::page(seen.line.split(' ').value(1))};
     };
-    qint32 timeout = kCgiDefaultTimeout;
-    qint32 outCode = 1;
-    const QString one = CgiRequest(com.web, device(), u"/one"_s, u"-"_s, timeout, {}, 0, outCode, false);
-    EXPECT_EQ(timeout, 60);
-    const QString bad = CgiRequest(com.web, device(), u"/bad"_s, u"-"_s, timeout, {}, 0, outCode, false);
-    const QString gone = CgiRequest(com.web, device(), u"/gone"_s, u"-"_s, timeout, {}, 0, outCode, false);
+    const QString one = CgiStart(com.web, device(), u"/one"_s);
+    const QString bad = CgiStart(com.web, device(), u"/bad"_s);
+    const QString gone = CgiStart(com.web, device(), u"/gone"_s);
     com.web.ReleaseRequest(kReleaseCgi, gone.toInt());
     const qint16 slot = com.GetFreeSlot(kAlertSlot);
     com.AlertRequests[static_cast<std::size_t>(slot)].RequestID = one.toInt();
-    EXPECT_EQ(WaitUntil([&] { return ended.size() >= 2 && com.web.Outstanding() == 0; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return ended.size() >= 2 && com.web.Outstanding() == 0; }, 5));
     std::sort(ended.begin(), ended.end());
     const std::vector<std::pair<qint32, QString>> wanted{{one.toInt(), u"/one"_s}, {bad.toInt(), u"-500"_s}};
     EXPECT_EQ(ended, wanted);
     EXPECT_EQ(com.GetFreeSlot(kAlertSlot), slot); // the slot of the ended request is free again
 }
 
-TEST_F(Bridge, RequestsTogetherKeepTheirOrderAndAnAbortEndsThemAll)
-{
-    server.answer = [](const Seen& seen) {
-        Answer answer{ScriptedServer::page(seen.line.split(' ').value(1))};
-        answer.delay = seen.line.contains("/slow") ? 60 : 0;
-        answer.close = seen.line.contains("/broken");
-        if (answer.close)
-            answer.bytes.chop(2);
-        answer.silent = seen.line.contains("/never");
-        return answer;
-    };
-    const auto ask = [&](const QStringList& urls) {
-        return com.web.GetTogether(u"127.0.0.1"_s, server.serverPort(), {}, {}, urls);
-    };
-    EXPECT_EQ(ask({u"/slow"_s, u"/broken"_s, u"/quick"_s}), (QStringList{u"/slow"_s, QString(), u"/quick"_s}));
-    int events = 0;
-    QObject::connect(&com.web, &WebBridge::RequestEnded, &com.web, [&] { ++events; });
-    QTimer::singleShot(50, &com.web, [this] { com.web.AbortWaited(); });
-    QElapsedTimer time;
-    time.start();
-    EXPECT_EQ(ask({u"/never"_s, u"/quick"_s}), (QStringList{QString(), u"/quick"_s}));
-    EXPECT_LT(time.elapsed(), 5000);
-    QTimer::singleShot(50, &com.web, [this] { com.web.AbortWaited(); });
-    EXPECT_LT(send(u"/never"_s), 0);
-    EXPECT_EQ(events, 0) << "waited for, so nobody else is told";
-    EXPECT_EQ(com.web.Outstanding(), 0);
-    EXPECT_EQ(com.http.open(), 0);
-}
-
-TEST_F(Bridge, ACallbackMayWaitForARequestThatEndedTogetherWithItsOwn)
-{
-    QString inner;
-    QObject listener;
-    QObject::connect(&com.web, &WebBridge::RequestEnded, &listener, [&](qint32, qint32) {
-        if (inner.isEmpty())
-            inner = get(u"/inner"_s, device());
-    });
-    for (int i = 0; i < 4; ++i)
-        send(u"/outer"_s, 0);
-    EXPECT_EQ(WaitUntil([&] { return !inner.isEmpty() && com.web.Outstanding() == 0; }, 5), WaitResult::Done);
-    EXPECT_EQ(inner, u"OK\n"_s);
-}
-
-TEST_F(Bridge, ClosingEndsAWaitAtOnceAndNoNewOneBegins)
-{
-    server.answer = [](const Seen&) { return Answer{{}, false, 0, 0, true}; };
-    QTimer::singleShot(50, &server, [] { SetClosing(true); });
-    QElapsedTimer timer;
-    timer.start();
-    EXPECT_EQ(send(u"/slow"_s), kWebClosing);
-    EXPECT_LT(timer.elapsed(), 1000);
-    EXPECT_EQ(com.http.open(), 0);
-    EXPECT_EQ(send(u"/next"_s), kWebClosing);
-    SetClosing(false);
-    EXPECT_EQ(server.requests.size(), 1u);
-}
-
 TEST_F(Bridge, AnUnreadRequestCountsAsSentWhateverTheDeviceAnswers)
 {
-    const auto alert = [&](const DeviceAddress& to) {
-        qint32 timeout = 1;
-        qint32 outCode = 1;
-        return CgiRequest(com.web, to, u"/alert"_s, {}, timeout, {}, 1, outCode, true);
-    };
+    const auto alert = [&](const DeviceAddress& to) { return Await(CgiTell(com.web, to, u"/alert"_s, work, 1)); };
     EXPECT_EQ(alert(device()), u"SUCCESSED"_s);
     server.answer = [](const Seen&) { return Answer{ScriptedServer::page("no", "500 Oops")}; };
     EXPECT_EQ(alert(device()), u"SUCCESSED"_s);
     server.answer = [](const Seen&) { return Answer{{}, true}; };
     EXPECT_EQ(alert(device()), QString());
-    // Replies that stay unread do not pile up.
-    server.answerWith("OK");
-    for (int i = 0; i < 100; ++i)
-        alert(device());
-    EXPECT_LT(com.web.Outstanding(), 50);
-    for (qint32 number = 1; number < 200; ++number)
-        EXPECT_EQ(com.web.GetCgiReply(number), QString());
+    EXPECT_EQ(com.web.Outstanding(), 0);
 }
 
 TEST_F(Bridge, TheBinaryInterfaceAnswersFailure)
@@ -371,78 +297,78 @@ TEST_F(Bridge, CommandsAskTheirOwnPath)
         std::function<void()> call;
         QByteArray target;
     } cases[] = {
-        {[&] { CgiGetGid(web, to); }, "/getgid.cgi"},
-        {[&] { CgiDetectCamera(web, to, u"10.0.0.5"_s, u"80"_s, u"root"_s, u"0"_s, {}); },
+        {[&] { Await(CgiGetGid(web, to, work)); }, "/getgid.cgi"},
+        {[&] { Await(CgiDetectCamera(web, to, u"10.0.0.5"_s, u"80"_s, u"root"_s, u"0"_s, {}, work)); },
          "/system/detectcam.cgi?ipaddr=10.0.0.5&httpport=80&username=root&password=0&brand="},
-        {[&] { CgiDetectCameraAs(web, to, u"10.0.0.5"_s, u"80"_s, u"root"_s, u"p"_s, 2, u"55"_s); },
+        {[&] { Await(CgiDetectCameraAs(web, to, u"10.0.0.5"_s, u"80"_s, u"root"_s, u"p"_s, 2, u"55"_s, work)); },
          "/system/detectcam.cgi?ipaddr=10.0.0.5&httpport=80&username=root&password=p&camera=2&brand=55"},
-        {[&] { GetSVRCameraSearch(web, to); }, "/system/searchcam.cgi"},
-        {[&] { CgiGetFwVersion(web, to); }, "/getfwver.cgi"},
-        {[&] { CgiSetEventHttp(web, to, u"camera_c1=1,2"_s, 3); },
+        {[&] { Await(GetSVRCameraSearch(web, to, work)); }, "/system/searchcam.cgi"},
+        {[&] { Await(CgiGetFwVersion(web, to, work)); }, "/getfwver.cgi"},
+        {[&] { Await(CgiSetEventHttp(web, to, u"camera_c1=1,2"_s, 3, work)); },
          "/event/basicevent.cgi?action=set&svr=3&camera_c1=1,2&httpenabled=1"},
-        {[&] { CgiSetEventHttp(web, to, u"&camera_c1="_s, 16); },
+        {[&] { Await(CgiSetEventHttp(web, to, u"&camera_c1="_s, 16, work)); },
          "/event/basicevent.cgi?action=set&svr=16&camera_c1=&httpenabled=1"},
-        {[&] { CgiSetEventHttp(web, to, {}, 1); }, "/event/basicevent.cgi?action=set&svr=1&httpenabled=1"},
-        {[&] { CgiGetBasicEvent(web, to); }, "/event/basicevent.cgi?action=get"},
-        {[&] { CgiSetBasicEvent(web, to, u"&customevent_c1=0"_s, 1); },
+        {[&] { Await(CgiSetEventHttp(web, to, {}, 1, work)); }, "/event/basicevent.cgi?action=set&svr=1&httpenabled=1"},
+        {[&] { Await(CgiGetBasicEvent(web, to, work)); }, "/event/basicevent.cgi?action=get"},
+        {[&] { Await(CgiSetBasicEvent(web, to, u"&customevent_c1=0"_s, work)); },
          "/event/basicevent.cgi?action=set&customevent_c1=0"},
-        {[&] { CgiSetPresetSeqDwell(web, to, 7, 15); }, "/param.cgi?action=set&camera_c7.ptz.presetseqdwell=15"},
-        {[&] { CgiSetPresetSeqList(web, to, 64, u"1,2"_s); }, "/param.cgi?action=set&camera_c64.ptz.presetseqlist=1,2"},
-        {[&] { CgiGetOnvifParam(web, to, 1); }, "/param.cgi?action=get&group=camera_c1.onvif"},
-        {[&] { CgiGetImageParam(web, to, 1); }, "/param.cgi?action=get&group=camera_c1.image"},
-        {[&] { CgiGetPtzParam(web, to, 1); }, "/param.cgi?action=get&group=camera_c1.ptz"},
+        {[&] { Await(CgiSetPresetSeqDwell(web, to, 7, 15, work)); },
+         "/param.cgi?action=set&camera_c7.ptz.presetseqdwell=15"},
+        {[&] { Await(CgiSetPresetSeqList(web, to, 64, u"1,2"_s, work)); },
+         "/param.cgi?action=set&camera_c64.ptz.presetseqlist=1,2"},
     };
     for (const auto& c : cases) {
         c.call();
         EXPECT_EQ(server.lastTarget(), c.target);
     }
     EXPECT_EQ(server.requests.size(), std::size(cases));
-    EXPECT_EQ(web.Timeout(), kRestingTimeout);
+    server.answer = [](const Seen& seen) { return Answer{ScriptedServer::page(seen.line.split(' ').value(1))}; };
+    const ChannelParams groups = Await(CgiGetChannelParams(web, to, 1, true, work));
+    EXPECT_EQ(groups.Image, u"/param.cgi?action=get&group=camera_c1.image"_s);
+    EXPECT_EQ(groups.Ptz, u"/param.cgi?action=get&group=camera_c1.ptz"_s);
+    EXPECT_EQ(groups.Onvif, u"/param.cgi?action=get&group=camera_c1.onvif"_s);
 }
 
 TEST_F(Bridge, RepliesAreReadAsTheDevicesWriteThem)
 {
     for (const auto& [reply, reachable] : {std::pair{"ok", true}, {"BOOK", true}, {"no", false}, {"", false}}) {
         server.answerWith(reply);
-        EXPECT_EQ(CgiGetGid(com.web, device()), reachable) << reply;
+        EXPECT_EQ(Await(CgiGetGid(com.web, device(), work)), reachable) << reply;
     }
     for (const auto& [reply, taken] : {std::pair{"ok, done", true}, {" OK", false}, {"ERR", false}}) {
         server.answerWith(reply);
-        EXPECT_EQ(CgiSetPresetSeqList(com.web, device(), 1, u"1,2"_s), taken) << reply;
+        EXPECT_EQ(Await(CgiSetPresetSeqList(com.web, device(), 1, u"1,2"_s, work)), taken) << reply;
     }
     for (const char* reply : {"OK\ncamera_c1.ptz.presetseqlist=1,3,2\r\n", "x= 1,3,2 \nmore", "x=1,3,2"}) {
         server.answerWith(reply);
-        EXPECT_EQ(CgiGetPresetSeqList(com.web, device(), 1), u"1,3,2"_s) << reply;
+        EXPECT_EQ(Await(CgiGetPresetSeqList(com.web, device(), 1, work)), u"1,3,2"_s) << reply;
     }
     for (const auto& [reply, dwell] : {std::pair{"OK\nx=15\r\n", 15}, {"x=5\n", 5}, {"x=153", 15}}) {
         server.answerWith(reply);
-        EXPECT_EQ(CgiGetPresetSeqDwell(com.web, device(), 1), dwell) << reply;
+        EXPECT_EQ(Await(CgiGetPresetSeqDwell(com.web, device(), 1, work)), dwell) << reply;
     }
     server.answerWith("ERR");
-    EXPECT_THROW(CgiGetPresetSeqDwell(com.web, device(), 1), ConversionError);
-    EXPECT_THROW(CgiGetPresetSeqList(com.web, device(), 1), ConversionError);
+    EXPECT_THROW(Await(CgiGetPresetSeqDwell(com.web, device(), 1, work)), ConversionError);
+    EXPECT_THROW(Await(CgiGetPresetSeqList(com.web, device(), 1, work)), ConversionError);
 }
 
 TEST_F(Bridge, CapabilitiesAreReadLineByLine)
 {
     server.answerWith("ok\r\nmodelname=N-16\r\nbrand=Acme\r\nfirmwareversion=\r\nmaxchannelsupport=16\r\nmaxhdsupport="
                       "many\r\ncmssupport=1.0\r\ndevicetype=OmluPro\r\ncustomeventsupport=2\r\nxbrand=1\r\nbroken\r\n");
-    SvrCapability capability;
-    capability.MaxHDSupport = 3;
-    EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), 1);
+    SvrCapability capability = Await(CgiGetServerCapability(com.web, device(), work)).value();
     EXPECT_EQ(capability.ModelName, u"N-16"_s);
     EXPECT_EQ(capability.Brand, u"1"_s); // a key matches inside a longer one
     EXPECT_EQ(capability.FirmwareVersion, QString());
     EXPECT_EQ(capability.MaxChannelSupport, 16);
-    EXPECT_EQ(capability.MaxHDSupport, 3); // the bad value costs itself only, and is logged
+    EXPECT_EQ(capability.MaxHDSupport, 0); // the bad value costs itself only, and is logged
     EXPECT_TRUE(capability.CMSSupport);
     EXPECT_EQ(capability.DeviceType, u"OmluPro"_s);
     EXPECT_FALSE(capability.CustomEventSupport);
     EXPECT_EQ(QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).size(), 1);
 
     server.answerWith("ERR\nbrand=2");
-    EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), -1);
-    EXPECT_EQ(capability.Brand, u"1"_s);
+    EXPECT_FALSE(Await(CgiGetServerCapability(com.web, device(), work)));
 
     // Endless lines cost one line of the log for each kind of fault.
     const auto logged = [this] {
@@ -452,7 +378,7 @@ TEST_F(Bridge, CapabilitiesAreReadLineByLine)
     const auto before = logged();
     server.answerWith("OK\nmodelname=" + QByteArray(1000, 'x') + '\n' +
                       QByteArray("maxchannelsupport=\nmaxhdsupport=99999\n").repeated(100'000));
-    EXPECT_EQ(CgiGetServerCapability(com.web, device(), capability), 1);
+    capability = Await(CgiGetServerCapability(com.web, device(), work)).value();
     EXPECT_EQ(capability.ModelName.size(), 255);
     EXPECT_EQ(logged(), before + 2);
 }

@@ -1,9 +1,10 @@
 #include "app/log/StartWork.h"
 #include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
+#include "platform/Closing.h"
 #include "platform/HttpDigest.h"
-#include "platform/Wait.h"
 #include "support/HostNames.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 #include "tests/device/ScriptedServer.h"
 
@@ -49,7 +50,7 @@ TEST_F(WorkTest, ATaskRunsOnTheEventLoopAndTellsTheWindow)
     ASSERT_TRUE(StartWork(work, "Test - Ask"_L1, body));
     EXPECT_TRUE(notes.isEmpty());
     EXPECT_FALSE(StartWork(work, "Test - Ask"_L1, body)); // one at a time
-    EXPECT_EQ(WaitUntil([&] { return !work.running(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !work.running(); }, 5));
     EXPECT_EQ(notes, (QStringList{u"/00"_s, u"/10"_s, u"/20"_s}));
     EXPECT_EQ(work.step(), u"over"_s);
     EXPECT_THAT(held, ElementsAre(true, false));
@@ -59,7 +60,7 @@ TEST_F(WorkTest, ATaskRunsOnTheEventLoopAndTellsTheWindow)
         const WebReply reply = co_await com.web.Get(device(), u"/x"_s, 60, work);
         throw std::runtime_error(reply.text.toStdString());
     }));
-    EXPECT_EQ(WaitUntil([&] { return !work.running(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !work.running(); }, 5));
     const QString log = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).value(0);
     EXPECT_TRUE(station.read(QString(u"\\log\\"_s + log)).contains("Test - Fault"));
 }
@@ -80,7 +81,7 @@ TEST_F(WorkTest, AStopEndsEverythingAtOnceWhateverTheDeviceDoes)
         auto work = std::make_unique<Work>();
         ASSERT_TRUE(work->start([&, running = work.get()] { return AskThrice(com, device(), *running, notes); }));
         const std::size_t asked = server.requests.size();
-        EXPECT_EQ(WaitUntil([&] { return server.requests.size() > asked; }, 5), WaitResult::Done);
+        EXPECT_TRUE(WaitUntil([&] { return server.requests.size() > asked; }, 5));
         EXPECT_TRUE(notes.isEmpty());
         if (how == ByStop)
             work->stop();
@@ -124,7 +125,7 @@ TEST_F(WorkTest, CommandsOfAStoppedWorkFailLikeATransport)
         results += slept ? u"slept"_s : u"woken"_s;
         results += co_await GetIpByName(u"localhost"_s, work);
     }));
-    EXPECT_EQ(WaitUntil([&] { return server.requests.size() == 6; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return server.requests.size() == 6; }, 5));
     QElapsedTimer time;
     time.start();
     work.stop();
@@ -164,21 +165,21 @@ TEST_F(WorkTest, TogetherKeepsTheOrderAndTheLimit)
         }));
     };
     run({ask(u"/0"_s), ask(u"/1"_s), ask(u"/2"_s), ask(u"/3"_s), ask(u"/4"_s)});
-    EXPECT_EQ(WaitUntil([&] { return !work.running(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !work.running(); }, 5));
     EXPECT_THAT(got, ElementsAre(u"/0"_s, u"/1"_s, u"/2"_s, u"/3"_s, u"/4"_s));
     EXPECT_EQ(most, 3);
 
     // A fault is told once all have ended; a stop begins no more of them.
     got.clear();
     run({ask(u"/0"_s, true), ask(u"/1"_s, true), ask(u"/2"_s)});
-    EXPECT_EQ(WaitUntil([&] { return !work.running(); }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return !work.running(); }, 5));
     EXPECT_EQ(open, 0);
     EXPECT_TRUE(got.empty());
     const QString log = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).value(0);
     EXPECT_TRUE(station.read(QString(u"\\log\\"_s + log)).contains("/0"));
     const std::size_t asked = server.requests.size();
     run({ask(u"/5"_s), ask(u"/never"_s), ask(u"/never"_s), ask(u"/never"_s), ask(u"/6"_s)});
-    EXPECT_EQ(WaitUntil([&] { return server.requests.size() == asked + 4; }, 5), WaitResult::Done);
+    EXPECT_TRUE(WaitUntil([&] { return server.requests.size() == asked + 4; }, 5));
     work.stop();
     EXPECT_THAT(got, ElementsAre(u"/5"_s, QString(), QString(), QString(), std::nullopt));
 }

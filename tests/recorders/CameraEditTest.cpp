@@ -1,4 +1,4 @@
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "tests/recorders/CameraFixture.h"
 
 #include <QTimer>

@@ -1,10 +1,11 @@
 #include "app/log/Module_Log.h"
 #include "platform/Clock.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "support/Conversions.h"
 #include "support/HostNames.h"
 #include "support/ServiceTexts.h"
 #include "support/TimeSeconds.h"
+#include "tests/Await.h"
 #include "tests/TestMain.h"
 
 #include <QDir>
@@ -39,22 +40,12 @@ TEST(Times, StampsAreWallClockSecondsAndAuditStampsAreUtc)
     EXPECT_EQ(TimeToUtcSeconds(late), 2147483647);
 }
 
-TEST(Waiting, EndsOnTheReplyOnTimeOutAndOnClosing)
-{
-    bool done = false;
-    QTimer::singleShot(20, [&] { done = true; });
-    EXPECT_EQ(WaitUntil([&] { return done; }, 5), WaitResult::Done);
-    EXPECT_EQ(WaitUntil([] { return false; }, 0.05), WaitResult::TimedOut);
-    QTimer::singleShot(20, [] { SetClosing(true); });
-    EXPECT_EQ(WaitUntil([] { return false; }, 5), WaitResult::Closing);
-    SetClosing(false);
-}
-
 TEST(HostNames, ResolveToTheFirstIPv4Address)
 {
-    EXPECT_EQ(GetIpByName(u"127.0.0.9"_s), u"127.0.0.9"_s);
-    EXPECT_EQ(GetIpByName(u"localhost"_s), u"127.0.0.1"_s);
-    EXPECT_EQ(GetIpByName(u"no-such-host.invalid"_s), QString());
+    Work work;
+    EXPECT_EQ(Await(GetIpByName(u"127.0.0.9"_s, work)), u"127.0.0.9"_s);
+    EXPECT_EQ(Await(GetIpByName(u"localhost"_s, work)), u"127.0.0.1"_s);
+    EXPECT_EQ(Await(GetIpByName(u"no-such-host.invalid"_s, work)), QString());
 }
 
 TEST(ServiceTexts, NameRegistryErrors)

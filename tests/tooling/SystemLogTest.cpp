@@ -1,5 +1,5 @@
 #include "app/language/Languages.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "tests/store/StoreFixture.h"
 #include "tooling/SystemLogExport.h"
 #include "tooling/SystemLogModel.h"

@@ -196,36 +196,16 @@ DeviceBridge::~DeviceBridge()
         m_http.cancel(service->transfer);
 }
 
-qint32 DeviceBridge::GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts)
-{
-    const std::optional<RecorderFacts> read = FactsOf(CgiGet(m_web, device, kSystemUrl));
-    facts = read.value_or(facts);
-    return read ? 0 : -1;
-}
-
 QCoro::Task<std::optional<RecorderFacts>> DeviceBridge::GetSystemFacts(DeviceAddress device, Work& work)
 {
     const QString reply = co_await CgiGet(m_web, device, kSystemUrl, work);
     co_return FactsOf(reply);
 }
 
-qint32 DeviceBridge::GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record)
-{
-    const std::optional<RecorderChannel> read = ChannelOf(CgiGet(m_web, device, GroupUrl(channel, kDevice)), channel);
-    record = read.value_or(record);
-    return read ? 0 : -1;
-}
-
 QCoro::Task<std::optional<RecorderChannel>> DeviceBridge::GetChannel(DeviceAddress device, qint16 channel, Work& work)
 {
     const QString reply = co_await CgiGet(m_web, device, GroupUrl(channel, kDevice), work);
     co_return ChannelOf(reply, channel);
-}
-
-QString DeviceBridge::SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
-                                 ChannelForm form)
-{
-    return CgiGet(m_web, device, SetUrl(channel, settings, form));
 }
 
 QCoro::Task<QString> DeviceBridge::SetChannel(DeviceAddress device, qint16 channel, ChannelParameters settings,
@@ -240,20 +220,10 @@ bool DeviceBridge::DeviceTook(const QString& reply)
     return reply.contains("RET=\"0\""_L1);
 }
 
-bool DeviceBridge::command(const DeviceAddress& device, qint16 channel, const QString& rest)
-{
-    return DeviceTook(CgiGet(m_web, device, CommandUrl(channel, rest)));
-}
-
 QCoro::Task<bool> DeviceBridge::command(DeviceAddress device, qint16 channel, QString rest, Work& work)
 {
     const QString reply = co_await CgiGet(m_web, device, CommandUrl(channel, rest), work);
     co_return DeviceTook(reply);
-}
-
-bool DeviceBridge::GotoPreset(const DeviceAddress& device, qint16 channel, qint16 preset, qint32 speed)
-{
-    return command(device, channel, GotoText(preset, speed));
 }
 
 QCoro::Task<bool> DeviceBridge::GotoPreset(DeviceAddress device, qint16 channel, qint16 preset, qint32 speed,
@@ -262,21 +232,10 @@ QCoro::Task<bool> DeviceBridge::GotoPreset(DeviceAddress device, qint16 channel,
     return command(device, channel, GotoText(preset, speed), work);
 }
 
-bool DeviceBridge::SetPreset(const DeviceAddress& device, qint16 channel, qint16 preset, const QString& name)
-{
-    return command(device, channel, SetPresetText(preset, name));
-}
-
 QCoro::Task<bool> DeviceBridge::SetPreset(DeviceAddress device, qint16 channel, qint16 preset, QString name, Work& work)
 {
     const bool took = co_await command(device, channel, SetPresetText(preset, name), work);
     co_return took;
-}
-
-bool DeviceBridge::MovePtz(const DeviceAddress& device, qint16 channel, PtzAction action, qint32 direction,
-                           qint32 speed)
-{
-    return command(device, channel, MoveText(action, direction, speed));
 }
 
 QCoro::Task<bool> DeviceBridge::MovePtz(DeviceAddress device, qint16 channel, PtzAction action, qint32 direction,
@@ -285,19 +244,9 @@ QCoro::Task<bool> DeviceBridge::MovePtz(DeviceAddress device, qint16 channel, Pt
     return command(device, channel, MoveText(action, direction, speed), work);
 }
 
-bool DeviceBridge::StopPtz(const DeviceAddress& device, qint16 channel)
-{
-    return command(device, channel, u"stop"_s);
-}
-
 QCoro::Task<bool> DeviceBridge::StopPtz(DeviceAddress device, qint16 channel, Work& work)
 {
     return command(device, channel, u"stop"_s, work);
-}
-
-QString DeviceBridge::GetFishEyeMode(const DeviceAddress& device, qint16 channel)
-{
-    return FishEyeModeOf(CgiGet(m_web, device, GroupUrl(channel, kFishEye)), channel);
 }
 
 QCoro::Task<QString> DeviceBridge::GetFishEyeMode(DeviceAddress device, qint16 channel, Work& work)

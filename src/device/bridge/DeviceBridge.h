@@ -66,8 +66,7 @@ enum class PtzAction
     Iris
 };
 
-// The devices' own parameter text, and the station's services at them. `channel` counts from 1. Calls wait for the
-// device; a failure of transport gives -1 or the empty text.
+// The devices' own parameter text, and the station's services at them. `channel` counts from 1.
 class DeviceBridge : public QObject
 {
     Q_OBJECT
@@ -76,36 +75,26 @@ public:
     DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent = nullptr);
     ~DeviceBridge() override;
 
-    // 0 and the record, or -1 (the record is untouched). A number that is none is logged and counts as not told.
-    qint32 GetSystemFacts(const DeviceAddress& device, RecorderFacts& facts);
-    qint32 GetChannel(const DeviceAddress& device, qint16 channel, RecorderChannel& record);
+    // Every call awaits the device on behalf of `work`, whose stop ends it at once like a failure of transport.
+    // No record without an answer. A number that is none is logged and counts as not told.
+    QCoro::Task<std::optional<RecorderFacts>> GetSystemFacts(DeviceAddress device, Work& work);
+    QCoro::Task<std::optional<RecorderChannel>> GetChannel(DeviceAddress device, qint16 channel, Work& work);
 
     // Reply text of the device; it took the values when DeviceTook() says so. Values are escaped on the way, the name
-    // is not (it comes escaped). Throws std::invalid_argument for a value that cannot be escaped, with nothing sent.
-    QString SetChannel(const DeviceAddress& device, qint16 channel, const ChannelParameters& settings,
-                       ChannelForm form);
+    // is not (it comes escaped). Throws std::invalid_argument, when it is awaited, for a value that cannot be escaped,
+    // with nothing sent.
+    QCoro::Task<QString> SetChannel(DeviceAddress device, qint16 channel, ChannelParameters settings, ChannelForm form,
+                                    Work& work);
     static bool DeviceTook(const QString& reply);
 
     // Presets (from 1) and movement; true when the device took the command.
-    bool GotoPreset(const DeviceAddress& device, qint16 channel, qint16 preset, qint32 speed);
-    bool SetPreset(const DeviceAddress& device, qint16 channel, qint16 preset, const QString& name);
-    bool MovePtz(const DeviceAddress& device, qint16 channel, PtzAction action, qint32 direction, qint32 speed);
-    bool StopPtz(const DeviceAddress& device, qint16 channel);
-
-    // Present fish-eye mode as the device says it.
-    QString GetFishEyeMode(const DeviceAddress& device, qint16 channel);
-
-    // The same for coroutines: they await the device on behalf of `work`, and its stop ends them at once like a failure
-    // of transport. No record where the waiting call gives -1; SetChannel throws as above when it is awaited.
-    QCoro::Task<std::optional<RecorderFacts>> GetSystemFacts(DeviceAddress device, Work& work);
-    QCoro::Task<std::optional<RecorderChannel>> GetChannel(DeviceAddress device, qint16 channel, Work& work);
-    QCoro::Task<QString> SetChannel(DeviceAddress device, qint16 channel, ChannelParameters settings, ChannelForm form,
-                                    Work& work);
     QCoro::Task<bool> GotoPreset(DeviceAddress device, qint16 channel, qint16 preset, qint32 speed, Work& work);
     QCoro::Task<bool> SetPreset(DeviceAddress device, qint16 channel, qint16 preset, QString name, Work& work);
     QCoro::Task<bool> MovePtz(DeviceAddress device, qint16 channel, PtzAction action, qint32 direction, qint32 speed,
                               Work& work);
     QCoro::Task<bool> StopPtz(DeviceAddress device, qint16 channel, Work& work);
+
+    // Present fish-eye mode as the device says it.
     QCoro::Task<QString> GetFishEyeMode(DeviceAddress device, qint16 channel, Work& work);
 
     // Whole-request time-out of the services' polling, in seconds; services added later take it.
@@ -134,7 +123,6 @@ private:
         QTimer next;
     };
 
-    bool command(const DeviceAddress& device, qint16 channel, const QString& rest);
     QCoro::Task<bool> command(DeviceAddress device, qint16 channel, QString rest, Work& work);
     void poll(qint16 number);
     void polled(qint16 number, const HttpReply& reply);

@@ -74,6 +74,11 @@ ChannelParams ChannelParamsOf(const QStringList& replies)
     return {replies.value(0), replies.value(1), replies.value(2)};
 }
 
+qint32 SecondsOf(qint32 seconds)
+{
+    return seconds == kCgiDefaultTimeout ? kRestingTimeout : seconds;
+}
+
 bool HoldsOk(const QString& reply)
 {
     return reply.contains("OK"_L1, Qt::CaseInsensitive);
@@ -107,136 +112,6 @@ const QString kSetEventUrl = u"/event/basicevent.cgi?action=set"_s;
 const QString kCapabilityUrl = u"/getsvrcapability.cgi"_s;
 
 } // namespace
-
-QString CgiRequest(WebBridge& web, const DeviceAddress& device, const QString& url, const QString& fileName,
-                   qint32& timeout, const QString& body, qint32 mode, qint32& outCode, bool noRead)
-{
-    if (timeout == kCgiDefaultTimeout)
-        timeout = kRestingTimeout;
-    web.SetTimeout(timeout);
-    const qint32 request =
-        web.SendCgi(device.address, device.port, device.user, device.password, 1, url, fileName, body, mode, outCode);
-    const bool answered = request >= 0 || request <= -100; // an HTTP status is an answer, whatever it says
-    if (mode == kCgiSynchronous && noRead && answered) {
-        web.DropReply(request);
-        return u"SUCCESSED"_s;
-    }
-
-    QString result;
-    if (request >= 0 && mode == kCgiSynchronous) {
-        result = web.GetCgiReply(request);
-        web.ReleaseRequest(kReleaseCgi, request);
-    } else if (request >= 0) {
-        result = QString::number(request);
-    }
-    web.SetTimeout(kRestingTimeout);
-    return result;
-}
-
-QString CgiGet(WebBridge& web, const DeviceAddress& device, const QString& url, qint32 seconds)
-{
-    qint32 outCode = 1;
-    return CgiRequest(web, device, url, u"-"_s, seconds, {}, kCgiSynchronous, outCode, false);
-}
-
-bool CgiGetGid(WebBridge& web, const DeviceAddress& device)
-{
-    return HoldsOk(CgiGet(web, device, kGidUrl, kQuickSeconds));
-}
-
-QString CgiDetectCamera(WebBridge& web, const DeviceAddress& device, const QString& ip, const QString& httpPort,
-                        const QString& user, const QString& password, const QString& brand)
-{
-    const QString url = CameraProbeUrl(ip, httpPort, user, password) + u"&brand=" + brand;
-    return CgiGet(web, device, url, kCameraProbeSeconds);
-}
-
-QString CgiDetectCameraAs(WebBridge& web, const DeviceAddress& device, const QString& ip, const QString& httpPort,
-                          const QString& user, const QString& password, qint16 camera, const QString& brand)
-{
-    return CgiGet(web, device, CameraProbeAsUrl(ip, httpPort, user, password, camera, brand));
-}
-
-QString GetSVRCameraSearch(WebBridge& web, const DeviceAddress& device)
-{
-    return CgiGet(web, device, kSearchUrl);
-}
-
-QString CgiGetFwVersion(WebBridge& web, const DeviceAddress& device)
-{
-    return CgiGet(web, device, kVersionUrl);
-}
-
-qint32 CgiLogin(WebBridge& web, const DeviceAddress& device, QString& reply)
-{
-    reply = CgiGet(web, device, kLoginUrl);
-    return LoginReplyOf(reply).result;
-}
-
-QString CgiSetEventHttp(WebBridge& web, const DeviceAddress& device, const QString& params, qint16 svr)
-{
-    return CgiGet(web, device, EventHttpUrl(params, svr));
-}
-
-QString CgiGetBasicEvent(WebBridge& web, const DeviceAddress& device)
-{
-    return CgiGet(web, device, kEventUrl);
-}
-
-QString CgiSetBasicEvent(WebBridge& web, const DeviceAddress& device, const QString& params, qint32 mode)
-{
-    qint32 timeout = kCgiDefaultTimeout;
-    qint32 outCode = 1;
-    return CgiRequest(web, device, kSetEventUrl + params, u"-"_s, timeout, {}, mode, outCode, false);
-}
-
-qint32 CgiGetPresetSeqDwell(WebBridge& web, const DeviceAddress& device, qint16 channel)
-{
-    return DwellOf(CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqdwell")));
-}
-
-bool CgiSetPresetSeqDwell(WebBridge& web, const DeviceAddress& device, qint16 channel, qint32 seconds)
-{
-    return BeginsWithOk(CgiGet(web, device, SetUrl(channel, u".ptz.presetseqdwell", QString::number(seconds))));
-}
-
-bool CgiSetPresetSeqList(WebBridge& web, const DeviceAddress& device, qint16 channel, const QString& list)
-{
-    return BeginsWithOk(CgiGet(web, device, SetUrl(channel, u".ptz.presetseqlist", list)));
-}
-
-QString CgiGetPresetSeqList(WebBridge& web, const DeviceAddress& device, qint16 channel)
-{
-    return SequenceOf(CgiGet(web, device, GroupUrl(channel, u".ptz.presetseqlist")));
-}
-
-QString CgiGetOnvifParam(WebBridge& web, const DeviceAddress& device, qint16 channel)
-{
-    return CgiGet(web, device, GroupUrl(channel, u".onvif"));
-}
-
-QString CgiGetImageParam(WebBridge& web, const DeviceAddress& device, qint16 channel)
-{
-    return CgiGet(web, device, GroupUrl(channel, u".image"));
-}
-
-QString CgiGetPtzParam(WebBridge& web, const DeviceAddress& device, qint16 channel)
-{
-    return CgiGet(web, device, GroupUrl(channel, u".ptz"));
-}
-
-ChannelParams CgiGetChannelParams(WebBridge& web, const DeviceAddress& device, qint16 channel, bool onvif)
-{
-    web.SetTimeout(kRestingTimeout);
-    return ChannelParamsOf(
-        web.GetTogether(device.address, device.port, device.user, device.password, ChannelUrls(channel, onvif)));
-}
-
-qint32 CgiGetServerCapability(WebBridge& web, const DeviceAddress& device, SvrCapability& capability)
-{
-    const QString reply = CgiGet(web, device, kCapabilityUrl, kQuickSeconds);
-    return ParseServerCapability(reply, capability) ? 1 : -1;
-}
 
 bool ParseServerCapability(const QString& reply, SvrCapability& capability)
 {
@@ -273,11 +148,24 @@ bool ParseServerCapability(const QString& reply, SvrCapability& capability)
     return true;
 }
 
-QCoro::Task<QString> CgiGet(WebBridge& web, DeviceAddress device, QString url, Work& work, qint32 seconds)
+QCoro::Task<QString> CgiGet(WebBridge& web, DeviceAddress device, QString url, Work& work, qint32 seconds, QString body)
 {
-    const WebReply reply =
-        co_await web.Get(device, url, seconds == kCgiDefaultTimeout ? kRestingTimeout : seconds, work);
+    const WebReply reply = co_await web.Get(device, url, SecondsOf(seconds), work, body);
     co_return reply.text;
+}
+
+QCoro::Task<QString> CgiTell(WebBridge& web, DeviceAddress device, QString url, Work& work, qint32 seconds,
+                             QString body)
+{
+    const WebReply reply = co_await web.Get(device, url, SecondsOf(seconds), work, body);
+    const bool answered = reply.status >= 0 || reply.status <= -100; // an HTTP status is an answer, whatever it says
+    co_return answered ? u"SUCCESSED"_s : QString();
+}
+
+QString CgiStart(WebBridge& web, const DeviceAddress& device, const QString& url, qint32 seconds, const QString& body)
+{
+    const qint32 request = web.SendCgi(device, url, SecondsOf(seconds), body);
+    return QString::number(request);
 }
 
 QCoro::Task<bool> CgiGetGid(WebBridge& web, DeviceAddress device, Work& work)

@@ -1,7 +1,6 @@
 #include "device/bridge/WebBridge.h"
 
 #include "platform/HttpFetch.h"
-#include "platform/Wait.h"
 
 #include <QPointer>
 #include <QStringDecoder>
@@ -48,18 +47,14 @@ HttpRequest RequestTo(const DeviceAddress& device)
     return request;
 }
 
-HttpRequest ActionTo(const DeviceAddress& device, const QString& body)
+HttpRequest ActionTo(const DeviceAddress& device, const QString& xml)
 {
     HttpRequest request = RequestTo(device);
     request.target = "/cmd.cgi"_ba;
     request.post = true;
-    request.body = body.toUtf8();
+    request.body = QString(u"type=action&xml="_s + xml).toUtf8();
+    request.seconds = kRestingTimeout;
     return request;
-}
-
-QString CmdBody(const QString& xml)
-{
-    return u"type=action&xml="_s + xml;
 }
 
 WebReply ReplyOf(const HttpReply& reply)
@@ -87,6 +82,16 @@ QByteArray TargetOf(const QString& url)
     if (!target.startsWith(u'/'))
         target.prepend(u'/');
     return target.toUtf8();
+}
+
+HttpRequest CgiTo(const DeviceAddress& device, const QString& url, qint32 seconds, const QString& body)
+{
+    HttpRequest request = RequestTo(device);
+    request.target = TargetOf(url);
+    request.post = !body.isEmpty();
+    request.body = body.toUtf8();
+    request.seconds = seconds;
+    return request;
 }
 
 } // namespace
@@ -119,7 +124,6 @@ void WebBridge::Initialise()
     for (const auto& [number, request] : m_requests)
         m_http.cancel(request.transfer);
     m_requests.clear();
-    m_timeout = kRestingTimeout;
 }
 
 QCoro::Task<WebReply> WebBridge::fetch(HttpRequest request, Work& work)
@@ -129,106 +133,32 @@ QCoro::Task<WebReply> WebBridge::fetch(HttpRequest request, Work& work)
     co_return ReplyOf(reply);
 }
 
-QCoro::Task<WebReply> WebBridge::Get(DeviceAddress device, QString url, qint32 seconds, Work& work)
+QCoro::Task<WebReply> WebBridge::Get(DeviceAddress device, QString url, qint32 seconds, Work& work, QString body)
 {
-    HttpRequest request = RequestTo(device);
-    request.target = TargetOf(url);
-    request.seconds = seconds;
-    return fetch(std::move(request), work);
+    return fetch(CgiTo(device, url, seconds, body), work);
 }
 
 QCoro::Task<QString> WebBridge::SendCmdXml(DeviceAddress device, QString xml, Work& work)
 {
-    HttpRequest request = ActionTo(device, CmdBody(xml));
-    request.seconds = kRestingTimeout;
-    const WebReply reply = co_await fetch(std::move(request), work);
+    const WebReply reply = co_await fetch(ActionTo(device, xml), work);
     co_return reply.text;
 }
 
-qint32 WebBridge::SendCgi(const QString& address, qint32 port, const QString& user, const QString& password, qint32,
-                          const QString& url, const QString&, const QString& body, qint32 mode, qint32&)
+qint32 WebBridge::SendCgi(const DeviceAddress& device, const QString& url, qint32 seconds, const QString& body)
 {
-    HttpRequest request = RequestTo({address, port, user, password});
-    request.target = TargetOf(url);
-    request.post = !body.isEmpty();
-    request.body = body.toUtf8();
-    return send(request, mode == 1);
+    return start(CgiTo(device, url, seconds, body));
 }
 
-qint32 WebBridge::SendAction(const QString& address, qint32 port, const QString& user, const QString& password, qint32,
-                             const QString& body, qint32 wait, qint32)
+qint32 WebBridge::SendAction(const DeviceAddress& device, const QString& xml)
 {
-    return send(ActionTo({address, port, user, password}, body), wait == 1);
+    return start(ActionTo(device, xml));
 }
 
-qint32 WebBridge::start(HttpRequest request, bool waited)
+qint32 WebBridge::start(const HttpRequest& request)
 {
-    request.seconds = m_timeout;
     const qint32 number = nextNumber();
-    m_requests[number].waited = waited;
     m_requests[number].transfer =
         m_http.start(request, [this, number](const HttpReply& reply) { finish(number, reply); });
-    return number;
-}
-
-bool WebBridge::ended(qint32 number) const
-{
-    const auto found = m_requests.find(number);
-    return found == m_requests.end() || found->second.finished;
-}
-
-QStringList WebBridge::GetTogether(const QString& address, qint32 port, const QString& user, const QString& password,
-                                   const QStringList& urls)
-{
-    QStringList replies(urls.size());
-    if (Closing())
-        return replies;
-    const QPointer<WebBridge> alive(this);
-    std::vector<qint32> numbers;
-    for (const QString& url : urls) {
-        HttpRequest request = RequestTo({address, port, user, password});
-        request.target = TargetOf(url);
-        numbers.push_back(start(request, true));
-    }
-    const auto allEnded = [&] {
-        return !alive || std::all_of(numbers.begin(), numbers.end(), [this](qint32 number) { return ended(number); });
-    };
-    WaitUntil(allEnded, m_timeout + 1.0);
-    for (std::size_t i = 0; i < numbers.size() && alive; ++i) {
-        const auto found = m_requests.find(numbers[i]);
-        if (found == m_requests.end())
-            continue;
-        if (found->second.finished && found->second.status >= 0)
-            replies[static_cast<qsizetype>(i)] = found->second.reply;
-        ReleaseRequest(kReleaseCgi, numbers[i]);
-    }
-    return replies;
-}
-
-qint32 WebBridge::send(const HttpRequest& request, bool wait)
-{
-    if (wait && Closing())
-        return kWebClosing;
-    const QPointer<WebBridge> alive(this);
-    const double seconds = m_timeout;
-    const qint32 number = start(request, wait);
-    if (!wait)
-        return number;
-
-    // The client ends every request by itself; the longer wait is only the second line.
-    const WaitResult result = WaitUntil([&] { return !alive || ended(number); }, seconds + 1.0);
-    if (!alive)
-        return kWebClosing;
-    const auto found = m_requests.find(number);
-    if (found == m_requests.end())
-        return kWebClosing;
-    const qint32 status = found->second.finished          ? found->second.status
-                          : result == WaitResult::Closing ? kWebClosing
-                                                          : kWebTimedOut;
-    if (status < 0) {
-        ReleaseRequest(kReleaseCgi, number);
-        return status;
-    }
     return number;
 }
 
@@ -244,9 +174,6 @@ void WebBridge::finish(qint32 number, const HttpReply& reply)
     request.status = result.status;
     request.reply = result.text;
     const qint32 status = request.status;
-    const bool waited = request.waited;
-    if (waited)
-        return;
     const QPointer<WebBridge> alive(this);
     emit RequestEnded(number, status);
     if (alive && status < 0)
@@ -286,12 +213,6 @@ qint32 WebBridge::RunCommand(const QString&, qint32, const QString&, const QStri
     return kWebNotSupported;
 }
 
-void WebBridge::DropReply(qint32 request)
-{
-    if (const auto found = m_requests.find(request); found != m_requests.end())
-        found->second.reply = QString();
-}
-
 void WebBridge::ReleaseRequest(qint32, qint32 request)
 {
     const auto found = m_requests.find(request);
@@ -299,17 +220,6 @@ void WebBridge::ReleaseRequest(qint32, qint32 request)
         return;
     m_http.cancel(found->second.transfer);
     m_requests.erase(found);
-}
-
-void WebBridge::AbortWaited()
-{
-    std::erase_if(m_requests, [this](const auto& entry) {
-        const Request& request = entry.second;
-        if (!request.waited || request.finished)
-            return false;
-        m_http.cancel(request.transfer);
-        return true;
-    });
 }
 
 qint32 WebBridge::nextNumber()
@@ -332,29 +242,4 @@ void WebBridge::dropOldest()
     }
     if (oldest != m_requests.end())
         m_requests.erase(oldest);
-}
-
-namespace {
-
-qint32 CarryXml(WebBridge& web, const DeviceAddress& device, const QString& xml, qint32 wait)
-{
-    web.SetTimeout(kRestingTimeout);
-    return web.SendAction(device.address, device.port, device.user, device.password, 1, CmdBody(xml), wait, 1);
-}
-
-} // namespace
-
-QString SendCmdXml(WebBridge& web, const DeviceAddress& device, const QString& xml)
-{
-    const qint32 request = CarryXml(web, device, xml, 1);
-    if (request < 0)
-        return {};
-    const QString reply = web.GetActionReply(request);
-    web.ReleaseRequest(kReleaseAction, request);
-    return reply;
-}
-
-qint32 StartCmdXml(WebBridge& web, const DeviceAddress& device, const QString& xml)
-{
-    return CarryXml(web, device, xml, 0);
 }

@@ -1,7 +1,7 @@
 #include "recorders/detect/ModifyApply.h"
 
 #include "app/shell/Boxes.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "support/Conversions.h"
 
 #include <algorithm>

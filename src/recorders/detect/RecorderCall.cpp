@@ -1,8 +1,8 @@
 #include "recorders/detect/RecorderCall.h"
 
 #include "app/language/Languages.h"
+#include "platform/Closing.h"
 #include "platform/MsgBox.h"
-#include "platform/Wait.h"
 
 using namespace Qt::StringLiterals;
 
