@@ -3,7 +3,7 @@
 #include "device/bridge/FinderBridge.h"
 #include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
-#include "platform/Closing.h"
+#include "tests/Await.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -118,8 +118,9 @@ double OurRequests(WebBridge& web, const DeviceAddress& device)
 {
     QElapsedTimer timer;
     timer.start();
+    Work work;
     for (int i = 0; i < kRequests; ++i) {
-        if (!CgiGetFwVersion(web, device).startsWith("OK"_L1))
+        if (!Await(CgiGetFwVersion(web, device, work)).startsWith("OK"_L1))
             std::fputs("request failed\n", stderr);
     }
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;

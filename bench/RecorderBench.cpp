@@ -2,6 +2,7 @@
 // "Add Success!", beside the same requests sent by plain libcurl one after the other in the same run.
 #include "look/style/Theme.h"
 #include "platform/AppPath.h"
+#include "recorders/detect/DetectStatusModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "simulators/SimulatorThread.h"
 
@@ -134,8 +135,8 @@ double Wizard()
     Form_COM com;
     auto recorders = std::make_unique<RecorderSet>();
     const std::vector<NVRAccountRecord> accounts{{0, u"admin"_s, u"admin"_s}};
-    Form_NVRSetting wizard(
-        {com, *recorders, accounts}, [] {}, nullptr);
+    const RecorderEvents events;
+    Form_NVRSetting wizard({com, *recorders, accounts, events}, {}, nullptr);
     wizard.show();
     Expect(QTest::qWaitForWindowExposed(&wizard), "the wizard does not come up");
     QTest::keyClick(Find<QWidget>(wizard, "OptMode_0"), Qt::Key_Space);
@@ -151,7 +152,7 @@ double Wizard()
     QElapsedTimer timer;
     timer.start();
     QTest::mouseClick(next, Qt::LeftButton);
-    while (next->objectName() != "lbNext_2"_L1 || !next->isEnabled()) // the detection runs inside
+    while (next->objectName() != "lbNext_2"_L1 || !next->isEnabled()) // until the detection has ended
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     grid->viewport()->repaint();
     const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
