@@ -3,6 +3,7 @@
 #include "platform/AppPath.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QStandardPaths>
 #include <gmock/gmock.h>
 
@@ -20,6 +21,14 @@ QByteArray TemporaryStation::read(QStringView literal) const
 {
     QFile file(path(literal));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QByteArray TemporaryStation::logs() const
+{
+    QByteArray all;
+    for (const QString& name : QDir(path(u"\\log")).entryList({QStringLiteral("LogSys-*.txt")}))
+        all += read(QString(QStringLiteral("\\log\\") + name));
+    return all;
 }
 
 int main(int argc, char** argv)

@@ -11,6 +11,7 @@ public:
     TemporaryStation();
     QString path(QStringView literal) const;
     QByteArray read(QStringView literal) const;
+    QByteArray logs() const; // the text of all its system logs
 
 private:
     QTemporaryDir m_directory;

@@ -8,7 +8,6 @@
 #include "tests/store/StoreFixture.h"
 
 #include <QElapsedTimer>
-#include <QSqlRecord>
 
 using namespace Qt::StringLiterals;
 using simulators::Family;
@@ -46,19 +45,7 @@ protected:
         work.bSVR_Changed = true;
         FinishNewRecorders(*desk);
     }
-    QString rows(const QString& select)
-    {
-        QSqlQuery query(desk->databases.DBConn->database());
-        QStringList all;
-        EXPECT_TRUE(query.exec(select)) << select.toStdString();
-        while (query.next()) {
-            QStringList cells;
-            for (int i = 0; i < query.record().count(); ++i)
-                cells << query.value(i).toString();
-            all << cells.join(u',');
-        }
-        return all.join(u' ');
-    }
+    QString rows(const QString& select) { return Rows(*desk->databases.DBConn, select, u',', u' '); }
     void statement(const QString& sql)
     {
         QSqlQuery query(desk->databases.DBConn->database());
@@ -67,12 +54,8 @@ protected:
     QString maps() { return rows(u"SELECT iMap_Type, iMap_ID, sName, sParent FROM EMapGroup"_s); }
     QString audit()
     {
-        QSqlQuery query(desk->databases.LogConn->database());
-        QStringList lines;
-        query.exec(u"SELECT Description FROM SystemLog ORDER BY rowid"_s);
-        while (query.next())
-            lines << query.value(0).toString().remove(u"Modify Setting of "_s);
-        return lines.join(u',');
+        const QString all = u"SELECT Description FROM SystemLog ORDER BY rowid"_s;
+        return Rows(*desk->databases.LogConn, all, u' ', u',').remove(u"Modify Setting of "_s);
     }
     QString editMaps() const
     {
@@ -83,13 +66,9 @@ protected:
     }
     void addMap(qint16 type, qint16 id, const QString& name, const QString& parent)
     {
-        EMapGroupRow map;
-        map.iMap_Type = type;
-        map.iMap_ID = id;
-        map.sName = name;
-        map.sParent = parent;
-        map.bChanged = true;
-        desk->emap.edit.push_back(map);
+        EMapGroupRow& map = desk->emap.edit.emplace_back();
+        std::tie(map.iMap_Type, map.iMap_ID, map.sName, map.sParent, map.bChanged) =
+            std::tuple(type, id, name, parent, true);
     }
 
     std::unique_ptr<Station> desk;

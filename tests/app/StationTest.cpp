@@ -14,35 +14,12 @@
 #include <QProcess>
 #include <QSqlDriver>
 
-#include <csignal>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Files may grow to this size only while it lives; -1: as they like. Stands in for a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(qint64 bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit full = m_before;
-        if (bytes >= 0)
-            full.rlim_cur = static_cast<rlim_t>(bytes);
-        setrlimit(RLIMIT_FSIZE, &full);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-};
 
 // A station folder as it may be found at start, and the station that opens it.
 class StationTest : public StoreFixture
@@ -332,7 +309,7 @@ TEST_F(StationTest, ASaveThatFailsLeavesTheOldRowsWholeAndIsTriedAgain)
             ASSERT_TRUE(lock.exec(u"BEGIN IMMEDIATE"_s));
         }
         {
-            const FullDisk full(obstacle == "disk"_L1 ? 60000 : -1);
+            const FullDisk full(obstacle == "disk"_L1 ? 60000 : RLIM_INFINITY);
             SaveCheck(*fresh);
         }
         lock.exec(u"ROLLBACK"_s);

@@ -14,15 +14,7 @@ TEST(RelativeFormat, EachListOfTheFirstEntryThatHoldsTheResolution)
     const QString rule = u"{640x480<1|2><3|4>,320x240<0>}{}{1280x720<><6>,640x480<5,320x240<1|1>}"_s;
     constexpr auto rates = RelativeList::FrameRate;
     constexpr auto bits = RelativeList::BitRate;
-    struct Case
-    {
-        QString rule;
-        int format;
-        QString resolution;
-        RelativeList list;
-        std::optional<QStringList> values;
-    };
-    const Case cases[] = {
+    const std::tuple<QString, int, QString, RelativeList, std::optional<QStringList>> cases[] = {
         {rule, 0, u"640x480"_s, rates, QStringList{u"1"_s, u"2"_s}},
         {rule, 0, u"640x480"_s, bits, QStringList{u"3"_s, u"4"_s}},
         {rule, 0, u"320x240"_s, bits, std::nullopt},              // an entry without a second list
@@ -41,9 +33,9 @@ TEST(RelativeFormat, EachListOfTheFirstEntryThatHoldsTheResolution)
         {QString(kMaxRelativeFormat + 1, u'{'), 0, u"640x480"_s, rates, std::nullopt},
         {u"{640x480<"_s + QString(2 * kMaxListEntries, u'|') + u"7"_s, 0, u"640x480"_s, rates, QStringList{u"7"_s}},
     };
-    for (const Case& row : cases)
-        EXPECT_EQ(RelativeFormatValues(row.rule, row.format, row.resolution, row.list), row.values)
-            << qPrintable(row.rule.left(80)) << ' ' << row.format << ' ' << qPrintable(row.resolution);
+    for (const auto& [text, format, resolution, list, values] : cases)
+        EXPECT_EQ(RelativeFormatValues(text, format, resolution, list), values)
+            << qPrintable(text.left(80)) << ' ' << format << ' ' << qPrintable(resolution);
 }
 
 TEST(CameraProbe, ClosestKeyOfTheAskedSourceWins)

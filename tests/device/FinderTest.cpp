@@ -42,7 +42,7 @@ QStringList Found(const QByteArray& datagram, const QString& sender = u"10.0.0.9
 class Responder : public QObject
 {
 public:
-    explicit Responder(std::function<QByteArray(const QHostAddress&)> datagram)
+    explicit Responder(std::function<QByteArray(quint16 port)> datagram)
     {
         socket.bind(QHostAddress::AnyIPv4, 3702, QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
         joined = socket.joinMulticastGroup(QHostAddress(u"239.255.255.250"_s),
@@ -51,8 +51,8 @@ public:
             while (socket.hasPendingDatagrams()) {
                 const QNetworkDatagram probe = socket.receiveDatagram();
                 ++probes;
-                socket.writeDatagram(datagram(probe.senderAddress()), probe.senderAddress(),
-                                     static_cast<quint16>(probe.senderPort()));
+                const auto port = static_cast<quint16>(probe.senderPort());
+                socket.writeDatagram(datagram(port), probe.senderAddress(), port);
             }
         });
     }
@@ -67,12 +67,7 @@ TEST(ProbeMatches, GiveOneDeviceEachWithWhatTheScopesSay)
 {
     const QByteArray whole = kScope + "name/Gate%20%E4%B8%AD " + kScope + "hardware/N-16 " + kScope +
                              "manufacturer/Acme%2FEast \n " + kScope + "type/svd http://other/name/x";
-    const struct
-    {
-        const char* what;
-        QByteArray datagram;
-        QStringList found;
-    } cases[] = {
+    const std::tuple<const char*, QByteArray, QStringList> cases[] = {
         {"all",
          Envelope(Match(whole, "http://10.0.0.7:8080/onvif/device_service")),
          {u"Gate \u4e2d|10.0.0.7|8080|Acme/East|N-16|S"_s}},
@@ -102,8 +97,8 @@ TEST(ProbeMatches, GiveOneDeviceEachWithWhatTheScopesSay)
         {"not XML", "\xff\xfe\0\0<", {}},
         {"empty", {}, {}},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Found(c.datagram), c.found) << c.what;
+    for (const auto& [what, datagram, found] : cases)
+        EXPECT_EQ(Found(datagram), found) << what;
 }
 
 TEST(ProbeMatches, HostileSizesAreCapped)
@@ -122,7 +117,7 @@ TEST(ProbeMatches, HostileSizesAreCapped)
 TEST(Finder, DevicesStreamInOncePerAddressAndPort)
 {
     int sent = 0;
-    Responder responder([&](const QHostAddress&) {
+    Responder responder([&](quint16) {
         return sent++ == 0 ? Envelope(Match(kScope + "name/finder-test-1", "http://127.9.9.1:81/x"))
                            : Envelope(Match(kScope + "name/finder-test-1", "http://127.9.9.1:81/x") +
                                       Match(kScope + "name/finder-test-2", "http://127.9.9.1:82/x"));
@@ -152,8 +147,7 @@ TEST(Finder, DevicesStreamInOncePerAddressAndPort)
 
 TEST(Finder, AFloodOfGarbageDoesNotHoldUpTheLoopAndAListenerMayStop)
 {
-    Responder responder(
-        [&](const QHostAddress&) { return Envelope(Match(kScope + "name/finder-test-3", "http://127.9.9.3/x")); });
+    Responder responder([&](quint16) { return Envelope(Match(kScope + "name/finder-test-3", "http://127.9.9.3/x")); });
     QUdpSocket attacker;
     FinderBridge finder;
     QObject listener;
@@ -169,13 +163,10 @@ TEST(Finder, AFloodOfGarbageDoesNotHoldUpTheLoopAndAListenerMayStop)
     });
     heart.start(5);
     ASSERT_TRUE(finder.Search());
-    QUdpSocket spy; // an attacker learns the finder's port from its probe
-    spy.bind(QHostAddress::AnyIPv4, 3702, QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
-    spy.joinMulticastGroup(QHostAddress(u"239.255.255.250"_s), QNetworkInterface::interfaceFromName(u"lo"_s));
-    QObject::connect(&spy, &QUdpSocket::readyRead, &listener, [&] {
-        const auto port = static_cast<quint16>(spy.receiveDatagram().senderPort());
+    const Responder spy([&](quint16 port) { // an attacker learns the finder's port from its probe
         for (int i = 0; i < 500; ++i)
             attacker.writeDatagram(QByteArray(1000, '<'), QHostAddress(u"127.0.0.1"_s), port);
+        return QByteArray();
     });
     EXPECT_TRUE(WaitUntil([&] { return found; }, 5));
     EXPECT_FALSE(finder.Searching());
@@ -189,15 +180,12 @@ TEST(Finder, WhatIsStillPendingAtAStopIsNotRead)
     FinderBridge finder;
     QObject listener;
     std::size_t atStop = 0;
-    QUdpSocket spy;
-    spy.bind(QHostAddress::AnyIPv4, 3702, QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
-    spy.joinMulticastGroup(QHostAddress(u"239.255.255.250"_s), QNetworkInterface::interfaceFromName(u"lo"_s));
-    QObject::connect(&spy, &QUdpSocket::readyRead, &listener, [&] {
-        const auto port = static_cast<quint16>(spy.receiveDatagram().senderPort());
+    const Responder spy([&](quint16 port) {
         for (int i = 1; i <= 200 && atStop == 0; ++i) {
             const QByteArray place = "http://127.9.9.4:" + QByteArray::number(i) + "/x";
             attacker.writeDatagram(Envelope(Match(kScope, place)), QHostAddress(u"127.0.0.1"_s), port);
         }
+        return QByteArray();
     });
     // Due before the rest of the datagrams, which are left for the next round of events.
     QObject::connect(

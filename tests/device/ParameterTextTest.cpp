@@ -2,7 +2,6 @@
 #include "support/Conversions.h"
 #include "tests/TestMain.h"
 
-#include <QDir>
 #include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
@@ -60,13 +59,7 @@ TEST(ParameterTexts, ABadNumberCostsItsKeyAndOneLineOfTheLog)
 TEST(ParameterTexts, CodesAndNames)
 {
     TemporaryStation station; // a code that is no number leaves a line in its log
-    const struct
-    {
-        QString (*translate)(const QString&, qint16);
-        QString text;
-        qint16 mode;
-        QString result;
-    } cases[] = {
+    const std::tuple<QString (*)(const QString&, qint16), QString, qint16, QString> cases[] = {
         {GetFMTNameFromCode, u" 1024 "_s, 0, u"H.264"_s},
         {GetFMTNameFromCode, u"MJPEG"_s, 1, u"256"_s},
         {GetFMTNameFromCode, u"mjpeg"_s, 1, u""_s},
@@ -89,34 +82,22 @@ TEST(ParameterTexts, CodesAndNames)
     for (const auto& [translate, text, mode, result] : cases)
         EXPECT_EQ(translate(text, mode), result) << text.toStdString() << " mode " << mode;
     EXPECT_EQ(GetFPSMapping(u"N/A"_s, 0), QString());
-    QDir log(station.path(u"\\log"));
-    const QStringList files = log.entryList({u"LogSys*"_s});
-    ASSERT_EQ(files.size(), 1);
-    EXPECT_EQ(station.read(QString(u"\\log\\"_s + files[0])).count("\"Module_PublicFunction - GetFPSMapping\""), 3);
+    EXPECT_EQ(station.logs().count("\"Module_PublicFunction - GetFPSMapping\""), 3);
 
-    const struct
-    {
-        QString source;
-        qint32 brand;
-        QString family;
-    } types[] = {{u""_s, 0, u"SVR"_s},
-                 {u"SVR"_s, 5, u"SVR"_s},
-                 {u"TXR500"_s, 0, u"SVR"_s},
-                 {u"OmluPro"_s, 5, u"TXR632"_s},
-                 {u"OmluPro"_s, 4, u"OmluPro"_s},
-                 {u"TXR632"_s, 0, u"TXR632"_s},
-                 {u"svr"_s, 0, u""_s}};
+    const std::tuple<QString, qint32, QString> types[] = {{u""_s, 0, u"SVR"_s},
+                                                          {u"SVR"_s, 5, u"SVR"_s},
+                                                          {u"TXR500"_s, 0, u"SVR"_s},
+                                                          {u"OmluPro"_s, 5, u"TXR632"_s},
+                                                          {u"OmluPro"_s, 4, u"OmluPro"_s},
+                                                          {u"TXR632"_s, 0, u"TXR632"_s},
+                                                          {u"svr"_s, 0, u""_s}};
     for (const auto& [source, brand, family] : types)
         EXPECT_EQ(ParameterText::GetsDeviceType(source, brand), family);
 }
 
 TEST(ParameterTexts, EscapeAndItsReverse)
 {
-    const struct
-    {
-        QString plain;
-        QString escaped;
-    } cases[] = {
+    const std::pair<QString, QString> cases[] = {
         {u""_s, u""_s},
         {u"azAZ09@*_+-./"_s, u"azAZ09@*_+-./"_s},
         {u"a b%\t~'"_s, u"a%20b%25%09%7E%27"_s},

@@ -8,7 +8,6 @@
 #include "tests/device/ScriptedServer.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 

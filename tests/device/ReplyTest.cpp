@@ -71,34 +71,31 @@ TEST_F(ChannelReplies, AFullChannelLandsInItsCells)
         <IrisCont>4</IrisCont><SyncPreset>1</SyncPreset><Move> 08</Move><SetPreset>1</SetPreset>
         <ModeList4FishEye>1O:1,2,3</ModeList4FishEye><Mode4FishEye>1O</Mode4FishEye></PTZ>)")),
         1);
+    const SVRChannel& read = svr->channels[1];
+    const SVRProChannel& device = pro->channels[1];
     EXPECT_EQ(svr->channels[0].sSub_CH_Name, u"kept"_s);
-    EXPECT_EQ(svr->channels[1].sSub_CH_Name, u"Tor <Süd&gt; \"2\""_s);
-    EXPECT_EQ(svr->channels[1].sSub_CH_Password, u"p<&w"_s);
-    EXPECT_THAT(
-        (std::vector<qint32>{svr->channels[1].iSub_CH_HttpPort, pro->channels[1].lCH_Pro_RTPSPort,
-                             svr->channels[1].iSub_CH_VideoIDCount, svr->channels[1].iSub_CH_VideoID,
-                             svr->channels[1].iSub_CH_Brand, svr->channels[1].iCH_FPS, svr->channels[1].iCH_Quality,
-                             svr->channels[1].iCH_RateCtrl, svr->channels[1].iCH_BitRate, svr->channels[1].iCH_GOP,
-                             svr->channels[1].iCH_Rotation}),
-        ElementsAre(70000, 65536, 4, 2, 55, 15, 3, 1, 6, 30, 90));
-    EXPECT_THAT((std::vector<qint16>{svr->channels[1].iCH_PTZ_MoveContCap, svr->channels[1].iCH_PTZ_ZoomContCap,
-                                     svr->channels[1].iCH_PTZ_FocusContCap, svr->channels[1].iCH_PTZ_IrisContCap}),
+    EXPECT_EQ(read.sSub_CH_Name, u"Tor <Süd&gt; \"2\""_s);
+    EXPECT_EQ(read.sSub_CH_Password, u"p<&w"_s);
+    EXPECT_THAT((std::vector<qint32>{read.iSub_CH_HttpPort, device.lCH_Pro_RTPSPort, read.iSub_CH_VideoIDCount,
+                                     read.iSub_CH_VideoID, read.iSub_CH_Brand, read.iCH_FPS, read.iCH_Quality,
+                                     read.iCH_RateCtrl, read.iCH_BitRate, read.iCH_GOP, read.iCH_Rotation}),
+                ElementsAre(70000, 65536, 4, 2, 55, 15, 3, 1, 6, 30, 90));
+    EXPECT_THAT((std::vector<qint16>{read.iCH_PTZ_MoveContCap, read.iCH_PTZ_ZoomContCap, read.iCH_PTZ_FocusContCap,
+                                     read.iCH_PTZ_IrisContCap}),
                 ElementsAre(1, 2, 3, 4));
     EXPECT_THAT(
-        (QStringList{svr->channels[1].sSub_CH_IP, svr->channels[1].sSub_CH_UserName, pro->channels[1].sCH_Pro_Model,
-                     pro->channels[1].sCH_Pro_Mac, svr->channels[1].sSub_CH_VideoFormat,
-                     svr->channels[1].sSub_CH_Resolution, pro->channels[1].sCH_Pro_LensMode,
-                     pro->channels[1].sCH_Pro_LeftDisplayMode, pro->channels[1].sCH_Pro_AudioType}),
+        (QStringList{read.sSub_CH_IP, read.sSub_CH_UserName, device.sCH_Pro_Model, device.sCH_Pro_Mac,
+                     read.sSub_CH_VideoFormat, read.sSub_CH_Resolution, device.sCH_Pro_LensMode,
+                     device.sCH_Pro_LeftDisplayMode, device.sCH_Pro_AudioType}),
         ElementsAre(u"10.0.0.9"_s, u"root"_s, u"M1"_s, u"00:11"_s, u"h264"_s, u"640x480"_s, u"L"_s, u"a"_s, u"g711"_s));
-    EXPECT_THAT((QStringList{svr->channels[1].sCH_FMTList, pro->channels[1].sCH_Pro_LensModeList,
-                             pro->channels[1].sCH_Pro_RightDisplayModeList, svr->channels[1].sCH_ResolutionList,
-                             svr->channels[1].sCH_PTZ_Speed_Range, svr->channels[1].sCH_PTZ_PanTilt_Range,
-                             svr->channels[1].sSub_CH_MD_FishEyeModeList, svr->channels[1].sSub_CH_Mode4FishEye}),
+    EXPECT_THAT((QStringList{read.sCH_FMTList, device.sCH_Pro_LensModeList, device.sCH_Pro_RightDisplayModeList,
+                             read.sCH_ResolutionList, read.sCH_PTZ_Speed_Range, read.sCH_PTZ_PanTilt_Range,
+                             read.sSub_CH_MD_FishEyeModeList, read.sSub_CH_Mode4FishEye}),
                 ElementsAre(u"jpeg,mpeg4,h264"_s, u"L,R"_s, u""_s, u"640x480,320x240;;1920x1080"_s, u"1,9,2"_s, u"8"_s,
                             u"1O:1,2,3"_s, u"1O"_s));
-    EXPECT_TRUE(svr->channels[1].bSub_CH_PTZ && pro->channels[1].bCH_Pro_ABS && pro->channels[1].bCH_Pro_SetPreset);
-    EXPECT_EQ(pro->channels[1].iCH_Pro_AutoPanMode, 2);
-    EXPECT_EQ(pro->channels[1].iCH_Pro_SyncPreset, 1);
+    EXPECT_TRUE(read.bSub_CH_PTZ && device.bCH_Pro_ABS && device.bCH_Pro_SetPreset);
+    EXPECT_EQ(device.iCH_Pro_AutoPanMode, 2);
+    EXPECT_EQ(device.iCH_Pro_SyncPreset, 1);
 }
 
 TEST_F(ChannelReplies, FormatAttributesLandInTheSlotThatThePreviousFormatLeft)
@@ -131,11 +128,7 @@ TEST_F(ChannelReplies, FormatAttributesLandInTheSlotThatThePreviousFormatLeft)
 
 TEST_F(ChannelReplies, OrderOfAudioAndSpeedElementsMatters)
 {
-    const struct
-    {
-        const char* audio;
-        qint16 result;
-    } cases[] = {
+    const std::pair<const char*, qint16> cases[] = {
         {"<CapAudioIn>1</CapAudioIn><CapAudioOut>0</CapAudioOut>", 1},
         {"<CapAudioIn>1</CapAudioIn><CapAudioOut>1</CapAudioOut>", 2},
         {"<CapAudioOut>1</CapAudioOut><CapAudioIn>1</CapAudioIn>", 1},

@@ -11,68 +11,28 @@ using ::testing::ElementsAre;
 
 namespace {
 
+// In the order of the request.
 ChannelSettings FullChannel()
 {
-    return {.CH = 3,
-            .Name = u"Gate 2 & Süd"_s,
-            .IP = u"10.0.0.9"_s,
-            .HTTPPort = 70000,
-            .UserName = u"root"_s,
-            .Password = u"a<b"_s,
-            .VideoNumber = 1,
-            .BrandCode = 55,
-            .Model = u"M1"_s,
-            .MACAddress = u"00:11"_s,
-            .RtspPort = 554,
-            .FMT = u"h264"_s,
-            .Size = u"640x480"_s,
-            .FPS = 15,
-            .Quality = -1,
-            .RateControl = 1,
-            .Bitrate = 5,
-            .GOP = 30,
-            .LensMode = u"L"_s,
-            .LeftDisplayMode = u"D1"_s,
-            .RightDisplayMode = u"D2"_s,
-            .AudioFMT = u"g711"_s};
+    return {3,        u"Gate 2 & Süd"_s, u"10.0.0.9"_s, 70000, u"root"_s, u"a<b"_s, 1, 55, u"M1"_s, u"00:11"_s, 554,
+            0,        u"h264"_s,         u"640x480"_s,  15,    -1,        1,        5, 30, u"L"_s,  u"D1"_s,    u"D2"_s,
+            u"g711"_s};
 }
 
 std::vector<ActionRecord> Actions()
 {
     return {{.CH = 2, .Event = 2001, .Enable = 1},
             {.CH = 1, .Event = 2001, .Enable = 0},
-            {.CH = 3,
-             .Event = 1,
-             .ActionGroup = 2,
-             .TriggerID = 3,
-             .DigitalOut = 4,
-             .Preset = 5,
-             .DigitalOutID = 6,
-             .DigitalOutState = 7,
-             .DODuration = 8,
-             .PresetDest = 9,
-             .Enable = 1}};
+            {3, 1, 2, 3, 4, 5, 6, 7, 8, 9, 1}};
 }
 
 PresetRecord Presets()
 {
     PresetRecord record;
-    const auto set = [&](std::size_t slot, const QString& name, qint16 channel) -> PresetEntry& {
-        PresetEntry& preset = record.Presets[slot];
-        preset.ID = static_cast<qint16>(slot + 1);
-        preset.Name = name;
-        preset.CH = channel;
-        return preset;
-    };
-    PresetEntry& full = set(0, u"Gate"_s, 64);
-    full.Pan = u"10"_s;
-    full.Tilt = u"-5"_s;
-    full.Zoom = u"2"_s;
-    full.Focus = u"0"_s;
-    full.PTZABS = true;
-    set(1, u"Gone"_s, 64).Deleted = true;
-    set(2, u"Other channel's"_s, 63);
-    set(7, u"Yard"_s, 64);
+    record.Presets[0] = {1, u"Gate"_s, u"10"_s, u"-5"_s, u"2"_s, u"0"_s, 64, true, false};
+    record.Presets[1] = {2, u"Gone"_s, {}, {}, {}, {}, 64, false, true};
+    record.Presets[2] = {3, u"Other channel's"_s, {}, {}, {}, {}, 63, false, false};
+    record.Presets[7] = {8, u"Yard"_s, {}, {}, {}, {}, 64, false, false};
     return record;
 }
 
@@ -88,11 +48,7 @@ TEST(Requests, GoOutByteForByte)
     std::vector<PresetRecord> presets(64);
     presets[63] = Presets();
 
-    const struct
-    {
-        QString built;
-        const char* expected;
-    } cases[] = {
+    const std::pair<QString, const char*> cases[] = {
         {BuildGetSystemInfo(), R"(<CMD ID="4100"><UserData>CMS_Core</UserData><Param></Param></CMD>)"},
         {BuildGetDeviceInfo(), R"(<CMD ID="40965" />)"},
         {BuildGetTime(), R"(<CMD ID="35844"></CMD>)"},
@@ -184,12 +140,7 @@ TEST(Requests, ChannelsAndRecordersOutOfRangeAreRefused)
 
 TEST(Requests, OutcomeOfAWrite)
 {
-    const struct
-    {
-        const char* reply;
-        qint16 outcome;
-        bool accepted;
-    } cases[] = {
+    const std::tuple<const char*, qint16, bool> cases[] = {
         {R"(<RESPONSE RET="0"><UserData>CMS_Core</UserData></RESPONSE>)", 1, true},
         {R"(<?xml version="1.0" encoding="gb2312"?><RESPONSE Time="9" RET="0"/>)", 1, true},
         {R"(<RESPONSE RET="5"/>)", 5, true},
@@ -235,7 +186,7 @@ protected:
     QString told;
 };
 
-TEST_F(EventSettings, AreWrittenInTheDevicesOrder)
+TEST_F(EventSettings, AreWrittenInTheDevicesOrderAndStopAtARefusal)
 {
     EXPECT_EQ(apply(true), 1);
     EXPECT_THAT(sent,
@@ -243,10 +194,7 @@ TEST_F(EventSettings, AreWrittenInTheDevicesOrder)
     EXPECT_EQ(apply(false), 1);
     EXPECT_THAT(sent, ElementsAre(CMD_SET_ACTION_LIST, CMD_SAVE_CONFIG));
     EXPECT_TRUE(told.isEmpty());
-}
 
-TEST_F(EventSettings, StopAtARefusedWrite)
-{
     EXPECT_EQ(apply(true, {{CMD_SET_MOTION_DETECT, kRefused}}), -1);
     EXPECT_THAT(sent, ElementsAre(CMD_SET_MOTION_DETECT));
     EXPECT_EQ(apply(true, {{CMD_SET_ACTION_LIST, QString()}}), -1);

@@ -40,13 +40,7 @@ Answer AskWith(DeskMessageBox& box, const std::function<void()>& user)
 
 TEST(LookBox, KeysAnswer)
 {
-    const struct
-    {
-        Kind kind;
-        std::optional<Answer> preset; // without one the kind decides
-        QList<Qt::Key> keys;
-        Answer expected;
-    } cases[] = {
+    const std::tuple<Kind, std::optional<Answer>, QList<Qt::Key>, Answer> cases[] = {
         {Kind::Information, Answer::Ok, {Qt::Key_Return}, Answer::Ok},
         {Kind::Information, Answer::Ok, {Qt::Key_Escape}, Answer::Ok},
         {Kind::Warning, Answer::Ok, {Qt::Key_Space}, Answer::Ok},
@@ -64,15 +58,15 @@ TEST(LookBox, KeysAnswer)
         {Kind::Destroy, {}, {Qt::Key_Escape}, Answer::No},
         {Kind::Destroy, {}, {Qt::Key_Tab, Qt::Key_Return}, Answer::Yes},
     };
-    for (const auto& each : cases) {
-        DeskMessageBox box(each.kind, u"Save the changes?"_s, u"Information"_s);
-        if (each.preset)
-            box.setDefaultAnswer(*each.preset);
+    for (const auto& [kind, preset, keys, expected] : cases) {
+        DeskMessageBox box(kind, u"Save the changes?"_s, u"Information"_s);
+        if (preset)
+            box.setDefaultAnswer(*preset);
         const Answer answer = AskWith(box, [&] {
-            for (const Qt::Key key : each.keys)
+            for (const Qt::Key key : keys)
                 QTest::keyClick(box.focusWidget() ? box.focusWidget() : &box, key);
         });
-        EXPECT_EQ(answer, each.expected) << "kind " << static_cast<int>(each.kind) << " key " << each.keys.first();
+        EXPECT_EQ(answer, expected) << "kind " << static_cast<int>(kind) << " key " << keys.first();
     }
 }
 

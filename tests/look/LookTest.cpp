@@ -118,15 +118,10 @@ std::unique_ptr<QWidget> MakeSample()
 
 TEST(LookTheme, TextKeepsItsContrastOnEveryGround)
 {
-    const QList<QLatin1StringView> grounds{"background"_L1, "rail"_L1,  "railHover"_L1, "surface"_L1,
-                                           "raised"_L1,     "field"_L1, "hover"_L1,     "accentGround"_L1};
-    struct
-    {
-        QList<QLatin1StringView> inks;
-        QList<QLatin1StringView> grounds;
-        double least;
-    } const rules[] = {
-        {{"text"_L1, "muted"_L1}, grounds, 4.5},
+    const QList<QLatin1StringView> everywhere{"background"_L1, "rail"_L1,  "railHover"_L1, "surface"_L1,
+                                              "raised"_L1,     "field"_L1, "hover"_L1,     "accentGround"_L1};
+    const std::tuple<QList<QLatin1StringView>, QList<QLatin1StringView>, double> rules[] = {
+        {{"text"_L1, "muted"_L1}, everywhere, 4.5},
         {{"text"_L1}, {"raisedHover"_L1, "raisedPressed"_L1}, 4.5},
         {{"ok"_L1, "warning"_L1, "bad"_L1, "accent"_L1}, {"background"_L1, "surface"_L1, "raised"_L1}, 4.5},
         {{"onFilled"_L1},
@@ -138,13 +133,13 @@ TEST(LookTheme, TextKeepsItsContrastOnEveryGround)
         // what is switched off stays readable; borders of fields and the focus ring stay visible
         {{"disabled"_L1}, {"background"_L1, "surface"_L1, "raised"_L1}, 3.0},
         {{"control"_L1}, {"surface"_L1, "field"_L1, "background"_L1, "raised"_L1}, 3.0},
-        {{"accent"_L1}, grounds, 3.0},
+        {{"accent"_L1}, everywhere, 3.0},
     };
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark})
-        for (const auto& rule : rules)
-            for (const auto ink : rule.inks)
-                for (const auto ground : rule.grounds)
-                    EXPECT_GE(Contrast(Token(scheme, ink), Token(scheme, ground)), rule.least)
+        for (const auto& [inks, grounds, least] : rules)
+            for (const auto ink : inks)
+                for (const auto ground : grounds)
+                    EXPECT_GE(Contrast(Token(scheme, ink), Token(scheme, ground)), least)
                         << (scheme == Scheme::Dark ? "dark " : "light ") << ink.data() << " on " << ground.data();
 }
 
@@ -157,20 +152,15 @@ TEST(LookTheme, EnvironmentDecidesBeforeTheDesktop)
         palette.setColor(QPalette::WindowText, QColor(text));
         QApplication::setPalette(palette);
     };
-    struct
-    {
-        const char* environment;
-        bool darkDesktop;
-        Scheme expected;
-    } const cases[] = {{"", true, Scheme::Dark},
-                       {"", false, Scheme::Light},
-                       {"dark", false, Scheme::Dark},
-                       {"LIGHT", true, Scheme::Light},
-                       {"purple", true, Scheme::Dark}};
-    for (const auto& each : cases) {
-        qputenv("RIGGING_DESK_THEME", each.environment);
-        desktop(each.darkDesktop ? 0xff202020 : 0xfff0f0f0, each.darkDesktop ? 0xfff0f0f0 : 0xff202020);
-        EXPECT_EQ(InitialScheme(), each.expected) << each.environment << each.darkDesktop;
+    const std::tuple<const char*, bool, Scheme> cases[] = {{"", true, Scheme::Dark},
+                                                           {"", false, Scheme::Light},
+                                                           {"dark", false, Scheme::Dark},
+                                                           {"LIGHT", true, Scheme::Light},
+                                                           {"purple", true, Scheme::Dark}};
+    for (const auto& [environment, darkDesktop, expected] : cases) {
+        qputenv("RIGGING_DESK_THEME", environment);
+        desktop(darkDesktop ? 0xff202020 : 0xfff0f0f0, darkDesktop ? 0xfff0f0f0 : 0xff202020);
+        EXPECT_EQ(InitialScheme(), expected) << environment << darkDesktop;
     }
     qunsetenv("RIGGING_DESK_THEME");
     QApplication::setPalette(before);
@@ -276,15 +266,11 @@ TEST(LookNavRail, KeyboardWalksTheEntriesOnShow)
     QSignalSpy clicked(&rail, &NavRail::entryClicked);
 
     rail.entry(0)->setFocus();
-    const struct
-    {
-        Qt::Key key;
-        int focus;
-    } steps[] = {{Qt::Key_Down, 3}, {Qt::Key_Down, 4}, {Qt::Key_Down, 0}, {Qt::Key_Up, 4},
-                 {Qt::Key_Home, 0}, {Qt::Key_End, 4},  {Qt::Key_Up, 3}};
-    for (const auto& step : steps) {
-        QTest::keyClick(QApplication::focusWidget(), step.key);
-        ASSERT_EQ(QApplication::focusWidget(), rail.entry(step.focus));
+    const std::pair<Qt::Key, int> steps[] = {{Qt::Key_Down, 3}, {Qt::Key_Down, 4}, {Qt::Key_Down, 0}, {Qt::Key_Up, 4},
+                                             {Qt::Key_Home, 0}, {Qt::Key_End, 4},  {Qt::Key_Up, 3}};
+    for (const auto& [key, focus] : steps) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        ASSERT_EQ(QApplication::focusWidget(), rail.entry(focus));
     }
     EXPECT_EQ(rail.currentIndex(), 0) << "walking alone opens no page";
     QTest::keyClick(rail.entry(3), Qt::Key_Return);
@@ -333,18 +319,14 @@ TEST(LookNavRail, DotHasWords)
 TEST(LookFields, TheEyeShowsTypedPasswordsOnly)
 {
     QGuiApplication::clipboard()->setText(u"new"_s);
-    const struct
-    {
-        const char* what;
-        QList<QKeyCombination> keys;
-        QString expected;
-    } cases[]{{"typed at the end", {Qt::Key_End, Qt::Key_X}, u"x"_s},
-              {"typed into a part chosen", {Qt::Key_Home, Qt::SHIFT | Qt::Key_Right, Qt::Key_X}, u"x"_s},
-              {"one letter removed", {Qt::Key_Backspace}, {}},
-              {"pasted", {Qt::Key_Home, Qt::CTRL | Qt::Key_V}, u"new"_s},
-              {"undone", {Qt::Key_X, Qt::CTRL | Qt::Key_Z}, {}}};
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.what);
+    const std::tuple<const char*, QList<QKeyCombination>, QString> cases[] = {
+        {"typed at the end", {Qt::Key_End, Qt::Key_X}, u"x"_s},
+        {"typed into a part chosen", {Qt::Key_Home, Qt::SHIFT | Qt::Key_Right, Qt::Key_X}, u"x"_s},
+        {"one letter removed", {Qt::Key_Backspace}, {}},
+        {"pasted", {Qt::Key_Home, Qt::CTRL | Qt::Key_V}, u"new"_s},
+        {"undone", {Qt::Key_X, Qt::CTRL | Qt::Key_Z}, {}}};
+    for (const auto& [what, keys, expected] : cases) {
+        SCOPED_TRACE(what);
         PasswordField field;
         field.setEyeTexts(u"Show"_s, u"Hide"_s, u"Stored"_s);
         field.show();
@@ -358,9 +340,9 @@ TEST(LookFields, TheEyeShowsTypedPasswordsOnly)
         EXPECT_EQ(field.echoMode(), QLineEdit::Password);
         EXPECT_EQ(eye->toolTip(), u"Stored"_s);
         EXPECT_EQ(field.text(), u"secret"_s);
-        for (const QKeyCombination& key : test.keys)
+        for (const QKeyCombination& key : keys)
             QTest::keyClick(&field, key.key(), key.keyboardModifiers());
-        EXPECT_EQ(field.text(), test.expected);
+        EXPECT_EQ(field.text(), expected);
         QTest::keyClick(eye, Qt::Key_Space);
         EXPECT_EQ(field.echoMode(), QLineEdit::Normal);
         EXPECT_EQ(eye->accessibleName(), u"Hide"_s);

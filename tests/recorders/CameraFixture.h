@@ -7,7 +7,6 @@
 #include "tests/TestMain.h"
 
 #include <QDeadlineTimer>
-#include <QDir>
 #include <gmock/gmock.h>
 
 // A recorder of one family in a thread, detected into slot 0 and open in the edit pair.
@@ -101,16 +100,7 @@ protected:
         page->choose(control, at);
         return at >= 0;
     }
-    QByteArray log() const
-    {
-        QByteArray text;
-        const QDir folder(station.path(u"\\log"));
-        for (const QString& name : folder.entryList({QStringLiteral("LogSys-*")}, QDir::Files)) {
-            QFile file(folder.filePath(name));
-            text += file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-        }
-        return text;
-    }
+    QByteArray log() const { return station.logs(); }
 
     TemporaryStation station;
     Form_COM com;

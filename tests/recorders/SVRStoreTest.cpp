@@ -48,22 +48,17 @@ protected:
         if (name == "iSVR_Num"_L1 || name == "iSVRId"_L1)
             return;
         const QString streams = u"%1;%2;%3"_s;
-        if (name.endsWith("Upper"_L1) || name.endsWith("Lower"_L1)) {
-            if (name.contains("Quality"_L1))
-                column.read(row, streams.arg(seed).arg(seed + 1).arg(-1));
-            else
-                column.read(row, u"30,25,%1;-1;5"_s.arg(seed));
-        } else if (name.endsWith("Cap"_L1) && name.startsWith("sCH_Pro"_L1)) {
+        const QStringList numbers{u"sCH_Pro_GOP"_s, u"sCH_Pro_FrameRate"_s, u"sCH_Pro_Quality"_s, u"sCH_Pro_BitRate"_s};
+        if (name.endsWith("Upper"_L1) || name.endsWith("Lower"_L1))
+            column.read(row, name.contains("Quality"_L1) ? streams.arg(seed).arg(seed + 1).arg(-1)
+                                                         : u"30,25,%1;-1;5"_s.arg(seed));
+        else if (name.endsWith("Cap"_L1) && name.startsWith("sCH_Pro"_L1))
             column.read(row, u"1;0;1"_s);
-        } else if (column.info.type == FieldType::Text) {
-            const bool numbers = name == "sCH_Pro_GOP"_L1 || name == "sCH_Pro_FrameRate"_L1 ||
-                                 name == "sCH_Pro_Quality"_L1 || name == "sCH_Pro_BitRate"_L1;
-            column.read(row, numbers ? streams.arg(seed).arg(-1).arg(3) : u"t%1,640x480;u'%1';\"v\""_s.arg(seed));
-        } else if (column.info.type == FieldType::Bool) {
-            column.read(row, 1);
-        } else {
-            column.read(row, seed);
-        }
+        else if (column.info.type == FieldType::Text)
+            column.read(row, numbers.contains(name) ? streams.arg(seed).arg(-1).arg(3)
+                                                    : u"t%1,640x480;u'%1';\"v\""_s.arg(seed));
+        else
+            column.read(row, column.info.type == FieldType::Bool ? 1 : seed);
     }
     QVariantList rowValues(const RecorderSet& from, int slot, int channel, bool pro) const
     {

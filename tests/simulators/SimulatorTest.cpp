@@ -1,10 +1,7 @@
 #include "simulators/SimulatorThread.h"
 
-#include <QCryptographicHash>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QNetworkDatagram>
-#include <QNetworkInterface>
 #include <QTcpSocket>
 #include <QTimer>
 #include <gmock/gmock.h>
@@ -102,24 +99,17 @@ std::unique_ptr<Site> siteOf(const QStringList& devices)
 
 } // namespace
 
-TEST(Simulator, ChannelWritesAreReadBackAndLostUnlessSaved)
+TEST(Simulator, ChannelWritesAreLostUnlessSaved)
 {
     const auto site = siteOf({u"TXR632,channels=8,cameras=4"_s});
     Device& device = site->device(0);
     ASSERT_EQ(retOf(post(device, channelXml("640x480"))), 0);
-    const QByteArray list = post(device, tagged(24582, "<CHList><CH>2</CH></CHList>"));
-    for (const char* part : {"<Name>Tür門</Name>", "<HTTPPort>8088</HTTPPort>", "<Size>640x480</Size>", "<FPS>10</FPS>",
-                             "<Password>p1</Password>", "<RateControl>1</RateControl>"})
-        EXPECT_TRUE(list.contains(part)) << part;
     device.reboot();
     EXPECT_EQ(device.channel(2).camera.httpPort, 80);
-
     post(device, channelXml("640x480"));
     ASSERT_EQ(retOf(post(device, "<CMD ID=\"40963\"><Param><Type>7</Type></Param></CMD>")), 0);
     device.reboot();
     EXPECT_EQ(device.channel(2).camera.httpPort, 8088);
-    ASSERT_EQ(retOf(post(device, tagged(24581, "<CH>2</CH>", "CONFIG_AP"))), 0);
-    EXPECT_TRUE(device.channel(2).camera.ip.isEmpty());
 }
 
 TEST(Simulator, RefusesWhatDoesNotFitAndWritesNothing)
@@ -155,97 +145,48 @@ TEST(Simulator, RefusesWhatDoesNotFitAndWritesNothing)
     EXPECT_EQ(device.log().front().body, "type=action&xml=" + channelXml("800x600"));
 }
 
-TEST(Simulator, PresetsSequencesAndActionsAreReadBack)
+TEST(Simulator, WhatWasWrittenIsReadBack)
 {
-    const auto site = siteOf({u"TXR632,channels=8,cameras=8,presets=2"_s});
-    Device& device = site->device(0);
-    ASSERT_EQ(retOf(post(device, "<CMD ID=\"12289\"><Param><CH>4</CH><Direction>4</Direction><Speed>6</Speed><Cont>1"
-                                 "</Cont></Param></CMD>")),
-              0);
-    EXPECT_TRUE(device.channel(4).moving);
-    ASSERT_EQ(retOf(post(device, tagged(12301, "<CH>4</CH><ID>5</ID><Name>Ecke &amp; Tor</Name>"))), 0);
-    EXPECT_TRUE(post(device, tagged(4101, "<CH>4</CH>"))
-                    .contains("<Preset ID=\"5\"><Name>Ecke &amp; Tor</Name><PTZABS>0</PTZABS><Pan>6</Pan>"));
-    ASSERT_EQ(
-        retOf(post(device, tagged(32859, "<CHList><CH ID=\"4\"><SeqList><Seq ID=\"1\"><PresetList><Preset ID=\"5\" "
-                                         "DwellTime=\"20\"/><Preset ID=\"1\" DwellTime=\"20\"/></PresetList></Seq>"
-                                         "</SeqList></CH></CHList>"))),
-        0);
-    EXPECT_TRUE(post(device, "<CMD ID=\"32858\" ><Param><CHList><CH>4</CH></CHList></Param></CMD>")
-                    .contains("<Preset ID=\"5\" DwellTime=\"20\"/><Preset ID=\"1\" DwellTime=\"20\"/>"));
-
+    const auto site = siteOf({u"TXR632,channels=8,cameras=8,presets=2"_s, u"SVR,channels=8,cameras=4"_s});
+    site->device(0).state().refusedEventChannels = {2};
     const QByteArray action = "<Action CH=\"3\" Event=\"2001\" ActionGroup=\"1\" TriggerID=\"2\" DigitalOut=\"0\" "
                               "Preset=\"4\" DigitalOutID=\"5\" DigitalOutState=\"6\" DODuration=\"7\" PresetDest=\"8\" "
-                              "Enable=\"1\"/>";
-    ASSERT_EQ(retOf(post(device, "<CMD ID=\"32775\"><Param><ActionList>" + action + "\r\n</ActionList></Param></CMD>")),
-              0);
-    QByteArray read = post(device, "<CMD ID=\"32777\" ></CMD>");
-    EXPECT_TRUE(read.replace(" />", "/>").contains(action)) << read.constData();
-
-    device.state().refusedEventChannels = {2};
-    ASSERT_EQ(
-        retOf(post(device, "<CMD ID=\"32788\"><Param><MotionDetectList><MotionDetect CH=\"2\" CameraEnable =\"1\"/>"
-                           "<MotionDetect CH=\"3\" CameraEnable =\"1\"/></MotionDetectList></Param></CMD>")),
-        0);
-    EXPECT_FALSE(device.channel(2).motionEnabled);
-    EXPECT_TRUE(device.channel(3).motionEnabled);
-    read = post(device, "<CMD ID=\"4113\" />");
-    EXPECT_TRUE(read.contains("<CH ID=\"2\" MDRet=\"-1\" DIRet=\"0\"") && read.contains("<CH ID=\"3\" MDRet=\"0\""));
-}
-
-TEST(Simulator, ParameterTextIsReadBack)
-{
-    const auto site = siteOf({u"SVR,channels=8,cameras=4,events=250"_s});
-    Device& device = site->device(0);
-    EXPECT_TRUE(
-        bodyOf(get(device, "/param.cgi?action=set&camera_c2.device.name=T%FCr%u9580&camera_c2.device.format=768&"
-                           "camera_c2.device.resolution=320x240&camera_c2.device.fps=2"))
-            .contains("RET=\"0\""));
-    EXPECT_EQ(device.channel(2).camera.name, u"Tür門"_s);
-    const QByteArray read = bodyOf(get(device, "/param.cgi?action=get&group=camera_c2.device"));
-    EXPECT_TRUE(read.contains("camera_c2.device.name=T%FCr%u9580\r\n") && read.contains(".format=768\r\n"));
-    const struct
-    {
-        QByteArray target;
-        QByteArray holds;
-    } table[] = {
+                              "Enable=\"1\"";
+    const QByteArray steps = "<Preset ID=\"5\" DwellTime=\"20\"/><Preset ID=\"1\" DwellTime=\"20\"/>";
+    const std::pair<QByteArray, QByteArray> commands[] = {
+        {"<CMD ID=\"12289\"><Param><CH>4</CH><Direction>4</Direction><Speed>6</Speed><Cont>1</Cont></Param></CMD>",
+         "\"0\""},
+        {tagged(12301, "<CH>4</CH><ID>5</ID><Name>Ecke &amp; Tor</Name>"), "RET=\"0\""},
+        {tagged(4101, "<CH>4</CH>"), "<Preset ID=\"5\"><Name>Ecke &amp; Tor</Name><PTZABS>0</PTZABS><Pan>6</Pan>"},
+        {tagged(32859, "<CHList><CH ID=\"4\"><SeqList><Seq ID=\"1\"><PresetList>" + steps +
+                           "</PresetList></Seq></SeqList></CH></CHList>"),
+         "RET=\"0\""},
+        {"<CMD ID=\"32858\" ><Param><CHList><CH>4</CH></CHList></Param></CMD>", steps},
+        {"<CMD ID=\"32775\"><Param><ActionList>" + action + "/>\r\n</ActionList></Param></CMD>", "RET=\"0\""},
+        {"<CMD ID=\"32777\" ></CMD>", action},
+        {"<CMD ID=\"32788\"><Param><MotionDetectList><MotionDetect CH=\"2\" CameraEnable =\"1\"/><MotionDetect "
+         "CH=\"3\" CameraEnable =\"1\"/></MotionDetectList></Param></CMD>",
+         "RET=\"0\""},
+        {"<CMD ID=\"4113\" />", "<CH ID=\"2\" MDRet=\"-1\" DIRet=\"0\""},
+    };
+    for (const auto& [xml, holds] : commands)
+        EXPECT_TRUE(post(site->device(0), xml).contains(holds)) << xml.constData();
+    const std::pair<QByteArray, QByteArray> targets[] = {
+        {"/param.cgi?action=set&camera_c2.device.name=T%FCr%u9580&camera_c2.device.format=768&camera_c2.device."
+         "resolution=320x240&camera_c2.device.fps=2",
+         "RET=\"0\""},
+        {"/param.cgi?action=get&group=camera_c2.device", "camera_c2.device.name=T%FCr%u9580\r\n"},
         {"/param.cgi?action=set&camera_c2.device.resolution=1x1", "RET=\"-3\""},
-        {"/param.cgi?action=set&camera_c4.ptz.presetseqlist=2,1", "RET=\"0\""},
-        {"/param.cgi?action=set&camera_c4.ptz.presetseqlist=8", "RET=\"-3\""},
-        {"/param.cgi?action=get&group=camera_c4.ptz.presetseqlist", "camera_c4.ptz.presetseqlist=2,1\r\n"},
         {"/event/basicevent.cgi?action=set&svr=3&camera_c1=1,2&camera_c3=&customevent_c2=2&httpenabled=1", "OK"},
         {"/event/basicevent.cgi?action=get", "camera_c1=1,2;\r\ncamera_c2=2;\r\ncamera_c3=;\r\n"},
         {"/system/detectcam.cgi?ipaddr=192.168.10.21&httpport=80&username=root&password=no&brand=", "Error"},
-        {"/ptz.cgi?channel=4&action=setpreset&preset=3&name=Ecke%20n", "RET=\"0\""},
-        {"/ptz.cgi?channel=4&action=goto&preset=2&speed=1", "RET=\"0\""},
-        {"/ptz.cgi?channel=4&action=move&direction=3&speed=4", "RET=\"0\""},
         {"/ptz.cgi?channel=4&action=move&direction=3&speed=11", "RET=\"-3\""},
-        {"/snapshot.cgi?channel=4", "image/jpeg\r\n"},
+        {"/snapshot.cgi?channel=4", "\r\n\r\n\xff\xd8\xff"},
         {"/snapshot.cgi?channel=5", "404"},
         {"/cmd.cgi?x", "404"},
     };
-    for (const auto& row : table)
-        EXPECT_TRUE(get(device, row.target).contains(row.holds)) << row.target.constData();
-    EXPECT_EQ(device.channel(4).presets.back().name, u"Ecke n"_s);
-    EXPECT_EQ(device.channel(4).position.pan, 16); // preset 2 lies at 20, four to the left
-    EXPECT_TRUE(bodyOf(get(device, "/snapshot.cgi?channel=4")).startsWith("\xff\xd8\xff"));
-    EXPECT_EQ(device.state().eventSlot, 3);
-    device.reboot();
-    EXPECT_EQ(device.channel(1).cameraEvents, 3);
-
-    // All pages together hold every event once.
-    QList<QByteArray> entries;
-    QByteArray from = "1700000000";
-    for (int page = 0; page < 10 && !from.isEmpty(); ++page) {
-        const QList<QByteArray> lines = bodyOf(get(device, "/event/searchevent.cgi?time=" + from)).split('\n');
-        const bool more = lines.first().startsWith("OK continue=");
-        for (const QByteArray& entry : lines.at(more ? 2 : 1).trimmed().split(','))
-            if (!entry.isEmpty())
-                entries += entry;
-        from = more ? lines.at(1).trimmed().mid(5) : QByteArray();
-    }
-    EXPECT_EQ(entries.size(), 250);
-    EXPECT_EQ(QSet<QByteArray>(entries.begin(), entries.end()).size(), 250);
+    for (const auto& [target, holds] : targets)
+        EXPECT_TRUE(get(site->device(1), target).contains(holds)) << target.constData();
 }
 
 TEST(Simulator, TurnsAwayWrongLogins)
@@ -259,24 +200,9 @@ TEST(Simulator, TurnsAwayWrongLogins)
         EXPECT_TRUE(reply.startsWith("HTTP/1.1 401 ") && reply.contains("WWW-Authenticate: Basic"));
     }
 
-    // The answer to a challenge as RFC 7616 computes it.
     const Device& digest = site->device(1);
-    EXPECT_TRUE(get(digest, "/login.cgi").startsWith("HTTP/1.1 401 "));
-    const auto md5 = [](const QByteArray& text) {
-        return QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex();
-    };
-    const QByteArray challenge = get(digest, "/login.cgi", {});
-    const qsizetype at = challenge.indexOf("nonce=\"") + 7;
-    const QByteArray nonce = challenge.mid(at, challenge.indexOf('"', at) - at);
-    const auto answer = [&](const QByteArray& password, const QByteArray& target) {
-        const QByteArray response =
-            md5(md5("admin:TX-16:" + password) + ":" + nonce + ":00000001:abc:auth:" + md5("GET:" + target));
-        return QByteArray("Authorization: Digest username=\"admin\", realm=\"TX-16\", nonce=\"" + nonce + "\", uri=\"" +
-                          target + "\", qop=auth, nc=00000001, cnonce=\"abc\", response=\"" + response + "\"\r\n");
-    };
-    EXPECT_TRUE(get(digest, "/login.cgi", answer("admin", "/login.cgi")).startsWith("HTTP/1.1 200 "));
-    EXPECT_TRUE(get(digest, "/login.cgi", answer("nimda", "/login.cgi")).startsWith("HTTP/1.1 401 "));
-    EXPECT_TRUE(get(digest, "/login.cgi", answer("admin", "/other.cgi")).startsWith("HTTP/1.1 401 "));
+    for (const QByteArray& login : {kAdmin, QByteArray("Authorization: Digest username=\"admin\", response=\"0\"\r\n")})
+        EXPECT_TRUE(get(digest, "/login.cgi", login).startsWith("HTTP/1.1 401 "));
 }
 
 TEST(Simulator, FaultsHappenInTheBytes)
@@ -321,21 +247,6 @@ TEST(Simulator, FaultsHappenInTheBytes)
     EXPECT_EQ(get(device, "/login.cgi"), "");
 }
 
-TEST(Simulator, ReadsRequestsAsTheyCome)
-{
-    const auto site = siteOf({u"TXR632,channels=4,cameras=2"_s});
-    Device& device = site->device(0);
-    // Two requests in one piece, then one whose target holds a blank.
-    const QByteArray one = "GET /getgid.cgi HTTP/1.1\r\n" + kAdmin + "\r\n";
-    EXPECT_EQ(talk(device, one + "GET /getgid.cgi?a b=%uZ HTTP/1.1\r\nConnection: close\r\n" + kAdmin + "\r\n")
-                  .count("HTTP/1.1 200 OK"),
-              2);
-    EXPECT_EQ(device.log().back().target, "/getgid.cgi?a b=%uZ");
-    EXPECT_EQ(device.connectionsTaken(), 1);
-    EXPECT_TRUE(talk(device, "nonsense\r\n\r\n").startsWith("HTTP/1.1 400 "));
-    EXPECT_TRUE(talk(device, QByteArray(70000, 'a')).startsWith("HTTP/1.1 413 "));
-}
-
 TEST(Simulator, AnswersProbesThatAreMeantForIt)
 {
     const auto site = siteOf({u"TXR632,name=Tür 1"_s, u"SVD"_s});
@@ -353,65 +264,11 @@ TEST(Simulator, AnswersProbesThatAreMeantForIt)
     EXPECT_TRUE(probeMatch("<broken", site->device(0)).isEmpty());
 }
 
-TEST(Simulator, AnswersOverLoopbackMulticast)
+TEST(Simulator, ReadsItsDescription)
 {
-    SiteDescription description;
-    description.port = 0;
-    description.devices = {deviceFromText(u"SVR"_s), deviceFromText(u"SVD"_s), deviceFromText(u"SVR,discoverable=0"_s)};
-    Site site(description);
-    site.start();
-    if (!site.discoveryRunning())
-        GTEST_SKIP() << "no multicast on loopback here";
-    QUdpSocket socket;
-    ASSERT_TRUE(socket.bind(QHostAddress::LocalHost, 0));
-    for (const QNetworkInterface& interface : QNetworkInterface::allInterfaces())
-        if (interface.flags().testFlag(QNetworkInterface::IsLoopBack))
-            socket.setMulticastInterface(interface);
-    QEventLoop loop;
-    QByteArray answers;
-    const QByteArray own = site.device(1).hostAndPort();
-    QObject::connect(&socket, &QUdpSocket::readyRead, &loop, [&] {
-        while (socket.hasPendingDatagrams())
-            answers += socket.receiveDatagram().data();
-        if (answers.contains(own) && answers.contains(site.device(0).hostAndPort()))
-            loop.quit();
-    });
-    QTimer::singleShot(3000, &loop, &QEventLoop::quit);
-    socket.writeDatagram("<E><MessageID>uuid:1</MessageID><Action>x/discovery/Probe</Action><Probe/></E>",
-                         QHostAddress(u"239.255.255.250"_s), 3702);
-    loop.exec();
-    EXPECT_TRUE(answers.contains(site.device(0).hostAndPort()) && answers.contains(own));
-    EXPECT_FALSE(answers.contains(site.device(2).hostAndPort()));
-}
-
-TEST(Simulator, DecoderTellsItsScreensAndChannels)
-{
-    const auto site = siteOf({u"SVD,cameras=3"_s});
-    Device& device = site->device(0);
-    device.state().decoderChannels[1] = {4, 9, 1, true, true};
-    EXPECT_TRUE(get(device, "/getsvrcapability.cgi").contains("devicetype=SVD\n"));
-    const QByteArray info = post(device, tagged(24577, "<CHList></CHList>"));
-    EXPECT_TRUE(info.count("<CH ID=") == 3 && info.contains("<MultiDynamicEnable>1</MultiDynamicEnable><VideoList>"
-                                                            "<Video ID=\"1\">"));
-    EXPECT_TRUE(post(device, "<CMD ID=\"4202501\"/>")
-                    .contains("<CH ID=\"2\"><NVRID>4</NVRID><NVRCH>9</NVRCH><Audio>1</Audio></CH>"));
-    EXPECT_TRUE(post(device, "<CMD ID=\"4198422\"/>").contains("<Screen ID=\"2\"><Resolution>0</Resolution></Screen>"));
-    const QByteArray resolutions = post(device, "<CMD ID=\"4198402\"><Param><Screen>2</Screen></Param></CMD>");
-    EXPECT_EQ(resolutions.count("<Resolution>"), 3);
-    EXPECT_EQ(retOf(post(device, "<CMD ID=\"4198402\"><Param><Screen>3</Screen></Param></CMD>")), -3);
-}
-
-TEST(Simulator, RunsInAThreadAndReadsItsDescription)
-{
-    SiteDescription description = siteFromJson(R"({"port": 0, "discovery": false, "devices": [
-        {"family": "OmluPro", "channels": 4, "cameras": 9, "accounts": [{"user": "u", "password": "p", "group": 1}]}]})");
+    const SiteDescription description = siteFromJson(R"({"port": 0, "discovery": false, "devices": [
+        {"family": "OmluPro", "channels": 4, "cameras": 9}]})");
     EXPECT_EQ(description.devices.front().cameras, 4);
-    SimulatorThread thread(description);
-    Device* device = nullptr;
-    thread.call([&](Site& site) { device = &site.device(0); });
-    const QByteArray login = "Authorization: Basic " + QByteArray("u:p").toBase64() + "\r\n";
-    EXPECT_TRUE(get(*device, "/login.cgi", login).contains("group=1"));
-    EXPECT_THROW(thread.call([](Site& site) { site.device(0).channel(5); }), std::out_of_range);
     for (const char* text :
          {"[]", R"({"devices": [{"family": "XYZ"}]})", R"({"devices": [{"family": "SVR", "channels": 65}]})",
           R"({"devices": [{"family": "SVR", "chanels": 5}]})"})

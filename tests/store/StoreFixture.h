@@ -8,8 +8,48 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+
+// The rows of an answer with these marks between cells and rows; a statement that fails gives its error.
+inline QString Rows(const Connection& connection, const QString& statement, QChar cell, QChar row)
+{
+    QSqlQuery query(connection.database());
+    if (!query.exec(statement))
+        return QStringLiteral("error: ") + query.lastError().text();
+    QStringList rows;
+    while (query.next()) {
+        QStringList cells;
+        for (int i = 0; i < query.record().count(); ++i)
+            cells << query.value(i).toString();
+        rows << cells.join(cell);
+    }
+    return rows.join(row);
+}
+
+// As long as it lives no file grows beyond a size: the disk is full in the middle of a file.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        rlimit limit = m_before;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before{};
+};
 
 // A station folder with a template database; open() makes it the configuration database and opens both files.
 class StoreFixture : public ::testing::Test
@@ -42,17 +82,7 @@ protected:
     }
     // Lines that the traps of one source have written so far.
     qsizetype logLines(const QByteArray& source) const { return allLogs().count(QByteArray("\"" + source + "\"")); }
-    QByteArray allLogs() const
-    {
-        QByteArray all;
-        const QDir folder(path(u"\\log"));
-        for (const QString& name : folder.entryList({QStringLiteral("LogSys-*.txt")})) {
-            QFile file(folder.filePath(name));
-            if (file.open(QIODevice::ReadOnly))
-                all += file.readAll();
-        }
-        return all;
-    }
+    QByteArray allLogs() const { return station.logs(); }
 
     TemporaryStation station;
     Databases databases;

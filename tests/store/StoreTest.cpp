@@ -1,18 +1,11 @@
-#include "app/log/Module_Log.h"
-#include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
 #include "store/BasicDefault.h"
-#include "store/Databases.h"
 #include "store/SystemLog.h"
 #include "store/TableAccess.h"
-#include "store/Template.h"
 #include "store/tables/Tables.h"
 #include "tests/store/StoreFixture.h"
 
-#include <QDir>
 #include <QElapsedTimer>
-#include <QProcess>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -278,23 +271,12 @@ void ExpectRoundTrip(Databases& databases, const QString& table, const std::arra
         ++seed;
         if (!column.read)
             continue;
-        switch (column.info.type) {
-        case FieldType::Text:
-            column.read(row, u"Tür '%1' \"ß\""_s.arg(seed));
-            break;
-        case FieldType::Bool:
-            column.read(row, seed % 2);
-            break;
-        case FieldType::Int16:
-            column.read(row, -32768 + seed);
-            break;
-        case FieldType::Int32:
-            column.read(row, 2147483000 + seed);
-            break;
-        case FieldType::Real:
-            column.read(row, 0.1234 * seed);
-            break;
-        }
+        const QMap<FieldType, QVariant> values{{FieldType::Text, u"Tür '%1' \"ß\""_s.arg(seed)},
+                                               {FieldType::Bool, seed % 2},
+                                               {FieldType::Int16, -32768 + seed},
+                                               {FieldType::Int32, 2147483000 + seed},
+                                               {FieldType::Real, 0.1234 * seed}};
+        column.read(row, values[column.info.type]);
     }
     ASSERT_EQ(OpenRecset(databases, table), 1);
     databases.DBRec->addNew();

@@ -9,11 +9,9 @@
 
 #include <QCoreApplication>
 #include <QProcess>
-#include <QSqlRecord>
 
 #include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -40,17 +38,7 @@ QString Ask(const QString& file, const QString& statement)
     Connection connection;
     connection.setConnectionString(DatabaseConnectionString(file));
     connection.openAsIs();
-    QSqlQuery query(connection.database());
-    if (!query.exec(statement))
-        return u"error: "_s + query.lastError().text();
-    QStringList rows;
-    while (query.next()) {
-        QStringList cells;
-        for (int i = 0; i < query.record().count(); ++i)
-            cells << query.value(i).toString();
-        rows << cells.join(u'|');
-    }
-    return rows.join(u'\n');
+    return Rows(connection, statement, u'|', u'\n');
 }
 
 QString Version(const QString& version, const QString& name)
@@ -139,22 +127,18 @@ TEST_F(UpgradeTest, RegionsBecomeMotionRows)
 
 TEST_F(UpgradeTest, VersionsCompareAsText)
 {
-    const struct
-    {
-        const char* version;
-        const char* name; // expected afterwards
-        int aside;
-    } cases[]{{"1.0.2.1", "Old", 0},      {"1.0.10.0", "Old", 1},     {"", "Old", 1},
-              {"0.9", "Old", 1},          {"1.0.3.0", "CMS_Core", 1}, {"2", "CMS_Core", 1},
-              {"1.0.2.1 ", "CMS_Core", 1}};
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.version);
+    const std::tuple<const char*, const char*, int> cases[] = {
+        {"1.0.2.1", "Old", 0},      {"1.0.10.0", "Old", 1},     {"", "Old", 1},
+        {"0.9", "Old", 1},          {"1.0.3.0", "CMS_Core", 1}, {"2", "CMS_Core", 1},
+        {"1.0.2.1 ", "CMS_Core", 1}};
+    for (const auto& [version, name, replaced] : cases) {
+        SCOPED_TRACE(version);
         QDir(path(u"\\Database")).removeRecursively();
         CreateTemplate(path(kTemplateFile));
-        Make(path(kDatabaseFile), OldLayout(QString::fromLatin1(test.version), u"Old"_s));
+        Make(path(kDatabaseFile), OldLayout(QString::fromLatin1(version), u"Old"_s));
         start();
-        EXPECT_EQ(now(u"SELECT sSystemName FROM BasicDefault"_s), QString::fromLatin1(test.name));
-        EXPECT_EQ(aside().size(), test.aside);
+        EXPECT_EQ(now(u"SELECT sSystemName FROM BasicDefault"_s), QString::fromLatin1(name));
+        EXPECT_EQ(aside().size(), replaced);
     }
 }
 
@@ -180,14 +164,10 @@ TEST_F(UpgradeTest, AFullDiskLeavesTheOldDatabaseInUse)
     layout << u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i+1 FROM n) INSERT INTO SVR "
               "SELECT 3,replace(hex(zeroblob(4000)),'0','x'),i,i,0 FROM n LIMIT 600"_s;
     Make(path(kDatabaseFile), layout);
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    rlimit full = before;
-    full.rlim_cur = static_cast<rlim_t>(QFileInfo(path(kTemplateFile)).size()) + 1000000;
-    setrlimit(RLIMIT_FSIZE, &full);
-    start();
-    setrlimit(RLIMIT_FSIZE, &before);
+    {
+        const FullDisk full(static_cast<rlim_t>(QFileInfo(path(kTemplateFile)).size()) + 1000000);
+        start();
+    }
     EXPECT_EQ(now(u"SELECT sSystemName,(SELECT COUNT(*) FROM SVR) FROM BasicDefault"_s), u"Harbour|603"_s);
     EXPECT_EQ(aside(), QStringList());
     EXPECT_FALSE(QFile::exists(path(kConvertFile)));

@@ -3,7 +3,6 @@
 #include "platform/Closing.h"
 #include "support/Conversions.h"
 #include "support/HostNames.h"
-#include "support/ServiceTexts.h"
 #include "support/TimeSeconds.h"
 #include "tests/Await.h"
 #include "tests/TestMain.h"
@@ -46,14 +45,6 @@ TEST(HostNames, ResolveToTheFirstIPv4Address)
     EXPECT_EQ(Await(GetIpByName(u"127.0.0.9"_s, work)), u"127.0.0.9"_s);
     EXPECT_EQ(Await(GetIpByName(u"localhost"_s, work)), u"127.0.0.1"_s);
     EXPECT_EQ(Await(GetIpByName(u"no-such-host.invalid"_s, work)), QString());
-}
-
-TEST(ServiceTexts, NameRegistryErrors)
-{
-    EXPECT_EQ(GetRegistryErrorText(4), u"Value Data Type Mismatch."_s);
-    EXPECT_EQ(GetRegistryErrorText(14), u"Unable To Delete Value."_s);
-    EXPECT_EQ(GetRegistryErrorText(99), u"Undefined Error."_s);
-    EXPECT_EQ(GetRegistryErrorText(-1), u"Undefined Error."_s);
 }
 
 class Logs : public ::testing::Test

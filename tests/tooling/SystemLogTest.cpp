@@ -5,9 +5,7 @@
 #include "tooling/SystemLogModel.h"
 
 #include <QSqlQuery>
-#include <csignal>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -101,52 +99,27 @@ protected:
 using Kind = SystemLogExport::Kind;
 using Outcome = SystemLogExport::Outcome;
 
-// As long as it lives no file grows beyond a size: the disk is full in the middle of a file.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        rlimit limit = m_before;
-        limit.rlim_cur = bytes;
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before{};
-};
-
 TEST_F(SystemLogTest, PagesOfEleven)
 {
-    const struct
-    {
-        int rows;
-        const char* label;
-        qint32 last;
-        int lastRows;
-    } cases[]{{0, "1/0", 0, 0},  {1, "1/0", 0, 1},   {11, "1/1", 0, 11}, {12, "1/1", 1, 1},
-              {13, "1/2", 1, 2}, {22, "1/2", 1, 11}, {23, "1/2", 2, 1},  {24, "1/3", 2, 2}};
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.rows);
+    const std::tuple<int, const char*, qint32, int> cases[] = {{0, "1/0", 0, 0},  {1, "1/0", 0, 1},  {11, "1/1", 0, 11},
+                                                               {12, "1/1", 1, 1}, {13, "1/2", 1, 2}, {22, "1/2", 1, 11},
+                                                               {23, "1/2", 2, 1}, {24, "1/3", 2, 2}};
+    for (const auto& [rows, label, last, lastRows] : cases) {
+        SCOPED_TRACE(rows);
         QSqlQuery(databases.LogConn->database()).exec(u"DELETE FROM SystemLog"_s);
-        addMany(test.rows);
+        addMany(rows);
         SystemLogModel model(databases);
         ASSERT_TRUE(search(model, everything));
-        EXPECT_EQ(model.pageText(), QString::fromLatin1(test.label));
+        EXPECT_EQ(model.pageText(), QString::fromLatin1(label));
         model.pageControl(SystemLogModel::Back);
         EXPECT_EQ(model.m_SysPage(), 0);
         for (int i = 0; i < 5; ++i)
             model.pageControl(SystemLogModel::On);
-        EXPECT_EQ(model.m_SysPage(), test.last);
-        EXPECT_EQ(model.rowCount(), test.lastRows);
+        EXPECT_EQ(model.m_SysPage(), last);
+        EXPECT_EQ(model.rowCount(), lastRows);
         model.pageControl(SystemLogModel::First);
         model.pageControl(SystemLogModel::Last);
-        EXPECT_EQ(model.m_SysPage(), test.last);
+        EXPECT_EQ(model.m_SysPage(), last);
     }
 }
 
@@ -277,24 +250,19 @@ TEST_F(SystemLogTest, ALogThatCannotBeRead)
     const QByteArray whole = bytes(file);
     QByteArray damaged = whole;
     damaged.replace(whole.size() / 2, 4096, QByteArray(4096, '\xff'));
-    const struct
-    {
-        const char* what;
-        QByteArray content; // nothing: the file is gone
-        bool locked = false;
-    } cases[]{{"missing", {}},
-              {"foreign", "Date,Time,User,Description\n"},
-              {"damaged", damaged},
-              {"cut short", whole.first(whole.size() / 2)},
-              {"locked", whole, true}};
-    for (const auto& test : cases) {
-        SCOPED_TRACE(test.what);
+    const std::pair<const char*, QByteArray> cases[] = {{"missing", {}}, // the file is gone
+                                                        {"foreign", "Date,Time,User,Description\n"},
+                                                        {"damaged", damaged},
+                                                        {"cut short", whole.first(whole.size() / 2)},
+                                                        {"locked", whole}};
+    for (const auto& [what, content] : cases) {
+        SCOPED_TRACE(what);
         databases.LogConn->close();
         QFile::remove(file);
-        if (!test.content.isEmpty())
-            write(file, test.content);
+        if (!content.isEmpty())
+            write(file, content);
         Connection other;
-        if (test.locked) {
+        if (content == whole) {
             other.setConnectionString(DatabaseConnectionString(file));
             other.openAsIs();
             QSqlQuery query(other.database());

@@ -113,20 +113,16 @@ TEST_F(UserTest, Login)
         user.sPSWD = password;
         SetUser_Modify(users, user);
     }
-    struct Case
-    {
-        QString name, password;
-        LoginResult result;
-        quint32 index;
-    };
-    for (const Case& c : {Case{u"ann"_s, u"one"_s, LoginResult::Ok, 0},
-                          {u"bob"_s, u"two"_s, LoginResult::Ok, 1},
-                          {u"ann"_s, u"three"_s, LoginResult::WrongPassword, 99},
-                          {u"Bob"_s, u"two"_s, LoginResult::Unknown, 99},
-                          {u"bob"_s, u"TWO"_s, LoginResult::WrongPassword, 99}}) {
+    const std::tuple<QString, QString, LoginResult, quint32> cases[] = {
+        {u"ann"_s, u"one"_s, LoginResult::Ok, 0},
+        {u"bob"_s, u"two"_s, LoginResult::Ok, 1},
+        {u"ann"_s, u"three"_s, LoginResult::WrongPassword, 99},
+        {u"Bob"_s, u"two"_s, LoginResult::Unknown, 99},
+        {u"bob"_s, u"TWO"_s, LoginResult::WrongPassword, 99}};
+    for (const auto& [name, password, result, place] : cases) {
         quint32 index = 99;
-        EXPECT_EQ(CheckLogin(users.edit, c.name, c.password, index), c.result) << c.name.toStdString();
-        EXPECT_EQ(index, c.index);
+        EXPECT_EQ(CheckLogin(users.edit, name, password, index), result) << name.toStdString();
+        EXPECT_EQ(index, place);
     }
 }
 
@@ -155,25 +151,18 @@ TEST_F(UserTest, DeviceAccounts)
 
 TEST_F(UserTest, RightsTexts)
 {
-    struct Case
-    {
-        QString text;
-        QString again; // for four channels of which number 3 has no name
-        int logged;
-    };
     const QString tooLong = u"0:"_s + QStringList(200, u"15"_s).join(u',');
-    for (const Case& c : {Case{QString(), u"0:0,0,15,0"_s, 0},
-                          {u"1:15,8,3,12"_s, u"1:15,8,15,12"_s, 0},
-                          {u"0:15"_s, u"0:15,0,15,0"_s, 0},
-                          {u"0:15,8,"_s, u"0:15,8,15,0"_s, 0},
-                          {u"1:16,8,15,-1"_s, u"1:0,8,15,0"_s, 1},
-                          {u"0:x,9,,99999999999"_s, u"0:0,9,15,0"_s, 1},
-                          {u"garbage"_s, u"0:0,0,15,0"_s, 1},
-                          {u"1"_s, u"1:0,0,15,0"_s, 1},
-                          {tooLong, u"0:15,15,15,15"_s, 1}}) {
+    // The text again for four channels of which number 3 has no name, and the lines that it costs.
+    const std::tuple<QString, QString, int> cases[] = {
+        {QString(), u"0:0,0,15,0"_s, 0},         {u"1:15,8,3,12"_s, u"1:15,8,15,12"_s, 0},
+        {u"0:15"_s, u"0:15,0,15,0"_s, 0},        {u"0:15,8,"_s, u"0:15,8,15,0"_s, 0},
+        {u"1:16,8,15,-1"_s, u"1:0,8,15,0"_s, 1}, {u"0:x,9,,99999999999"_s, u"0:0,9,15,0"_s, 1},
+        {u"garbage"_s, u"0:0,0,15,0"_s, 1},      {u"1"_s, u"1:0,0,15,0"_s, 1},
+        {tooLong, u"0:15,15,15,15"_s, 1}};
+    for (const auto& [text, again, logged] : cases) {
         const qsizetype before = allLogs().count('\n');
-        EXPECT_EQ(FormCHPrivilege(ParseCHPrivilege(c.text), Recorder(4, {0, 1, 3})), c.again) << c.text.toStdString();
-        EXPECT_EQ(allLogs().count('\n') - before, c.logged) << c.text.toStdString();
+        EXPECT_EQ(FormCHPrivilege(ParseCHPrivilege(text), Recorder(4, {0, 1, 3})), again) << text.toStdString();
+        EXPECT_EQ(allLogs().count('\n') - before, logged) << text.toStdString();
     }
 }
 
