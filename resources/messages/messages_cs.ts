@@ -3679,5 +3679,41 @@ Chcete jej přesto použít?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Uložené heslo se nezobrazuje. Zadáním nového je nahradíte.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Vyberte skupinu</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Zatím žádný účet</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Tyto účty se zkoušejí u rekordérů, jejichž přihlášení není známo.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Chcete smazat vybraný účet?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Není přístupná žádná kamera</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Přístup vyplývá z oprávnění skupiny uživatele.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Otevřít složku?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filtrovat uživatele…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Filtru neodpovídá žádný uživatel.</translation>
+    </message>
 </context>
 </TS>

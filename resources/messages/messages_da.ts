@@ -3679,5 +3679,41 @@ Vil du bruge det alligevel?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>En gemt adgangskode vises ikke. Indtastning erstatter den.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Vælg en gruppe</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Ingen konto endnu</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Disse konti prøves på optagere, hvis login ikke kendes.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Vil du slette den valgte konto?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Intet kamera er tilgængeligt</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Adgangen følger af rettighederne for brugerens gruppe.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Vil du åbne mappen?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filtrer brugere …</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Ingen bruger svarer til filteret.</translation>
+    </message>
 </context>
 </TS>

@@ -3679,5 +3679,41 @@ Möchten Sie ihn trotzdem verwenden?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Ein gespeichertes Passwort wird nicht angezeigt. Eine Eingabe ersetzt es.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Gruppe wählen</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Noch kein Konto</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Diese Konten werden an Rekordern probiert, deren Anmeldung nicht bekannt ist.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Möchten Sie das ausgewählte Konto löschen?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Keine Kamera zugänglich</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Der Zugang folgt aus den Berechtigungen der Gruppe des Benutzers.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Ordner öffnen?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Benutzer filtern …</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Kein Benutzer entspricht dem Filter.</translation>
+    </message>
 </context>
 </TS>

@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>A stored password is not shown. Typing replaces it.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Choose a group</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>No account yet</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>These accounts are tried on recorders whose login is not known.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Do you want to delete the selected account?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>No camera is accessible</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Access follows from the rights of the user’s group.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Open the folder?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filter users…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>No user matches the filter.</translation>
+    </message>
 </context>
 </TS>

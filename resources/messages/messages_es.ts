@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</source>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Una contraseña guardada no se muestra. Si escribe otra, la sustituye.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Elija un grupo</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Aún no hay cuentas</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Estas cuentas se prueban en los grabadores cuyo acceso no se conoce.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>¿Desea eliminar la cuenta seleccionada?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Ninguna cámara accesible</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>El acceso depende de los permisos del grupo del usuario.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>¿Abrir la carpeta?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filtrar usuarios…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Ningún usuario coincide con el filtro.</translation>
+    </message>
 </context>
 </TS>

@@ -3679,5 +3679,41 @@ Voulez-vous l’utiliser quand même ?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Un mot de passe enregistré n’est pas affiché. Toute saisie le remplace.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Choisir un groupe</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Aucun compte</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Ces comptes sont essayés sur les enregistreurs dont l’identifiant n’est pas connu.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Voulez-vous supprimer le compte sélectionné ?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Aucune caméra accessible</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>L’accès dépend des droits du groupe de l’utilisateur.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Ouvrir le dossier ?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filtrer les utilisateurs…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Aucun utilisateur ne correspond au filtre.</translation>
+    </message>
 </context>
 </TS>

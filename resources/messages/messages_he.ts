@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</source>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>סיסמה שמורה אינה מוצגת. הקלדה מחליפה אותה.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>בחירת קבוצה</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>אין עדיין חשבון</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>חשבונות אלה מנוסים במקליטים שפרטי הכניסה אליהם אינם ידועים.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>למחוק את החשבון שנבחר?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>אין מצלמה נגישה</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>הגישה נקבעת לפי ההרשאות של קבוצת המשתמש.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>לפתוח את התיקייה?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>סינון משתמשים…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>אין משתמש שתואם למסנן.</translation>
+    </message>
 </context>
 </TS>

@@ -3679,5 +3679,41 @@ Usarlo comunque?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Una password salvata non viene mostrata. Digitandone un’altra la si sostituisce.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Scegli un gruppo</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Nessun account</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Questi account vengono provati sui registratori di cui non si conosce l’accesso.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Eliminare l’account selezionato?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Nessuna telecamera accessibile</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>L’accesso dipende dai diritti del gruppo dell’utente.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Aprire la cartella?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filtra utenti…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Nessun utente corrisponde al filtro.</translation>
+    </message>
 </context>
 </TS>

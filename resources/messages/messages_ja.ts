@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</source>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>保存済みのパスワードは表示されません。入力すると置き換わります。</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>グループを選択してください</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>アカウントはまだありません</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>ログインが不明なレコーダーで、これらのアカウントが試されます。</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>選択したアカウントを削除しますか？</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>アクセスできるカメラはありません</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>アクセスはユーザーのグループの権限によって決まります。</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>フォルダーを開きますか？</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>ユーザーを絞り込み…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>条件に一致するユーザーはいません。</translation>
+    </message>
 </context>
 </TS>

@@ -3679,5 +3679,41 @@ Czy mimo to jej użyć?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Zapisane hasło nie jest pokazywane. Wpisanie tekstu je zastąpi.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Wybierz grupę</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Nie ma jeszcze konta</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Te konta są próbowane na rejestratorach, których logowanie nie jest znane.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Czy usunąć wybrane konto?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Brak dostępnych kamer</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Dostęp wynika z uprawnień grupy użytkownika.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Otworzyć folder?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Filtruj użytkowników…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Żaden użytkownik nie pasuje do filtra.</translation>
+    </message>
 </context>
 </TS>

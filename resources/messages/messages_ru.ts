@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</source>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Сохранённый пароль не показывается. Введённый текст заменит его.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Выберите группу</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Учётных записей пока нет</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Эти учётные записи пробуются на регистраторах, вход в которые неизвестен.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Удалить выбранную учётную запись?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Нет доступных камер</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Доступ определяется правами группы пользователя.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Открыть папку?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Фильтр пользователей…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Нет пользователей, подходящих под фильтр.</translation>
+    </message>
 </context>
 </TS>

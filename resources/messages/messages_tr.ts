@@ -3679,5 +3679,41 @@ Yine de kullanmak istiyor musunuz?</translation>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>Kayıtlı parola gösterilmez. Yenisini yazarsanız onun yerini alır.</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>Bir grup seçin</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>Henüz hesap yok</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>Bu hesaplar, girişi bilinmeyen kayıt cihazlarında denenir.</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>Seçili hesabı silmek istiyor musunuz?</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>Erişilebilir kamera yok</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>Erişim, kullanıcının grubunun haklarına bağlıdır.</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>Klasör açılsın mı?</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>Kullanıcıları filtrele…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>Filtreyle eşleşen kullanıcı yok.</translation>
+    </message>
 </context>
 </TS>

@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</source>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>已保存的密码不会显示，输入即可替换。</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>请选择组</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>尚无账号</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>登录信息未知的录像机会逐一尝试这些账号。</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>是否删除所选账号？</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>没有可访问的摄像机</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>访问权限取决于用户所在组的权限。</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>打开文件夹？</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>筛选用户…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>没有符合筛选条件的用户。</translation>
+    </message>
 </context>
 </TS>

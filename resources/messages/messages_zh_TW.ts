@@ -3679,5 +3679,41 @@ Do you want to use it anyway?</source>
         <source>A stored password is not shown. Typing replaces it.</source>
         <translation>已儲存的密碼不會顯示，輸入即可取代。</translation>
     </message>
+    <message id="1081">
+        <source>Choose a group</source>
+        <translation>請選擇群組</translation>
+    </message>
+    <message id="1082">
+        <source>No account yet</source>
+        <translation>尚無帳號</translation>
+    </message>
+    <message id="1083">
+        <source>These accounts are tried on recorders whose login is not known.</source>
+        <translation>登入資訊未知的錄影主機會逐一嘗試這些帳號。</translation>
+    </message>
+    <message id="1084">
+        <source>Do you want to delete the selected account?</source>
+        <translation>是否刪除所選帳號？</translation>
+    </message>
+    <message id="1085">
+        <source>No camera is accessible</source>
+        <translation>沒有可存取的攝影機</translation>
+    </message>
+    <message id="1086">
+        <source>Access follows from the rights of the user’s group.</source>
+        <translation>存取權限取決於使用者所屬群組的權限。</translation>
+    </message>
+    <message id="1087">
+        <source>Open the folder?</source>
+        <translation>開啟資料夾？</translation>
+    </message>
+    <message id="1088">
+        <source>Filter users…</source>
+        <translation>篩選使用者…</translation>
+    </message>
+    <message id="1089">
+        <source>No user matches the filter.</source>
+        <translation>沒有符合篩選條件的使用者。</translation>
+    </message>
 </context>
 </TS>

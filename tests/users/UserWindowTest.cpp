@@ -8,6 +8,7 @@
 #include "tests/store/StoreFixture.h"
 #include "tests/walkthrough/Driver.h"
 #include "users/UserModels.h"
+#include "users/ui/Form_GroupPrivilege.h"
 #include "users/ui/Form_UserPass.h"
 
 #include <QAbstractButton>
@@ -210,9 +211,36 @@ TEST_F(UserWindowTest, TheLastAdministratorStaysAndOthersGo)
     });
     waitClosed(u"Form_UserSetting"_s);
     driver.run(10000);
-    EXPECT_EQ(boxes, QStringList({GetLangString(502), GetLangString(501), GetLangString(501)}));
+    EXPECT_EQ(boxes, QStringList({GetLangString(502), GetLangString(501) + u"\n\nnight"_s,
+                                  GetLangString(501) + u"\n\nnight"_s}));
     EXPECT_EQ(row(u"SELECT group_concat(sUser) FROM UserData"_s).toString(), u"chief"_s);
     EXPECT_EQ(logLines("Form_UserSetting - Form_Activate"), 1); // the photo that is missing
+}
+
+TEST_F(UserWindowTest, ANewUserNeedsAGroupAndIsNotLostByEsc)
+{
+    ASSERT_TRUE(start());
+    station->users.edit[0].sUser = station->users.edit[0].sPSWD = u"chief"_s;
+    station->users.stored = station->users.edit;
+    answers = {MsgResult::Cancel, MsgResult::Yes};
+    step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
+    step(u"lbUserAdd"_s, [] { Driver::click(u"lbUserAdd"_s); });
+    step(u"txtUser_0"_s, [] {
+        for (const auto& [field, text] :
+             {std::pair{u"txtUser_0"_s, u"night"_s}, {u"txtUser_1"_s, u"n"_s}, {u"txtUser_7"_s, u"n"_s}})
+            Driver::type(field, text);
+        EXPECT_EQ(Driver::find<QLabel>(u"lbGroup"_s)->text(), u'*' + GetLangString(423));
+        EXPECT_FALSE(Driver::find(u"lbUserApply_0"_s)->isEnabled());
+        QTest::keyClick(Driver::find(u"txtUser_7"_s), Qt::Key_Escape);
+        ASSERT_TRUE(Driver::find(u"Form_UserSetting"_s)) << "Cancel stays";
+        QTest::keyClick(Driver::find(u"cmbUser"_s), Qt::Key_End);
+        EXPECT_TRUE(Driver::find(u"lbUserApply_0"_s)->isEnabled());
+        QTest::keyClick(Driver::find(u"txtUser_7"_s), Qt::Key_Escape);
+    });
+    waitClosed(u"Form_UserSetting"_s);
+    driver.run(10000);
+    EXPECT_EQ(boxes, QStringList({GetLangString(514), GetLangString(514)}));
+    EXPECT_EQ(row(u"SELECT iGroup FROM UserData WHERE sUser='night'"_s).toInt(), 6);
 }
 
 TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
@@ -230,9 +258,11 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     step(u"Grid_NVRList"_s, [] {
         Driver::picture(u"group"_s);
         Driver::clickCell(u"Grid_NVRList"_s, 0, 0);
+        EXPECT_FALSE(Driver::find(u"Grid_ChannelPrivilege"_s)) << "a click selects";
+        Driver::clickCell(u"Grid_NVRList"_s, 0, Form_GroupPrivilege::NVREdit);
     });
-    // A whole column by the keyboard, then Esc: nothing is stored.
-    step(u"Grid_ChannelPrivilege"_s, [] {
+    // A whole column by the keyboard, then Esc: it asks and stays, asks again and nothing is stored.
+    step(u"Grid_ChannelPrivilege"_s, [this] {
         auto* grid = Driver::find<QTableView>(u"Grid_ChannelPrivilege"_s);
         grid->setFocus();
         QElapsedTimer timer;
@@ -247,11 +277,18 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
         EXPECT_EQ(grid->model()->index(4, ChannelRightsModel::PTZ).data(Qt::AccessibleTextRole).toString(),
                   u"Camera 6, PTZ: "_s + GetLangString(879));
         QTest::keyClick(grid, Qt::Key_Escape);
+        EXPECT_TRUE(grid->isVisible());
+        answers = {MsgResult::No};
+        QTest::keyClick(grid, Qt::Key_Escape);
     });
-    step(u"Grid_NVRList"_s, [] {
+    const auto listHasFocus = [] {
+        return Driver::usable(u"Grid_NVRList"_s) && Driver::find(u"Grid_NVRList"_s)->hasFocus();
+    };
+    driver.add(u"back at the list"_s, listHasFocus, [] {
         QElapsedTimer timer;
         timer.start();
         QTest::keyClick(Driver::find(u"Grid_NVRList"_s), Qt::Key_Enter, Qt::KeypadModifier);
+        ASSERT_TRUE(Driver::find(u"Grid_ChannelPrivilege"_s));
         Driver::find(u"Grid_ChannelPrivilege"_s)->repaint();
         std::printf("opening a recorder: %lld ms\n", timer.elapsed());
         EXPECT_LT(timer.elapsed(), 500);
@@ -269,11 +306,13 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     step(u"lbGroupPrivilege_0"_s, [this] {
         const QString text = row(u"SELECT CHPrivilege FROM NVRPrivilege WHERE GroupID=5 AND NVRID=2"_s).toString();
         EXPECT_EQ(text, u"0:12,8,15,15,"_s + QStringList(60, u"0"_s).join(u','));
+        Driver::find(u"Chk_GroupPrivilege_1"_s)->setFocus();
         QTest::keyClick(Driver::find(u"Chk_GroupPrivilege_1"_s), Qt::Key_Space);
         Driver::click(u"lbGroupPrivilege_0"_s);
     });
     waitClosed(u"Form_GroupPrivilege"_s);
     driver.run(10000);
+    EXPECT_EQ(boxes, QStringList({GetLangString(514), GetLangString(514)}));
     EXPECT_EQ(row(u"SELECT Export||Live||Live_all||Setting FROM GroupPrivilege WHERE GroupID=5"_s).toString(),
               u"1100"_s);
 }
@@ -317,20 +356,31 @@ TEST_F(UserWindowTest, DeviceAccounts)
     ASSERT_TRUE(start());
     step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
     step(u"btnAccounts"_s, [] { Driver::click(u"btnAccounts"_s); });
-    step(u"Text_Account_0"_s, [] {
+    step(u"Text_Account_0"_s, [this] {
         Driver::click(u"lbAccountApply"_s); // no user
+        EXPECT_TRUE(Driver::find(u"Text_Account_0"_s)->property("faulty").toBool());
         for (const QString& password : {u"a"_s, u"b"_s, u"a"_s}) {
             Driver::type(u"Text_Account_0"_s, u"root"_s);
             Driver::type(u"Text_Account_1"_s, password);
             Driver::click(u"lbAccountApply"_s);
         }
         Driver::picture(u"accounts"_s);
-        Driver::clickCell(u"Grid_Account"_s, 0, 1);
-        Driver::click(u"lbAccountClose"_s);
+        auto* list = Driver::find<QTableView>(u"Grid_Account"_s);
+        const QPoint bin = list->visualRect(list->model()->index(0, 1)).center();
+        answers = {MsgResult::No, MsgResult::Yes, MsgResult::Cancel, MsgResult::No};
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, bin);
+        EXPECT_EQ(list->model()->rowCount(), 2);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, bin);
+        EXPECT_EQ(list->model()->rowCount(), 1);
+        Driver::click(u"lbAccountClose"_s); // what is typed stays
+        EXPECT_EQ(Driver::find<QLineEdit>(u"Text_Account_1"_s)->text(), u"a"_s);
+        QTest::keyClick(Driver::find(u"Text_Account_0"_s), Qt::Key_Escape);
     });
     waitClosed(u"Form_AccountEdit"_s);
     driver.run(10000);
-    EXPECT_EQ(boxes, QStringList({GetLangString(595), GetLangString(620)}));
+    const QString ask = GetLangString(1084) + u"\n\nroot"_s;
+    EXPECT_EQ(boxes,
+              QStringList({GetLangString(595), GetLangString(620), ask, ask, GetLangString(514), GetLangString(514)}));
     EXPECT_EQ(row(u"SELECT group_concat(iIndex||sUser||sPass) FROM NVRAccount"_s).toString(), u"0rootb"_s);
 }
 

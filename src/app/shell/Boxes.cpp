@@ -42,6 +42,11 @@ bool Ask(int message, int title)
     return Ask(GetLangString(message), title);
 }
 
+bool TellAndOffer(const QString& text, int title)
+{
+    return MsgBox(text, BoxStyle(kBoxQuestion | kBoxSuccess), GetLangString(title)) == MsgResult::Yes;
+}
+
 bool AskToDestroy(const QString& question, const QString& what, int title)
 {
     const QString text = what.isEmpty() ? question : QString(question + QStringLiteral("\n\n") + what);

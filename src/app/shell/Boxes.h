@@ -23,6 +23,9 @@ void Tell(Tone tone, int message, int title = Message::kInformation);
 bool Ask(const QString& text, int title = Message::kInformation);
 bool Ask(int message, int title = Message::kInformation);
 
+// Tells a success and offers what the last line of the text asks; No is the default. True for Yes.
+bool TellAndOffer(const QString& text, int title = Message::kInformation);
+
 // A question whose Yes destroys something: it looks dangerous and No is the default. `what` names what would go (a
 // user's or recorder's name) and stands in a line of its own below the question; empty when the question names it.
 bool AskToDestroy(const QString& question, const QString& what, int title = Message::kInformation);

@@ -30,7 +30,7 @@ DeskMessageBox::Kind KindOf(qint32 style)
     if ((style & kBoxNoIsDefault) != 0)
         return Kind::Destroy;
     if ((style & kBoxSuccess) != 0)
-        return Kind::Success;
+        return (style & kBoxQuestion) == kBoxQuestion ? Kind::Offer : Kind::Success;
     switch (style & ~kBoxRightToLeft) {
     case kBoxQuestion:
         return Kind::Question;

@@ -29,6 +29,7 @@ KindFace FaceOf(DeskMessageBox::Kind kind)
     using Kind = DeskMessageBox::Kind;
     switch (kind) {
     case Kind::Success:
+    case Kind::Offer:
         return {"ok"_L1, "ok"_L1, "okGround"_L1};
     case Kind::Warning:
         return {"warning"_L1, "warning"_L1, "warningGround"_L1};
@@ -74,7 +75,7 @@ DeskMessageBox::Answer EscapeOf(DeskMessageBox::Kind kind)
     using Kind = DeskMessageBox::Kind;
     if (kind == Kind::QuestionOrStay)
         return DeskMessageBox::Answer::Cancel;
-    const bool asks = kind == Kind::Question || kind == Kind::Destroy;
+    const bool asks = kind == Kind::Question || kind == Kind::Offer || kind == Kind::Destroy;
     return asks ? DeskMessageBox::Answer::No : DeskMessageBox::Answer::Ok;
 }
 
@@ -124,7 +125,7 @@ DeskMessageBox::DeskMessageBox(Kind kind, const QString& text, const QString& ti
         const bool destroys = kind == Kind::Destroy;
         addAnswer(Answer::No, u"No"_s, u"btnNo"_s, {});
         addAnswer(Answer::Yes, u"Yes"_s, u"btnYes"_s, destroys ? "danger"_L1 : "primary"_L1);
-        setDefaultAnswer(destroys ? Answer::No : Answer::Yes);
+        setDefaultAnswer(destroys || kind == Kind::Offer ? Answer::No : Answer::Yes);
     }
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -22,6 +22,7 @@ public:
         Error,
         Question,       // Yes and No
         QuestionOrStay, // Yes, No and Cancel
+        Offer,          // a success with Yes and No; No is the default
         Destroy         // Yes and No; No is the default, Yes looks dangerous
     };
     enum class Answer

@@ -4,7 +4,7 @@
 #include "app/log/StartWork.h"
 #include "app/shell/Boxes.h"
 #include "look/widgets/Fields.h"
-#include "recorders/ui/Keys.h"
+#include "look/widgets/Keys.h"
 #include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_CameraFrame.h"
 #include "support/Conversions.h"

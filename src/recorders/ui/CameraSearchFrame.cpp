@@ -4,8 +4,8 @@
 #include "app/log/StartWork.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
+#include "look/widgets/Keys.h"
 #include "recorders/camera/CameraEdit.h"
-#include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_CameraSearchFrame.h"
 
 #include <QHeaderView>

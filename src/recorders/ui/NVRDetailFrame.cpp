@@ -5,11 +5,11 @@
 #include "app/shell/Boxes.h"
 #include "look/style/Theme.h"
 #include "look/tables/Tables.h"
+#include "look/widgets/Keys.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/CameraEvents.h"
 #include "recorders/camera/ChannelClear.h"
 #include "recorders/ui/IconProxy.h"
-#include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_NVRDetailFrame.h"
 #include "support/Conversions.h"
 

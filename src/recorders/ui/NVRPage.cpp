@@ -5,8 +5,8 @@
 #include "app/shell/Boxes.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
+#include "look/widgets/Keys.h"
 #include "platform/Work.h"
-#include "recorders/ui/Keys.h"
 #include "recorders/ui/ui_NVRPage.h"
 #include "support/Conversions.h"
 

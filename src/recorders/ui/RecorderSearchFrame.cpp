@@ -5,7 +5,7 @@
 #include "device/bridge/FinderBridge.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
-#include "recorders/ui/Keys.h"
+#include "look/widgets/Keys.h"
 #include "recorders/ui/ui_RecorderSearchFrame.h"
 
 #include <QHeaderView>

@@ -2,13 +2,14 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/ui/TellFault.h"
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/Fields.h"
+#include "look/widgets/Keys.h"
 #include "platform/Clock.h"
 #include "platform/FolderChooser.h"
-#include "platform/MsgBox.h"
 #include "support/TimeSeconds.h"
 #include "tooling/SystemLogUsers.h"
 #include "tooling/ui/ui_Form_Tooling.h"
@@ -97,10 +98,12 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     connect(m_ui->lbSysSearch, &QPushButton::clicked, this, &Form_Tooling::lbSysSearch_Click);
     connect(m_ui->Cmd_SystemExport, &QPushButton::clicked, this, &Form_Tooling::Cmd_SystemExport_Click);
     connect(m_ui->btnCopyRows, &QPushButton::clicked, this, &Form_Tooling::copyRows);
-    connect(m_ui->btnOpenFolder, &QPushButton::clicked, this,
-            [this] { QDesktopServices::openUrl(QUrl::fromLocalFile(m_folder)); });
+    connect(m_ui->btnOpenFolder, &QPushButton::clicked, this, &Form_Tooling::openFolder);
     connect(new QShortcut(QKeySequence::Copy, grid, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
             &Form_Tooling::copyRows);
+    OnKey(this, Qt::Key_F5, [this] { lbSysPageControl_Click(SystemLogModel::Refresh); });
+    OnKey(this, QKeySequence::Find, [this] { m_ui->txtSysFilter->setFocus(); });
+    connect(m_ui->txtSysFilter, &QLineEdit::returnPressed, grid, qOverload<>(&QWidget::setFocus));
     m_filterDelay->setSingleShot(true);
     m_filterDelay->setInterval(kFilterDelay);
     connect(m_ui->txtSysFilter, &QLineEdit::textChanged, m_filterDelay, qOverload<>(&QTimer::start));
@@ -186,7 +189,7 @@ bool Form_Tooling::readSpan(const QString& pickers, SystemLogQuery& query)
     query.to = seconds(2);
     if (query.from < query.to)
         return true;
-    MsgBox(GetLangString(742), InfoBoxStyle(), GetLangString(570));
+    TellFault(findChild<QWidget*>(pickers + u'0'), 742);
     return false;
 }
 
@@ -300,15 +303,24 @@ void Form_Tooling::exported(SystemLogExport::Outcome outcome)
     if (outcome == Outcome::Unreadable)
         showExportState(Status::Bad, GetLangString(933), reason);
     if (outcome == Outcome::Nothing || outcome == Outcome::Unreadable) {
-        MsgBox(GetLangString(744), InfoBoxStyle(), GetLangString(570));
+        Tell(outcome == Outcome::Nothing ? Tone::Warning : Tone::Error, 744);
         return;
     }
     const bool whole = outcome == Outcome::Whole;
     m_ui->btnOpenFolder->setVisible(whole);
     showExportState(whole ? Status::Ok : Status::Bad, whole ? QFileInfo(file).fileName() : GetLangString(938),
                     whole ? file : reason);
-    MsgBox(GetLangString(asDatabase() ? 746 : 745), InfoBoxStyle(), GetLangString(570));
+    const QString end = GetLangString(asDatabase() ? 746 : 745) + u"\n\n"_s;
     m_exported();
+    if (!whole)
+        Tell(Tone::Error, end + GetLangString(938));
+    else if (TellAndOffer(end + file + u"\n\n"_s + GetLangString(1087)))
+        openFolder();
+}
+
+void Form_Tooling::openFolder()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(m_folder));
 }
 
 void Form_Tooling::showExportState(Status status, const QString& words, const QString& details)

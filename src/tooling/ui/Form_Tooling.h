@@ -38,6 +38,7 @@ private:
     void Cmd_SystemExport_Click();
     void exportTo(const QString& folder);
     void exported(SystemLogExport::Outcome outcome);
+    void openFolder();
     void showExportState(Status status, const QString& words, const QString& details);
     // The span of four pickers in seconds, or false after the box about a start that is not below the end.
     bool readSpan(const QString& pickers, SystemLogQuery& query);

@@ -3,11 +3,15 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/ui/TellFault.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/ActionBar.h"
+#include "look/widgets/EmptyState.h"
+#include "look/widgets/Keys.h"
 #include "look/widgets/PasswordField.h"
-#include "platform/MsgBox.h"
+#include "look/widgets/SecondClick.h"
+#include "support/Conversions.h"
 #include "users/AccountStore.h"
 #include "users/ui/FieldCaption.h"
 
@@ -17,11 +21,16 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QShortcut>
+#include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int kRemove = 1;      // column
+constexpr int kIconColumn = 56; // px
+} // namespace
 
 Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountRecord>& accounts, QWidget* parent)
     : DialogFrame(parent)
@@ -29,6 +38,7 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
     , m_accounts(accounts)
     , m_model(new QStandardItemModel(this))
     , Grid_Account(new QTableView)
+    , m_stack(new QStackedWidget)
     , m_user(new QLineEdit)
     , m_password(new PasswordField)
 {
@@ -52,7 +62,12 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
     auto* column = new QVBoxLayout(content());
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(12);
-    column->addWidget(Grid_Account, 1);
+    auto* empty = new EmptyState;
+    empty->setHeadline(GetLangString(1082));
+    empty->setHint(GetLangString(1083));
+    m_stack->addWidget(Grid_Account);
+    m_stack->addWidget(empty);
+    column->addWidget(m_stack, 1);
     auto* form = new QFormLayout;
     form->addRow(FieldCaption(465, m_user), m_user);
     form->addRow(FieldCaption(466, m_password), m_password);
@@ -62,19 +77,18 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
     QPushButton* close = footer()->addButton(GetLangString(881));
     close->setObjectName(u"lbAccountClose"_s);
     close->setAutoDefault(false);
-    connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    connect(close, &QPushButton::clicked, this, &Form_AccountEdit::reject);
     QPushButton* apply = footer()->addButton(GetLangString(591), "primary"_L1);
     apply->setObjectName(u"lbAccountApply"_s);
     apply->setDefault(true);
-    connect(apply, &QPushButton::clicked, this, &Form_AccountEdit::lbAccountApply_Click);
-    connect(Grid_Account, &QTableView::clicked, this, [this](const QModelIndex& index) {
-        if (index.column() == 1)
-            Grid_Account_Click(index.row());
+    connect(apply, &QPushButton::clicked, this, [this] { lbAccountApply_Click(); });
+    ActOnRows(Grid_Account, {.remove = kRemove}, [this](const QModelIndex& cell) {
+        if (cell.column() == kRemove)
+            Grid_Account_Click(cell.row());
     });
-    auto* remove = new QShortcut(Qt::Key_Delete, Grid_Account, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(remove, &QShortcut::activated, this, [this] {
-        if (Grid_Account->currentIndex().isValid())
-            Grid_Account_Click(Grid_Account->currentIndex().row());
+    OnKey(this, Qt::Key_F5, [this] {
+        if (GetMyAccount(m_databases, m_accounts) == 1)
+            refill();
     });
     ApplyLanguage(this);
     refill();
@@ -84,6 +98,7 @@ Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountR
 
 void Form_AccountEdit::refill()
 {
+    const int row = qMax(0, Grid_Account->currentIndex().row());
     m_model->clear();
     m_model->setHorizontalHeaderLabels({GetLangString(465), QString()});
     for (const NVRAccountRecord& account : m_accounts) {
@@ -94,44 +109,63 @@ void Form_AccountEdit::refill()
         remove->setData(GetLangString(877), Qt::AccessibleTextRole);
         m_model->appendRow({new QStandardItem(account.sUser), remove});
     }
-    Grid_Account->setColumnWidth(0, 360);
+    QHeaderView* head = Grid_Account->horizontalHeader();
+    head->setStretchLastSection(false);
+    head->setSectionResizeMode(0, QHeaderView::Stretch);
+    Grid_Account->setColumnWidth(kRemove, kIconColumn);
+    Grid_Account->setCurrentIndex(m_model->index(qMin(row, m_model->rowCount() - 1), 0));
+    m_stack->setCurrentIndex(m_model->rowCount() > 0 ? 0 : 1);
 }
 
-void Form_AccountEdit::lbAccountApply_Click()
+bool Form_AccountEdit::lbAccountApply_Click()
 {
+    bool added = false;
     Trapped("Form_AccountEdit - lbAccountApply_Click", [&] {
         for (auto [field, message] : {std::pair<QLineEdit*, int>{m_user, 595}, {m_password, 596}}) {
-            if (!field->text().isEmpty())
-                continue;
-            MsgBox(GetLangString(message), InfoBoxStyle(), GetLangString(965));
-            field->setFocus();
-            return;
+            if (field->text().isEmpty())
+                return TellFault(field, message, 965);
         }
-        if (HasAccount(m_accounts, m_user->text(), m_password->text())) {
-            MsgBox(GetLangString(620), InfoBoxStyle(), GetLangString(570));
-            return;
-        }
+        if (HasAccount(m_accounts, m_user->text(), m_password->text()))
+            return TellFault(m_user, 620);
         AddAccount(m_accounts, m_user->text(), m_password->text());
         SaveMyAccount(m_databases, m_accounts);
         refill();
+        Grid_Account->setCurrentIndex(m_model->index(m_model->rowCount() - 1, 0));
         m_user->clear();
         m_password->clear();
         m_user->setFocus();
+        added = true;
     });
+    return added;
+}
+
+// Esc, the close button and Close: an account that was typed is not lost silently.
+void Form_AccountEdit::reject()
+{
+    if (!m_user->text().isEmpty() || !m_password->text().isEmpty()) {
+        const Leave leave = AskToLeave();
+        if (leave == Leave::Stay || (leave == Leave::Save && !lbAccountApply_Click()))
+            return;
+    }
+    DialogFrame::reject();
 }
 
 void Form_AccountEdit::Grid_Account_Click(int row)
 {
     Trapped("Form_AccountEdit - Grid_Account_Click", [&] {
         // Rows stand for the elements that have a user.
-        for (std::size_t i = 0; i < m_accounts.size(); ++i) {
-            if (m_accounts[i].sUser.isEmpty() || row-- > 0)
-                continue;
-            RemoveAccount(m_accounts, static_cast<int>(i));
-            break;
+        int element = -1;
+        for (int left = row; left >= 0; --left) {
+            do
+                ++element;
+            while (At(m_accounts, element).sUser.isEmpty());
         }
+        if (!AskToDestroy(1084, At(m_accounts, element).sUser))
+            return;
+        RemoveAccount(m_accounts, element);
         SaveMyAccount(m_databases, m_accounts);
         refill();
+        DropSecondClick(); // the next account has come under the pointer
     });
 }
 

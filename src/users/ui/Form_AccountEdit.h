@@ -8,6 +8,7 @@
 
 class PasswordField;
 class QLineEdit;
+class QStackedWidget;
 class QStandardItemModel;
 class QTableView;
 
@@ -18,8 +19,10 @@ class Form_AccountEdit : public DialogFrame
 public:
     Form_AccountEdit(Databases& databases, std::vector<NVRAccountRecord>& accounts, QWidget* parent);
 
+    void reject() override;
+
 private:
-    void lbAccountApply_Click();
+    bool lbAccountApply_Click(); // whether the account was added
     void Grid_Account_Click(int row);
     void refill();
 
@@ -27,6 +30,7 @@ private:
     std::vector<NVRAccountRecord>& m_accounts;
     QStandardItemModel* m_model;
     QTableView* Grid_Account;
+    QStackedWidget* m_stack;
     QLineEdit* m_user;
     PasswordField* m_password;
 };

@@ -3,10 +3,15 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
+#include "look/style/Icons.h"
 #include "look/style/Theme.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/ActionBar.h"
+#include "look/widgets/EmptyState.h"
 #include "look/widgets/Fields.h"
+#include "look/widgets/Keys.h"
+#include "look/widgets/SecondClick.h"
 #include "support/Conversions.h"
 
 #include <QCheckBox>
@@ -19,12 +24,14 @@
 #include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QTableView>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int kSlotRole = Qt::UserRole;
 constexpr int kLiveAllBox = 3;
+constexpr int kIconColumn = 56; // px
 
 QVBoxLayout* Column(QWidget* frame)
 {
@@ -55,7 +62,7 @@ Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users,
     m_cancel->setAutoDefault(false);
     m_apply = footer()->addButton(GetLangString(591), "primary"_L1);
     m_apply->setDefault(true);
-    connect(m_cancel, &QPushButton::clicked, this, &Form_GroupPrivilege::cancelFrame);
+    connect(m_cancel, &QPushButton::clicked, this, &Form_GroupPrivilege::leaveFrame);
     connect(m_apply, &QPushButton::clicked, this, [this] {
         if (m_frame == 0)
             lbGroupPrivilege_Click();
@@ -89,15 +96,20 @@ QWidget* Form_GroupPrivilege::buildGroupFrame()
     Grid_NVRList->setModel(m_nvrs);
     StyleTable(Grid_NVRList);
     Grid_NVRList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    Grid_NVRList->installEventFilter(this);
-    connect(Grid_NVRList, &QTableView::clicked, this, [this](const QModelIndex& index) { openRecorder(index.row()); });
+    ActOnRows(Grid_NVRList, {.open = NVREdit}, [this](const QModelIndex& cell) { openRecorder(cell.row()); });
+    OnKey(Grid_NVRList, Qt::Key_Space, [this] { openRecorder(Grid_NVRList->currentIndex().row()); });
     connect(At(Chk_GroupPrivilege, kLiveAllBox), &QCheckBox::toggled, this,
             [this](bool on) { Grid_NVRList->setEnabled(!on); });
     auto* title = new QLabel;
     title->setProperty("tag", u"Caption:838"_s);
     SetRole(title, "cardTitle"_L1);
     column->addWidget(title);
-    column->addWidget(Grid_NVRList, 1);
+    auto* empty = new EmptyState("empty-recorder"_L1);
+    empty->setHeadline(GetLangString(861));
+    m_nvrStack = new QStackedWidget;
+    m_nvrStack->addWidget(Grid_NVRList);
+    m_nvrStack->addWidget(empty);
+    column->addWidget(m_nvrStack, 1);
     return frame;
 }
 
@@ -121,6 +133,8 @@ QWidget* Form_GroupPrivilege::buildChannelFrame()
     filter->setAccessibleName(GetLangString(906));
     filter->setMaximumWidth(260);
     connect(filter, &QLineEdit::textChanged, m_proxy, &QSortFilterProxyModel::setFilterFixedString);
+    connect(filter, &QLineEdit::returnPressed, this, [this] { Grid_ChannelPrivilege->setFocus(); });
+    OnKey(frame, QKeySequence::Find, [filter] { filter->setFocus(); });
     tools->addWidget(filter, 1);
     tools->addWidget(Chk_NVRPrivilege);
     tools->addStretch();
@@ -184,6 +198,7 @@ void Form_GroupPrivilege::SetGroupPrivilege(int index)
 
 void Form_GroupPrivilege::LoadFrame(int frame)
 {
+    const bool back = m_frame == 1 && frame == 0;
     m_frame = frame;
     m_frames->setCurrentIndex(frame);
     setWindowTitle(GetLangString(frame == 0 ? 837 : 838));
@@ -192,7 +207,9 @@ void Form_GroupPrivilege::LoadFrame(int frame)
     m_apply->setObjectName(frame == 0 ? u"lbGroupPrivilege_0"_s : u"lbNVRPrivilege_0"_s);
     m_cancel->setObjectName(frame == 0 ? u"lbGroupPrivilege_1"_s : u"lbNVRPrivilege_1"_s);
     m_apply->setEnabled(frame == 0 || m_group != 0);
-    if (frame == 0)
+    if (back)
+        Grid_NVRList->setFocus();
+    else if (frame == 0)
         At(Chk_GroupPrivilege, 0)->setFocus();
     else
         Grid_ChannelPrivilege->setFocus();
@@ -201,7 +218,7 @@ void Form_GroupPrivilege::LoadFrame(int frame)
 void Form_GroupPrivilege::Grid_NVRList_Draw()
 {
     m_nvrs->clear();
-    m_nvrs->setHorizontalHeaderLabels({u"NVR"_s, GetLangString(362), GetLangString(784)});
+    m_nvrs->setHorizontalHeaderLabels({u"NVR"_s, GetLangString(362), GetLangString(784), QString()});
     for (int slot = 0; slot < kMaxSVR; ++slot) {
         const SVRRecord& recorder = At(m_recorders.SVRWorkList, slot);
         if (recorder.sSVR_Name.isEmpty())
@@ -219,12 +236,22 @@ void Form_GroupPrivilege::Grid_NVRList_Draw()
         number->setData(slot, kSlotRole);
         auto* state = new QStandardItem((m_group == 0 || rights.all ? u"✓  "_s : QString()) +
                                         GetLangString(866).arg(live).arg(cameras));
-        m_nvrs->appendRow({number, new QStandardItem(recorder.sSVR_Name), state});
+        auto* edit = new QStandardItem(Icon("edit"_L1), QString());
+        edit->setToolTip(GetLangString(876));
+        edit->setData(GetLangString(876), Qt::AccessibleTextRole);
+        m_nvrs->appendRow({number, new QStandardItem(recorder.sSVR_Name), state, edit});
     }
+    QHeaderView* head = Grid_NVRList->horizontalHeader();
+    head->setStretchLastSection(false);
+    head->setSectionResizeMode(1, QHeaderView::Stretch);
     Grid_NVRList->setColumnWidth(0, 80);
-    Grid_NVRList->setColumnWidth(1, 320);
-    if (m_nvrs->rowCount() > 0)
-        Grid_NVRList->setCurrentIndex(m_nvrs->index(0, 0));
+    Grid_NVRList->setColumnWidth(2, 240);
+    Grid_NVRList->setColumnWidth(NVREdit, kIconColumn);
+    m_nvrStack->setCurrentIndex(m_nvrs->rowCount() > 0 ? 0 : 1);
+    for (int row = 0; row < m_nvrs->rowCount(); ++row) {
+        if (row == 0 || m_nvrs->item(row)->data(kSlotRole).toInt() == m_slot)
+            Grid_NVRList->setCurrentIndex(m_nvrs->index(row, 0));
+    }
 }
 
 void Form_GroupPrivilege::openRecorder(int row)
@@ -236,6 +263,7 @@ void Form_GroupPrivilege::openRecorder(int row)
         m_slot = item->data(kSlotRole).toInt();
         Grid_ChannelPrivilege_Draw(m_slot);
         LoadFrame(1);
+        DropSecondClick();
     });
 }
 
@@ -253,6 +281,7 @@ void Form_GroupPrivilege::Grid_ChannelPrivilege_Draw(int slot)
         button->setEnabled(editable);
     m_hint->setText(GetLangString(editable ? 912 : 913));
     Grid_ChannelPrivilege->setAccessibleName(GetLangString(784) + u". "_s + m_hint->text());
+    m_before = FormCHPrivilege(m_channels->rights(), At(m_recorders.SVRWorkList, slot));
     static constexpr std::array widths{64, 210, 92, 92, 104, 92};
     for (int column = 0; column < static_cast<int>(widths.size()); ++column)
         Grid_ChannelPrivilege->setColumnWidth(column, At(widths, column));
@@ -268,13 +297,32 @@ QModelIndexList Form_GroupPrivilege::chosenCells() const
     return cells;
 }
 
+// The group with the five rights as they are ticked.
+GroupPrivilegeRecord Form_GroupPrivilege::ticked()
+{
+    GroupPrivilegeRecord record = group();
+    qint16* const values[] = {&record.Setting, &record.Export, &record.Live, &record.Live_all, &record.SVDControl};
+    for (std::size_t i = 0; i < Chk_GroupPrivilege.size(); ++i)
+        *values[i] = Chk_GroupPrivilege[i]->isChecked() ? 1 : 0;
+    return record;
+}
+
+bool Form_GroupPrivilege::changed()
+{
+    if (m_frame == 1)
+        return m_channels->editable() &&
+               FormCHPrivilege(m_channels->rights(), At(m_recorders.SVRWorkList, m_slot)) != m_before;
+    const GroupPrivilegeRecord now = ticked();
+    const GroupPrivilegeRecord& before = group();
+    return std::tie(now.Setting, now.Export, now.Live, now.Live_all, now.SVDControl) !=
+           std::tie(before.Setting, before.Export, before.Live, before.Live_all, before.SVDControl);
+}
+
 void Form_GroupPrivilege::lbGroupPrivilege_Click()
 {
     Trapped("Form_GroupPrivilege - lbGroupPrivilege_Click", [&] {
         GroupPrivilegeRecord& record = group();
-        qint16* const values[] = {&record.Setting, &record.Export, &record.Live, &record.Live_all, &record.SVDControl};
-        for (std::size_t i = 0; i < Chk_GroupPrivilege.size(); ++i)
-            *values[i] = Chk_GroupPrivilege[i]->isChecked() ? 1 : 0;
+        record = ticked();
         record.bChanged = true;
         m_save();
         accept();
@@ -296,20 +344,27 @@ void Form_GroupPrivilege::lbNVRPrivilege_Click()
 }
 
 // Leaves the channels of a recorder for the group, and the group for good; nothing is stored.
-void Form_GroupPrivilege::cancelFrame()
+void Form_GroupPrivilege::leaveFrame()
 {
     if (m_frame == 0)
-        reject();
+        done(Rejected);
     else
         LoadFrame(0);
 }
 
-void Form_GroupPrivilege::keyPressEvent(QKeyEvent* event)
+// Esc and the close button go back one level.
+void Form_GroupPrivilege::reject()
 {
-    if (event->key() == Qt::Key_Escape)
-        cancelFrame();
-    else
-        DialogFrame::keyPressEvent(event);
+    switch (changed() ? AskToLeave() : Leave::Discard) {
+    case Leave::Save:
+        m_apply->click();
+        break;
+    case Leave::Discard:
+        leaveFrame();
+        break;
+    case Leave::Stay:
+        break;
+    }
 }
 
 bool Form_GroupPrivilege::eventFilter(QObject* watched, QEvent* event)
@@ -317,11 +372,6 @@ bool Form_GroupPrivilege::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return DialogFrame::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (watched == Grid_NVRList &&
-        (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter || key->key() == Qt::Key_Space)) {
-        openRecorder(Grid_NVRList->currentIndex().row());
-        return true;
-    }
     if (watched == Grid_ChannelPrivilege && key->key() == Qt::Key_Space && m_channels) {
         const QModelIndex current = Grid_ChannelPrivilege->currentIndex();
         if (key->modifiers() == Qt::ShiftModifier)

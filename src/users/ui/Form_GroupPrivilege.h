@@ -23,10 +23,12 @@ public:
 
     void SetGroupPrivilege(int group); // group index from 0
     void LoadFrame(int frame);
+    static constexpr int NVREdit = 3; // column of Grid_NVRList
+
+    void reject() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QWidget* buildGroupFrame();
@@ -36,7 +38,9 @@ private:
     void lbGroupPrivilege_Click();
     void lbNVRPrivilege_Click();
     void openRecorder(int row);
-    void cancelFrame();
+    void leaveFrame();
+    GroupPrivilegeRecord ticked();
+    bool changed(); // since the frame was opened
     QModelIndexList chosenCells() const;
     GroupPrivilegeRecord& group();
 
@@ -47,6 +51,7 @@ private:
     QStackedWidget* m_frames;
     std::array<QCheckBox*, 5> Chk_GroupPrivilege{}; // Setting, Export, Live, Live_all, SVDControl
     QTableView* Grid_NVRList = nullptr;
+    QStackedWidget* m_nvrStack = nullptr;
     QStandardItemModel* m_nvrs;
     QCheckBox* Chk_NVRPrivilege = nullptr;
     QLabel* m_hint = nullptr;
@@ -59,4 +64,5 @@ private:
     int m_group = 0;
     int m_slot = 0;
     int m_frame = 0;
+    QString m_before; // rights on the channels when frame 1 was opened
 };

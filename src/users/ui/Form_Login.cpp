@@ -3,13 +3,13 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/ui/TellFault.h"
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/Fields.h"
 #include "look/widgets/PasswordField.h"
 #include "platform/AppPath.h"
-#include "platform/MsgBox.h"
 #include "users/ui/FieldCaption.h"
 
 #include <QFormLayout>
@@ -135,8 +135,7 @@ void Form_Login::imgBtn_OK_Click()
         for (auto [field, message] : {std::pair{m_name, 42}, std::pair{m_password, 43}}) {
             if (!field->text().isEmpty())
                 continue;
-            MsgBox(GetLangString(message), InfoBoxStyle(), GetLangString(570));
-            field->setFocus();
+            TellFault(field, message);
             return;
         }
         if (bIsUser())
@@ -149,21 +148,18 @@ bool Form_Login::bIsUser()
     bool found = false;
     Trapped("Form_Login - bIsUser", [&] {
         if (!m_refusal.isEmpty()) {
-            MsgBox(m_refusal, InfoBoxStyle(), GetLangString(570));
+            Tell(Tone::Error, m_refusal);
             return;
         }
         const LoginResult result = CheckLogin(m_users, m_name->text(), m_password->text(), m_index);
         found = result == LoginResult::Ok;
         if (found)
             return;
-        MsgBox(GetLangString(44), InfoBoxStyle(), GetLangString(570));
+        Tell(Tone::Error, 44);
         m_password->clear();
-        if (result == LoginResult::Unknown) {
+        if (result == LoginResult::Unknown)
             m_name->clear();
-            m_name->setFocus();
-        } else {
-            m_password->setFocus();
-        }
+        PointAtFault(result == LoginResult::Unknown ? m_name : m_password);
     });
     return found;
 }

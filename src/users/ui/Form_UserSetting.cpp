@@ -3,6 +3,7 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/ui/TellFault.h"
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
 #include "look/widgets/ActionBar.h"
@@ -10,7 +11,6 @@
 #include "look/widgets/PasswordField.h"
 #include "platform/AppPath.h"
 #include "platform/FileChooser.h"
-#include "platform/MsgBox.h"
 #include "support/Conversions.h"
 #include "users/ui/FieldCaption.h"
 
@@ -45,9 +45,12 @@ Form_UserSetting::Form_UserSetting(UserSet& users, const QStringList& groups, bo
     setObjectName(u"Form_UserSetting"_s);
     build(groups);
     ApplyLanguage(this);
+    // Captions that other windows share have no star of their own.
+    for (const auto& [label, number] : {std::pair{u"lbUser_1"_s, 41}, {u"lbGroup"_s, 423}})
+        CutString(findChild<QLabel*>(label), u'*' + GetLangString(number), Language() == kRightToLeftLanguage);
     setWindowTitle(GetLangString(645));
-    setCloseText(GetLangString(881));
     Trapped("Form_UserSetting - Form_Activate", [&] { Form_Activate(groupFixed); });
+    m_before = state();
     resize(760, 0);
 }
 
@@ -72,12 +75,12 @@ void Form_UserSetting::build(const QStringList& groups)
         field->setObjectName(u"txtUser_%1"_s.arg(static_cast<int>(which)));
         field->setMaxLength(kLongestText);
         txtUser[which] = field;
-        connect(field, &QLineEdit::textChanged, this, [this] { m_apply->setEnabled(true); });
+        connect(field, &QLineEdit::textChanged, this, &Form_UserSetting::allowApply);
         // Numbers and mail addresses read from the left in every language.
         if (which == Telephone || which == Mobile || which == Mail1 || which == Mail2)
             field->setLayoutDirection(Qt::LeftToRight);
         if (which != Name) {
-            form->addRow(FieldCaption(captions[which], field), field);
+            form->addRow(FieldCaption(captions[which], field, u"lbUser_%1"_s.arg(static_cast<int>(which))), field);
             continue;
         }
         auto* check = new QPushButton;
@@ -93,8 +96,9 @@ void Form_UserSetting::build(const QStringList& groups)
     }
     cmbUser->setObjectName(u"cmbUser"_s);
     cmbUser->addItems(groups);
-    connect(cmbUser, &QComboBox::currentIndexChanged, this, [this] { m_apply->setEnabled(true); });
-    form->insertRow(3, FieldCaption(423, cmbUser), cmbUser);
+    cmbUser->setPlaceholderText(GetLangString(1081));
+    connect(cmbUser, &QComboBox::currentIndexChanged, this, &Form_UserSetting::allowApply);
+    form->insertRow(3, FieldCaption(423, cmbUser, u"lbGroup"_s), cmbUser);
     auto* necessary = new QLabel;
     necessary->setProperty("tag", u"Caption:651"_s);
     SetRole(necessary, "hint"_L1);
@@ -127,7 +131,7 @@ void Form_UserSetting::build(const QStringList& groups)
     QPushButton* cancel = footer()->addButton(GetLangString(475));
     cancel->setObjectName(u"lbUserApply_1"_s);
     cancel->setAutoDefault(false);
-    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(cancel, &QPushButton::clicked, this, [this] { done(Rejected); }); // what was typed is given up
     m_apply = footer()->addButton(GetLangString(591), "primary"_L1);
     m_apply->setObjectName(u"lbUserApply_0"_s);
     m_apply->setDefault(true);
@@ -155,7 +159,8 @@ void Form_UserSetting::Form_Activate(bool groupFixed)
         cmbUser->setEnabled(!groupFixed);
     }
     Trapped("Form_UserSetting - Form_Activate", [&] { showPhoto(); });
-    m_apply->setEnabled(false);
+    allowApply();
+    m_apply->setEnabled(false); // nothing has changed yet
     txtUser[Name]->setFocus();
 }
 
@@ -168,8 +173,32 @@ void Form_UserSetting::PSWD_Clear()
 void Form_UserSetting::refuse(const QString& logText, int message, QWidget* field)
 {
     LogSave(u"user"_s, LogSys, u"init"_s, u"Form_UserSetting - cmdSearch_Click"_s, logText);
-    MsgBox(GetLangString(message), InfoBoxStyle(), GetLangString(570));
-    field->setFocus();
+    TellFault(field, message);
+}
+
+// A change can be applied once there is a group.
+void Form_UserSetting::allowApply()
+{
+    m_apply->setEnabled(cmbUser->currentIndex() >= 0);
+    m_apply->setToolTip(cmbUser->currentIndex() >= 0 ? QString() : GetLangString(1081));
+}
+
+QStringList Form_UserSetting::state() const
+{
+    QStringList texts{Text_Filename->text(), QString::number(cmbUser->currentIndex())};
+    for (const QLineEdit* field : txtUser)
+        texts << field->text();
+    return texts;
+}
+
+// Esc and the close button.
+void Form_UserSetting::reject()
+{
+    const Leave leave = state() == m_before ? Leave::Discard : AskToLeave();
+    if (leave == Leave::Save)
+        lbUserApply_Click();
+    else if (leave == Leave::Discard)
+        DialogFrame::reject();
 }
 
 void Form_UserSetting::lbUserApply_Click()
@@ -201,7 +230,10 @@ void Form_UserSetting::lbUserCheck_Click()
 {
     const QString name = txtUser[Name]->text();
     const bool free = name.isEmpty() || SetUser_CheckName(m_users, name) == -1;
-    MsgBox(GetLangString(free ? 652 : 653), InfoBoxStyle(), GetLangString(570));
+    if (free)
+        Tell(Tone::Success, 652);
+    else
+        TellFault(txtUser[Name], 653);
 }
 
 void Form_UserSetting::Image1_DblClick()
@@ -212,7 +244,7 @@ void Form_UserSetting::Image1_DblClick()
         if (file.isEmpty())
             return;
         if (QFileInfo(file).size() >= kPhotoLimit) {
-            MsgBox(GetLangString(640), InfoBoxStyle(), GetLangString(570));
+            Tell(Tone::Warning, 640);
             Text_Filename->clear();
         } else {
             // A photo of the station's own folder goes by its name, so that the station can be moved.
@@ -220,7 +252,7 @@ void Form_UserSetting::Image1_DblClick()
             const bool own = info.dir() == QDir(StationPath(u"\\Images"));
             Text_Filename->setText(own ? info.fileName() : file);
         }
-        m_apply->setEnabled(true);
+        allowApply();
         showPhoto();
     });
 }

@@ -22,6 +22,7 @@ public:
     ~Form_UserSetting() override;
 
     void PSWD_Clear();
+    void reject() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,6 +46,8 @@ private:
     void lbUserCheck_Click();
     void Image1_DblClick();
     void showPhoto();
+    void allowApply();
+    QStringList state() const; // of all that can be changed
     // One log line, a box, and the focus back to the field.
     void refuse(const QString& logText, int message, QWidget* field);
 
@@ -55,4 +58,5 @@ private:
     QLabel* Image1;
     ElidedLabel* Text_Filename;
     QPushButton* m_apply;
+    QStringList m_before;
 };

@@ -2,12 +2,15 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Boxes.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/Card.h"
 #include "look/widgets/EmptyState.h"
-#include "platform/MsgBox.h"
+#include "look/widgets/Fields.h"
+#include "look/widgets/Keys.h"
+#include "look/widgets/SecondClick.h"
 #include "support/Conversions.h"
 #include "users/ui/Form_AccountEdit.h"
 #include "users/ui/Form_GroupPrivilege.h"
@@ -16,7 +19,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
-#include <QShortcut>
+#include <QSortFilterProxyModel>
 #include <QStackedWidget>
 #include <QStandardItemModel>
 #include <QStyledItemDelegate>
@@ -49,7 +52,17 @@ private:
     QLatin1StringView m_name;
 };
 
-QTableView* MakeGrid(const QString& name, QAbstractItemModel* model, const QList<int>& widths)
+QSortFilterProxyModel* MakeProxy(QAbstractItemModel* model, QObject* parent)
+{
+    auto* proxy = new QSortFilterProxyModel(parent);
+    proxy->setSourceModel(model);
+    proxy->setFilterKeyColumn(-1);
+    proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    return proxy;
+}
+
+// `wide` takes the room that the others leave.
+QTableView* MakeGrid(const QString& name, QAbstractItemModel* model, const QList<int>& widths, int wide)
 {
     auto* grid = new QTableView;
     grid->setObjectName(name);
@@ -57,6 +70,8 @@ QTableView* MakeGrid(const QString& name, QAbstractItemModel* model, const QList
     StyleTable(grid);
     grid->setSelectionMode(QAbstractItemView::SingleSelection);
     SetColumnWidths(grid, widths);
+    grid->horizontalHeader()->setStretchLastSection(false);
+    grid->horizontalHeader()->setSectionResizeMode(wide, QHeaderView::Stretch);
     return grid;
 }
 
@@ -67,16 +82,20 @@ UserPage::UserPage(UserPageContext context, QWidget* parent)
     , m_context(std::move(context))
     , m_users(new UserListModel(m_context.users, m_context.groups, this))
     , m_groups(new GroupListModel(m_context.groups, this))
+    , m_proxy(MakeProxy(m_users, this))
     , m_userCard(new Card)
     , m_groupCard(new Card)
     , m_stack(new QStackedWidget)
     , m_empty(new EmptyState)
-    , Grid_UsersList(MakeGrid(u"Grid_UsersList"_s, m_users, {340, 300, 56, 56}))
-    , Grid_GroupList(MakeGrid(u"Grid_GroupList"_s, m_groups, {280, 150, 130, 130, 100, 56}))
+    , m_filter(new SearchField)
+    , Grid_UsersList(MakeGrid(u"Grid_UsersList"_s, m_proxy, {340, 300, 56, 56}, UserListModel::Name))
+    , Grid_GroupList(MakeGrid(u"Grid_GroupList"_s, m_groups, {280, 150, 130, 130, 100, 56}, GroupListModel::Group))
     , lbUserAdd(new QPushButton)
     , m_reach(new QPushButton)
     , m_accountsButton(new QPushButton)
 {
+    m_filter->setObjectName(u"txtFilter"_s);
+    m_filter->setMaximumWidth(240);
     Grid_UsersList->setItemDelegateForColumn(UserListModel::Edit, new IconColumn("edit"_L1, this));
     Grid_UsersList->setItemDelegateForColumn(UserListModel::Delete, new IconColumn("delete"_L1, this));
     Grid_GroupList->setItemDelegateForColumn(GroupListModel::Edit, new IconColumn("edit"_L1, this));
@@ -90,6 +109,7 @@ UserPage::UserPage(UserPageContext context, QWidget* parent)
     auto* tools = new QHBoxLayout(toolRow);
     tools->setContentsMargins(0, 0, 0, 0);
     tools->setSpacing(10);
+    tools->addWidget(m_filter);
     tools->addWidget(m_accountsButton);
     tools->addWidget(m_reach);
     tools->addWidget(lbUserAdd);
@@ -106,6 +126,7 @@ UserPage::UserPage(UserPageContext context, QWidget* parent)
     column->setSpacing(16);
     column->addWidget(m_userCard, 1);
     column->addWidget(m_groupCard);
+    setTabOrder(m_filter, m_accountsButton);
     setTabOrder(m_accountsButton, m_reach);
     setTabOrder(m_reach, lbUserAdd);
     setTabOrder(lbUserAdd, Grid_UsersList);
@@ -116,25 +137,27 @@ UserPage::UserPage(UserPageContext context, QWidget* parent)
     connect(m_reach, &QPushButton::clicked, this, &UserPage::showReach);
     connect(m_accountsButton, &QPushButton::clicked, this,
             [this] { OpenAccountEdit(m_context.databases, m_context.accounts, window()); });
-    connect(Grid_UsersList, &QTableView::clicked, this, [this](const QModelIndex& index) {
-        if (index.column() == UserListModel::Edit)
-            editUser(currentSlot());
-        else if (index.column() == UserListModel::Delete)
-            deleteUser(currentSlot());
+    connect(m_filter, &QLineEdit::textChanged, this, [this](const QString& text) {
+        m_proxy->setFilterFixedString(text);
+        showList();
     });
-    connect(Grid_GroupList, &QTableView::clicked, this, [this](const QModelIndex& index) {
-        if (index.column() == GroupListModel::Edit)
-            editGroup(index.row());
+    connect(m_filter, &QLineEdit::returnPressed, Grid_UsersList, qOverload<>(&QWidget::setFocus));
+    ActOnRows(Grid_UsersList, {UserListModel::Edit, UserListModel::Delete}, [this](const QModelIndex& cell) {
+        const int slot = cell.data(UserListModel::kSlotRole).toInt();
+        if (cell.column() == UserListModel::Delete)
+            deleteUser(slot);
+        else
+            editUser(slot);
     });
-    const auto keys = [this](QTableView* grid, std::initializer_list<Qt::Key> which, auto&& act) {
-        for (const Qt::Key key : which) {
-            auto* shortcut = new QShortcut(key, grid, nullptr, nullptr, Qt::WidgetShortcut);
-            connect(shortcut, &QShortcut::activated, this, act);
-        }
-    };
-    keys(Grid_UsersList, {Qt::Key_Return, Qt::Key_Enter}, [this] { editUser(currentSlot()); });
-    keys(Grid_UsersList, {Qt::Key_Delete}, [this] { deleteUser(currentSlot()); });
-    keys(Grid_GroupList, {Qt::Key_Return, Qt::Key_Enter}, [this] { editGroup(Grid_GroupList->currentIndex().row()); });
+    ActOnRows(Grid_GroupList, {.open = GroupListModel::Edit},
+              [this](const QModelIndex& cell) { editGroup(cell.row()); });
+    OnKey(Grid_UsersList, Qt::Key_F2, [this] { editUser(currentSlot()); });
+    OnKey(Grid_GroupList, Qt::Key_F2, [this] { editGroup(Grid_GroupList->currentIndex().row()); });
+    OnKey(this, QKeySequence::Find, [this] { m_filter->setFocus(); });
+    OnKey(this, Qt::Key_F5, [this] {
+        User_Table_Set();
+        Group_Table_Set();
+    });
 }
 
 int UserPage::currentSlot() const
@@ -145,20 +168,37 @@ int UserPage::currentSlot() const
 
 void UserPage::User_Table_Set()
 {
+    // The same user stays current, or the one that has come to the place.
+    const int row = qMax(0, Grid_UsersList->currentIndex().row());
+    const QVariant slot = Grid_UsersList->currentIndex().data(UserListModel::kSlotRole);
     m_users->User_Table_Set();
-    const bool none = m_users->rowCount() == 0;
-    m_stack->setCurrentWidget(none ? static_cast<QWidget*>(m_empty) : Grid_UsersList);
-    lbUserAdd->setVisible(!none);
-    m_reach->setVisible(!none);
-    if (!none && !Grid_UsersList->currentIndex().isValid())
-        Grid_UsersList->setCurrentIndex(m_users->index(0, 0));
+    showList();
+    const QModelIndexList same =
+        m_proxy->match(m_proxy->index(0, 0), UserListModel::kSlotRole, slot, 1, Qt::MatchExactly);
+    Grid_UsersList->setCurrentIndex(same.isEmpty() ? m_proxy->index(qMin(row, m_proxy->rowCount() - 1), 0)
+                                                   : same.front());
     emit usersChanged();
+}
+
+// The list, or what stands in its place while there is nobody to show.
+void UserPage::showList()
+{
+    const bool none = m_users->rowCount() == 0;
+    m_empty->setHeadline(GetLangString(none ? 903 : 1089));
+    m_empty->setHint(none ? GetLangString(900) : QString());
+    m_empty->setButton(none ? GetLangString(901) : QString());
+    m_stack->setCurrentWidget(m_proxy->rowCount() == 0 ? static_cast<QWidget*>(m_empty) : Grid_UsersList);
+    for (QWidget* tool :
+         {static_cast<QWidget*>(m_filter), static_cast<QWidget*>(lbUserAdd), static_cast<QWidget*>(m_reach)})
+        tool->setVisible(!none);
+    m_reach->setEnabled(m_proxy->rowCount() > 0);
 }
 
 void UserPage::Group_Table_Set()
 {
+    const int row = qMax(0, Grid_GroupList->currentIndex().row());
     m_groups->Group_Table_Set();
-    Grid_GroupList->setCurrentIndex(m_groups->index(0, 0));
+    Grid_GroupList->setCurrentIndex(m_groups->index(row, 0));
 }
 
 void UserPage::changeLanguage()
@@ -170,9 +210,8 @@ void UserPage::changeLanguage()
     lbUserAdd->setText(GetLangString(442));
     m_reach->setText(GetLangString(904));
     m_accountsButton->setText(GetLangString(831));
-    m_empty->setHeadline(GetLangString(903));
-    m_empty->setHint(GetLangString(900));
-    m_empty->setButton(GetLangString(901));
+    m_filter->setPlaceholderText(GetLangString(1088));
+    m_filter->setAccessibleName(GetLangString(1088));
     User_Table_Set();
     Group_Table_Set();
 }
@@ -204,12 +243,12 @@ void UserPage::deleteUser(int slot)
     if (slot < 0)
         return;
     Trapped("Form_Initial - Grid_UsersList_Click", [&] {
-        if (IsLastAdmin(m_context.users, slot) && SetUser_TotalNum(m_context.users) > 1) {
-            MsgBox(GetLangString(502), InfoBoxStyle(), GetLangString(570));
-            return;
-        }
-        if (MsgBox(GetLangString(501), AskBoxStyle(), GetLangString(570)) == MsgResult::Yes)
+        if (IsLastAdmin(m_context.users, slot) && SetUser_TotalNum(m_context.users) > 1)
+            return Tell(Tone::Warning, 502);
+        if (AskToDestroy(501, At(m_context.users.edit, slot).sUser)) {
             SetUser_Delete(m_context.users, slot);
+            DropSecondClick(); // the next user comes under the pointer
+        }
         m_context.save();
         User_Table_Set();
     });
@@ -256,10 +295,16 @@ void UserPage::showReach()
         }
         auto* column = new QVBoxLayout(dialog.content());
         column->setContentsMargins(0, 0, 0, 0);
-        QTableView* grid = MakeGrid(u"Grid_Reach"_s, &model, {190, 60, 180});
+        QTableView* grid = MakeGrid(u"Grid_Reach"_s, &model, {190, 80, 180}, 3);
         grid->setAccessibleName(GetLangString(904));
         grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
+        auto* empty = new EmptyState;
+        empty->setHeadline(GetLangString(1085));
+        empty->setHint(GetLangString(1086));
+        grid->setVisible(model.rowCount() > 0);
+        empty->setVisible(model.rowCount() == 0);
         column->addWidget(grid);
+        column->addWidget(empty);
         QPushButton* close = dialog.footer()->addButton(GetLangString(881), "primary"_L1);
         close->setObjectName(u"btnClose"_s);
         connect(close, &QPushButton::clicked, &dialog, &QDialog::accept);

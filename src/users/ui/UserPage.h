@@ -9,7 +9,9 @@ class Card;
 class EmptyState;
 class QPushButton;
 class QStackedWidget;
+class QSortFilterProxyModel;
 class QTableView;
+class SearchField;
 
 // What the page works on. `save` writes everything that is marked.
 struct UserPageContext
@@ -44,15 +46,18 @@ private:
     void deleteUser(int slot);
     void editGroup(int group);
     void showReach();
+    void showList();
     int currentSlot() const;
 
     UserPageContext m_context;
     UserListModel* m_users;
     GroupListModel* m_groups;
+    QSortFilterProxyModel* m_proxy;
     Card* m_userCard;
     Card* m_groupCard;
     QStackedWidget* m_stack;
     EmptyState* m_empty;
+    SearchField* m_filter;
     QTableView* Grid_UsersList;
     QTableView* Grid_GroupList;
     QPushButton* lbUserAdd;
