@@ -5,10 +5,11 @@
 #include "platform/Clock.h"
 #include "platform/Closing.h"
 #include "platform/DatabaseFile.h"
-#include "platform/MsgBox.h"
+#include "platform/Wait.h"
 #include "recorders/data/SVRStore.h"
 #include "store/SystemLog.h"
 #include "tests/store/StoreFixture.h"
+#include "tests/support/BoxAnswers.h"
 #include "users/AccountStore.h"
 
 #include <QProcess>
@@ -22,24 +23,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A station folder as it may be found at start, and the station that opens it.
-class StationTest : public StoreFixture
+class StationTest : public StoreFixture, protected BoxAnswers
 {
 protected:
     StationTest()
     {
         qputenv("XDG_CONFIG_HOME", path(u"\\config").toUtf8());
         qputenv("XDG_CONFIG_DIRS", path(u"\\machine").toUtf8());
-        SetMsgBoxHandler([this](const QString& text, qint32, const QString& title) {
-            boxes << text;
-            EXPECT_EQ(title, u"Information"_s);
-            return answers.isEmpty() ? MsgResult::No : answers.takeFirst();
-        });
         SetLanguage(1);
     }
     ~StationTest() override
     {
-        SetMsgBoxHandler(nullptr);
         SetClosing(false);
+        EXPECT_EQ(titles.count(u"Information"_s), titles.size());
     }
     // A database whose system name tells it from others.
     void makeDatabase(QStringView literal, const QString& name)
@@ -99,8 +95,6 @@ protected:
         return texts;
     }
 
-    QStringList boxes;
-    QList<MsgResult> answers;
     std::unique_ptr<Station> fresh;
 };
 

@@ -1,40 +1,19 @@
-#include "app/Station.h"
-#include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "app/ui/Form_Initial.h"
-#include "look/style/Theme.h"
-#include "platform/Closing.h"
-#include "platform/MsgBox.h"
-#include "tests/store/StoreFixture.h"
+#include "tests/support/DeskFixture.h"
 #include "tests/walkthrough/Captions.h"
 #include "tests/walkthrough/DeskWindows.h"
-#include "tests/walkthrough/Driver.h"
 
-#include <QApplication>
 #include <QFontDatabase>
 #include <QGlyphRun>
 #include <QRawFont>
-#include <QTest>
 #include <QTextLayout>
 #include <array>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class CaptionTest : public StoreFixture
-{
-protected:
-    ~CaptionTest() override
-    {
-        SetMsgBoxHandler(nullptr);
-        SetBoxStyles(false);
-        SetClosing(false);
-        SetLanguage(1);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-    }
-};
+using CaptionTest = DeskFixture;
 
 } // namespace
 
@@ -65,22 +44,15 @@ TEST_F(CaptionTest, ScriptsAreWrittenInTheirOwnFaces)
 // Every window at its default size, in one desk that goes from language to language: what does not fit is printed.
 TEST_F(CaptionTest, FitEveryWindowInEveryLanguage)
 {
-    open();
-    execute(u"UPDATE BasicDefault SET iLanguage=1"_s);
-    CloseDatabases(databases);
-    const auto owner = std::make_unique<Station>();
-    Form_Initial desk(*owner);
-    ASSERT_TRUE(desk.Form_Load());
-    desk.resize(1280, 720);
-    desk.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&desk));
+    ASSERT_TRUE(start());
+    desk->resize(1280, 720);
     for (int language = 1; language <= kLanguages; ++language) {
         SetLanguage(language);
         SetBoxStyles(language == kRightToLeftLanguage);
-        desk.ChangeLanguage();
+        desk->ChangeLanguage();
         QStringList cut;
         int windows = 0;
-        VisitWindows(desk, *owner, [&](const QString& name, QWidget& window) {
+        VisitWindows(*desk, *station, [&](const QString& name, QWidget& window) {
             ++windows;
             const QStringList lines = CutCaptions(window);
             for (const QString& line : lines)
@@ -88,12 +60,12 @@ TEST_F(CaptionTest, FitEveryWindowInEveryLanguage)
         });
         EXPECT_GT(windows, 25);
         Driver::click(u"lbMenu_0"_s);
-        desk.resize(desk.minimumSizeHint());
-        for (const QString& line : CutCaptions(desk).filter(u"optStartUp"_s))
+        desk->resize(desk->minimumSizeHint());
+        for (const QString& line : CutCaptions(*desk).filter(u"optStartUp"_s))
             cut << u"narrow / "_s + line;
-        desk.resize(1280, 720);
-        EXPECT_LE(desk.minimumSizeHint().width(), 960) << "language " << language;
-        EXPECT_LE(desk.minimumSizeHint().height(), 510) << "language " << language;
+        desk->resize(1280, 720);
+        EXPECT_LE(desk->minimumSizeHint().width(), 960) << "language " << language;
+        EXPECT_LE(desk->minimumSizeHint().height(), 510) << "language " << language;
         EXPECT_TRUE(cut.isEmpty()) << "language " << language << '\n' << cut.join(u'\n').toStdString();
     }
 }

@@ -1,27 +1,16 @@
-#include "app/Station.h"
-#include "app/language/Languages.h"
-#include "app/log/Module_Log.h"
-#include "app/ui/Form_Initial.h"
 #include "app/ui/MsgBoxWindow.h"
 #include "app/ui/Remembered.h"
-#include "look/style/Theme.h"
 #include "platform/Clock.h"
-#include "platform/Closing.h"
-#include "platform/MsgBox.h"
 #include "platform/UserSettings.h"
-#include "tests/store/StoreFixture.h"
-#include "tests/walkthrough/Driver.h"
+#include "tests/support/DeskFixture.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QTableView>
-#include <QTest>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
@@ -43,50 +32,13 @@ private:
 };
 
 // The desk started on a station of its own; boxes are answered from a list unless a test shows them.
-class ShellTest : public StoreFixture
+class ShellTest : public DeskFixture
 {
 protected:
-    ShellTest()
-    {
-        qputenv("XDG_CONFIG_HOME", path(u"\\config").toUtf8());
-        qputenv("XDG_CONFIG_DIRS", path(u"\\machine").toUtf8());
-        SetMsgBoxHandler([this](const QString& text, qint32 style, const QString&) {
-            boxes << text;
-            styles << style;
-            return answers.isEmpty() ? MsgResult::No : answers.takeFirst();
-        });
-        SetLanguage(99);
-    }
     ~ShellTest() override
     {
         desk.reset();
-        SetMsgBoxHandler(nullptr);
         UseUserSettings(nullptr);
-        SetCurrentUser({});
-        SetClosing(false);
-        SetLanguage(1);
-        SetBoxStyles(false);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-        PinClock(QDateTime());
-    }
-    bool start(const QString& statement = {})
-    {
-        desk.reset();
-        if (!QFile::exists(path(kDatabaseFile)))
-            QFile::copy(path(kTemplateFile), path(kDatabaseFile));
-        if (!statement.isEmpty()) {
-            Connection connection;
-            connection.setConnectionString(DatabaseConnectionString(path(kDatabaseFile)));
-            connection.open();
-            EXPECT_TRUE(QSqlQuery(connection.database()).exec(statement)) << statement.toStdString();
-        }
-        station = std::make_unique<Station>();
-        desk = std::make_unique<Form_Initial>(*station);
-        if (!desk->Form_Load())
-            return false;
-        desk->resize(1280, 720);
-        desk->show();
-        return QTest::qWaitForWindowExposed(desk.get());
     }
     void end()
     {
@@ -94,7 +46,6 @@ protected:
         desk->close();
         EXPECT_TRUE(QTest::qWaitFor([this] { return desk->unloaded(); }, 10000));
     }
-    void press(const QString& name, Qt::Key key) { QTest::keyClick(Driver::find(name), key); }
     QStringList audit()
     {
         QStringList texts;
@@ -104,17 +55,7 @@ protected:
             texts << rows.value(0).toString();
         return texts;
     }
-    QVariant stored(const QString& column)
-    {
-        QSqlQuery query(station->databases.DBConn->database());
-        return query.exec(u"SELECT %1 FROM BasicDefault"_s.arg(column)) && query.next() ? query.value(0) : QVariant();
-    }
-
-    std::unique_ptr<Station> station;
-    std::unique_ptr<Form_Initial> desk;
-    QStringList boxes;
-    QList<qint32> styles;
-    QList<MsgResult> answers;
+    QVariant stored(const QString& column) { return row(u"SELECT %1 FROM BasicDefault"_s.arg(column)); }
 };
 
 } // namespace
@@ -314,7 +255,6 @@ TEST_F(ShellTest, WithoutALoginNobodyGoesOnAfterTheFirstUserWasMade)
     chief.sUser = u"chief"_s;
     chief.bChanged = true;
     SaveCheck(*station);
-    Driver driver;
     driver.add(
         u"users"_s, [] { return true; }, [] { Driver::click(u"lbMenu_3"_s); });
     driver.add(
@@ -359,7 +299,6 @@ TEST_F(ShellTest, TheDesksOwnBoxAnswersByKeyboard)
     ASSERT_TRUE(start());
     const MsgBoxHandler queued = SetMsgBoxHandler(nullptr);
     InstallMsgBoxWindow();
-    Driver driver;
     MsgResult result = MsgResult::Ok;
     driver.add(
         u"ask"_s, [] { return true; }, [&] { result = MsgBox(u"?"_s, AskBoxStyle(), u"Information"_s); });

@@ -1,25 +1,17 @@
-#include "app/language/Languages.h"
-#include "app/ui/Form_Initial.h"
-#include "look/style/Theme.h"
-#include "platform/Closing.h"
-#include "platform/MsgBox.h"
 #include "platform/Work.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/ChannelListModel.h"
 #include "recorders/detect/NVRDetect.h"
 #include "simulators/SimulatorThread.h"
 #include "tests/Await.h"
-#include "tests/store/StoreFixture.h"
-#include "tests/walkthrough/Driver.h"
+#include "tests/support/DeskFixture.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
-#include <QTest>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -39,30 +31,9 @@ DeviceDescription Recorder(Family family, int channels, int cameras)
 }
 
 // The desk on its page of recorders, with simulated ones in its slots. Boxes are answered from a list.
-class NVRSettingWindow : public StoreFixture
+class NVRSettingWindow : public DeskFixture
 {
 protected:
-    NVRSettingWindow()
-    {
-        SetMsgBoxHandler([this](const QString& text, qint32, const QString& title) {
-            boxes << text;
-            titles << title;
-            return answers.isEmpty() ? MsgResult::Ok : answers.takeFirst();
-        });
-        const int language = qEnvironmentVariableIntValue("DESK_LANGUAGE");
-        SetLanguage(language > 0 ? language : 1);
-        open();
-        execute(u"UPDATE BasicDefault SET iLanguage=%1"_s.arg(Language()));
-    }
-    ~NVRSettingWindow() override
-    {
-        desk.reset();
-        SetMsgBoxHandler(nullptr);
-        SetClosing(false);
-        SetLanguage(1);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-    }
-
     void start(std::vector<DeviceDescription> devices)
     {
         simulators::SiteDescription description;
@@ -70,9 +41,7 @@ protected:
         description.discovery = false;
         description.devices = std::move(devices);
         site = std::make_unique<simulators::SimulatorThread>(description);
-        CloseDatabases(databases);
-        desk = std::make_unique<Form_Initial>(*station);
-        ASSERT_TRUE(desk->Form_Load());
+        ASSERT_TRUE(DeskFixture::start());
         Form_COM com;
         Work work;
         for (int slot = 0; slot < static_cast<int>(description.devices.size()); ++slot) {
@@ -88,9 +57,6 @@ protected:
                 {com, recorders(), station->accounts, station->events}, item, [](const DetectStatus&) {}, work)));
         }
         SaveCheck(*station);
-        desk->resize(1280, 800);
-        desk->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(desk.get()));
         step(u"lbMenu_1"_s, [] { Driver::click(u"lbMenu_1"_s); });
     }
     void openRecorder(int slot)
@@ -104,25 +70,7 @@ protected:
         site->call([&](Site& running) { found = running.device(device).channel(channel).camera; });
         return found;
     }
-    QVariant row(const QString& sql)
-    {
-        QSqlQuery query(station->databases.DBConn->database());
-        return query.exec(sql) && query.next() ? query.value(0) : QVariant();
-    }
-
-    void step(const QString& name, std::function<void()> act)
-    {
-        const auto ready = [name] {
-            QWidget* modal = QApplication::activeModalWidget();
-            return Driver::usable(name) && (!modal || modal == QApplication::activeWindow());
-        };
-        driver.add(name, ready, std::move(act));
-    }
-    void waitClosed()
-    {
-        driver.add(
-            u"closed"_s, [] { return !Driver::find(u"Form_NVRSetting"_s); }, [] {});
-    }
+    void waitClosed() { DeskFixture::waitClosed(u"Form_NVRSetting"_s); }
     static QVariant cell(const QString& grid, int row, int column, int role = Qt::DisplayRole)
     {
         return Driver::find<QTableView>(grid)->model()->index(row, column).data(role);
@@ -147,13 +95,7 @@ protected:
         EXPECT_EQ(box->currentText(), entry);
     }
 
-    std::unique_ptr<Station> station = std::make_unique<Station>();
     std::unique_ptr<simulators::SimulatorThread> site;
-    std::unique_ptr<Form_Initial> desk;
-    Driver driver;
-    QStringList boxes;
-    QStringList titles;
-    QList<MsgResult> answers;
 };
 
 TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)

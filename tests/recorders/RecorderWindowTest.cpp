@@ -1,9 +1,8 @@
 #include "app/language/Languages.h"
-#include "look/style/Theme.h"
 #include "look/tables/StatusRoles.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/StepStrip.h"
-#include "platform/MsgBox.h"
+#include "platform/Wait.h"
 #include "platform/Work.h"
 #include "recorders/detect/DetectStatusModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
@@ -11,6 +10,7 @@
 #include "simulators/SimulatorThread.h"
 #include "support/Conversions.h"
 #include "tests/TestMain.h"
+#include "tests/support/BoxAnswers.h"
 #include "tests/walkthrough/Driver.h"
 
 #include <QApplication>
@@ -35,18 +35,10 @@ namespace {
 const QString kNetwork = simulators::ownNetwork();
 
 // Recorders in a thread, and the desk's windows over them.
-class RecorderWindows : public ::testing::Test
+class RecorderWindows : public ::testing::Test, protected BoxAnswers
 {
 protected:
-    RecorderWindows()
-    {
-        SetLanguage(1);
-        SetMsgBoxHandler([this](const QString& text, qint32, const QString&) {
-            boxes << text;
-            return answers.isEmpty() ? MsgResult::No : answers.takeFirst();
-        });
-    }
-    ~RecorderWindows() override { SetMsgBoxHandler(nullptr); }
+    RecorderWindows() { SetLanguage(1); }
 
     void startSite(const std::vector<Family>& families, bool discovery = false)
     {
@@ -98,8 +90,6 @@ protected:
     Form_COM com;
     RecorderEvents events;
     TemporaryStation station;
-    QStringList boxes;
-    QList<MsgResult> answers;
 };
 
 // The text of a column by the recorder's slot, whatever the order of the rows.

@@ -1,10 +1,9 @@
 #include "app/language/Languages.h"
 #include "app/language/ui/ChangeLanguage.h"
-#include "look/style/Theme.h"
 #include "platform/FolderChooser.h"
-#include "platform/MsgBox.h"
 #include "tests/LoopWatch.h"
 #include "tests/store/StoreFixture.h"
+#include "tests/support/BoxAnswers.h"
 #include "tooling/ui/Form_Tooling.h"
 
 #include <QApplication>
@@ -21,16 +20,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // The page over an audit log of 40 rows of today, driven by the keyboard.
-class ToolingPageTest : public StoreFixture
+class ToolingPageTest : public StoreFixture, protected BoxAnswers
 {
 protected:
     ToolingPageTest()
     {
         SetLanguage(1);
-        SetMsgBoxHandler([this](const QString& text, qint32, const QString&) {
-            boxes << text;
-            return MsgResult::Ok;
-        });
         SetFolderHandler([this](const QString& title) {
             EXPECT_EQ(title, u"Test"_s);
             return folder;
@@ -52,11 +47,7 @@ protected:
         EXPECT_TRUE(QTest::qWaitFor([this] { return find<QComboBox>(u"Cmb_SystemViewerUser"_s)->count() == 2; }));
         EXPECT_TRUE(QTest::qWaitForWindowActive(page.get()));
     }
-    ~ToolingPageTest() override
-    {
-        SetMsgBoxHandler(nullptr);
-        SetFolderHandler(nullptr);
-    }
+    ~ToolingPageTest() override { SetFolderHandler(nullptr); }
     template <class Widget = QWidget>
     Widget* find(const QString& name)
     {
@@ -77,7 +68,6 @@ protected:
     QStringList files() { return QDir(folder).entryList({u"Systemlog_Export_*"_s}); }
 
     QString folder = AppPath();
-    QStringList boxes;
     int exports = 0;
     std::unique_ptr<Form_Tooling> page;
 };

@@ -1,86 +1,21 @@
 #include "app/StartUp.h"
-#include "app/language/Languages.h"
-#include "app/ui/Form_Initial.h"
-#include "look/style/Theme.h"
-#include "platform/Closing.h"
 #include "platform/FileChooser.h"
-#include "platform/MsgBox.h"
-#include "tests/store/StoreFixture.h"
-#include "tests/walkthrough/Driver.h"
+#include "tests/support/DeskFixture.h"
 #include "users/UserModels.h"
 #include "users/ui/Form_GroupPrivilege.h"
 #include "users/ui/Form_UserPass.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class UserWindowTest : public StoreFixture
-{
-protected:
-    UserWindowTest()
-    {
-        SetMsgBoxHandler([this](const QString& text, qint32, const QString&) {
-            boxes << text;
-            return answers.isEmpty() ? MsgResult::Ok : answers.takeFirst();
-        });
-        SetLanguage(qEnvironmentVariableIntValue("DESK_LANGUAGE") > 0 ? qEnvironmentVariableIntValue("DESK_LANGUAGE")
-                                                                      : 1);
-        open();
-        execute(u"UPDATE BasicDefault SET iLanguage=%1"_s.arg(Language()));
-    }
-    ~UserWindowTest() override
-    {
-        desk.reset();
-        SetMsgBoxHandler(nullptr);
-        SetFileChooserHandler(nullptr);
-        SetCurrentUser({});
-        SetClosing(false);
-        SetLanguage(1);
-        QApplication::setLayoutDirection(Qt::LeftToRight);
-    }
-    bool start()
-    {
-        CloseDatabases(databases);
-        station = std::make_unique<Station>();
-        desk = std::make_unique<Form_Initial>(*station);
-        if (!desk->Form_Load())
-            return false;
-        desk->resize(1280, 800);
-        desk->show();
-        return QTest::qWaitForWindowExposed(desk.get());
-    }
-    QVariant row(const QString& sql)
-    {
-        QSqlQuery query(station->databases.DBConn->database());
-        return query.exec(sql) && query.next() ? query.value(0) : QVariant();
-    }
-    static std::function<bool()> usable(const QString& name)
-    {
-        return [name] { return Driver::usable(name); };
-    }
-    void step(const QString& name, std::function<void()> act) { driver.add(name, usable(name), std::move(act)); }
-    void waitClosed(const QString& dialog)
-    {
-        driver.add(
-            dialog + u" closed"_s, [dialog] { return !Driver::find(dialog); }, [] {});
-    }
-
-    std::unique_ptr<Station> station;
-    std::unique_ptr<Form_Initial> desk;
-    Driver driver;
-    QStringList boxes;
-    QList<MsgResult> answers;
-};
+using UserWindowTest = DeskFixture;
 
 TEST_F(UserWindowTest, AFreshStationMakesItsFirstAdministrator)
 {
@@ -265,13 +200,8 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     step(u"Grid_ChannelPrivilege"_s, [this] {
         auto* grid = Driver::find<QTableView>(u"Grid_ChannelPrivilege"_s);
         grid->setFocus();
-        QElapsedTimer timer;
-        timer.start();
         QTest::keyClick(grid, Qt::Key_Space, Qt::ControlModifier);
         QTest::keyClick(grid, Qt::Key_Space);
-        grid->repaint();
-        std::printf("a column of %d channels: %lld ms\n", grid->model()->rowCount(), timer.elapsed());
-        EXPECT_LT(timer.elapsed(), 500);
         for (int channel = 0; channel < 63; ++channel)
             EXPECT_EQ(grid->model()->index(channel, ChannelRightsModel::Live).data(Qt::CheckStateRole), Qt::Checked);
         EXPECT_EQ(grid->model()->index(4, ChannelRightsModel::PTZ).data(Qt::AccessibleTextRole).toString(),
@@ -284,15 +214,8 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     const auto listHasFocus = [] {
         return Driver::usable(u"Grid_NVRList"_s) && Driver::find(u"Grid_NVRList"_s)->hasFocus();
     };
-    driver.add(u"back at the list"_s, listHasFocus, [] {
-        QElapsedTimer timer;
-        timer.start();
-        QTest::keyClick(Driver::find(u"Grid_NVRList"_s), Qt::Key_Enter, Qt::KeypadModifier);
-        ASSERT_TRUE(Driver::find(u"Grid_ChannelPrivilege"_s));
-        Driver::find(u"Grid_ChannelPrivilege"_s)->repaint();
-        std::printf("opening a recorder: %lld ms\n", timer.elapsed());
-        EXPECT_LT(timer.elapsed(), 500);
-    });
+    driver.add(u"back at the list"_s, listHasFocus,
+               [] { QTest::keyClick(Driver::find(u"Grid_NVRList"_s), Qt::Key_Enter, Qt::KeypadModifier); });
     step(u"Grid_ChannelPrivilege"_s, [] {
         QWidget* grid = Driver::find(u"Grid_ChannelPrivilege"_s);
         Driver::clickCell(u"Grid_ChannelPrivilege"_s, 0, ChannelRightsModel::PTZ); // brings live along
