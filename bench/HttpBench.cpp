@@ -1,5 +1,6 @@
 // Requests to devices and the device search, each beside the floor it is measured against.
 
+#include "bench/Bench.h"
 #include "device/bridge/FinderBridge.h"
 #include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
@@ -29,7 +30,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int kRequests = 200;
-constexpr int kRounds = 15;
 constexpr int kDevices = 32;
 
 // A device on one blocking thread: one connection at a time, kept open, the same short page for every request.
@@ -97,42 +97,27 @@ std::size_t Append(char* data, std::size_t size, std::size_t count, void* user)
     return size * count;
 }
 
-// Milliseconds for kRequests requests over one handle, which keeps its connection.
-double PlainCurl(CURL* easy, const std::string& url)
+// kRequests requests over one handle, which keeps its connection.
+void PlainCurl(CURL* easy, const std::string& url)
 {
-    QElapsedTimer timer;
-    timer.start();
     for (int i = 0; i < kRequests; ++i) {
         std::string body;
         curl_easy_setopt(easy, CURLOPT_URL, url.c_str());
         curl_easy_setopt(easy, CURLOPT_USERPWD, "admin:admin");
         curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, &Append);
         curl_easy_setopt(easy, CURLOPT_WRITEDATA, &body);
-        if (curl_easy_perform(easy) != CURLE_OK || body.compare(0, 2, "OK") != 0)
-            std::fputs("plain request failed\n", stderr);
+        bench::Require(curl_easy_perform(easy) == CURLE_OK && body.compare(0, 2, "OK") == 0, "plain request failed");
     }
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-double OurRequests(WebBridge& web, const DeviceAddress& device)
+void OurRequests(WebBridge& web, const DeviceAddress& device)
 {
-    QElapsedTimer timer;
-    timer.start();
     Work work;
-    for (int i = 0; i < kRequests; ++i) {
-        if (!Await(CgiGetFwVersion(web, device, work)).startsWith("OK"_L1))
-            std::fputs("request failed\n", stderr);
-    }
-    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+    for (int i = 0; i < kRequests; ++i)
+        bench::Require(Await(CgiGetFwVersion(web, device, work)).startsWith("OK"_L1), "request failed");
 }
 
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-bool BenchRequests()
+void BenchRequests()
 {
     PlainServer plain;
     PlainServer ours;
@@ -140,19 +125,10 @@ bool BenchRequests()
     const DeviceAddress device{u"127.0.0.1"_s, ours.port(), u"admin"_s, u"admin"_s};
     const std::string url = "http://127.0.0.1:" + std::to_string(plain.port()) + "/getfwver.cgi";
     CURL* easy = curl_easy_init();
-    std::vector<double> floors;
-    std::vector<double> times;
-    for (int round = 0; round < kRounds; ++round) { // alternating, so that both see the same machine
-        floors.push_back(PlainCurl(easy, url));
-        times.push_back(OurRequests(com.web, device));
-    }
+    bench::Compare(
+        "200 CGI requests in sequence", 1.5, [&] { OurRequests(com.web, device); }, [&] { PlainCurl(easy, url); });
     curl_easy_cleanup(easy);
-    const double floor = Median(floors);
-    const double time = Median(times);
-    const bool counted = plain.served() == kRequests * kRounds && ours.served() == kRequests * kRounds;
-    std::printf("200 CGI requests in sequence   %8.2f ms, plain curl %8.2f ms, ratio %.2f (wanted at most 1.50)\n",
-                time, floor, time / floor);
-    return counted && time / floor <= 1.5;
+    bench::Require(plain.served() == ours.served(), "requests were sent more than once");
 }
 
 // Devices on loopback with their own thread; each answers the first probe after its own delay.
@@ -200,7 +176,7 @@ protected:
     }
 };
 
-bool BenchDiscovery()
+void BenchDiscovery()
 {
     qputenv("RIGGING_DESK_FINDER", "lo");
     Devices devices;
@@ -225,12 +201,12 @@ bool BenchDiscovery()
     WaitUntil([&] { return finished; }, 10);
     devices.quit();
     devices.wait();
+    bench::Require(rows == kDevices, "devices were not found");
+    // Beside what may pass after the first and the last answer.
     const double first = static_cast<double>(firstRow - devices.firstAnswer) / 1e6;
     const double last = static_cast<double>(lastRow - devices.lastAnswer) / 1e6;
-    std::printf("search, %d of %d devices       first row %.2f ms after the first answer (wanted at most 50), complete "
-                "%.2f ms after the last (wanted at most 300)\n",
-                rows, kDevices, first, last);
-    return rows == kDevices && first <= 50 && last <= 300;
+    bench::Row("search: first row after the first answer", first, 50, first / 50, 1);
+    bench::Row("search: complete after the last answer", last, 300, last / 300, 1);
 }
 
 } // namespace
@@ -238,7 +214,7 @@ bool BenchDiscovery()
 int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
-    const bool requests = BenchRequests();
-    const bool discovery = BenchDiscovery();
-    return requests && discovery ? 0 : 1;
+    BenchRequests();
+    BenchDiscovery();
+    return 0;
 }

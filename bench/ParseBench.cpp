@@ -1,8 +1,6 @@
+#include "bench/Bench.h"
 #include "device/protocol/ReplyParsers.h"
 
-#include <QElapsedTimer>
-#include <algorithm>
-#include <cstdio>
 #include <memory>
 #include <pugixml.hpp>
 
@@ -44,27 +42,6 @@ QByteArray FullReply()
     return reply + "</CHList></RESPONSE>";
 }
 
-// Rounds of the works take turns, so that a busy machine slows all of them; the best round of each counts, in
-// microseconds.
-template <class... Work>
-std::array<double, sizeof...(Work)> Best(int rounds, Work&&... work)
-{
-    std::array<double, sizeof...(Work)> best;
-    best.fill(1e12);
-    for (int round = 0; round < rounds; ++round) {
-        std::size_t at = 0;
-        const auto measure = [&](auto& one) {
-            QElapsedTimer timer;
-            timer.start();
-            one();
-            best[at] = std::min(best[at], double(timer.nsecsElapsed()) / 1000);
-            ++at;
-        };
-        (measure(work), ...);
-    }
-    return best;
-}
-
 } // namespace
 
 int main()
@@ -73,20 +50,15 @@ int main()
     const QString text = QString::fromUtf8(bytes);
     const auto svr = std::make_unique<SVRRecord>();
     const auto pro = std::make_unique<SVRProRecord>();
-    if (ParseChannelList(bytes, *svr, *pro) != 1 || svr->channels[63].sSub_CH_IP.isEmpty())
-        return std::fprintf(stderr, "the reply was not read\n"), 1;
-
-    const auto [floor, fromBytes, fromText] = Best(
-        500,
-        [&] {
-            pugi::xml_document document;
-            document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-        },
-        [&] { ParseChannelList(bytes, *svr, *pro); }, [&] { ParseChannelList(text, *svr, *pro); });
-    std::printf("channel list, 64 channels, %lld bytes\n", static_cast<long long>(bytes.size()));
-    std::printf("  pugixml load       %8.1f us\n", floor);
-    std::printf("  ParseChannelList   %8.1f us   %.2f times the floor (wanted: at most 3)\n", fromBytes,
-                fromBytes / floor);
-    std::printf("  ... from a QString %8.1f us   %.2f times the floor\n", fromText, fromText / floor);
+    bench::Require(ParseChannelList(bytes, *svr, *pro) == 1 && !svr->channels[63].sSub_CH_IP.isEmpty(),
+                   "the reply was not read");
+    const auto load = [&] {
+        pugi::xml_document document;
+        document.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    };
+    bench::Compare(
+        "channel list of 64 channels", 2.2, [&] { ParseChannelList(bytes, *svr, *pro); }, load);
+    bench::Compare(
+        "channel list of 64 channels, as text", 3, [&] { ParseChannelList(text, *svr, *pro); }, load);
     return 0;
 }

@@ -1,5 +1,6 @@
 // Sixteen recorders of fifteen channels, found in a search and added through the wizard: from the click to the last
 // "Add Success!", beside the same requests sent by plain libcurl one after the other in the same run.
+#include "bench/Bench.h"
 #include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "recorders/detect/DetectStatusModel.h"
@@ -14,10 +15,8 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
-#include <algorithm>
 #include <cstdio>
 #include <curl/curl.h>
-#include <stdexcept>
 #include <string>
 
 using namespace Qt::StringLiterals;
@@ -26,22 +25,9 @@ using simulators::Site;
 
 namespace {
 
-constexpr int kRuns = 7;
 constexpr int kChannels = 15;
-constexpr double kWanted = 1.5;
+constexpr int kDelay = 20; // milliseconds
 const QString kNetwork = simulators::ownNetwork();
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-void Expect(bool condition, const char* what)
-{
-    if (!condition)
-        throw std::runtime_error(what);
-}
 
 simulators::SiteDescription SixteenRecorders()
 {
@@ -115,7 +101,7 @@ double PlainCurl(const std::vector<Sent>& requests)
         curl_easy_setopt(easy, CURLOPT_WRITEDATA, &reply);
         const CURLcode code = curl_easy_perform(easy);
         curl_slist_free_all(fields);
-        Expect(code == CURLE_OK && !reply.empty(), "a plain request failed");
+        bench::Require(code == CURLE_OK && !reply.empty(), "a plain request failed");
     }
     curl_easy_cleanup(easy);
     return static_cast<double>(timer.nsecsElapsed()) / 1e6;
@@ -125,7 +111,7 @@ template <class Widget>
 Widget* Find(const Form_NVRSetting& wizard, const char* name)
 {
     auto* widget = wizard.findChild<Widget*>(QString::fromLatin1(name));
-    Expect(widget, name);
+    bench::Require(widget, name);
     return widget;
 }
 
@@ -138,12 +124,12 @@ double Wizard()
     const RecorderEvents events;
     Form_NVRSetting wizard({com, *recorders, accounts, events}, {}, nullptr);
     wizard.show();
-    Expect(QTest::qWaitForWindowExposed(&wizard), "the wizard does not come up");
+    bench::Require(QTest::qWaitForWindowExposed(&wizard), "the wizard does not come up");
     QTest::keyClick(Find<QWidget>(wizard, "OptMode_0"), Qt::Key_Space);
     QTest::mouseClick(Find<QPushButton>(wizard, "lbNext_0"), Qt::LeftButton);
     Find<QLineEdit>(wizard, "txtSearchFilter")->setText(kNetwork);
     auto* search = Find<QPushButton>(wizard, "lbSearch");
-    Expect(QTest::qWaitFor([search] { return search->isEnabled(); }, 10000), "the search does not end");
+    bench::Require(QTest::qWaitFor([search] { return search->isEnabled(); }, 10000), "the search does not end");
     Find<QCheckBox>(wizard, "Chk_SelectAll")->click();
 
     auto* grid = Find<QTableView>(wizard, "Grid_DetectStatus");
@@ -156,37 +142,29 @@ double Wizard()
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     grid->viewport()->repaint();
     const double time = static_cast<double>(timer.nsecsElapsed()) / 1e6;
-    Expect(status->rowCount() == kMaxSVR && status->finishedRows() == kMaxSVR, "not all recorders were found");
-    Expect(OccupiedSlots(recorders->SVRWorkList) == kMaxSVR &&
-               CameraTotal(recorders->SVRWorkList) == kMaxSVR * kChannels,
-           "not all recorders were added");
+    bench::Require(status->rowCount() == kMaxSVR && status->finishedRows() == kMaxSVR, "not all recorders were found");
+    bench::Require(OccupiedSlots(recorders->SVRWorkList) == kMaxSVR &&
+                       CameraTotal(recorders->SVRWorkList) == kMaxSVR * kChannels,
+                   "not all recorders were added");
     return time;
 }
 
-int Bench()
+// The wizard beside its own requests, sent by plain libcurl one after the other.
+void Bench(const char* road, double limit, simulators::SimulatorThread& site)
 {
-    simulators::SimulatorThread site(SixteenRecorders());
-    bool discovery = false;
-    site.call([&](Site& running) { discovery = running.discoveryRunning(); });
-    Expect(discovery, "the site cannot answer searches");
-    std::vector<double> times;
-    std::vector<double> floors;
-    std::size_t requests = 0;
-    for (int run = 0; run < kRuns; ++run) { // alternating, so that both see the same machine
-        times.push_back(Wizard());
-        const std::vector<Sent> sent = TakeRequests(site);
-        requests = sent.size();
-        Expect(requests > 0, "the wizard has asked other recorders");
-        floors.push_back(PlainCurl(sent));
-        Expect(TakeRequests(site).size() == requests, "the plain requests are not the same");
-    }
-    const double time = Median(times);
-    const double floor = Median(floors);
-    std::printf(
-        "add 16 recorders of 15 channels  %8.1f ms, its %zu requests by plain curl %8.1f ms, ratio %.2f (wanted "
-        "at most %.2f)\n",
-        time, requests, floor, time / floor, kWanted);
-    return time / floor <= kWanted ? 0 : 1;
+    std::vector<Sent> sent;
+    const auto wizard = [&] {
+        const double time = Wizard();
+        sent = TakeRequests(site);
+        bench::Require(!sent.empty(), "the wizard has asked other recorders");
+        return time;
+    };
+    const auto plain = [&] {
+        const double time = PlainCurl(sent);
+        bench::Require(TakeRequests(site).size() == sent.size(), "the plain requests are not the same");
+        return time;
+    };
+    bench::Compare(road, limit, wizard, plain, 30); // each run searches first
 }
 
 } // namespace
@@ -197,12 +175,15 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     ApplyTheme(application, InitialScheme());
-    QTemporaryDir folder;
+    const QTemporaryDir folder;
     SetAppPath(folder.path());
-    try {
-        return Bench();
-    } catch (const std::exception& error) {
-        std::fprintf(stderr, "recorder_bench: %s\n", error.what());
-        return 1;
-    }
+    simulators::SimulatorThread site(SixteenRecorders());
+    site.call([](Site& running) { bench::Require(running.discoveryRunning(), "the site cannot answer searches"); });
+    Bench("add 16 recorders of 15 channels", 1.1, site);
+    site.call([](Site& running) {
+        for (int i = 0; i < running.count(); ++i)
+            running.device(i).addFault({simulators::FaultKind::Delay, kDelay});
+    });
+    Bench("the same, each reply 20 ms late", 0.25, site);
+    return 0;
 }

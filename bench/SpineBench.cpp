@@ -1,9 +1,10 @@
 // The spine against its floors in the same run: start to a usable window on a full station (16 recorders of 64
-// channels) against an empty Qt window; saving the 1,024 rows one by one, and loading them, against the SQLite C API
-// with the same settings.
+// channels) against an empty Qt window; saving the 1,024 rows and loading them against the SQLite C API with the same
+// settings.
 #include "app/StartUp.h"
 #include "app/Station.h"
 #include "app/ui/Form_Initial.h"
+#include "bench/Bench.h"
 #include "look/style/Theme.h"
 #include "platform/AppPath.h"
 #include "platform/Closing.h"
@@ -13,41 +14,14 @@
 #include "store/tables/SVRTable.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-#include <algorithm>
-#include <cstdio>
 #include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kRuns = 7;
-
-double Median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
-template <class Work>
-double Milliseconds(Work&& work)
-{
-    QElapsedTimer time;
-    time.start();
-    work();
-    return static_cast<double>(time.nsecsElapsed()) / 1e6;
-}
-
-void Report(const char* what, const std::vector<double>& ours, const std::vector<double>& floor, double wanted)
-{
-    const double ratio = Median(ours) / Median(floor);
-    std::printf("%-44s %8.1f ms  floor %8.1f ms  ratio %5.2f  (wanted: at most %.1f)\n", what, Median(ours),
-                Median(floor), ratio, wanted);
-}
 
 void FillRecorders(RecorderSet& set)
 {
@@ -111,9 +85,16 @@ std::vector<RawRow> ReadRaw(sqlite3* database)
     return rows;
 }
 
-// The same rows, row by row, each its own transaction; before them the old ones are deleted a recorder at a time.
-void SaveRaw(sqlite3* database, const std::vector<RawRow>& rows)
+// The same rows, before them the old ones deleted a recorder at a time: each row its own transaction, or all in one.
+enum class Step
 {
+    Row,
+    Whole
+};
+void SaveRaw(sqlite3* database, const std::vector<RawRow>& rows, Step step)
+{
+    if (step == Step::Whole)
+        sqlite3_exec(database, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr);
     std::string sql = "INSERT INTO SVR VALUES (?";
     for (std::size_t i = 1; i < rows[0].cells.size(); ++i)
         sql += ",?";
@@ -139,6 +120,8 @@ void SaveRaw(sqlite3* database, const std::vector<RawRow>& rows)
         }
     }
     sqlite3_finalize(insert);
+    if (step == Step::Whole)
+        sqlite3_exec(database, "COMMIT", nullptr, nullptr, nullptr);
 }
 
 qint64 ReadAllColumns(sqlite3* database)
@@ -167,8 +150,6 @@ void BenchStore(const QString& floorFile)
     auto station = std::make_unique<Station>();
     OpenDatabases(*station);
     FillRecorders(station->recorders);
-    std::vector<double> ours;
-    std::vector<double> floor;
     const auto save = [&] {
         for (int slot = 0; slot < kMaxSVR; ++slot)
             SaveMySVR(station->databases, station->recorders, slot);
@@ -179,23 +160,16 @@ void BenchStore(const QString& floorFile)
     const std::vector<RawRow> rows = ReadRaw(raw);
     if (rows.size() != 1024)
         std::abort();
-    for (int run = 0; run < kRuns; ++run) {
-        ours.push_back(Milliseconds(save));
-        floor.push_back(Milliseconds([&] { SaveRaw(raw, rows); }));
-    }
-    Report("save 16 recorders, 1,024 rows row by row", ours, floor, 2.5);
+    bench::Compare("save 16 recorders, against row by row", 0.8, save, [&] { SaveRaw(raw, rows, Step::Row); });
+    bench::Compare("save 16 recorders, against one step", 2.5, save, [&] { SaveRaw(raw, rows, Step::Whole); });
 
-    ours.clear();
-    floor.clear();
     auto back = std::make_unique<RecorderSet>();
     qint64 sum = 0;
-    for (int run = 0; run < kRuns; ++run) {
-        ours.push_back(Milliseconds([&] { GetSVREx(station->databases, *back); }));
-        floor.push_back(Milliseconds([&] { sum += ReadAllColumns(raw); }));
-    }
-    if (back->SVRList[15].channels[63].sSub_CH_Name != u"Camera 64"_s || sum == 0)
-        std::abort();
-    Report("load 16 recorders, 1,024 rows", ours, floor, 3.0);
+    bench::Compare(
+        "load 16 recorders, 1,024 rows", 1.7, [&] { GetSVREx(station->databases, *back); },
+        [&] { sum += ReadAllColumns(raw); });
+    bench::Require(back->SVRList[15].channels[63].sSub_CH_Name == u"Camera 64"_s && sum > 0,
+                   "the rows were not loaded");
     sqlite3_close(raw);
 }
 
@@ -226,24 +200,14 @@ int StartOnce(QApplication& application, const QString& what)
 
 void BenchStart()
 {
-    std::vector<double> ours;
-    std::vector<double> floor;
     const auto run = [](const QString& what) {
-        return Milliseconds([&] {
-            QProcess child;
-            child.setStandardErrorFile(QProcess::nullDevice());
-            child.start(QCoreApplication::applicationFilePath(), {what, AppPath()});
-            if (!child.waitForFinished() || child.exitCode() != 0)
-                std::abort();
-        });
+        QProcess child;
+        child.setStandardErrorFile(QProcess::nullDevice());
+        child.start(QCoreApplication::applicationFilePath(), {what, AppPath()});
+        bench::Require(child.waitForFinished() && child.exitCode() == 0, "a window did not come up");
     };
-    run(u"desk"_s);
-    run(u"empty"_s);
-    for (int i = 0; i < kRuns; ++i) {
-        ours.push_back(run(u"desk"_s));
-        floor.push_back(run(u"empty"_s));
-    }
-    Report("start to usable window, full station", ours, floor, 8.0);
+    bench::Compare(
+        "start to usable window, full station", 4, [&] { run(u"desk"_s); }, [&] { run(u"empty"_s); }, 20);
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "platform/Clock.h"
 #include "platform/Closing.h"
 #include "platform/DatabaseFile.h"
-#include "platform/Wait.h"
 #include "recorders/data/SVRStore.h"
 #include "store/SystemLog.h"
 #include "tests/store/StoreFixture.h"
