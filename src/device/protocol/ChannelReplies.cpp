@@ -3,7 +3,7 @@
 
 #include <QVarLengthArray>
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
@@ -126,8 +126,12 @@ constexpr Reader kSpeedUpper{"SpeedUpper",
                              [](ChannelTarget& target, pugi::xml_node node) { target.speedUpper = Int16Of(node); }};
 constexpr Reader kSpeedStep{"SpeedStep", [](ChannelTarget& target, pugi::xml_node node) {
                                 std::array<char, 32> range;
-                                std::snprintf(range.data(), range.size(), "%d,%d,%d", target.speedLower,
-                                              target.speedUpper, Int16Of(node));
+                                char* at = range.data();
+                                for (const qint16 bound : {target.speedLower, target.speedUpper, Int16Of(node)}) {
+                                    at = std::to_chars(at, range.end(), bound).ptr;
+                                    *at++ = ',';
+                                }
+                                at[-1] = '\0';
                                 Decode(range.data(), Cell(target, &SVRChannel::sCH_PTZ_Speed_Range));
                             }};
 constexpr Reader kMove{"Move", [](ChannelTarget& target, pugi::xml_node node) {
@@ -378,7 +382,7 @@ void ParseSupportFmt(SVRProStreams& formats, pugi::xml_node child, qint16& slot)
     std::ranges::replace(sizes, ' ', ',');
     Decode(sizes.constData(), formats[own].sResolutionList);
 
-    const std::array<std::pair<const char*, std::vector<qint16>*>, 4> bounds = {{
+    const std::array<std::pair<KnownName, std::vector<qint16>*>, 4> bounds = {{
         {"FPSLower", &formats[own].iFPSLower},
         {"FPSUpper", &formats[own].iFPSUpper},
         {"BPSLower", &formats[own].iBPSLower},
@@ -393,7 +397,7 @@ void ParseSupportFmt(SVRProStreams& formats, pugi::xml_node child, qint16& slot)
         for (const char* name = at.name(); *name != '\0'; name = at.name()) {
             for (std::size_t tried = 0; tried < bounds.size(); ++tried, ++expected) {
                 const auto& [bound, values] = bounds[expected % bounds.size()];
-                if (!SameName(bound, name))
+                if (!SameName(name, bound))
                     continue;
                 (*values)[position] = Int16Of(at.value());
                 ++expected;

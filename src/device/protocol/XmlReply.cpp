@@ -92,8 +92,9 @@ XmlReply::XmlReply(ReplyText text)
 {
     if (m_bytes.isEmpty() || !WithinMarkupLimit(m_bytes))
         return;
-    if (!m_document.load_buffer_inplace(m_bytes.data(), static_cast<std::size_t>(m_bytes.size()), kLoading,
-                                        pugi::encoding_utf8))
+    const auto size = static_cast<std::size_t>(m_bytes.size());
+    m_bytes.append(KnownName::kHead, '\0');
+    if (!m_document.load_buffer_inplace(m_bytes.data(), size, kLoading, pugi::encoding_utf8))
         return;
     for (pugi::xml_node at = m_document.first_child(); at; at = NextInDocument(at, m_document)) {
         if (SameName(at.name(), "RESPONSE")) {

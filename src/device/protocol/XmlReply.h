@@ -4,6 +4,8 @@
 #include "support/Conversions.h"
 
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <cstring>
 #include <pugixml.hpp>
 #include <string>
@@ -24,7 +26,7 @@ public:
     [[nodiscard]] pugi::xml_node response() const { return m_response; }
 
 private:
-    QByteArray m_bytes; // the document points into it
+    QByteArray m_bytes; // the document points into it; ends in room for KnownName
     pugi::xml_document m_document;
     pugi::xml_node m_response;
 };
@@ -47,10 +49,46 @@ qint32 Int32Of(pugi::xml_node node);
 // Value of the first attribute, whatever its name; throws ConversionError when the element has none.
 const char* FirstAttribute(pugi::xml_node node);
 
-// Most comparisons of names differ in the first character.
-inline bool SameName(const char* one, const char* other)
+// A name that is looked for. A reply holds thousands of them: the first sixteen bytes are compared at once.
+class KnownName
 {
-    return *one == *other && std::strcmp(one, other) == 0;
+public:
+    constexpr KnownName(const char* text)
+        : m_text(text)
+    {
+        std::array<unsigned char, kHead> head = {};
+        std::array<unsigned char, kHead> mask = {};
+        for (std::size_t at = 0; at < kHead && !m_whole; ++at) {
+            mask[at] = 0xff;
+            head[at] = static_cast<unsigned char>(text[at]);
+            m_whole = text[at] == '\0';
+        }
+        m_head = std::bit_cast<Words>(head);
+        m_mask = std::bit_cast<Words>(mask);
+    }
+    // `name` is empty or stands in the bytes of an XmlReply: kHead of them can be read wherever one begins.
+    [[nodiscard]] bool is(const char* name) const
+    {
+        if (*name == '\0')
+            return *m_text == '\0';
+        Words words;
+        std::memcpy(&words, name, kHead);
+        return (((words[0] ^ m_head[0]) & m_mask[0]) | ((words[1] ^ m_head[1]) & m_mask[1])) == 0 &&
+               (m_whole || std::strcmp(name + kHead, m_text + kHead) == 0);
+    }
+
+    using Words = std::array<std::uint64_t, 2>;
+    static constexpr std::size_t kHead = sizeof(Words);
+
+private:
+    const char* m_text;
+    Words m_head = {};    // the first bytes of the name, its end included where they reach it
+    Words m_mask = {};    // ones where m_head holds something
+    bool m_whole = false; // m_head holds the end
+};
+inline bool SameName(const char* name, const KnownName& known)
+{
+    return known.is(name);
 }
 
 // Comments, instructions and declarations are not loaded, and character data has no name.
@@ -86,7 +124,7 @@ inline std::size_t ElementCount(pugi::xml_node parent)
 template <class Target>
 struct ElementReader
 {
-    const char* name;
+    KnownName name;
     void (*read)(Target&, pugi::xml_node);
 };
 
@@ -104,11 +142,11 @@ template <class Target, std::size_t N>
 std::size_t IndexOf(const ElementTable<Target, N>& table, const char* name, std::size_t expected = 0)
 {
     for (std::size_t at = expected; at < N; ++at) {
-        if (SameName(table[at].name, name))
+        if (SameName(name, table[at].name))
             return at;
     }
     for (std::size_t at = 0; at < expected; ++at) {
-        if (SameName(table[at].name, name))
+        if (SameName(name, table[at].name))
             return at;
     }
     return N;
