@@ -2,7 +2,7 @@
 #include "look/tables/StatusRoles.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/StepStrip.h"
-#include "platform/Wait.h"
+#include "platform/Closing.h"
 #include "platform/Work.h"
 #include "recorders/detect/DetectStatusModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
