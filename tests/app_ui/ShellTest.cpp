@@ -193,13 +193,13 @@ TEST_F(ShellTest, ColoursWindowColumnsAndPageAreThereAgainAtTheNextStart)
     EXPECT_EQ(CurrentScheme(), other) << "one click is one switch";
     Driver::click(u"lbMenu_3"_s);
     QHeaderView* head = Driver::find<QTableView>(u"Grid_GroupList"_s)->horizontalHeader();
-    const QPoint edge(head->sectionViewportPosition(1) - 1, head->height() / 2);
-    const int width = head->sectionSize(0);
+    const QPoint edge(head->sectionViewportPosition(2) - 1, head->height() / 2);
+    const int width = head->sectionSize(1);
     QTest::mousePress(head->viewport(), Qt::LeftButton, {}, edge);
     QTest::mouseMove(head->viewport(), edge + QPoint(20, 0));
     QTest::mouseMove(head->viewport(), edge + QPoint(40, 0));
     QTest::mouseRelease(head->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
-    const int dragged = head->sectionSize(0);
+    const int dragged = head->sectionSize(1);
     EXPECT_NE(dragged, width);
     desk->resize(1111, 666);
     end();
@@ -208,7 +208,7 @@ TEST_F(ShellTest, ColoursWindowColumnsAndPageAreThereAgainAtTheNextStart)
     ASSERT_TRUE(start());
     EXPECT_EQ(desk->m_PageIndex(), 3);
     EXPECT_TRUE(Driver::find<QAbstractButton>(u"lbMenu_3"_s)->isChecked());
-    EXPECT_EQ(Driver::find<QTableView>(u"Grid_GroupList"_s)->horizontalHeader()->sectionSize(0), dragged);
+    EXPECT_EQ(Driver::find<QTableView>(u"Grid_GroupList"_s)->horizontalHeader()->sectionSize(1), dragged);
     EXPECT_EQ(RememberedScheme(), other);
     PlaceWindow(*desk);
     EXPECT_EQ(desk->size(), QSize(1111, 666));

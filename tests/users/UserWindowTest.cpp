@@ -157,6 +157,7 @@ TEST_F(UserWindowTest, ANewUserNeedsAGroupAndIsNotLostByEsc)
     ASSERT_TRUE(start());
     station->users.edit[0].sUser = station->users.edit[0].sPSWD = u"chief"_s;
     station->users.stored = station->users.edit;
+    SetCurrentUser(u"chief"_s);
     answers = {MsgResult::Cancel, MsgResult::Yes};
     step(u"lbMenu_3"_s, [] { Driver::click(u"lbMenu_3"_s); });
     step(u"lbUserAdd"_s, [] { Driver::click(u"lbUserAdd"_s); });
@@ -206,6 +207,7 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
             EXPECT_EQ(grid->model()->index(channel, ChannelRightsModel::Live).data(Qt::CheckStateRole), Qt::Checked);
         EXPECT_EQ(grid->model()->index(4, ChannelRightsModel::PTZ).data(Qt::AccessibleTextRole).toString(),
                   u"Camera 6, PTZ: "_s + GetLangString(879));
+        answers = {MsgResult::Cancel};
         QTest::keyClick(grid, Qt::Key_Escape);
         EXPECT_TRUE(grid->isVisible());
         answers = {MsgResult::No};

@@ -226,6 +226,8 @@ bool ChannelListModel::setData(const QModelIndex& index, const QVariant& value, 
 
 Qt::ItemFlags ChannelListModel::flags(const QModelIndex& index) const
 {
+    if (!index.isValid())
+        return Qt::NoItemFlags;
     const Qt::ItemFlags usual = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
     return index.column() == CameraEvent && m_events && occupied(index.row()) ? usual | Qt::ItemIsUserCheckable : usual;
 }
