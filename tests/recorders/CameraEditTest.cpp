@@ -175,69 +175,53 @@ TEST_F(CameraPage, AnotherCameraBeginsAsAnEmptyChannel)
 TEST_F(CameraPage, EachFaultOfADetectionHasItsMessageAndLeavesTheEditRecord)
 {
     const QByteArray probe = "/system/detectcam.cgi";
-    struct Case
-    {
-        Family family;
-        int camera; // 103 cannot be used, 104 is of an unknown make
-        bool wrongPassword;
-        simulators::Fault fault;
-        int message;
-        QString suffix;
-        QString title;
-    };
     const simulators::Fault none{FaultKind::Delay, 0};
-    const Case cases[] = {
-        {Family::Svr, 101, false, {FaultKind::Status, 404, "/getgid.cgi"}, 609, {}, u"Notice"_s},
-        {Family::Svr, 101, true, none, 608, u" : Error -3 login"_s, u"Notice"_s},
-        {Family::Svr, 200, false, none, 608, u" : Error -2 no camera"_s, u"Notice"_s},
-        {Family::Svr, 101, false, {FaultKind::Reset, 0, probe}, 608, u" : "_s, u"Notice"_s},
-        {Family::Svr, 101, false, {FaultKind::CutOff, 120, probe}, 608, u" : "_s, u"Notice"_s},
-        {Family::Svr, 103, false, none, 73, {}, u"Information"_s},
-        {Family::Svr,
-         101,
-         false,
-         {FaultKind::Body, 0, probe, 0, "OK\nrelativeformat=0,0,0;0,0,0;0,0,0\n"},
-         73,
-         {},
-         u"Information"_s},
-        {Family::Svr, 101, false, {FaultKind::Body, 0, probe, 0, "OK\nresolutionlist=;;\n"}, 73, {}, u"Information"_s},
-        {Family::Txr632, 101, false, {FaultKind::Reset, 0, "/getgid.cgi"}, 609, {}, u"Notice"_s},
-        {Family::Txr632, 200, false, none, 74, {}, u"Information"_s},
-        {Family::Txr632, 101, true, none, 71, {}, u"Information"_s},
-        {Family::Txr632, 104, false, none, 72, {}, u"Information"_s},
-        {Family::OmluPro, 103, false, none, 73, {}, u"Information"_s},
-        {Family::OmluPro, 101, false, {FaultKind::GarbageBody, 900, "/cmd.cgi"}, 75, {}, u"Information"_s},
-        {Family::OmluPro, 101, false, {FaultKind::Reset, 0, "/cmd.cgi"}, 75, {}, u"Information"_s},
+    // 103 cannot be used, 104 is of an unknown make; true: a wrong password.
+    const std::tuple<Family, int, bool, simulators::Fault, int, QString> cases[] = {
+        {Family::Svr, 101, false, {FaultKind::Status, 404, "/getgid.cgi"}, 609, {}},
+        {Family::Svr, 101, true, none, 608, u" : Error -3 login"_s},
+        {Family::Svr, 200, false, none, 608, u" : Error -2 no camera"_s},
+        {Family::Svr, 101, false, {FaultKind::Reset, 0, probe}, 608, u" : "_s},
+        {Family::Svr, 101, false, {FaultKind::CutOff, 120, probe}, 608, u" : "_s},
+        {Family::Svr, 103, false, none, 73, {}},
+        {Family::Svr, 101, false, {FaultKind::Body, 0, probe, 0, "OK\nrelativeformat=0,0,0;0,0,0;0,0,0\n"}, 73, {}},
+        {Family::Svr, 101, false, {FaultKind::Body, 0, probe, 0, "OK\nresolutionlist=;;\n"}, 73, {}},
+        {Family::Txr632, 101, false, {FaultKind::Reset, 0, "/getgid.cgi"}, 609, {}},
+        {Family::Txr632, 200, false, none, 74, {}},
+        {Family::Txr632, 101, true, none, 71, {}},
+        {Family::Txr632, 104, false, none, 72, {}},
+        {Family::OmluPro, 103, false, none, 73, {}},
+        {Family::OmluPro, 101, false, {FaultKind::GarbageBody, 900, "/cmd.cgi"}, 75, {}},
+        {Family::OmluPro, 101, false, {FaultKind::Reset, 0, "/cmd.cgi"}, 75, {}},
         {Family::OmluPro,
          101,
          false,
          {FaultKind::Body, 0, "/cmd.cgi", 0,
           "<RESPONSE RET=\"0\"><System><NumberVideo>many</NumberVideo></System></RESPONSE>"},
          75,
-         {},
-         u"Information"_s},
+         {}},
     };
     std::optional<Family> running;
-    for (const Case& row : cases) {
-        if (running != row.family)
-            start(row.family);
-        running = row.family;
-        fault(row.fault);
+    for (const auto& [family, camera, wrongPassword, trouble, message, suffix] : cases) {
+        if (running != family)
+            start(family);
+        running = family;
+        fault(trouble);
         page->open(1);
         const QString stored = recorders->SVREdit.channels[1].sCH_ResolutionList;
-        CameraEdit::Fields fields = fieldsOf(row.camera);
-        if (row.wrongPassword)
+        CameraEdit::Fields fields = fieldsOf(camera);
+        if (wrongPassword)
             fields.password = u"wrong"_s;
         page->setFields(fields);
         const CameraEdit::Outcome outcome = Await(page->detect(work));
         EXPECT_FALSE(outcome.ok);
-        EXPECT_EQ(outcome.message, row.message) << row.camera << ' ' << row.fault.path.constData();
-        EXPECT_EQ(outcome.suffix, row.suffix);
-        EXPECT_EQ(outcome.title, row.title);
+        EXPECT_EQ(outcome.message, message) << camera << ' ' << trouble.path.constData();
+        EXPECT_EQ(outcome.suffix, suffix);
+        EXPECT_EQ(outcome.title, message < 600 ? u"Information"_s : u"Notice"_s);
         EXPECT_EQ(recorders->SVREdit.channels[1].sCH_ResolutionList, stored);
         EXPECT_EQ(page->checkApply().message, 616);
         EXPECT_EQ(page->fields(), fields); // what was typed can be corrected
-        if (row.message != 609) {
+        if (message != 609) {
             EXPECT_TRUE(entries(Control::Format).isEmpty());
         }
     }
@@ -287,30 +271,22 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
 
 TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
 {
-    struct Case
-    {
-        QString rule;
-        QStringList rates;
-        QString rate;
-        qint16 code; // that is written
-        QStringList bits;
-    };
     const QStringList plainRates{u"Full"_s, u"1"_s, u"5"_s, u"10"_s, u"15"_s, u"20"_s};
     const QStringList plainBits{u"64K"_s, u"128K"_s, u"256K"_s};
-    const Case cases[] = {
-        {{}, plainRates, u"10"_s, 3, plainBits},
-        {u"{}{}{}"_s, plainRates, u"10"_s, 3, plainBits},
-        {u"{}{}{640x480<1|3|9|x><8>}"_s, {u"1"_s, u"10"_s}, u"10"_s, 3, {u"2048K"_s}},
-        {u"{}{}{640x480<2|1><1|2>}"_s, {u"5"_s, u"1"_s}, u"5"_s, 2, {u"64K"_s, u"128K"_s}},
-        {u"{640x480<1><1>}{}{1280x720<1><1>}"_s, plainRates, u"10"_s, 3, plainBits},
-        {u"{}{}{640x480<-1|1><-1>}"_s, {u"N/A"_s, u"1"_s}, u"N/A"_s, 3, {u"N/A"_s}},
+    const std::tuple<QString, QStringList, QString, QStringList> cases[] = {
+        {{}, plainRates, u"10"_s, plainBits},
+        {u"{}{}{}"_s, plainRates, u"10"_s, plainBits},
+        {u"{}{}{640x480<1|3|9|x><8>}"_s, {u"1"_s, u"10"_s}, u"10"_s, {u"2048K"_s}},
+        {u"{}{}{640x480<2|1><1|2>}"_s, {u"5"_s, u"1"_s}, u"5"_s, {u"64K"_s, u"128K"_s}},
+        {u"{640x480<1><1>}{}{1280x720<1><1>}"_s, plainRates, u"10"_s, plainBits},
+        {u"{}{}{640x480<-1|1><-1>}"_s, {u"N/A"_s, u"1"_s}, u"N/A"_s, {u"N/A"_s}},
     };
-    for (const Case& row : cases) {
-        show([&](SVRRecord& svr, SVRProRecord&) { svr.channels[0].sCH_Relativeformat = row.rule; });
-        EXPECT_EQ(entries(Control::FrameRate), row.rates) << qPrintable(row.rule);
-        EXPECT_EQ(chosen(Control::FrameRate), row.rate) << qPrintable(row.rule);
-        EXPECT_EQ(entries(Control::BitRate), row.bits) << qPrintable(row.rule);
-        EXPECT_EQ(page->choice(Control::BitRate).shown, row.bits != QStringList{u"N/A"_s});
+    for (const auto& [rule, rates, rate, bits] : cases) {
+        show([&, text = rule](SVRRecord& svr, SVRProRecord&) { svr.channels[0].sCH_Relativeformat = text; });
+        EXPECT_EQ(entries(Control::FrameRate), rates) << qPrintable(rule);
+        EXPECT_EQ(chosen(Control::FrameRate), rate) << qPrintable(rule);
+        EXPECT_EQ(entries(Control::BitRate), bits) << qPrintable(rule);
+        EXPECT_EQ(page->choice(Control::BitRate).shown, bits != QStringList{u"N/A"_s});
         // Another size and back: the stored rate is the one that the list left.
         EXPECT_TRUE(choose(Control::Resolution, u"1280x720"_s));
         EXPECT_TRUE(choose(Control::Resolution, u"640x480"_s));
@@ -507,14 +483,7 @@ TEST_F(CameraPage, StationHoldsNoMoreThanItsCameras)
 
 TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
 {
-    struct Case
-    {
-        Family family;
-        simulators::Fault fault;
-        int message;
-        bool logged;
-    };
-    const Case cases[] = {
+    const std::tuple<Family, simulators::Fault, int, bool> cases[] = {
         {Family::Svr, {FaultKind::Refuse, -3, "/param.cgi"}, 608, true},
         {Family::Svr, {FaultKind::Reset, 0, "/param.cgi"}, 608, true},
         {Family::Txr632, {FaultKind::Refuse, -3, "/cmd.cgi", CMD_SET_CHANNEL}, 608, true},
@@ -530,24 +499,24 @@ TEST_F(CameraPage, EachFaultOfAWriteHasItsMessageAndLeavesTheEditRecord)
          true},
     };
     std::optional<Family> running;
-    for (const Case& row : cases) {
-        if (running != row.family)
-            start(row.family);
-        running = row.family;
+    for (const auto& [family, trouble, message, logged] : cases) {
+        if (running != family)
+            start(family);
+        running = family;
         const qsizetype before = log().count("Form_CameraSetting - cmbeditCam_Click");
         page->open(1);
         const QString size = recorders->SVREdit.channels[1].sSub_CH_Resolution;
         EXPECT_TRUE(choose(Control::Resolution, u"320x240"_s));
-        fault(row.fault);
+        fault(trouble);
         const CameraEdit::Outcome outcome = Await(page->writeBack(work));
-        const bool taken = row.fault.cmd == CMD_GET_CHANNELS;
+        const bool taken = trouble.cmd == CMD_GET_CHANNELS;
         EXPECT_EQ(outcome.ok, taken);
-        EXPECT_EQ(outcome.message, row.message) << row.fault.cmd;
+        EXPECT_EQ(outcome.message, message) << trouble.cmd;
         EXPECT_EQ(outcome.title, u"Notice"_s);
-        EXPECT_EQ(log().count("Form_CameraSetting - cmbeditCam_Click") > before, row.logged) << row.fault.cmd;
+        EXPECT_EQ(log().count("Form_CameraSetting - cmbeditCam_Click") > before, logged) << trouble.cmd;
         EXPECT_EQ(recorders->SVREdit.channels[1].sSub_CH_Resolution, taken ? u"320x240"_s : size);
         EXPECT_EQ(std::exchange(recorders->SVREdit.channels[1].bSub_CH_Modified, false), taken);
-        EXPECT_EQ(entries(Control::Format).isEmpty(), row.family == Family::Svr); // emptied
+        EXPECT_EQ(entries(Control::Format).isEmpty(), family == Family::Svr); // emptied
     }
 
     // Without a format the short form goes out; a name that cannot be written is not sent at all.
@@ -594,11 +563,9 @@ TEST_F(CameraPage, AStopEndsWhatARecorderDoesNotAnswer)
         page->setFields(fieldsOf(101));
         const bool svr = family == Family::Svr;
         const QByteArray probe = svr ? "/system/detectcam.cgi" : "/cmd.cgi";
-        const struct
-        {
-            QByteArray path; // not answered
-            std::function<QCoro::Task<CameraEdit::Outcome>(Work&)> call;
-        } cases[] = {
+        using Call = std::function<QCoro::Task<CameraEdit::Outcome>(Work&)>;
+        const std::pair<QByteArray, Call> cases[] = {
+            // the path that is not answered
             {probe, [this](Work& running) { return page->detect(running); }},
             {svr ? "/param.cgi" : "/cmd.cgi", [this](Work& running) { return page->writeBack(running); }},
             {svr ? "/system/searchcam.cgi" : "/cmd.cgi",
@@ -608,16 +575,16 @@ TEST_F(CameraPage, AStopEndsWhatARecorderDoesNotAnswer)
              }},
         };
         for (const auto& c : cases) {
-            SCOPED_TRACE(c.path.constData());
-            fault({FaultKind::Silent, 0, c.path});
+            SCOPED_TRACE(c.first.constData());
+            fault({FaultKind::Silent, 0, c.first});
             requests();
             CameraEdit::Outcome outcome = CameraEdit::Outcome::Done();
             Work running;
             ASSERT_TRUE(running.start([&]() -> QCoro::Task<> {
-                QCoro::Task<CameraEdit::Outcome> call = c.call(running);
+                QCoro::Task<CameraEdit::Outcome> call = c.second(running);
                 outcome = co_await call;
             }));
-            waitFor([&] { return requestCount(c.path) > 0; });
+            waitFor([&] { return requestCount(c.first) > 0; });
             QElapsedTimer time;
             time.start();
             running.stop();

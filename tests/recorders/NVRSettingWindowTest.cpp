@@ -71,6 +71,11 @@ protected:
         return found;
     }
     void waitClosed() { DeskFixture::waitClosed(u"Form_NVRSetting"_s); }
+    void runToEnd()
+    {
+        waitClosed();
+        driver.run(20000);
+    }
     static QVariant cell(const QString& grid, int row, int column, int role = Qt::DisplayRole)
     {
         return Driver::find<QTableView>(grid)->model()->index(row, column).data(role);
@@ -130,8 +135,7 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
         Driver::type(u"TextNVRDetail_0"_s, u"Nobody's"_s);
         Driver::click(u"lbModifyApply_1"_s);
     });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     EXPECT_EQ(boxes, QStringList({GetLangString(703), GetLangString(44), GetLangString(833), GetLangString(44)}));
     EXPECT_EQ(row(u"SELECT COUNT(*)||sSVR_Name FROM SVR WHERE iSVR_Num=1"_s).toString(), u"41Harbour"_s);
     EXPECT_EQ(row(u"SELECT bSub_CH_Cam_MD_Enabled FROM SVR WHERE iSVR_Num=1 AND iSub_Channel=2"_s).toInt(), 1);
@@ -145,10 +149,7 @@ TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
     step(u"lbNVRDetect"_s, [this] {
         site->call([](Site& running) {
             running.device(0).channel(3).camera.ip = u"10.9.9.9"_s;
-            simulators::Fault slow;
-            slow.amount = 60;
-            slow.path = "/param.cgi";
-            running.device(0).addFault(slow);
+            running.device(0).addFault({simulators::FaultKind::Delay, 60, "/param.cgi"});
         });
         Driver::click(u"lbNVRDetect"_s);
         EXPECT_EQ(recorders().SVREdit.channels[2].sSub_CH_IP, u"192.168.10.23"_s);
@@ -161,8 +162,7 @@ TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
             EXPECT_FALSE(Driver::find(u"lbModifyApply_0"_s)->isEnabled());
             Driver::click(u"lbModifyApply_1"_s);
         });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     EXPECT_EQ(boxes, QStringList());
     EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR WHERE sSub_CH_IP='10.9.9.9'"_s).toInt(), 0);
 }
@@ -217,8 +217,7 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
         EXPECT_EQ(cell(u"Grid_ChannelList"_s, 3, ChannelListModel::State).toString(), GetLangString(967));
         Driver::press(u"Grid_ChannelList"_s, Qt::Key_Escape);
     });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     EXPECT_EQ(boxes, QStringList({GetLangString(607), GetLangString(833), GetLangString(611), GetLangString(611)}));
     EXPECT_EQ(camera(0, 4).ip, u"192.168.10.121"_s);
     EXPECT_EQ(camera(0, 4).name, u"South & gate"_s);
@@ -262,8 +261,7 @@ TEST_F(NVRSettingWindow, ProCameraIsTunedAndChannelsAreClearedUntilTheRecorderGo
             EXPECT_EQ(row(u"SELECT COUNT(*) FROM SVR"_s).toInt(), 2);
             Driver::click(u"lbModifyApply_0"_s); // Yes
         });
-        waitClosed();
-        driver.run(20000);
+        runToEnd();
         const auto clear = [&](int channel) -> QString {
             const QStringList& camera = cameras[channel - 1];
             return GetLangString(970).arg(channel) + u"\n\n"_s + camera.join(u"  ·  "_s);
@@ -314,8 +312,7 @@ TEST_F(NVRSettingWindow, NothingTypedIsLostUnaskedAndOneClickOnlySelects)
         answers = {MsgResult::Yes};
         escape(u"Grid_ChannelList"_s);
     });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     EXPECT_EQ(boxes.count(GetLangString(514)), 5);
     EXPECT_EQ(boxes.count(GetLangString(1037).arg(u"Recorder 2"_s)), 1);
     EXPECT_EQ(row(u"SELECT group_concat(DISTINCT sSVR_Name) FROM SVR"_s).toString(), u"Recorder 2,Recorder 3"_s);
@@ -330,10 +327,7 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
         Driver::type(u"txtCam_1"_s, u"192.168.10.124"_s); // of a make the recorder does not know
         Driver::click(u"lbCamModifyApply_0"_s);           // 616
         site->call([](Site& running) {
-            simulators::Fault slow;
-            slow.amount = 200;
-            slow.path = "/system/detectcam.cgi";
-            running.device(0).addFault(slow);
+            running.device(0).addFault({simulators::FaultKind::Delay, 200, "/system/detectcam.cgi"});
         });
         Driver::click(u"lbCamDetect"_s); // 608
         EXPECT_FALSE(Driver::find(u"cmbFormat"_s)) << "a failed detection leaves nothing to choose";
@@ -360,8 +354,7 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
         Driver::click(u"lbCamModifyApply_1"_s);
         Driver::click(u"lbModifyApply_1"_s);
     });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     ASSERT_GE(boxes.size(), 3);
     EXPECT_EQ(boxes[0], GetLangString(616));
     EXPECT_TRUE(boxes[1].startsWith(GetLangString(608) + u" : Error"_s)) << qPrintable(boxes[1]);
@@ -422,8 +415,7 @@ TEST_F(NVRSettingWindow, TabLeadsThroughEveryControlInItsOrder)
         EXPECT_TRUE(Driver::find(u"Grid_ChannelList"_s)->hasFocus());
         Driver::click(u"lbModifyApply_1"_s);
     });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
 }
 
 TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed)
@@ -477,8 +469,7 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
         Driver::click(u"lbCamModifyApply_1"_s);
     });
     step(u"Grid_ChannelList"_s, [] { Driver::press(u"Grid_ChannelList"_s, Qt::Key_Escape); });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     EXPECT_EQ(boxes, QStringList(GetLangString(833)));
 }
 
@@ -525,8 +516,7 @@ TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
                           grid->style()->subElementRect(QStyle::SE_ItemViewItemCheckIndicator, &cell, grid).center());
         Driver::click(u"lbModifyApply_0"_s);
     });
-    waitClosed();
-    driver.run(20000);
+    runToEnd();
     ASSERT_EQ(boxes.size(), 2);
     EXPECT_EQ(boxes[1], GetLangString(834) + u" SVR:1 CH: 3"_s);
     QList<int> events;
