@@ -6,6 +6,7 @@
 using namespace Qt::StringLiterals;
 using simulators::Family;
 using simulators::FaultKind;
+using ::testing::ElementsAre;
 
 namespace {
 
@@ -111,13 +112,10 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
         EXPECT_TRUE(Await(page->writeBack(work)).ok);
 
         const simulators::Camera camera = deviceCamera(12);
-        EXPECT_EQ(camera.name, fields.name);
-        EXPECT_EQ(camera.ip, fields.address);
-        EXPECT_EQ(camera.password, fields.password);
-        EXPECT_EQ(camera.live.format, u"h264"_s);
-        EXPECT_EQ(camera.live.size, u"640x480"_s);
-        EXPECT_EQ(camera.live.fps, pro ? 10 : 3); // the older family counts in steps
+        EXPECT_THAT((QStringList{camera.name, camera.ip, camera.password, camera.live.format, camera.live.size}),
+                    ElementsAre(fields.name, fields.address, fields.password, u"h264"_s, u"640x480"_s));
         EXPECT_EQ(camera.live.rateControl, 1);
+        EXPECT_EQ(camera.live.fps, pro ? 10 : 3); // the older family counts in steps
         EXPECT_EQ(camera.live.bitrate, pro ? 512 : 4);
         const std::vector<simulators::LoggedRequest> sent = requests();
         ASSERT_EQ(sent.size(), pro ? 3U : 1U);
@@ -135,10 +133,10 @@ TEST_F(CameraPage, NewCameraIsDetectedTunedAndWrittenInEveryFamily)
 
         const SVRRecord& edit = recorders->SVREdit;
         EXPECT_TRUE(edit.channels[11].bSub_CH_Modified);
-        EXPECT_EQ(edit.channels[11].sSub_CH_Name, fields.name);
-        EXPECT_EQ(edit.channels[11].sSub_CH_Resolution, u"640x480"_s);
+        EXPECT_THAT((QStringList{edit.channels[11].sSub_CH_Name, edit.channels[11].sSub_CH_Resolution,
+                                 edit.channels[11].sCH_FPS_Customer}),
+                    ElementsAre(fields.name, u"640x480"_s, u"10"_s));
         EXPECT_EQ(edit.channels[11].iCH_FPS, pro ? 10 : 3);
-        EXPECT_EQ(edit.channels[11].sCH_FPS_Customer, u"10"_s);
         EXPECT_EQ(edit.channels[11].iSub_Channel, 12);
         EXPECT_FALSE(edit.channels[0].bSub_CH_Modified);
         EXPECT_FALSE(page->changed());
@@ -243,20 +241,17 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
     EXPECT_EQ(entries(Control::Format), (QStringList{u"MJPEG"_s, u"H.264"_s})); // MPEG4 is off
     EXPECT_EQ(chosen(Control::FrameRate), u"5"_s);
     EXPECT_TRUE(choose(Control::Format, u"H.264"_s)); // as the camera has it set
-    EXPECT_EQ(chosen(Control::Resolution), u"640x480"_s);
-    EXPECT_EQ(chosen(Control::FrameRate), u"15"_s);
-    EXPECT_EQ(chosen(Control::RateControl), u"CBR"_s);
-    EXPECT_EQ(chosen(Control::BitRate), u"1024K"_s);
+    EXPECT_THAT((QStringList{chosen(Control::Resolution), chosen(Control::FrameRate), chosen(Control::RateControl),
+                             chosen(Control::BitRate)}),
+                ElementsAre(u"640x480"_s, u"15"_s, u"CBR"_s, u"1024K"_s));
     EXPECT_TRUE(Await(page->writeBack(work)).ok);
-    const SVRRecord& edit = recorders->SVREdit;
-    EXPECT_EQ(edit.channels[11].iSub_CH_Brand, 12);
-    EXPECT_EQ(edit.channels[11].sCH_FMTList, u"MJPEG,H.264"_s);
-    EXPECT_EQ(edit.channels[11].sCH_Relativeformat, u"{}{}{}"_s);
-    EXPECT_EQ(edit.channels[11].sCH_PTZ_Speed_Range, u"1,9,1"_s);
-    EXPECT_EQ(edit.channels[11].sCH_FPS_List_Customer, u"Full,15"_s);
-    EXPECT_EQ(edit.channels[11].iCH_PTZ_ZoomContCap, 1);
-    EXPECT_EQ(edit.channels[11].iCH_PTZ_MoveContCap, 0);
-    EXPECT_EQ(edit.channels[11].iCH_BitRate, 6);
+    const SVRChannel& edit = recorders->SVREdit.channels[11];
+    EXPECT_THAT(
+        (QStringList{edit.sCH_FMTList, edit.sCH_Relativeformat, edit.sCH_PTZ_Speed_Range, edit.sCH_FPS_List_Customer}),
+        ElementsAre(u"MJPEG,H.264"_s, u"{}{}{}"_s, u"1,9,1"_s, u"Full,15"_s));
+    EXPECT_THAT(
+        (std::vector<int>{edit.iSub_CH_Brand, edit.iCH_PTZ_ZoomContCap, edit.iCH_PTZ_MoveContCap, edit.iCH_BitRate}),
+        ElementsAre(12, 1, 0, 6));
     EXPECT_EQ(deviceCamera(12).brandCode, 12);
 
     // "N/A" is not sent, and the stored rate stays.
@@ -266,7 +261,7 @@ TEST_F(CameraPage, AnswerOfAProbeFillsTheChannel)
     requests();
     EXPECT_TRUE(Await(page->writeBack(work)).ok);
     EXPECT_FALSE(requests().back().target.contains(".fps="));
-    EXPECT_EQ(edit.channels[11].iCH_FPS, 4);
+    EXPECT_EQ(edit.iCH_FPS, 4);
 }
 
 TEST_F(CameraPage, BoundsOfTheRuleComeBeforeThePlainRanges)
