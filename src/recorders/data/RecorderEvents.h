@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-// What happens to recorders and users, for the subsystems that keep records of their own about them. Whoever changes
+// What happens to recorders, for the subsystems that keep records of their own about them. Whoever changes
 // the working generation of recorders sends; the application wires the subscribers, in the order in which they act. An
 // event is sent when the working generation holds the new state and before it is saved.
 
