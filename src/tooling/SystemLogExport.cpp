@@ -209,11 +209,21 @@ void SystemLogExport::slice()
 {
     if (Closing())
         return end(Outcome::Stopped);
-    const bool writing = m_step == &SystemLogExport::write;
+    const bool writing = m_step == Step::Write;
     const QLatin1String source(writing ? kExportSource : kReadSource);
     const bool ok = Trapped(source, [&] {
         try {
-            (this->*m_step)();
+            switch (m_step) {
+            case Step::Count:
+                count();
+                break;
+            case Step::Collect:
+                collect();
+                break;
+            case Step::Write:
+                write();
+                break;
+            }
         } catch (const std::exception& error) {
             m_failure = QString::fromUtf8(error.what());
             throw;
@@ -236,13 +246,13 @@ void SystemLogExport::count()
     if (m_rows == 0)
         return end(Outcome::Nothing);
     m_reader.rewind();
-    m_step = m_inOrder ? &SystemLogExport::write : &SystemLogExport::collect;
+    m_step = m_inOrder ? Step::Write : Step::Collect;
 }
 
 void SystemLogExport::collect()
 {
     if (!m_reader.readPlaces(m_entries))
-        m_step = &SystemLogExport::write;
+        m_step = Step::Write;
 }
 
 void SystemLogExport::write()

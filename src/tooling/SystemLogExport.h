@@ -45,6 +45,13 @@ signals:
     void finished(Outcome outcome);
 
 private:
+    enum class Step
+    {
+        Count,
+        Collect, // only where the rows do not stand in the order of time
+        Write
+    };
+
     void slice();
     // What a slice does; each makes the next one the step to take once it is through.
     void count();
@@ -58,7 +65,7 @@ private:
     QString m_name;
     QString m_failure;
     QTimer m_slices;
-    void (SystemLogExport::*m_step)() = &SystemLogExport::count;
+    Step m_step = Step::Count;
     std::unique_ptr<SystemLogFile> m_file;
     std::vector<SystemLogEntry> m_entries; // only where the rows do not stand in the order of time
     qint64 m_rows = 0;
