@@ -1,11 +1,9 @@
 #include "tests/walkthrough/DeskWindows.h"
 
-#include "app/Station.h"
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
 #include "app/ui/FileChooserWindow.h"
-#include "app/ui/Form_Initial.h"
 #include "app/ui/KeysWindow.h"
 #include "app/ui/MsgBoxWindow.h"
 #include "app/ui/UpdateWindow.h"
@@ -19,16 +17,14 @@
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
 #include "tests/Await.h"
-#include "tests/walkthrough/Driver.h"
+#include "tests/walkthrough/WindowTour.h"
 #include "users/ui/Form_AccountEdit.h"
 #include "users/ui/Form_GroupPrivilege.h"
 #include "users/ui/Form_Login.h"
 #include "users/ui/Form_UserPass.h"
 #include "users/ui/Form_UserSetting.h"
 
-#include <QApplication>
 #include <QCheckBox>
-#include <QDialog>
 #include <QTableView>
 #include <QTest>
 
@@ -39,7 +35,6 @@ namespace {
 constexpr int kLongestQuestion = 84;
 constexpr int kFishEye = 6; // row of the simulated recorder's fish-eye camera
 constexpr int kLongestNotice = 610;
-constexpr int kNestedLayouts = 8;
 
 void ClickCell(const QString& table, int row, int column)
 {
@@ -51,48 +46,16 @@ void ClickCell(const QString& table, int row, int column)
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(cell).center());
 }
 
-class Visitor
+class Visitor : public WindowTour
 {
 public:
     Visitor(Form_Initial& desk, Station& station, const VisitWindow& visit)
-        : m_desk(desk)
-        , m_station(station)
-        , m_visit(visit)
+        : WindowTour(desk, station, visit)
         , m_user(CurrentUser())
         , m_users(station.users)
         , m_accounts(station.accounts)
         , m_recorders(std::make_unique<RecorderSet>(station.recorders))
     {
-    }
-
-    void pages(const QString& prefix, const QList<int>& which)
-    {
-        for (const int page : which) {
-            Driver::click(u"lbMenu_%1"_s.arg(page));
-            if (page == kTooling && !prefix.isEmpty())
-                Driver::click(u"lbSysSearch"_s);
-            visit(prefix + u"page%1"_s.arg(page), m_desk);
-        }
-    }
-    // A dialog that needs no loop of its own; `prepare` brings it to what is to be seen.
-    template <class Dialog>
-    void show(const QString& name, Dialog&& dialog, const std::function<void()>& prepare = {})
-    {
-        dialog.show();
-        if (prepare)
-            prepare();
-        visit(name, dialog);
-        dialog.hide(); // closing may mean a question, or one level back
-    }
-    // Whatever modal window `open` brings up and waits for.
-    void modal(const QString& name, const std::function<void()>& open)
-    {
-        QTimer::singleShot(0, &m_desk, [this, name] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            visit(name, *dialog);
-            dialog->reject();
-        });
-        open();
     }
 
     void furnish();
@@ -104,20 +67,8 @@ public:
     static constexpr int kAnswering = 2; // slot of the recorder that answers
     static constexpr int kRecorders = 1;
     static constexpr int kUsers = 3;
-    static constexpr int kTooling = 11;
 
 private:
-    void visit(const QString& name, QWidget& window)
-    {
-        // A caption that grows passes through one layout after another.
-        for (int level = 0; level < kNestedLayouts; ++level)
-            QCoreApplication::processEvents();
-        m_visit(name, window);
-    }
-
-    Form_Initial& m_desk;
-    Station& m_station;
-    const VisitWindow& m_visit;
     // What the station itself holds, back at the end.
     QString m_user;
     UserSet m_users;
