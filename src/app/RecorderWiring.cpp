@@ -1,6 +1,8 @@
 #include "app/RecorderWiring.h"
 
 #include "app/Station.h"
+#include "platform/clsOSInfo.h"
+#include "screens/UserRows.h"
 #include "support/Conversions.h"
 
 void WireRecorderEvents(Station& station)
@@ -42,5 +44,10 @@ void WireRecorderEvents(Station& station)
     events.channelGone.subscribe([&station, recorder](int slot, int channel, const SVRChannel&) {
         if (At(recorder(slot).channels, channel).sSub_CH_IP.isEmpty()) // another camera stands in its place
             RemoveCameraIcon(station.emap, slot, channel);
+    });
+
+    events.usersGone.subscribe([&station](const QStringList& left) { DeleteRowsOfOthers(station.databases, left); });
+    events.usersSaved.subscribe([&station](const QStringList& users) {
+        AddFirstStarts(station.databases, users, clsOSInfo().GetScreenCount());
     });
 }

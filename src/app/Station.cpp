@@ -4,7 +4,6 @@
 #include "app/log/Module_Log.h"
 #include "emap/EMapStore.h"
 #include "platform/Clock.h"
-#include "platform/clsOSInfo.h"
 #include "recorders/data/SVRStore.h"
 #include "store/SystemLog.h"
 #include "support/Conversions.h"
@@ -58,7 +57,7 @@ Station::Station()
     families.add(EventSettingsFamily(databases, channelEvents, recorders));
     families.add(EMapGroupFamily(databases, emap));
     families.add(EMapIconFamily(databases, emap, recorders));
-    families.add(UserFamily(databases, users, [] { return int(clsOSInfo().GetScreenCount()); }));
+    families.add(UserFamily(databases, users, events));
     WireRecorderEvents(*this);
 }
 

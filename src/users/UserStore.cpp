@@ -1,48 +1,22 @@
 #include "users/UserStore.h"
 
 #include "store/Family.h"
-#include "store/records/ScreenRecords.h"
 #include "store/tables/Tables.h"
 
-#include <QSet>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kStartPanes = 64; // panes of the viewer's layout at last exit
-
-bool Names(const std::vector<UserRecord>& users, const QString& name)
+QStringList StoredNames(const UserSet& set)
 {
-    return !name.isEmpty() &&
-           std::any_of(users.begin(), users.end(), [&](const UserRecord& user) { return user.sUser == name; });
-}
-
-// Deletes the rows of a table whose owner is no stored user.
-void DeleteOrphans(Databases& databases, const UserSet& set, const QString& table)
-{
-    OpenStatement(databases, u"Select * From "_s + table, LockType::Optimistic);
-    Recordset& rows = *databases.DBRec;
-    const int owner = rows.fieldIndex(u"sOwner"_s);
-    while (!rows.eof()) {
-        if (Names(set.stored, TextField(rows.value(owner))))
-            rows.moveNext();
-        else
-            rows.deleteRow();
+    QStringList names;
+    for (const UserRecord& user : set.stored) {
+        if (!user.sUser.isEmpty())
+            names << user.sUser;
     }
-    rows.close();
-}
-
-DefaultStartTableRow FirstStart(const QString& owner, int monitors)
-{
-    DefaultStartTableRow row;
-    row.sOwner = owner;
-    row.bFixStart = false;
-    row.bSEQStart = false;
-    row.MVChannel = QStringList(kStartPanes, u"-1"_s).join(u',');
-    row.sForm_FullScreen = QStringList(std::max(1, monitors), u"0:0"_s).join(u',');
-    return row;
+    return names;
 }
 
 } // namespace
@@ -72,19 +46,18 @@ qint16 GetUser(Databases& databases, UserSet& set)
     return 1;
 }
 
-qint16 DELUser(Databases& databases, const UserSet& set)
+qint16 DELUser(Databases& databases, const UserSet& set, const RecorderEvents& events)
 {
     constexpr QLatin1String source("Module_DB_Access - DELUser");
     return AsOneStep(databases, source, [&]() -> qint16 {
         if (ReplaceRows(databases, u"UserData"_s, u"Delete * From UserData"_s, source, [](Recordset&) {}) == 0)
             return 0;
-        DeleteOrphans(databases, set, u"DefaultStart"_s);
-        DeleteOrphans(databases, set, u"Pattern"_s);
+        events.usersGone.sendInStep(StoredNames(set));
         return 1;
     });
 }
 
-qint16 SaveUser(Databases& databases, const UserSet& set, int monitors)
+qint16 SaveUser(Databases& databases, const UserSet& set, const RecorderEvents& events)
 {
     constexpr QLatin1String source("Module_DB_Access - SaveUser");
     return AsOneStep(databases, source, [&]() -> qint16 {
@@ -96,20 +69,8 @@ qint16 SaveUser(Databases& databases, const UserSet& set, int monitors)
                     add(user);
             }
         });
-        if (OpenRecset(databases, u"DefaultStart"_s) == 0)
-            return 0;
-        Recordset& rows = *databases.DBRec;
-        QSet<QString> owners{QString()};
-        for (; !rows.eof(); rows.moveNext())
-            owners << TextField(rows.value(u"sOwner"_s));
-        AddRows(rows, DefaultStartColumns, source, [&](auto&& add) {
-            for (const UserRecord& user : set.stored) {
-                if (!owners.contains(user.sUser))
-                    add(FirstStart(user.sUser, monitors));
-                owners << user.sUser;
-            }
-        });
-        rows.close();
+        databases.DBRec->close();
+        events.usersSaved.sendInStep(StoredNames(set));
         return 1;
     });
 }
@@ -192,14 +153,14 @@ bool IsLastAdmin(const UserSet& set, int index)
     return set.AdminCount == 1 && At(set.edit, index).iGroup == 0;
 }
 
-RecordFamily UserFamily(Databases& databases, UserSet& set, std::function<int()> monitors)
+RecordFamily UserFamily(Databases& databases, UserSet& set, const RecorderEvents& events)
 {
     const auto name = [](const UserRecord& user) { return user.sUser; };
     return MakeFamily(
         databases, {FamilyOrder::User, 3, 465, {u"UserData"_s}, "Module_DB_Access - SaveUser"_L1},
         Generations<std::vector<UserRecord>>{set.stored, set.edit},
-        [&databases, &set, monitors = std::move(monitors)]() -> qint16 {
-            return DELUser(databases, set) == 1 ? SaveUser(databases, set, monitors()) : qint16(0);
+        [&databases, &set, &events]() -> qint16 {
+            return DELUser(databases, set, events) == 1 ? SaveUser(databases, set, events) : qint16(0);
         },
         [&set, name](auto& list) {
             Compare(list, RowsByPlace(set.stored, name), RowsByPlace(set.edit, name), UserColumns);

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "recorders/data/RecorderEvents.h"
 #include "store/Databases.h"
 #include "store/RecordFamily.h"
 #include "store/records/UserRecords.h"
 
-#include <functional>
 #include <vector>
 
 inline constexpr quint16 kNewUser = 65533; // EditUserIndex of a user that has no slot yet
@@ -44,11 +44,10 @@ enum class LoginResult
 // cannot be read to its end; a value that does not fit, or a group outside 0 to 6, costs one log line and the rest of
 // the row is kept.
 qint16 GetUser(Databases& databases, UserSet& set);
-// Deletes all rows of users, then the rows of DefaultStart and Pattern whose owner is no stored user.
-qint16 DELUser(Databases& databases, const UserSet& set);
-// Writes a row for each stored user with a name, and a default DefaultStart row for each that has none; `monitors`
-// is the number of full-screen surfaces in it.
-qint16 SaveUser(Databases& databases, const UserSet& set, int monitors);
+// Deletes all rows of users and sends usersGone, as one step.
+qint16 DELUser(Databases& databases, const UserSet& set, const RecorderEvents& events);
+// Writes a row for each stored user with a name and sends usersSaved, as one step.
+qint16 SaveUser(Databases& databases, const UserSet& set, const RecorderEvents& events);
 
 // Both comparisons are exact; `index` becomes the user's slot when the answer is Ok.
 LoginResult CheckLogin(const std::vector<UserRecord>& users, const QString& name, const QString& password,
@@ -67,4 +66,5 @@ void SetUser_Modify(UserSet& set, const UserFields& fields);
 // The slot is the only administrator left.
 bool IsLastAdmin(const UserSet& set, int index);
 
-RecordFamily UserFamily(Databases& databases, UserSet& set, std::function<int()> monitors);
+// The events must outlive the family.
+RecordFamily UserFamily(Databases& databases, UserSet& set, const RecorderEvents& events);

@@ -1,3 +1,4 @@
+#include "screens/UserRows.h"
 #include "tests/store/StoreFixture.h"
 #include "users/AccountStore.h"
 #include "users/UserModels.h"
@@ -11,7 +12,12 @@ namespace {
 class UserTest : public StoreFixture
 {
 protected:
-    UserTest() { open(); }
+    UserTest()
+    {
+        open();
+        events.usersGone.subscribe([this](const QStringList& left) { DeleteRowsOfOthers(databases, left); });
+        events.usersSaved.subscribe([this](const QStringList& names) { AddFirstStarts(databases, names, 2); });
+    }
     UserFields fields(const QString& name, qint16 group = 1)
     {
         UserFields made;
@@ -20,11 +26,9 @@ protected:
         made.iGroup = group;
         return made;
     }
-    void save()
-    {
-        UserFamily(databases, users, [] { return 2; }).save();
-    }
+    bool save() { return UserFamily(databases, users, events).save(); }
     UserSet users;
+    RecorderEvents events;
 };
 
 SVRRecord Recorder(qint16 channels, std::initializer_list<int> named)
@@ -71,8 +75,13 @@ TEST_F(UserTest, DeletingAUserTakesWhatHeOwned)
     save();
     execute(u"INSERT INTO Pattern (iID,sOwner,sName) VALUES (1,'ann','a'),(1,'bob','b'),(1,'','c')"_s);
     SetUser_Delete(users, 1);
-    save();
-    EXPECT_EQ(value(u"SELECT group_concat(sUser) FROM UserData"_s).toString(), u"ann"_s);
+    const QString names = u"SELECT group_concat(sUser) FROM UserData"_s;
+    execute(u"CREATE TRIGGER t BEFORE DELETE ON Pattern BEGIN SELECT RAISE(FAIL,'no'); END"_s);
+    EXPECT_FALSE(save());
+    EXPECT_EQ(value(names).toString(), u"ann,bob"_s) << "one step: what cannot be taken keeps its owner";
+    execute(u"DROP TRIGGER t"_s);
+    EXPECT_TRUE(save());
+    EXPECT_EQ(value(names).toString(), u"ann"_s);
     EXPECT_EQ(value(u"SELECT group_concat(sOwner) FROM DefaultStart"_s).toString(), u"ann"_s);
     EXPECT_EQ(value(u"SELECT group_concat(sName) FROM Pattern"_s).toString(), u"a"_s);
 }
