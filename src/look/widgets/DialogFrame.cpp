@@ -204,12 +204,16 @@ StepStrip* DialogFrame::steps()
 
 ActionBar* DialogFrame::footer()
 {
-    if (!m_footer) {
-        m_footer = new ActionBar;
-        m_footer->layout()->setContentsMargins(20, 13, 20, 12);
-        m_column->addWidget(m_footer);
-    }
+    if (!m_footer)
+        setFooter(new ActionBar);
     return m_footer;
+}
+
+void DialogFrame::setFooter(ActionBar* footer)
+{
+    m_footer = footer;
+    m_footer->layout()->setContentsMargins(20, 13, 20, 12);
+    m_column->addWidget(m_footer);
 }
 
 bool DialogFrame::event(QEvent* event)

@@ -33,6 +33,8 @@ public:
     // Made on first use.
     StepStrip* steps();
     ActionBar* footer();
+    // The footer that a .ui form holds at its end, moved out of the content. Call it before footer().
+    void setFooter(ActionBar* footer);
 
 protected:
     bool event(QEvent* event) override;

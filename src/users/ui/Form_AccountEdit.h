@@ -4,13 +4,13 @@
 #include "store/Databases.h"
 #include "store/records/UserRecords.h"
 
+#include <memory>
 #include <vector>
 
-class PasswordField;
-class QLineEdit;
-class QStackedWidget;
 class QStandardItemModel;
-class QTableView;
+namespace Ui {
+class Form_AccountEdit;
+}
 
 // The logins that are tried on devices. Every change is written at once.
 class Form_AccountEdit : public DialogFrame
@@ -18,6 +18,7 @@ class Form_AccountEdit : public DialogFrame
     Q_OBJECT
 public:
     Form_AccountEdit(Databases& databases, std::vector<NVRAccountRecord>& accounts, QWidget* parent);
+    ~Form_AccountEdit() override;
 
     void reject() override;
 
@@ -28,11 +29,8 @@ private:
 
     Databases& m_databases;
     std::vector<NVRAccountRecord>& m_accounts;
+    std::unique_ptr<Ui::Form_AccountEdit> m_ui;
     QStandardItemModel* m_model;
-    QTableView* Grid_Account;
-    QStackedWidget* m_stack;
-    QLineEdit* m_user;
-    PasswordField* m_password;
 };
 
 // Opens the dialog; whoever has a button for it calls this.

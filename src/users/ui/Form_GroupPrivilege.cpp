@@ -5,41 +5,23 @@
 #include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
 #include "look/style/Icons.h"
-#include "look/style/Theme.h"
 #include "look/tables/Tables.h"
-#include "look/widgets/ActionBar.h"
-#include "look/widgets/EmptyState.h"
-#include "look/widgets/Fields.h"
 #include "look/widgets/Keys.h"
 #include "look/widgets/SecondClick.h"
 #include "support/Conversions.h"
+#include "users/ui/ui_Form_GroupPrivilege.h"
 
-#include <QCheckBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QPushButton>
 #include <QSortFilterProxyModel>
-#include <QStackedWidget>
 #include <QStandardItemModel>
-#include <QTableView>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 constexpr int kSlotRole = Qt::UserRole;
-constexpr int kLiveAllBox = 3;
 constexpr int kIconColumn = 56; // px
-
-QVBoxLayout* Column(QWidget* frame)
-{
-    auto* column = new QVBoxLayout(frame);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(10);
-    return column;
-}
 } // namespace
 
 Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users, const RecorderSet& recorders,
@@ -49,21 +31,17 @@ Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users,
     , m_users(users)
     , m_recorders(recorders)
     , m_save(std::move(save))
-    , m_frames(new QStackedWidget)
+    , m_ui(std::make_unique<Ui::Form_GroupPrivilege>())
     , m_nvrs(new QStandardItemModel(this))
     , m_proxy(new QSortFilterProxyModel(this))
 {
     setObjectName(u"Form_GroupPrivilege"_s);
-    setCloseText(GetLangString(881));
-    m_frames->addWidget(buildGroupFrame());
-    m_frames->addWidget(buildChannelFrame());
-    Column(content())->addWidget(m_frames);
-    m_cancel = footer()->addButton(GetLangString(475));
-    m_cancel->setAutoDefault(false);
-    m_apply = footer()->addButton(GetLangString(591), "primary"_L1);
-    m_apply->setDefault(true);
-    connect(m_cancel, &QPushButton::clicked, this, &Form_GroupPrivilege::leaveFrame);
-    connect(m_apply, &QPushButton::clicked, this, [this] {
+    m_ui->setupUi(content());
+    setFooter(m_ui->footer);
+    setUpGroupFrame();
+    setUpChannelFrame();
+    connect(m_ui->lbGroupPrivilege_1, &QPushButton::clicked, this, &Form_GroupPrivilege::leaveFrame);
+    connect(m_ui->lbGroupPrivilege_0, &QPushButton::clicked, this, [this] {
         if (m_frame == 0)
             lbGroupPrivilege_Click();
         else
@@ -73,111 +51,54 @@ Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users,
     resize(960, 620);
 }
 
-QWidget* Form_GroupPrivilege::buildGroupFrame()
+Form_GroupPrivilege::~Form_GroupPrivilege() = default;
+
+void Form_GroupPrivilege::setUpGroupFrame()
 {
-    auto* frame = new QWidget;
-    frame->setObjectName(u"Frame_0"_s);
-    auto* column = Column(frame);
-    static constexpr std::array texts{432, 740, 100, 909, 0};
-    static constexpr std::array order{0, 1, 4, 2, 3};
-    for (const int i : order) {
-        auto* box = new QCheckBox;
-        box->setObjectName(u"Chk_GroupPrivilege_%1"_s.arg(i));
-        if (At(texts, i) != 0)
-            box->setProperty("tag", u"Caption:%1"_s.arg(At(texts, i)));
-        else
-            box->setText(u"SVD"_s);
-        At(Chk_GroupPrivilege, i) = box;
-        column->addWidget(box);
-    }
-    Grid_NVRList = new QTableView;
-    Grid_NVRList->setObjectName(u"Grid_NVRList"_s);
-    Grid_NVRList->setAccessibleName(GetLangString(838));
-    Grid_NVRList->setModel(m_nvrs);
-    StyleTable(Grid_NVRList);
-    Grid_NVRList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    ActOnRows(Grid_NVRList, {.open = NVREdit}, [this](const QModelIndex& cell) { openRecorder(cell.row()); });
-    OnKey(Grid_NVRList, Qt::Key_Space, [this] { openRecorder(Grid_NVRList->currentIndex().row()); });
-    connect(At(Chk_GroupPrivilege, kLiveAllBox), &QCheckBox::toggled, this,
-            [this](bool on) { Grid_NVRList->setEnabled(!on); });
-    auto* title = new QLabel;
-    title->setProperty("tag", u"Caption:838"_s);
-    SetRole(title, "cardTitle"_L1);
-    column->addWidget(title);
-    auto* empty = new EmptyState("empty-recorder"_L1);
-    empty->setHeadline(GetLangString(861));
-    m_nvrStack = new QStackedWidget;
-    m_nvrStack->addWidget(Grid_NVRList);
-    m_nvrStack->addWidget(empty);
-    column->addWidget(m_nvrStack, 1);
-    return frame;
+    Chk_GroupPrivilege = {m_ui->Chk_GroupPrivilege_0, m_ui->Chk_GroupPrivilege_1, m_ui->Chk_GroupPrivilege_2,
+                          m_ui->Chk_GroupPrivilege_3, m_ui->Chk_GroupPrivilege_4};
+    QTableView* grid = m_ui->Grid_NVRList;
+    grid->setModel(m_nvrs);
+    StyleTable(grid);
+    ActOnRows(grid, {.open = NVREdit}, [this](const QModelIndex& cell) { openRecorder(cell.row()); });
+    OnKey(grid, Qt::Key_Space, [this, grid] { openRecorder(grid->currentIndex().row()); });
+    connect(m_ui->Chk_GroupPrivilege_3, &QCheckBox::toggled, grid, &QWidget::setDisabled);
+    m_ui->noRecorder->setIllustration("empty-recorder"_L1);
 }
 
-QWidget* Form_GroupPrivilege::buildChannelFrame()
+void Form_GroupPrivilege::setUpChannelFrame()
 {
-    auto* frame = new QWidget;
-    frame->setObjectName(u"Frame_1"_s);
-    auto* column = Column(frame);
-    auto* tools = new QHBoxLayout;
-    tools->setSpacing(10);
-    Chk_NVRPrivilege = new QCheckBox;
-    Chk_NVRPrivilege->setObjectName(u"Chk_NVRPrivilege_0"_s);
-    Chk_NVRPrivilege->setProperty("tag", u"Caption:907"_s);
-    connect(Chk_NVRPrivilege, &QCheckBox::toggled, this, [this](bool on) {
+    connect(m_ui->Chk_NVRPrivilege_0, &QCheckBox::toggled, this, [this](bool on) {
         if (m_channels)
             m_channels->setAll(on);
     });
-    auto* filter = new SearchField;
-    filter->setObjectName(u"txtFilter"_s);
-    filter->setPlaceholderText(GetLangString(906));
-    filter->setAccessibleName(GetLangString(906));
-    filter->setMaximumWidth(260);
+    SearchField* filter = m_ui->txtFilter;
+    QTableView* grid = m_ui->Grid_ChannelPrivilege;
     connect(filter, &QLineEdit::textChanged, m_proxy, &QSortFilterProxyModel::setFilterFixedString);
-    connect(filter, &QLineEdit::returnPressed, this, [this] { Grid_ChannelPrivilege->setFocus(); });
-    OnKey(frame, QKeySequence::Find, [filter] { filter->setFocus(); });
-    tools->addWidget(filter, 1);
-    tools->addWidget(Chk_NVRPrivilege);
-    tools->addStretch();
-    for (int i = 0; i < 2; ++i) {
-        auto* button = new QPushButton;
-        button->setObjectName(i == 0 ? u"btnGrant"_s : u"btnWithdraw"_s);
-        button->setProperty("tag", u"Caption:%1"_s.arg(i == 0 ? 910 : 911));
-        button->setAutoDefault(false);
-        connect(button, &QPushButton::clicked, this, [this, i] {
+    connect(filter, &QLineEdit::returnPressed, grid, qOverload<>(&QWidget::setFocus));
+    OnKey(m_ui->Frame_1, QKeySequence::Find, [filter] { filter->setFocus(); });
+    for (const auto& [button, on] : {std::pair{m_ui->btnGrant, true}, {m_ui->btnWithdraw, false}}) {
+        connect(button, &QPushButton::clicked, this, [this, on = on] {
             if (m_channels)
-                m_channels->give(chosenCells(), i == 0);
+                m_channels->give(chosenCells(), on);
         });
-        At(m_bulk, i) = button;
-        tools->addWidget(button);
     }
-    column->addLayout(tools);
-    m_hint = new QLabel;
-    m_hint->setWordWrap(true);
-    SetRole(m_hint, "hint"_L1);
-    column->addWidget(m_hint);
-
-    QTableView* grid = Grid_ChannelPrivilege = new QTableView;
-    grid->setObjectName(u"Grid_ChannelPrivilege"_s);
     grid->setModel(m_proxy);
     m_proxy->setFilterKeyColumn(ChannelRightsModel::Name);
     m_proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
     StyleTable(grid);
     grid->setSelectionBehavior(QAbstractItemView::SelectItems);
-    grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grid->horizontalHeader()->setSectionsClickable(true);
     connect(grid->horizontalHeader(), &QHeaderView::sectionClicked, grid, &QTableView::selectColumn);
-    connect(grid, &QTableView::clicked, this, [this](const QModelIndex& index) {
+    connect(grid, &QTableView::clicked, this, [this, grid](const QModelIndex& index) {
         if (QGuiApplication::keyboardModifiers() != Qt::NoModifier || !m_channels)
             return;
         if (ChannelRightsModel::isRight(index.column()))
             m_channels->flip({m_proxy->mapToSource(index)});
         else
-            Grid_ChannelPrivilege->selectRow(index.row());
+            grid->selectRow(index.row());
     });
     grid->installEventFilter(this);
-    column->addWidget(grid, 1);
-    return frame;
 }
 
 GroupPrivilegeRecord& Form_GroupPrivilege::group()
@@ -192,7 +113,7 @@ void Form_GroupPrivilege::SetGroupPrivilege(int index)
     const std::array values{record.Setting, record.Export, record.Live, record.Live_all, record.SVDControl};
     for (std::size_t i = 0; i < values.size(); ++i)
         Chk_GroupPrivilege[i]->setChecked(values[i] == 1);
-    Grid_NVRList->setEnabled(record.Live_all != 1);
+    m_ui->Grid_NVRList->setEnabled(record.Live_all != 1);
     Grid_NVRList_Draw();
 }
 
@@ -200,19 +121,19 @@ void Form_GroupPrivilege::LoadFrame(int frame)
 {
     const bool back = m_frame == 1 && frame == 0;
     m_frame = frame;
-    m_frames->setCurrentIndex(frame);
+    m_ui->frames->setCurrentIndex(frame);
     setWindowTitle(GetLangString(frame == 0 ? 837 : 838));
     const SVRRecord& recorder = At(m_recorders.SVRWorkList, m_slot);
     setSubtitle(frame == 0 ? group().Name : group().Name + u" · NVR %1 · "_s.arg(m_slot + 1) + recorder.sSVR_Name);
-    m_apply->setObjectName(frame == 0 ? u"lbGroupPrivilege_0"_s : u"lbNVRPrivilege_0"_s);
-    m_cancel->setObjectName(frame == 0 ? u"lbGroupPrivilege_1"_s : u"lbNVRPrivilege_1"_s);
-    m_apply->setEnabled(frame == 0 || m_group != 0);
+    m_ui->lbGroupPrivilege_0->setObjectName(frame == 0 ? u"lbGroupPrivilege_0"_s : u"lbNVRPrivilege_0"_s);
+    m_ui->lbGroupPrivilege_1->setObjectName(frame == 0 ? u"lbGroupPrivilege_1"_s : u"lbNVRPrivilege_1"_s);
+    m_ui->lbGroupPrivilege_0->setEnabled(frame == 0 || m_group != 0);
     if (back)
-        Grid_NVRList->setFocus();
+        m_ui->Grid_NVRList->setFocus();
     else if (frame == 0)
-        At(Chk_GroupPrivilege, 0)->setFocus();
+        m_ui->Chk_GroupPrivilege_0->setFocus();
     else
-        Grid_ChannelPrivilege->setFocus();
+        m_ui->Grid_ChannelPrivilege->setFocus();
 }
 
 void Form_GroupPrivilege::Grid_NVRList_Draw()
@@ -241,16 +162,16 @@ void Form_GroupPrivilege::Grid_NVRList_Draw()
         edit->setData(GetLangString(876), Qt::AccessibleTextRole);
         m_nvrs->appendRow({number, new QStandardItem(recorder.sSVR_Name), state, edit});
     }
-    QHeaderView* head = Grid_NVRList->horizontalHeader();
+    QHeaderView* head = m_ui->Grid_NVRList->horizontalHeader();
     head->setStretchLastSection(false);
     head->setSectionResizeMode(1, QHeaderView::Stretch);
-    Grid_NVRList->setColumnWidth(0, 80);
-    Grid_NVRList->setColumnWidth(2, 240);
-    Grid_NVRList->setColumnWidth(NVREdit, kIconColumn);
-    m_nvrStack->setCurrentIndex(m_nvrs->rowCount() > 0 ? 0 : 1);
+    m_ui->Grid_NVRList->setColumnWidth(0, 80);
+    m_ui->Grid_NVRList->setColumnWidth(2, 240);
+    m_ui->Grid_NVRList->setColumnWidth(NVREdit, kIconColumn);
+    m_ui->nvrStack->setCurrentIndex(m_nvrs->rowCount() > 0 ? 0 : 1);
     for (int row = 0; row < m_nvrs->rowCount(); ++row) {
         if (row == 0 || m_nvrs->item(row)->data(kSlotRole).toInt() == m_slot)
-            Grid_NVRList->setCurrentIndex(m_nvrs->index(row, 0));
+            m_ui->Grid_NVRList->setCurrentIndex(m_nvrs->index(row, 0));
     }
 }
 
@@ -273,25 +194,25 @@ void Form_GroupPrivilege::Grid_ChannelPrivilege_Draw(int slot)
         std::make_unique<ChannelRightsModel>(m_groups, m_users, At(m_recorders.SVRWorkList, slot), m_group, slot);
     m_proxy->setSourceModel(model.get());
     m_channels = std::move(model);
-    Chk_NVRPrivilege->setChecked(m_channels->rights().all);
+    m_ui->Chk_NVRPrivilege_0->setChecked(m_channels->rights().all);
     const bool editable = m_channels->editable();
-    Chk_NVRPrivilege->setEnabled(editable);
-    Grid_ChannelPrivilege->setEnabled(editable);
-    for (QPushButton* button : m_bulk)
-        button->setEnabled(editable);
-    m_hint->setText(GetLangString(editable ? 912 : 913));
-    Grid_ChannelPrivilege->setAccessibleName(GetLangString(784) + u". "_s + m_hint->text());
+    m_ui->Chk_NVRPrivilege_0->setEnabled(editable);
+    m_ui->Grid_ChannelPrivilege->setEnabled(editable);
+    m_ui->btnGrant->setEnabled(editable);
+    m_ui->btnWithdraw->setEnabled(editable);
+    m_ui->lbChannelHint->setText(GetLangString(editable ? 912 : 913));
+    m_ui->Grid_ChannelPrivilege->setAccessibleName(GetLangString(784) + u". "_s + m_ui->lbChannelHint->text());
     m_before = FormCHPrivilege(m_channels->rights(), At(m_recorders.SVRWorkList, slot));
     static constexpr std::array widths{64, 210, 92, 92, 104, 92};
     for (int column = 0; column < static_cast<int>(widths.size()); ++column)
-        Grid_ChannelPrivilege->setColumnWidth(column, At(widths, column));
-    Grid_ChannelPrivilege->setCurrentIndex(m_proxy->index(0, ChannelRightsModel::Live));
+        m_ui->Grid_ChannelPrivilege->setColumnWidth(column, At(widths, column));
+    m_ui->Grid_ChannelPrivilege->setCurrentIndex(m_proxy->index(0, ChannelRightsModel::Live));
 }
 
 QModelIndexList Form_GroupPrivilege::chosenCells() const
 {
     QModelIndexList cells;
-    const QModelIndexList chosen = Grid_ChannelPrivilege->selectionModel()->selectedIndexes();
+    const QModelIndexList chosen = m_ui->Grid_ChannelPrivilege->selectionModel()->selectedIndexes();
     for (const QModelIndex& cell : chosen)
         cells << m_proxy->mapToSource(cell);
     return cells;
@@ -337,7 +258,7 @@ void Form_GroupPrivilege::lbNVRPrivilege_Click()
         record.Live_all = DeriveLiveAll(record, m_recorders.SVRWorkList);
         record.bChanged = true;
         m_save();
-        At(Chk_GroupPrivilege, kLiveAllBox)->setChecked(record.Live_all == 1);
+        m_ui->Chk_GroupPrivilege_3->setChecked(record.Live_all == 1);
         Grid_NVRList_Draw();
         LoadFrame(0);
     });
@@ -357,7 +278,7 @@ void Form_GroupPrivilege::reject()
 {
     switch (changed() ? AskToLeave() : Leave::Discard) {
     case Leave::Save:
-        m_apply->click();
+        m_ui->lbGroupPrivilege_0->click();
         break;
     case Leave::Discard:
         leaveFrame();
@@ -372,12 +293,12 @@ bool Form_GroupPrivilege::eventFilter(QObject* watched, QEvent* event)
     if (event->type() != QEvent::KeyPress)
         return DialogFrame::eventFilter(watched, event);
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (watched == Grid_ChannelPrivilege && key->key() == Qt::Key_Space && m_channels) {
-        const QModelIndex current = Grid_ChannelPrivilege->currentIndex();
+    if (watched == m_ui->Grid_ChannelPrivilege && key->key() == Qt::Key_Space && m_channels) {
+        const QModelIndex current = m_ui->Grid_ChannelPrivilege->currentIndex();
         if (key->modifiers() == Qt::ShiftModifier)
-            Grid_ChannelPrivilege->selectRow(current.row());
+            m_ui->Grid_ChannelPrivilege->selectRow(current.row());
         else if (key->modifiers() == Qt::ControlModifier)
-            Grid_ChannelPrivilege->selectColumn(current.column());
+            m_ui->Grid_ChannelPrivilege->selectColumn(current.column());
         else
             m_channels->flip(chosenCells());
         return true;

@@ -6,11 +6,11 @@
 #include <functional>
 
 class QCheckBox;
-class QLabel;
 class QSortFilterProxyModel;
-class QStackedWidget;
 class QStandardItemModel;
-class QTableView;
+namespace Ui {
+class Form_GroupPrivilege;
+}
 
 // A group's rights: frame 0 its own five and the list of recorders, frame 1 its rights on one recorder's channels.
 class Form_GroupPrivilege : public DialogFrame
@@ -20,6 +20,7 @@ public:
     // `save` writes everything that is marked.
     Form_GroupPrivilege(GroupSet& groups, const UserSet& users, const RecorderSet& recorders,
                         std::function<void()> save, QWidget* parent);
+    ~Form_GroupPrivilege() override;
 
     void SetGroupPrivilege(int group); // group index from 0
     void LoadFrame(int frame);
@@ -31,8 +32,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    QWidget* buildGroupFrame();
-    QWidget* buildChannelFrame();
+    void setUpGroupFrame();
+    void setUpChannelFrame();
     void Grid_NVRList_Draw();
     void Grid_ChannelPrivilege_Draw(int slot);
     void lbGroupPrivilege_Click();
@@ -48,19 +49,11 @@ private:
     const UserSet& m_users;
     const RecorderSet& m_recorders;
     std::function<void()> m_save;
-    QStackedWidget* m_frames;
-    std::array<QCheckBox*, 5> Chk_GroupPrivilege{}; // Setting, Export, Live, Live_all, SVDControl
-    QTableView* Grid_NVRList = nullptr;
-    QStackedWidget* m_nvrStack = nullptr;
+    std::unique_ptr<Ui::Form_GroupPrivilege> m_ui;
+    std::array<QCheckBox*, 5> Chk_GroupPrivilege; // Setting, Export, Live, Live_all, SVDControl
     QStandardItemModel* m_nvrs;
-    QCheckBox* Chk_NVRPrivilege = nullptr;
-    QLabel* m_hint = nullptr;
-    QTableView* Grid_ChannelPrivilege = nullptr;
     QSortFilterProxyModel* m_proxy;
     std::unique_ptr<ChannelRightsModel> m_channels;
-    std::array<QPushButton*, 2> m_bulk{};
-    QPushButton* m_cancel;
-    QPushButton* m_apply;
     int m_group = 0;
     int m_slot = 0;
     int m_frame = 0;

@@ -3,8 +3,11 @@
 #include "look/widgets/DialogFrame.h"
 #include "users/UserStore.h"
 
-class QLabel;
-class QLineEdit;
+#include <memory>
+
+namespace Ui {
+class Form_Login;
+}
 
 // The gate at the end of start-up: accepted when name and password match a user.
 class Form_Login : public DialogFrame
@@ -12,6 +15,7 @@ class Form_Login : public DialogFrame
     Q_OBJECT
 public:
     explicit Form_Login(const std::vector<UserRecord>& users, QWidget* parent = nullptr);
+    ~Form_Login() override;
 
     void ChangeLanguage();
     // True when what is typed matches a user; else one box, and the field in question is emptied and focused.
@@ -31,11 +35,7 @@ private:
     void UpdatingLogo();
 
     const std::vector<UserRecord>& m_users;
-    QLabel* m_logo;
-    QLineEdit* m_name;
-    QLineEdit* m_password;
-    QPushButton* m_ok;
-    QPushButton* m_exit;
+    std::unique_ptr<Ui::Form_Login> m_ui;
     quint32 m_index = 65535;
     QString m_refusal;
 };

@@ -5,11 +5,12 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 
-class ElidedLabel;
-class QComboBox;
-class QLabel;
 class QLineEdit;
+namespace Ui {
+class Form_UserSetting;
+}
 
 // Edits the user in UserSet::EditUserIndex, or makes a new one.
 class Form_UserSetting : public DialogFrame
@@ -40,7 +41,6 @@ private:
         PasswordAgain,
         FieldCount
     };
-    void build(const QStringList& groups);
     void Form_Activate(bool groupFixed);
     void lbUserApply_Click();
     void lbUserCheck_Click();
@@ -53,10 +53,7 @@ private:
 
     UserSet& m_users;
     std::function<void()> m_save;
-    std::array<QLineEdit*, FieldCount> txtUser{};
-    QComboBox* cmbUser;
-    QLabel* Image1;
-    ElidedLabel* Text_Filename;
-    QPushButton* m_apply;
+    std::unique_ptr<Ui::Form_UserSetting> m_ui;
+    std::array<QLineEdit*, FieldCount> txtUser;
     QStringList m_before;
 };

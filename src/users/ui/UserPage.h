@@ -4,14 +4,12 @@
 
 #include <QWidget>
 #include <functional>
+#include <memory>
 
-class Card;
-class EmptyState;
-class QPushButton;
-class QStackedWidget;
 class QSortFilterProxyModel;
-class QTableView;
-class SearchField;
+namespace Ui {
+class UserPage;
+}
 
 // What the page works on. `save` writes everything that is marked.
 struct UserPageContext
@@ -30,6 +28,7 @@ class UserPage : public QWidget
     Q_OBJECT
 public:
     explicit UserPage(UserPageContext context, QWidget* parent = nullptr);
+    ~UserPage() override;
 
     void User_Table_Set();
     void Group_Table_Set();
@@ -50,17 +49,8 @@ private:
     int currentSlot() const;
 
     UserPageContext m_context;
+    std::unique_ptr<Ui::UserPage> m_ui;
     UserListModel* m_users;
     GroupListModel* m_groups;
     QSortFilterProxyModel* m_proxy;
-    Card* m_userCard;
-    Card* m_groupCard;
-    QStackedWidget* m_stack;
-    EmptyState* m_empty;
-    SearchField* m_filter;
-    QTableView* Grid_UsersList;
-    QTableView* Grid_GroupList;
-    QPushButton* lbUserAdd;
-    QPushButton* m_reach;
-    QPushButton* m_accountsButton;
 };

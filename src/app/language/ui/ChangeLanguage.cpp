@@ -4,10 +4,13 @@
 #include "app/language/Languages.h"
 #include "look/style/Theme.h"
 #include "look/widgets/DialogFrame.h"
+#include "look/widgets/EmptyState.h"
+#include "look/widgets/Fields.h"
 #include "look/widgets/PasswordField.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -26,6 +29,18 @@ void SetCaption(QWidget* control, const QString& text)
         button->setText(text);
     else if (auto* box = qobject_cast<QGroupBox*>(control))
         box->setTitle(text);
+}
+
+void SetHint(QWidget* control, const QString& text)
+{
+    if (auto* filter = qobject_cast<SearchField*>(control))
+        filter->setPlaceholderText(text);
+    else if (auto* field = qobject_cast<QLineEdit*>(control))
+        field->setPlaceholderText(text);
+    else if (auto* choice = qobject_cast<QComboBox*>(control))
+        choice->setPlaceholderText(text);
+    else if (auto* empty = qobject_cast<EmptyState*>(control))
+        empty->setHint(text);
 }
 
 constexpr int kClose = 881;     // message
@@ -97,17 +112,22 @@ private:
 
 void ApplyTag(QWidget* control)
 {
-    const QString tag = control->property("tag").toString();
-    const qsizetype colon = tag.indexOf(u':');
-    if (colon < 0)
-        return;
-    const QString text = GetLangString(tag.mid(colon + 1).toInt());
-    if (QStringView(tag).left(colon) == "Caption"_L1)
-        CutString(control, text, Language() == kRightToLeftLanguage);
-    else if (QStringView(tag).left(colon) == "ToolTip"_L1)
-        control->setToolTip(text);
-    else if (QStringView(tag).left(colon) == "Name"_L1)
-        control->setAccessibleName(text);
+    const QString tags = control->property("tag").toString();
+    for (const QStringView tag : QStringView(tags).split(u' ', Qt::SkipEmptyParts)) {
+        const qsizetype colon = tag.indexOf(u':');
+        const QStringView what = tag.left(colon);
+        const QString text = GetLangString(tag.mid(colon + 1).toInt());
+        if (auto* empty = qobject_cast<EmptyState*>(control); empty && what == "Caption"_L1)
+            empty->setHeadline(text);
+        else if (what == "Caption"_L1)
+            CutString(control, text, Language() == kRightToLeftLanguage);
+        else if (what == "ToolTip"_L1)
+            control->setToolTip(text);
+        else if (what == "Name"_L1)
+            control->setAccessibleName(text);
+        else if (what == "Hint"_L1)
+            SetHint(control, text);
+    }
 }
 
 // Every language but Japanese is written in one and the same family where it is installed. Chinese and Japanese have
