@@ -94,7 +94,8 @@ void StopAllWork()
 
 bool AnyWorkRunning()
 {
-    return std::any_of(AllWork().begin(), AllWork().end(), [](const Work* work) { return work->running(); });
+    return std::any_of(AllWork().begin(), AllWork().end(),
+                       [](const Work* work) { return work->running() && !work->isQuiet(); });
 }
 
 WorkAwaitable::~WorkAwaitable()

@@ -31,6 +31,9 @@ public:
     // exception that leaves the task is lost: StartWork (app/log) logs it.
     bool start(Body body, std::function<void()> after = {});
     bool running() const { return m_running; }
+    // It goes on by itself, for as long as the program does: nobody waits for its end.
+    void setQuiet() { m_quiet = true; }
+    bool isQuiet() const { return m_quiet; }
 
     // Ends the task: on Stop, on Esc, with the window. SetClosing(true) does it for every work there is.
     void stop();
@@ -56,13 +59,14 @@ private:
     bool m_running = false;
     bool m_stopped = false;
     bool m_leaving = false;
+    bool m_quiet = false;
     QString m_step;
     int m_percent = -1;
 };
 
 // Stops every work there is; SetClosing calls it.
 void StopAllWork();
-// Whether a work is running.
+// Whether a work is running that somebody waits for.
 bool AnyWorkRunning();
 
 // What a coroutine waits for on behalf of a work. Of a stopped work it does not even begin. A subclass begins in

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "device/bridge/ConnectionWatch.h"
 #include "recorders/data/RecorderSet.h"
-#include "recorders/detect/ConnectionWatch.h"
 
 #include <QAbstractTableModel>
 #include <vector>

@@ -1,3 +1,4 @@
+#include "device/bridge/ConnectionWatch.h"
 #include "device/bridge/Form_COM.h"
 #include "platform/Closing.h"
 #include "tests/Await.h"
@@ -115,7 +116,7 @@ TEST_F(ParameterBridge, PresetsAndMovementAskThePtzPath)
 
 TEST_F(ParameterBridge, ServicesFollowTheirDevice)
 {
-    com.device.SetPollInterval(20);
+    com.poller.SetInterval(20);
     const auto status = [&](qint16 svr) {
         const qint16 row = com.FindServiceSlot(svr);
         return row < 0 ? -1 : com.Services[static_cast<std::size_t>(row)].Status;
@@ -159,6 +160,65 @@ TEST_F(ParameterBridge, ServicesFollowTheirDevice)
     const std::size_t rounds = other.requests.size() + 3;
     EXPECT_TRUE(WaitUntil([&] { return other.requests.size() > rounds; }, 5));
     EXPECT_EQ(server.requests.size() + moved.requests.size(), before);
+}
+
+// A list on show and a service want to know about the same recorder: it gets one question at a time.
+TEST_F(ParameterBridge, AListAndAServiceShareTheQuestionsToARecorder)
+{
+    com.poller.SetInterval(5);
+    ScriptedServer other;
+    std::vector<SVRRecord> list(kMaxSVR);
+    list[4] = Recorder(server);
+    ConnectionWatch watch(com.poller, std::span<const SVRRecord, kMaxSVR>(list.data(), kMaxSVR));
+    watch.refresh();
+    EXPECT_EQ(com.http.open(), 0) << "a list that is not on show asks nobody";
+    com.SetProToDeviceBridge(list);
+    EXPECT_TRUE(WaitUntil([&] { return com.Services.at(0).Status == 1; }, 5));
+    server.answer = [](const ScriptedServer::Seen&) { return Answer{{}, false, 0, 0, true}; };
+    std::size_t asked = server.requests.size();
+    EXPECT_TRUE(WaitUntil([&] { return server.requests.size() > asked; }, 5));
+    watch.start(); // more impatient than the service
+    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::Connected) << "as it is known";
+    EXPECT_EQ(com.http.open(), 1);
+    EXPECT_TRUE(WaitUntil([&] { return watch.state(4).message == 959; }, 5));
+    EXPECT_EQ(com.Services[0].Status, 1) << "sixty seconds of silence cost a service its status";
+    server.answerWith("OK");
+    EXPECT_TRUE(WaitUntil([&] { return watch.state(4).kind == ConnectionState::Kind::Connected; }, 5));
+
+    list[4] = Recorder(other); // nobody says so
+    EXPECT_TRUE(WaitUntil([&] { return other.requests.size() > 3; }, 5));
+    list[4] = SVRRecord();
+    watch.refresh();
+    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::None);
+    com.SetProToDeviceBridge(list);
+    EXPECT_EQ(com.http.open(), 0) << "removed: asked by nobody";
+
+    list[4] = Recorder(other);
+    list[5] = Recorder(server);
+    server.answer = [](const ScriptedServer::Seen&) { return Answer{ScriptedServer::page({}, "401 No")}; };
+    asked = server.requests.size(); // each wrong password may count towards a lock
+    std::size_t rounds = other.requests.size() + 40;
+    watch.refresh();
+    EXPECT_EQ(watch.state(5).kind, ConnectionState::Kind::Checking);
+    EXPECT_TRUE(WaitUntil([&] { return other.requests.size() > rounds; }, 5));
+    EXPECT_EQ(watch.state(5).kind, ConnectionState::Kind::Refused);
+    EXPECT_LT(server.requests.size() - asked, 12U);
+    watch.start();
+    const auto leaving = QObject::connect(&watch, &ConnectionWatch::changed, &watch, [&] { watch.stop(); });
+    EXPECT_TRUE(WaitUntil([&] { return com.http.open() == 0; }, 5)) << "left at once, by its own news";
+    QObject::disconnect(leaving);
+    watch.start();
+    EXPECT_EQ(com.http.open(), 2);
+    SetClosing(true);
+    EXPECT_EQ(com.http.open(), 0);
+    SetClosing(false);
+
+    HttpReply reply;
+    for (const auto& [failure, message] :
+         {std::pair{HttpFailure::NotResolved, 960}, {HttpFailure::BrokenOff, 962}, {HttpFailure::TooLarge, 962}}) {
+        reply.failure = failure;
+        EXPECT_EQ(ConnectionOf(reply).message, message);
+    }
 }
 
 TEST_F(ParameterBridge, AStatusOfAnUnknownServiceIsAnErrorAndNoNewRow)

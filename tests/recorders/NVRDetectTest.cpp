@@ -442,7 +442,8 @@ TEST(RecorderModels, AnswerForCellsThatAreNotThere)
 {
     const auto recorders = std::make_unique<RecorderSet>();
     HttpClient http;
-    const ConnectionWatch watch(http, *recorders);
+    DevicePoller poller(http);
+    const ConnectionWatch watch(poller, recorders->SVRList);
     SearchListModel found(*recorders);
     found.add(Found(1));
     DetectStatusModel status;

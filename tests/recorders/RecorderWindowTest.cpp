@@ -113,7 +113,7 @@ TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
     recorders->SVRList[1].sSVR_Password = u"wrong"_s;
     recorders->SVRList[2].iSVR_HttpPort = 9;
     fault(3, {FaultKind::Body, 0, "/getgid.cgi", 0, "ERR"});
-    NVRPage page(*recorders, com.http);
+    NVRPage page(*recorders, com.poller);
     page.changeLanguage();
     page.Grid_SVR_Set_withDB();
     EXPECT_EQ(requests(0, "/getgid.cgi"), 0) << "a page that is not on show asks nobody";
@@ -159,53 +159,6 @@ TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
     recorders->SVRList[3] = SVRRecord();
     page.Grid_SVR_Set_withDB();
     EXPECT_EQ(grid->currentIndex().data(NVRListModel::kSlotRole).toInt(), 2) << "the next one comes to its place";
-}
-
-TEST_F(RecorderWindows, TheWatchAsksOnlyWhileItRunsAndFollowsTheList)
-{
-    startSite({Family::Svr, Family::Svr});
-    store(4, 0);
-    ConnectionWatch watch(com.http, *recorders);
-    watch.setInterval(5);
-    watch.refresh();
-    watch.start();
-    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::Checking);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return requests(0, "/getgid.cgi") > 3; }, 3000));
-    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::Connected);
-    store(4, 1); // another recorder in the slot
-    EXPECT_TRUE(QTest::qWaitFor([&] { return requests(1, "/getgid.cgi") > 0; }, 3000)) << "without being told";
-    fault(1, {FaultKind::Silent});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return watch.state(4).message == 959; }, 5000));
-    recorders->SVRList[4] = SVRRecord();
-    watch.refresh();
-    EXPECT_EQ(watch.state(4).kind, ConnectionState::Kind::None);
-    EXPECT_EQ(com.http.open(), 0);
-    store(4, 0);
-    watch.refresh();
-    EXPECT_EQ(com.http.open(), 1);
-    watch.stop();
-    EXPECT_EQ(com.http.open(), 0);
-    QTest::qWait(20); // the one just broken off may still arrive
-    const int asked = requests(0, "/getgid.cgi");
-    QTest::qWait(40);
-    EXPECT_EQ(requests(0, "/getgid.cgi"), asked);
-
-    site->call([](simulators::Site& running) { running.device(1).clearFaults(); });
-    fault(1, {FaultKind::Unauthorized}); // each wrong password may count towards a lock
-    store(5, 1);
-    const int refusedBefore = requests(1, "/getgid.cgi");
-    watch.start();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return requests(0, "/getgid.cgi") > asked + 40; }, 5000));
-    EXPECT_EQ(watch.state(5).kind, ConnectionState::Kind::Refused);
-    EXPECT_LT(requests(1, "/getgid.cgi") - refusedBefore, 12);
-    watch.stop();
-
-    HttpReply reply;
-    for (const auto& [failure, message] :
-         {std::pair{HttpFailure::NotResolved, 960}, {HttpFailure::BrokenOff, 962}, {HttpFailure::TooLarge, 962}}) {
-        reply.failure = failure;
-        EXPECT_EQ(ConnectionOf(reply).message, message);
-    }
 }
 
 // The wizard, its steps done by a driver while it is open.

@@ -18,7 +18,7 @@ RecordersPage::RecordersPage(const DeskParts& parts)
     : m_station(parts.station)
     , m_com(parts.com)
     , m_context(parts.context)
-    , m_list(new NVRPage(parts.station.recorders, parts.com.http))
+    , m_list(new NVRPage(parts.station.recorders, parts.com.poller))
 {
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+struct HttpRequest;
+struct SVRRecord;
+
 // Where a device is and how to log in.
 struct DeviceAddress
 {
@@ -11,3 +14,7 @@ struct DeviceAddress
     QString password;
     friend bool operator==(const DeviceAddress&, const DeviceAddress&) = default;
 };
+
+DeviceAddress AddressOf(const SVRRecord& svr);
+// A request to the device, without target and body.
+HttpRequest RequestTo(const DeviceAddress& device);

@@ -183,17 +183,11 @@ QString FishEyeModeOf(const QString& reply, qint16 channel)
 
 } // namespace
 
-DeviceBridge::DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent)
+DeviceBridge::DeviceBridge(WebBridge& web, DevicePoller& poller, QObject* parent)
     : QObject(parent)
     , m_web(web)
-    , m_http(http)
+    , m_poller(poller)
 {
-}
-
-DeviceBridge::~DeviceBridge()
-{
-    for (const auto& [number, service] : m_services)
-        m_http.cancel(service->transfer);
 }
 
 QCoro::Task<std::optional<RecorderFacts>> DeviceBridge::GetSystemFacts(DeviceAddress device, Work& work)
@@ -266,46 +260,21 @@ qint16 DeviceBridge::AddService(const QString& address, qint32 httpPort, const Q
             return -1;
         ++number;
     }
-    auto service = std::make_unique<Service>();
-    service->device = {address, httpPort, user, password};
-    service->seconds = m_serviceTimeout;
-    service->next.setSingleShot(true);
-    connect(&service->next, &QTimer::timeout, this, [this, number] { poll(number); });
-    m_services.emplace(number, std::move(service));
-    poll(number);
+    const auto told = [this, number](const ConnectionState& state) { polled(number, state); };
+    m_services[number].asked = std::make_unique<DevicePoller::Subscription>(
+        m_poller, DeviceAddress{address, httpPort, user, password}, m_serviceTimeout, told);
     return number;
 }
 
 void DeviceBridge::RemoveService(qint16 number)
 {
-    const auto found = m_services.find(number);
-    if (found == m_services.end())
-        return;
-    m_http.cancel(found->second->transfer);
-    m_services.erase(found);
+    m_services.erase(number);
 }
 
-void DeviceBridge::poll(qint16 number)
+void DeviceBridge::polled(qint16 number, const ConnectionState& state)
 {
-    Service& service = *m_services.at(number);
-    HttpRequest request;
-    request.address = service.device.address;
-    request.port = service.device.port;
-    request.user = service.device.user;
-    request.password = service.device.password;
-    request.target = "/getgid.cgi"_ba;
-    request.seconds = service.seconds;
-    request.maxBytes = 64 * 1024;
-    service.transfer = m_http.start(request, [this, number](const HttpReply& reply) { polled(number, reply); });
-}
-
-void DeviceBridge::polled(qint16 number, const HttpReply& reply)
-{
-    Service& service = *m_services.at(number);
-    service.transfer = 0;
-    const bool answers = reply.succeeded() && reply.body.toUpper().contains("OK");
-    service.next.start(m_pollInterval);
-    const qint32 status = answers ? 1 : 0;
+    Service& service = m_services.at(number);
+    const qint32 status = state.kind == ConnectionState::Kind::Connected ? 1 : 0;
     if (service.status == status)
         return;
     service.status = status;

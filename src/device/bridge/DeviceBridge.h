@@ -1,11 +1,9 @@
 #pragma once
 
-#include "device/bridge/DeviceAddress.h"
-#include "platform/HttpClient.h"
+#include "device/bridge/DevicePoller.h"
 #include "platform/Work.h"
 
 #include <QObject>
-#include <QTimer>
 #include <map>
 #include <memory>
 #include <optional>
@@ -72,8 +70,7 @@ class DeviceBridge : public QObject
     Q_OBJECT
 
 public:
-    DeviceBridge(WebBridge& web, HttpClient& http, QObject* parent = nullptr);
-    ~DeviceBridge() override;
+    DeviceBridge(WebBridge& web, DevicePoller& poller, QObject* parent = nullptr);
 
     // Every call awaits the device on behalf of `work`, whose stop ends it at once like a failure of transport.
     // No record without an answer. A number that is none is logged and counts as not told.
@@ -97,11 +94,9 @@ public:
     // Present fish-eye mode as the device says it.
     QCoro::Task<QString> GetFishEyeMode(DeviceAddress device, qint16 channel, Work& work);
 
-    // Whole-request time-out of the services' polling, in seconds; services added later take it.
+    // Silence that counts as no answer of a service's device, in seconds; services added later take it.
     qint32 ServiceTimeout() const { return m_serviceTimeout; }
     void SetServiceTimeout(qint32 seconds) { m_serviceTimeout = seconds; }
-    // Pause between two polls, in milliseconds.
-    void SetPollInterval(int milliseconds) { m_pollInterval = milliseconds; }
 
     // Registers a service: its device is asked /getgid.cgi from now on. The lowest free number from 0, or -1 when
     // there is none.
@@ -116,20 +111,15 @@ signals:
 private:
     struct Service
     {
-        DeviceAddress device;
-        qint32 seconds = 0;
+        std::unique_ptr<DevicePoller::Subscription> asked;
         qint32 status = -1; // unknown yet
-        quint64 transfer = 0;
-        QTimer next;
     };
 
     QCoro::Task<bool> command(DeviceAddress device, qint16 channel, QString rest, Work& work);
-    void poll(qint16 number);
-    void polled(qint16 number, const HttpReply& reply);
+    void polled(qint16 number, const ConnectionState& state);
 
     WebBridge& m_web;
-    HttpClient& m_http;
-    std::map<qint16, std::unique_ptr<Service>> m_services;
+    DevicePoller& m_poller;
+    std::map<qint16, Service> m_services;
     qint32 m_serviceTimeout = 60;
-    int m_pollInterval = 10'000;
 };

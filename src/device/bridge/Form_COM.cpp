@@ -26,7 +26,8 @@ qint16 TakeFreeRow(std::vector<EventRequest>& rows, qint16 busy)
 Form_COM::Form_COM(QObject* parent)
     : QObject(parent)
     , web(http)
-    , device(web, http)
+    , poller(http)
+    , device(web, poller)
     , MailRequests(1)
     , AlertRequests(1)
 {
@@ -98,13 +99,9 @@ void Form_COM::SetProToDeviceBridge(std::span<const SVRRecord> list)
     const auto served = [&](std::size_t index) {
         return index < count && !list[index].sSVR_IP.isEmpty() && list[index].sSVR_DeviceType == kFamilyTXR632;
     };
-    const auto addressOf = [&](std::size_t index) {
-        const SVRRecord& svr = list[index];
-        return DeviceAddress{svr.sSVR_IP, svr.iSVR_HttpPort, svr.sSVR_UserName, svr.sSVR_Password};
-    };
     for (std::size_t row = 0; row < Services.size(); ++row) {
         const auto index = static_cast<std::size_t>(Services[row].SvrIndex);
-        if (Services[row].SvrIndex >= 0 && (!served(index) || Services[row].device != addressOf(index))) {
+        if (Services[row].SvrIndex >= 0 && (!served(index) || Services[row].device != AddressOf(list[index]))) {
             device.RemoveService(static_cast<qint16>(row));
             Services[row] = ServiceSlot();
         }
@@ -127,7 +124,7 @@ void Form_COM::SetProToDeviceBridge(std::span<const SVRRecord> list)
             continue;
         if (static_cast<std::size_t>(service) >= Services.size())
             Services.resize(static_cast<std::size_t>(service) + 1);
-        Services[static_cast<std::size_t>(service)] = {svrIndex, 0, addressOf(index)};
+        Services[static_cast<std::size_t>(service)] = {svrIndex, 0, AddressOf(svr)};
     }
 }
 

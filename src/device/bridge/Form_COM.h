@@ -43,6 +43,7 @@ public:
 
     HttpClient http;
     WebBridge web;
+    DevicePoller poller;
     DeviceBridge device;
     FinderBridge finder;
 

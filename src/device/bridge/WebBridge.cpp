@@ -37,16 +37,6 @@ qint32 StatusOf(const HttpReply& reply)
     return kWebBrokenOff;
 }
 
-HttpRequest RequestTo(const DeviceAddress& device)
-{
-    HttpRequest request;
-    request.address = device.address;
-    request.port = device.port;
-    request.user = device.user;
-    request.password = device.password;
-    return request;
-}
-
 HttpRequest ActionTo(const DeviceAddress& device, const QString& xml)
 {
     HttpRequest request = RequestTo(device);

@@ -1,14 +1,8 @@
 #pragma once
 
 #include "device/bridge/DeviceAddress.h"
-#include "store/records/SVRRecord.h"
 
 #include <QString>
-
-inline DeviceAddress AddressOf(const SVRRecord& svr)
-{
-    return {svr.sSVR_IP, svr.iSVR_HttpPort, svr.sSVR_UserName, svr.sSVR_Password};
-}
 
 // How a call to a recorder ended, and the box that the operator is to see.
 struct RecorderOutcome

@@ -43,11 +43,11 @@ public:
 
 } // namespace
 
-NVRPage::NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent)
+NVRPage::NVRPage(const RecorderSet& recorders, DevicePoller& poller, QWidget* parent)
     : QWidget(parent)
     , m_recorders(recorders)
     , m_ui(std::make_unique<Ui::NVRPage>())
-    , m_watch(http, recorders)
+    , m_watch(poller, recorders.SVRList)
     , m_model(new NVRListModel(recorders, m_watch, this))
     , m_proxy(new ListProxy(this))
 {
@@ -91,7 +91,6 @@ void NVRPage::showEvent(QShowEvent* event)
 // Fills the list anew and asks every recorder at once.
 void NVRPage::readAgain()
 {
-    m_watch.stop();
     Grid_SVR_Set_withDB();
     m_watch.start();
 }

@@ -18,8 +18,8 @@ class NVRPage : public QWidget
     Q_OBJECT
 
 public:
-    // `http` carries the questions whether the recorders answer, while the page is on show.
-    NVRPage(const RecorderSet& recorders, HttpClient& http, QWidget* parent = nullptr);
+    // `poller` asks whether the recorders answer, while the page is on show.
+    NVRPage(const RecorderSet& recorders, DevicePoller& poller, QWidget* parent = nullptr);
     ~NVRPage() override;
 
     void Grid_SVR_Draw();       // prepares the list and its heads
