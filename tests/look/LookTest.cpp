@@ -402,4 +402,11 @@ TEST(LookTables, RowsAndColumnsKeepTheirMeasure)
     table.resize(900, 300);
     EXPECT_TRUE(QTest::qWaitFor([&table] { return table.columnWidth(1) == 200; }));
     EXPECT_EQ(table.columnWidth(0), narrow);
+    // Without room for all cells the less important ones go, and come back as they were.
+    LeaveOutColumns(&table, std::array{0, 1});
+    table.resize(280, 300);
+    EXPECT_TRUE(QTest::qWaitFor([&table] { return table.isColumnHidden(0); }));
+    EXPECT_FALSE(table.isColumnHidden(1));
+    table.resize(900, 300);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return table.columnWidth(0) == narrow; }));
 }

@@ -2,8 +2,6 @@
 
 #include "app/shell/ui/Page.h"
 
-class EmptyState;
-
 // Stands where a page is not part of this version, and says so.
 class PendingPage : public Page
 {
@@ -12,8 +10,4 @@ class PendingPage : public Page
 public:
     explicit PendingPage(QWidget* parent = nullptr);
     void enter() override {}
-    void changeLanguage() override;
-
-private:
-    EmptyState* m_empty;
 };

@@ -8,6 +8,7 @@
 #include <QHeaderView>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QStyle>
 #include <QStyledItemDelegate>
@@ -16,6 +17,7 @@
 #include <QTreeView>
 #include <algorithm>
 #include <limits>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -70,7 +72,8 @@ private:
 };
 
 // Keeps every head whole: whenever the heads or the room change or the table comes on show, sections that are narrower
-// than their text grow, and where the last one would be cut the others give what they can spare.
+// than their text grow, and where the last one would be cut the others give what they can spare. Sections that may be
+// left out are, as long as the cells have no room.
 class HeadRoom : public QObject
 {
 public:
@@ -98,6 +101,12 @@ public:
         m_table->setColumnWidth(section, width);
     }
 
+    void leaveOut(std::span<const int> sections)
+    {
+        m_dispensable.assign(sections.begin(), sections.end());
+        fit();
+    }
+
 private:
     void follow(QAbstractItemModel* model)
     {
@@ -115,6 +124,8 @@ private:
     void fit()
     {
         QHeaderView* heads = m_table->horizontalHeader();
+        for (const int section : m_dispensable)
+            heads->setSectionHidden(section, false);
         QList<int> shown;
         for (int visual = 0; visual < heads->count(); ++visual) {
             if (const int section = heads->logicalIndex(visual); !heads->isSectionHidden(section))
@@ -144,13 +155,24 @@ private:
         m_given.clear();
         for (const int section : std::as_const(shown))
             m_given.insert(section, {heads->sectionSize(section), 0});
-        for (const int section : std::as_const(shown))
-            if (heads->sectionSize(section) < needed(section))
-                heads->resizeSection(section, needed(section));
         const auto content = [this, &needed](int section) {
             const auto* view = static_cast<const QAbstractItemView*>(m_table);
             return std::max(needed(section), view->sizeHintForColumn(section) + 1);
         };
+        const auto wanted = [&](int sum, int section) {
+            return sum + std::max(needed(section), std::min(heads->sectionSize(section), content(section)));
+        };
+        // As if the scroll bar were there: it comes and goes with the height of wrapped rows.
+        const int room = m_table->maximumViewportSize().width() - m_table->verticalScrollBar()->sizeHint().width();
+        for (const int section : m_dispensable) {
+            if (std::accumulate(shown.cbegin(), shown.cend(), rest < 0 ? 0 : content(rest), wanted) <= room)
+                break;
+            heads->setSectionHidden(section, true);
+            shown.removeOne(section);
+        }
+        for (const int section : std::as_const(shown))
+            if (heads->sectionSize(section) < needed(section))
+                heads->resizeSection(section, needed(section));
         // Air goes first, for the sake of the cells of the last one too; then what the cells would like.
         giveWay(shown, (rest < 0 ? 0 : content(rest)), content);
         giveWay(shown, (rest < 0 ? 0 : needed(rest)), needed);
@@ -181,8 +203,18 @@ private:
 
     QTableView* m_table;
     QPointer<QAbstractItemModel> m_model;
+    std::vector<int> m_dispensable;          // what is left out first stands first
     QHash<int, std::pair<int, int>> m_given; // by section: the width it was set to, the width it has been given
 };
+
+HeadRoom* HeadRoomOf(const QTableView* table)
+{
+    for (QObject* child : table->children()) {
+        if (auto* room = dynamic_cast<HeadRoom*>(child))
+            return room;
+    }
+    return nullptr;
+}
 
 class MonospaceDelegate : public QStyledItemDelegate
 {
@@ -288,13 +320,17 @@ void MonospaceColumn(QAbstractItemView* view, int column)
 
 void SetColumnWidths(QTableView* table, std::span<const int> widths)
 {
-    HeadRoom* room = nullptr;
-    for (QObject* child : table->children())
-        room = room ? room : dynamic_cast<HeadRoom*>(child);
+    HeadRoom* room = HeadRoomOf(table);
     for (std::size_t column = 0; column < widths.size(); ++column) {
         if (widths[column] > 0 && room)
             room->set(static_cast<int>(column), widths[column]);
     }
+}
+
+void LeaveOutColumns(QTableView* table, std::span<const int> columns)
+{
+    if (HeadRoom* room = HeadRoomOf(table))
+        room->leaveOut(columns);
 }
 
 void StatusColumn(QTableView* table, int column)

@@ -19,6 +19,8 @@ void StyleTree(QTreeView* tree);
 // Sets the columns from the first on to these widths, in px; one of 0 is left alone. Columns that give way to long
 // heads get them back when there is room, also where a column is as wide as that at the moment.
 void SetColumnWidths(QTableView* table, std::span<const int> widths);
+// Where the cells of all columns have no room these are left out, the first of them first, until the others have it.
+void LeaveOutColumns(QTableView* table, std::span<const int> columns);
 // Sets a column in the figures face, for addresses, ports and times.
 void MonospaceColumn(QAbstractItemView* view, int column);
 // A dot before the words and, where the model gives a progress, a thin bar below them (see StatusRoles.h). Long words

@@ -1,51 +1,47 @@
 #include "look/widgets/ProgressWindow.h"
 
 #include "look/widgets/ActionBar.h"
+#include "look/widgets/ui_ProgressWindow.h"
 
 #include <QCloseEvent>
-#include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
-#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
 ProgressWindow::ProgressWindow(const QString& text, QWidget* parent)
     : DialogFrame(parent)
-    , m_text(new QLabel)
-    , m_bar(new QProgressBar)
+    , m_ui(std::make_unique<Ui::ProgressWindow>())
 {
     setObjectName(u"formProgressBar"_s);
     setModal(false);
     setClosable(false);
     setSizeGripEnabled(false);
-    content()->setMinimumWidth(360);
-    m_text->setWordWrap(true);
-    m_text->setTextFormat(Qt::PlainText);
-    m_bar->setRange(0, 0);
-    auto* column = new QVBoxLayout(content());
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(12);
-    column->addWidget(m_text);
-    column->addWidget(m_bar);
+    m_ui->setupUi(content());
     setText(text);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+ProgressWindow::~ProgressWindow() = default;
+
 void ProgressWindow::setText(const QString& text)
 {
-    m_text->setText(text);
-    m_bar->setAccessibleName(text);
+    m_ui->lbProgress->setText(text);
+    m_ui->bar->setAccessibleName(text);
+}
+
+QProgressBar* ProgressWindow::bar() const
+{
+    return m_ui->bar;
 }
 
 void ProgressWindow::setMaximum(int maximum)
 {
-    m_bar->setRange(0, maximum);
+    m_ui->bar->setRange(0, maximum);
 }
 
 void ProgressWindow::setValue(int value)
 {
-    m_bar->setValue(value);
+    m_ui->bar->setValue(value);
 }
 
 void ProgressWindow::setCancelText(const QString& text)

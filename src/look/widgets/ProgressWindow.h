@@ -2,9 +2,13 @@
 
 #include "look/widgets/DialogFrame.h"
 
-class QLabel;
+#include <memory>
+
 class QProgressBar;
 class QPushButton;
+namespace Ui {
+class ProgressWindow;
+}
 
 // The small window of long work: what is being done, a bar and, if the work can be stopped, a button. Its object name
 // is formProgressBar. Neither Esc nor the user closes it; whoever does the work does.
@@ -13,6 +17,7 @@ class ProgressWindow : public DialogFrame
     Q_OBJECT
 public:
     explicit ProgressWindow(const QString& text, QWidget* parent = nullptr);
+    ~ProgressWindow() override;
 
     void setText(const QString& text);
     // `maximum` 0 shows that work goes on without saying how far it is.
@@ -21,7 +26,7 @@ public:
     // Offers to stop; an empty label takes the offer away.
     void setCancelText(const QString& text);
 
-    QProgressBar* bar() const { return m_bar; }
+    QProgressBar* bar() const;
 
     void reject() override;
 
@@ -32,7 +37,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    QLabel* m_text;
-    QProgressBar* m_bar;
+    std::unique_ptr<Ui::ProgressWindow> m_ui;
     QPushButton* m_cancel = nullptr;
 };

@@ -24,7 +24,7 @@ enum Message
 
 DetectStatusFrame::DetectStatusFrame(DetectContext context, Work& work, QWidget* parent)
     : QWidget(parent)
-    , m_context(std::move(context))
+    , m_context(context)
     , m_work(work)
     , m_ui(std::make_unique<Ui::DetectStatusFrame>())
     , m_status(new DetectStatusModel(this))

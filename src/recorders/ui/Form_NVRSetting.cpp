@@ -62,7 +62,7 @@ constexpr std::array<FrameFace, 6> kFaces{{{"lbNext_0", 277, "lbCancel", 475, 28
 
 Form_NVRSetting::Form_NVRSetting(DetectContext context, WizardHooks wizard, QWidget* parent)
     : DialogFrame(parent)
-    , m_context(std::move(context))
+    , m_context(context)
     , m_wizard(std::move(wizard))
     , m_ui(std::make_unique<Ui::Form_NVRSetting>())
 {

@@ -45,7 +45,7 @@ NVRDetectItem ItemOf(const SVRRecord& record)
 
 NVRDetailFrame::NVRDetailFrame(DetectContext context, Work& work, QWidget* parent)
     : QWidget(parent)
-    , m_context(std::move(context))
+    , m_context(context)
     , m_work(work)
     , m_ui([this] {
         auto ui = std::make_unique<Ui::NVRDetailFrame>();

@@ -115,6 +115,7 @@ void NVRPage::Grid_SVR_Draw()
     static constexpr std::array widths{76, 0, 196, 92, 92, 92, 48, 48, 196};
     SetColumnWidths(grid, widths);
     head->setSectionResizeMode(NVRListModel::Name, QHeaderView::Stretch);
+    LeaveOutColumns(grid, std::array<int, 3>{NVRListModel::Brand, NVRListModel::ValidChannels, NVRListModel::Model});
 }
 
 void NVRPage::Grid_SVR_Set_withDB()
