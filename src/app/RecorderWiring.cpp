@@ -1,7 +1,8 @@
 #include "app/RecorderWiring.h"
 
 #include "app/Station.h"
-#include "platform/clsOSInfo.h"
+#include "app/log/Module_Log.h"
+#include "screens/SVRChange.h"
 #include "screens/UserRows.h"
 #include "support/Conversions.h"
 
@@ -9,6 +10,9 @@ void WireRecorderEvents(Station& station)
 {
     RecorderEvents& events = station.events;
     const auto recorder = [&station](int slot) -> const SVRRecord& { return At(station.recorders.SVRWorkList, slot); };
+    const auto repairScreens = [&station] {
+        RepairAfterSVRChange(station.databases, station.screens, station.recorders, CurrentUser());
+    };
 
     events.added.subscribe([&station](int slot) { GrantNewRecorder(station.groups, slot); });
     events.added.subscribe(
@@ -20,6 +24,7 @@ void WireRecorderEvents(Station& station)
 
     events.readAgain.subscribe(
         [&station, recorder](int slot) { NameChannelEvents(station.channelEvents, slot, recorder(slot)); });
+    events.readAgain.subscribe([repairScreens](int) { repairScreens(); });
 
     events.renamed.subscribe(
         [&station](int slot, const QString& name) { RenameRecorderMap(station.emap, slot, name); });
@@ -31,6 +36,7 @@ void WireRecorderEvents(Station& station)
     events.removed.subscribe(
         [&station](int slot, const SVRRecord& held) { ResetDetection(station.channelEvents, slot, held); });
     events.removed.subscribe([&station](int slot, const SVRRecord&) { RemoveRecorderMaps(station.emap, slot); });
+    events.removed.subscribe([repairScreens](int, const SVRRecord&) { repairScreens(); });
 
     events.channelChanged.subscribe(
         [&station, recorder](int slot, int) { NameChannelEvents(station.channelEvents, slot, recorder(slot)); });
@@ -45,9 +51,12 @@ void WireRecorderEvents(Station& station)
         if (At(recorder(slot).channels, channel).sSub_CH_IP.isEmpty()) // another camera stands in its place
             RemoveCameraIcon(station.emap, slot, channel);
     });
+    events.channelGone.subscribe([&station](int, int, const SVRChannel&) {
+        RepairAfterChannelGone(station.databases, station.screens, station.recorders, CurrentUser());
+    });
 
     events.usersGone.subscribe([&station](const QStringList& left) { DeleteRowsOfOthers(station.databases, left); });
     events.usersSaved.subscribe([&station](const QStringList& users) {
-        AddFirstStarts(station.databases, users, clsOSInfo().GetScreenCount());
+        AddFirstStarts(station.databases, users, station.screens.iMonitorCount);
     });
 }

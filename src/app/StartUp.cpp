@@ -6,7 +6,13 @@
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
 #include "platform/MsgBox.h"
+#include "platform/clsOSInfo.h"
 #include "recorders/data/SVRStore.h"
+#include "screens/LayoutStore.h"
+#include "screens/PatternStore.h"
+#include "screens/ScreenLists.h"
+#include "screens/StartStore.h"
+#include "screens/WallStore.h"
 #include "store/DatabaseRepair.h"
 #include "store/Template.h"
 #include "support/Conversions.h"
@@ -96,10 +102,24 @@ void LoadRecords(Station& station)
     GetUser(station.databases, station.users);
     GetEMapGroup(station.databases, station.emap);
     GetEMapIconEx(station.databases, station.emap);
+    station.screens.iMonitorCount = clsOSInfo().GetScreenCount();
+    GetScreenLayout(station.databases, station.screens);
     GetEventInfo(station.databases, station.channelEvents, station.recorders);
     GetMyAccount(station.databases, station.accounts);
     GetGroupPrivilege(station.databases, station.groups);
     GetNVRPrivilege(station.databases, station.groups);
+}
+
+void LoadUserRecords(Station& station)
+{
+    ScreenSet& screens = station.screens;
+    GetMyPattern(station.databases, screens, CurrentUser());
+    screens.patternsEdit = screens.patternsStored;
+    GetDefaultStart(station.databases, screens, CurrentUser());
+    screens.startEdit = screens.startStored;
+    GetVideoWall(station.databases, screens, CurrentUser());
+    screens.wallsEdit = screens.wallsStored;
+    screens.repairedFor = LiveChannels(station.recorders).channels;
 }
 
 bool CheckRecords(Station& station)

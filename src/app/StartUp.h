@@ -16,6 +16,8 @@ void NormaliseLanguage(Station& station);
 void SettleLanguage(Station& station);
 // All record families whose subsystem is part of the desk, in their fixed order.
 void LoadRecords(Station& station);
+// The records of the user who is logged in: patterns, start and, with two monitors, walls; both copies.
+void LoadUserRecords(Station& station);
 // Tells the operator once which tables could not be read and are not written over. True when there are none.
 bool CheckRecords(Station& station);
 // Group of the logged-in user, 0 for a user who is not in the array.

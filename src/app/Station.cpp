@@ -5,6 +5,10 @@
 #include "emap/EMapStore.h"
 #include "platform/Clock.h"
 #include "recorders/data/SVRStore.h"
+#include "screens/LayoutStore.h"
+#include "screens/PatternStore.h"
+#include "screens/StartStore.h"
+#include "screens/WallStore.h"
 #include "store/SystemLog.h"
 #include "support/Conversions.h"
 #include "support/TimeSeconds.h"
@@ -58,6 +62,10 @@ Station::Station()
     families.add(EMapGroupFamily(databases, emap));
     families.add(EMapIconFamily(databases, emap, recorders));
     families.add(UserFamily(databases, users, events));
+    families.add(ScreenLayoutFamily(databases, screens));
+    families.add(DefaultStartFamily(databases, screens));
+    families.add(PatternFamily(databases, screens, [this] { return !Loading; }));
+    families.add(VideoWallFamily(databases, screens));
     WireRecorderEvents(*this);
 }
 

@@ -4,6 +4,7 @@
 #include "events/ChannelEvents.h"
 #include "recorders/data/RecorderEvents.h"
 #include "recorders/data/RecorderSet.h"
+#include "screens/ScreenSet.h"
 #include "store/BasicDefault.h"
 #include "store/Databases.h"
 #include "store/RecordFamily.h"
@@ -57,6 +58,7 @@ struct Station
     UserSet users;
     EMapSet emap;
     ChannelEventSet channelEvents;
+    ScreenSet screens;
     std::vector<NVRAccountRecord> accounts{{}}; // tried on devices; one empty element when there is none
     EventHandlingRecord eventHandling;          // stored copy; all off until the event settings are read
     FamilyRegister families;

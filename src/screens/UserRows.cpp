@@ -1,7 +1,7 @@
 #include "screens/UserRows.h"
 
+#include "screens/StartStore.h"
 #include "store/TableRows.h"
-#include "store/records/ScreenRecords.h"
 #include "store/tables/Tables.h"
 
 #include <QSet>
@@ -11,13 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kStartPanes = 64; // panes of the viewer's layout at last exit
-
-void DeleteOrphans(Databases& databases, const QSet<QString>& owners, const QString& table)
+void DeleteOrphans(Databases& databases, const QSet<QString>& owners, const QString& table, const QString& key)
 {
     OpenStatement(databases, u"Select * From "_s + table, LockType::Optimistic);
     Recordset& rows = *databases.DBRec;
-    const int owner = rows.fieldIndex(u"sOwner"_s);
+    const int owner = rows.fieldIndex(key);
     while (!rows.eof()) {
         if (owners.contains(TextField(rows.value(owner))))
             rows.moveNext();
@@ -27,24 +25,16 @@ void DeleteOrphans(Databases& databases, const QSet<QString>& owners, const QStr
     rows.close();
 }
 
-DefaultStartTableRow FirstStart(const QString& owner, int monitors)
-{
-    DefaultStartTableRow row;
-    row.sOwner = owner;
-    row.bFixStart = false;
-    row.bSEQStart = false;
-    row.MVChannel = QStringList(kStartPanes, u"-1"_s).join(u',');
-    row.sForm_FullScreen = QStringList(std::max(1, monitors), u"0:0"_s).join(u',');
-    return row;
-}
-
 } // namespace
 
 void DeleteRowsOfOthers(Databases& databases, const QStringList& users)
 {
     const QSet<QString> owners(users.begin(), users.end());
-    DeleteOrphans(databases, owners, u"DefaultStart"_s);
-    DeleteOrphans(databases, owners, u"Pattern"_s);
+    DeleteOrphans(databases, owners, u"DefaultStart"_s, u"sOwner"_s);
+    DeleteOrphans(databases, owners, u"Pattern"_s, u"sOwner"_s);
+    for (const SequenceTable& table : kSequenceTables)
+        DeleteOrphans(databases, owners, QString(table.name), u"UserName"_s);
+    DeleteOrphans(databases, owners, u"VideoWall"_s, u"sLoginUser"_s);
 }
 
 void AddFirstStarts(Databases& databases, const QStringList& users, int monitors)
@@ -56,8 +46,11 @@ void AddFirstStarts(Databases& databases, const QStringList& users, int monitors
         owners << TextField(rows.value(u"sOwner"_s));
     AddRows(rows, DefaultStartColumns, "Module_DB_Access - SaveUser"_L1, [&](auto&& add) {
         for (const QString& user : users) {
-            if (!owners.contains(user))
-                add(FirstStart(user, monitors));
+            if (!owners.contains(user)) {
+                DefaultStartRow start = FirstStart(user, monitors);
+                start.bFixStart = false; // as new users have it; reading mends it
+                add(TableRowOf(start));
+            }
             owners << user;
         }
     });

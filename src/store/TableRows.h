@@ -7,15 +7,16 @@
 
 // Proves the table, opens `statement` over it and calls `eachRow` with the recordset, which walks it. 1, or 0 (one log
 // line under `source`) when the table cannot be opened or the walk was given up: then it is not written over either.
+// `values` are bound to the statement's "?".
 template <class EachRow>
 qint16 ReadRows(Databases& databases, const QString& table, const QString& statement, QLatin1String source,
-                EachRow&& eachRow)
+                EachRow&& eachRow, const QVariantList& values = {})
 {
     databases.unread.insert(table);
     if (OpenRecset(databases, table) == 0)
         return 0;
     const bool ok = Trapped(source, [&] {
-        OpenStatement(databases, statement, LockType::ReadOnly, {}, CursorType::ForwardOnly);
+        OpenStatement(databases, statement, LockType::ReadOnly, values, CursorType::ForwardOnly);
         eachRow(*databases.DBRec);
         databases.unread.remove(table);
     });
@@ -28,9 +29,10 @@ qint16 ReadRows(Databases& databases, const QString& table, const QString& state
 // over: what it lacks may be what tells them apart.
 template <class Row, std::size_t N, class Take>
 qint16 ReadTable(Databases& databases, const QString& table, const QString& statement,
-                 const std::array<Column<Row>, N>& columns, QLatin1String source, Take&& take, const Row& fresh = {})
+                 const std::array<Column<Row>, N>& columns, QLatin1String source, Take&& take, const Row& fresh = {},
+                 const QVariantList& values = {})
 {
-    return ReadRows(databases, table, statement, source, [&](Recordset& rows) {
+    const auto eachRow = [&](Recordset& rows) {
         TableAccess<Row> access(rows, columns, source);
         for (; !rows.eof(); rows.moveNext()) {
             Trapped(source, [&] {
@@ -41,7 +43,8 @@ qint16 ReadTable(Databases& databases, const QString& table, const QString& stat
         }
         if (!access.complete())
             throw StoreError(table + QStringLiteral(" lacks a column"));
-    });
+    };
+    return ReadRows(databases, table, statement, source, eachRow, values);
 }
 
 // Carries out `work` as one step in the file: all of it stands, or nothing when it answers 0 or throws (one log line
@@ -89,17 +92,17 @@ void AddRows(Recordset& rows, const std::array<Column<Row>, N>& columns, QLatin1
 
 // As one step: carries out `deleteRows` (a statement), opens the table and lets `addRows` write the new rows. Nothing
 // is changed when the table could not be read before, when the old rows cannot be deleted or when `addRows` throws. 1
-// or 0.
+// or 0. `values` are bound to the statement's "?".
 template <class AddNew>
 qint16 ReplaceRows(Databases& databases, const QString& table, const QString& deleteRows, QLatin1String source,
-                   AddNew&& addRows)
+                   AddNew&& addRows, const QVariantList& values = {})
 {
     if (databases.unread.contains(table)) {
         LogTrap(source, table + QStringLiteral(" could not be read and is not written over"));
         return 0;
     }
     const qint16 result = AsOneStep(databases, source, [&]() -> qint16 {
-        OpenStatement(databases, deleteRows, LockType::Optimistic);
+        OpenStatement(databases, deleteRows, LockType::Optimistic, values);
         if (OpenRecset(databases, table) == 0)
             return 0;
         addRows(*databases.DBRec);
@@ -112,8 +115,9 @@ qint16 ReplaceRows(Databases& databases, const QString& table, const QString& de
 // The same over rows of one description, see AddRows.
 template <class Row, std::size_t N, class Fill>
 qint16 ReplaceTable(Databases& databases, const QString& table, const QString& deleteRows,
-                    const std::array<Column<Row>, N>& columns, QLatin1String source, Fill&& fill)
+                    const std::array<Column<Row>, N>& columns, QLatin1String source, Fill&& fill,
+                    const QVariantList& values = {})
 {
-    return ReplaceRows(databases, table, deleteRows, source,
-                       [&](Recordset& rows) { AddRows(rows, columns, source, fill); });
+    return ReplaceRows(
+        databases, table, deleteRows, source, [&](Recordset& rows) { AddRows(rows, columns, source, fill); }, values);
 }

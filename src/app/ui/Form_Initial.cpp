@@ -89,6 +89,7 @@ bool Form_Initial::Form_Load()
         return false;
     }
     SettleCurrentGroup(m_station);
+    Trapped(kLoadSource, [&] { LoadUserRecords(m_station); });
     CheckRecords(m_station);
     updateHeader();
     showFirstUserNotice();
@@ -140,6 +141,7 @@ void Form_Initial::usersChanged()
             return;
         }
         SettleCurrentGroup(m_station);
+        Trapped(kLoadSource, [&] { LoadUserRecords(m_station); });
         updateHeader();
         Timer_PrivilegeCheck();
         if (!isShown(m_pageIndex))

@@ -158,14 +158,14 @@ inline constexpr std::array EMapIconColumns{Field<&EMapIconRow::iSVR>("iSVR"),
                                             Field<&EMapIconRow::iInfo_Position, EMapIconRow>("iInfo_Position")};
 
 inline constexpr std::array ScreenLayoutColumns{
-    Field<&ScreenLayoutTableRow::Form_MainViewer>("Form_MainViewer").withDefault("1"),
-    Field<&ScreenLayoutTableRow::Form_EventMonitor>("Form_EventMonitor").withDefault("1"),
-    Field<&ScreenLayoutTableRow::Form_EMapView>("Form_EMapView").withDefault("1"),
-    Field<&ScreenLayoutTableRow::Form_PlayBack>("Form_PlayBack").withDefault("1"),
-    Field<&ScreenLayoutTableRow::Form_Console>("Form_Console").withDefault("1"),
-    Field<&ScreenLayoutTableRow::Form_SVDConsole>("Form_SVDConsole").withDefault("1"),
-    Field<&ScreenLayoutTableRow::Form_FullScreen>("Form_FullScreen"),
-    Field<&ScreenLayoutTableRow::Form_VideoWall>("Form_VideoWall")};
+    Field<&ScreenLayoutTableRow::Form_MainViewer>("Form_MainViewer").withDefault("1").named(45),
+    Field<&ScreenLayoutTableRow::Form_EventMonitor>("Form_EventMonitor").withDefault("1").named(101),
+    Field<&ScreenLayoutTableRow::Form_EMapView>("Form_EMapView").withDefault("1").named(103),
+    Field<&ScreenLayoutTableRow::Form_PlayBack>("Form_PlayBack").withDefault("1").named(102),
+    Field<&ScreenLayoutTableRow::Form_Console>("Form_Console").withDefault("1").named(749),
+    Field<&ScreenLayoutTableRow::Form_SVDConsole>("Form_SVDConsole").withDefault("1").named(839),
+    Field<&ScreenLayoutTableRow::Form_FullScreen>("Form_FullScreen").named(438),
+    Field<&ScreenLayoutTableRow::Form_VideoWall>("Form_VideoWall").named(752)};
 
 inline constexpr std::array PatternColumns{
     Field<&PatternTableRow::iID>("iID"), Field<&PatternTableRow::sOwner>("sOwner"),
@@ -186,14 +186,14 @@ inline constexpr std::array DefaultStartColumns{
     Field<&DefaultStartTableRow::iSEQTime>("iSEQTime").withDefault("5"),
     Field<&DefaultStartTableRow::sSEQSVRList>("sSEQSVRList"),
     Field<&DefaultStartTableRow::sSEQPatternList>("sSEQPatternList"),
-    Field<&DefaultStartTableRow::iForm_MainViewer>("iForm_MainViewer").withDefault("1"),
-    Field<&DefaultStartTableRow::iForm_EventMonitor>("iForm_EventMonitor"),
-    Field<&DefaultStartTableRow::iForm_EMapView>("iForm_EMapView"),
-    Field<&DefaultStartTableRow::iForm_PlayBack>("iForm_PlayBack"),
-    Field<&DefaultStartTableRow::iForm_Console>("iForm_Console"),
-    Field<&DefaultStartTableRow::iForm_SVDConsole>("iForm_SVDConsole"),
+    Field<&DefaultStartTableRow::iForm_MainViewer>("iForm_MainViewer").withDefault("1").named(45),
+    Field<&DefaultStartTableRow::iForm_EventMonitor>("iForm_EventMonitor").named(101),
+    Field<&DefaultStartTableRow::iForm_EMapView>("iForm_EMapView").named(103),
+    Field<&DefaultStartTableRow::iForm_PlayBack>("iForm_PlayBack").named(102),
+    Field<&DefaultStartTableRow::iForm_Console>("iForm_Console").named(749),
+    Field<&DefaultStartTableRow::iForm_SVDConsole>("iForm_SVDConsole").named(839),
     Field<&DefaultStartTableRow::iFixDisplayMode>("iFixDisplayMode"),
-    Field<&DefaultStartTableRow::sForm_FullScreen>("sForm_FullScreen")};
+    Field<&DefaultStartTableRow::sForm_FullScreen>("sForm_FullScreen").named(438)};
 
 inline constexpr std::array FullscreenSEQByChannelColumns{
     Field<&FullscreenSEQRow::ID>("ID").withDefault("1"),
