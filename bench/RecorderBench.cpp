@@ -134,7 +134,7 @@ double Wizard()
     Find<QCheckBox>(wizard, "Chk_SelectAll")->click();
 
     auto* grid = Find<QTableView>(wizard, "Grid_DetectStatus");
-    auto* status = qobject_cast<DetectStatusModel*>(grid->model());
+    const auto* status = wizard.findChild<DetectStatusModel*>();
     auto* next = Find<QPushButton>(wizard, "lbNext_1");
     QElapsedTimer timer;
     timer.start();

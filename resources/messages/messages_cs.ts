@@ -3715,5 +3715,9 @@ Chcete jej přesto použít?</translation>
         <source>No user matches the filter.</source>
         <translation>Filtru neodpovídá žádný uživatel.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Přejmenovat</translation>
+    </message>
 </context>
 </TS>

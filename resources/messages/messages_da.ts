@@ -3715,5 +3715,9 @@ Vil du bruge det alligevel?</translation>
         <source>No user matches the filter.</source>
         <translation>Ingen bruger svarer til filteret.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Omdøb</translation>
+    </message>
 </context>
 </TS>

@@ -3715,5 +3715,9 @@ Möchten Sie ihn trotzdem verwenden?</translation>
         <source>No user matches the filter.</source>
         <translation>Kein Benutzer entspricht dem Filter.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
 </context>
 </TS>

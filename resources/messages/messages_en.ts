@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</translation>
         <source>No user matches the filter.</source>
         <translation>No user matches the filter.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Rename</translation>
+    </message>
 </context>
 </TS>

@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</source>
         <source>No user matches the filter.</source>
         <translation>Ningún usuario coincide con el filtro.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Cambiar nombre</translation>
+    </message>
 </context>
 </TS>

@@ -3715,5 +3715,9 @@ Voulez-vous l’utiliser quand même ?</translation>
         <source>No user matches the filter.</source>
         <translation>Aucun utilisateur ne correspond au filtre.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Renommer</translation>
+    </message>
 </context>
 </TS>

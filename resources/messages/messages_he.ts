@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</source>
         <source>No user matches the filter.</source>
         <translation>אין משתמש שתואם למסנן.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>שינוי שם</translation>
+    </message>
 </context>
 </TS>

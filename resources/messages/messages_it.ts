@@ -3715,5 +3715,9 @@ Usarlo comunque?</translation>
         <source>No user matches the filter.</source>
         <translation>Nessun utente corrisponde al filtro.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Rinomina</translation>
+    </message>
 </context>
 </TS>

@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</source>
         <source>No user matches the filter.</source>
         <translation>条件に一致するユーザーはいません。</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>名前の変更</translation>
+    </message>
 </context>
 </TS>

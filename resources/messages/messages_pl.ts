@@ -3715,5 +3715,9 @@ Czy mimo to jej użyć?</translation>
         <source>No user matches the filter.</source>
         <translation>Żaden użytkownik nie pasuje do filtra.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Zmień nazwę</translation>
+    </message>
 </context>
 </TS>

@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</source>
         <source>No user matches the filter.</source>
         <translation>Нет пользователей, подходящих под фильтр.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Переименовать</translation>
+    </message>
 </context>
 </TS>

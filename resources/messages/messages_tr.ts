@@ -3715,5 +3715,9 @@ Yine de kullanmak istiyor musunuz?</translation>
         <source>No user matches the filter.</source>
         <translation>Filtreyle eşleşen kullanıcı yok.</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>Yeniden adlandır</translation>
+    </message>
 </context>
 </TS>

@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</source>
         <source>No user matches the filter.</source>
         <translation>没有符合筛选条件的用户。</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>重命名</translation>
+    </message>
 </context>
 </TS>

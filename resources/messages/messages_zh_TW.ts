@@ -3715,5 +3715,9 @@ Do you want to use it anyway?</source>
         <source>No user matches the filter.</source>
         <translation>沒有符合篩選條件的使用者。</translation>
     </message>
+    <message id="1110">
+        <source>Rename</source>
+        <translation>重新命名</translation>
+    </message>
 </context>
 </TS>

@@ -14,9 +14,11 @@
 #include "tests/walkthrough/Driver.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableView>
@@ -97,7 +99,7 @@ QString Cell(const QTableView& grid, int slot, int column)
 {
     for (int row = 0; row < grid.model()->rowCount(); ++row) {
         const QModelIndex cell = grid.model()->index(row, column);
-        if (cell.data(NVRListModel::kSlotRole).toInt() == slot)
+        if (cell.data(NVRListModel::kRecordRole).toInt() == slot)
             return cell.data().toString();
     }
     return {};
@@ -139,7 +141,18 @@ TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
     QTest::keyClick(grid, Qt::Key_Return);
     ASSERT_EQ(edit.size(), 1);
     EXPECT_EQ(edit.takeFirst().at(0).toInt(), 1);
-    page.findChild<QLineEdit*>(u"txtFilter"_s)->clear();
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    QApplication::sendEvent(grid->viewport(), &menuKey);
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu && menu->actions().size() == 3) << "what can be done with the row";
+    QSignalSpy rename(&page, &NVRPage::renameWanted);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Down);
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Return);
+    ASSERT_EQ(rename.size(), 1);
+    EXPECT_EQ(rename.takeFirst().at(0).toInt(), 1);
+    QTest::keyClick(grid, Qt::Key_Escape);
+    EXPECT_EQ(grid->model()->rowCount(), 4) << "Esc takes the filter away";
     grid->sortByColumn(NVRListModel::Name, Qt::DescendingOrder);
     const QRect name = grid->visualRect(grid->model()->index(0, NVRListModel::Name));
     QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, name.center());
@@ -158,7 +171,7 @@ TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
 
     recorders->SVRList[3] = SVRRecord();
     page.Grid_SVR_Set_withDB();
-    EXPECT_EQ(grid->currentIndex().data(NVRListModel::kSlotRole).toInt(), 2) << "the next one comes to its place";
+    EXPECT_EQ(grid->currentIndex().data(NVRListModel::kRecordRole).toInt(), 2) << "the next one comes to its place";
 }
 
 // The wizard, its steps done by a driver while it is open.

@@ -4,7 +4,6 @@
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "app/log/StartWork.h"
-#include "app/shell/ui/RememberColumns.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "recorders/ui/NVRPage.h"
 
@@ -75,7 +74,6 @@ void RecordersPage::showWizard()
         m_com.SetProToDeviceBridge(m_station.recorders.SVRList);
     };
     Form_NVRSetting wizard(detectContext(), {finish, [this] { DropNewRecorders(m_station.recorders); }}, window());
-    RememberColumns(&wizard);
     wizard.exec();
     m_list->Grid_SVR_Set_withDB();
 }
@@ -88,7 +86,6 @@ void RecordersPage::showRecorder(int slot, bool rename)
         slot, [this] { save(); }, remove);
     if (rename)
         form.editName();
-    RememberColumns(&form);
     form.exec();
     m_list->Grid_SVR_Set_withDB();
 }

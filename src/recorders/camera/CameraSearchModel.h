@@ -1,12 +1,10 @@
 #pragma once
 
+#include "app/shell/TableModel.h"
 #include "device/protocol/ReplyRecords.h"
 
-#include <QAbstractTableModel>
-#include <vector>
-
 // The cameras that a recorder sees on its network.
-class CameraSearchModel : public QAbstractTableModel
+class CameraSearchModel : public TableModel
 {
     Q_OBJECT
 
@@ -16,19 +14,12 @@ public:
         Address,
         Brand,
         Model,
-        Port,
-        ColumnCount
+        Port
     };
-    static constexpr int kSortRole = Qt::UserRole;
 
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit CameraSearchModel(QObject* parent = nullptr);
     void setCameras(std::vector<FoundCamera> cameras);
-    const FoundCamera& camera(int row) const;
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    const FoundCamera& camera(int record) const { return At(m_cameras, record); }
 
 private:
     std::vector<FoundCamera> m_cameras;

@@ -1,8 +1,6 @@
 #include "recorders/camera/ChannelListModel.h"
 
 #include "app/language/Languages.h"
-#include "look/tables/StatusRoles.h"
-#include "support/Conversions.h"
 
 using namespace Qt::StringLiterals;
 
@@ -21,31 +19,74 @@ QString AddressSortKey(const QString& address)
 }
 
 ChannelListModel::ChannelListModel(const RecorderSet& recorders, QObject* parent)
-    : QAbstractTableModel(parent)
+    : TableModel(parent)
     , m_recorders(recorders)
 {
+    using Kind = TableColumn::Kind;
+    const auto named = [this](int message, int channel) {
+        return QString(GetLangString(message) + u' ' + at(channel).sSub_CH_Name).trimmed();
+    };
+    setColumns({
+        {.head = 55, .width = 64, .kind = Kind::Number, .text = [](int channel) { return channel + 1; }},
+        {.head = 363,
+         .width = 150,
+         .kind = Kind::Figures,
+         .text = Of(recorders.SVREdit.channels, &SVRChannel::sSub_CH_IP),
+         .sort = [this](int channel) { return AddressSortKey(at(channel).sSub_CH_IP); }},
+        {.head = 364,
+         .width = 76,
+         .kind = Kind::Number,
+         .text = [this](int channel) { return occupied(channel) ? at(channel).iSub_CH_HttpPort : QVariant(); }},
+        {.head = 579,
+         .text = Of(recorders.SVREdit.channels, &SVRChannel::sSub_CH_Name),
+         .icon =
+             [this](int channel) {
+                 const bool dome = m_recorders.SVREdit.sSVR_DeviceType == kFamilyOmluPro;
+                 return !occupied(channel) ? QString() : dome ? u"camera-dome"_s : u"camera"_s;
+             }},
+        {.head = 403,
+         .width = 190,
+         .kind = Kind::State,
+         .text = [this](int channel) { return stateText(channel); },
+         .status =
+             [this](int channel) {
+                 const bool fresh = at(channel).bSub_CH_Modified || (occupied(channel) && m_detected);
+                 return fresh ? Status::Ok : Status::None;
+             }},
+        {.head = 781,
+         .width = 110,
+         .kind = Kind::Check,
+         .words = [this,
+                   named](int channel) { return occupied(channel) && m_events ? named(781, channel) : QString(); },
+         .checked = [this](int channel) -> std::optional<bool> {
+             return occupied(channel) && m_events ? std::optional(At(*m_events, channel)) : std::nullopt;
+         },
+         .check = [this](int channel, bool on) { return switchOn(channel, on); }},
+        {.kind = Kind::Open,
+         .words = [this, named](int channel) { return named(occupied(channel) ? 387 : 385, channel); },
+         .icon = [this](int channel) { return occupied(channel) ? u"edit"_s : u"add"_s; }},
+        {.kind = Kind::Remove,
+         .words = [this, named](int channel) { return occupied(channel) ? named(386, channel) : QString(); }},
+    });
+    refill();
 }
 
 void ChannelListModel::refill()
 {
-    beginResetModel();
-    endResetModel();
+    setRecordCount(qBound(0, static_cast<int>(m_recorders.SVREdit.iSVR_Maxchannel), kMaxChannel));
 }
 
 void ChannelListModel::refreshChannel(int channel)
 {
-    if (channel < 0 || channel >= rowCount())
-        return;
     if (m_events && !occupied(channel))
         At(*m_events, channel) = false;
-    emit dataChanged(index(channel, 0), index(channel, ColumnCount - 1));
+    recordChanged(channel);
 }
 
 void ChannelListModel::setDetected(bool detected)
 {
     m_detected = detected;
-    if (rowCount() > 0)
-        emit dataChanged(index(0, State), index(rowCount() - 1, State));
+    allChanged();
 }
 
 void ChannelListModel::setCameraEvents(bool supported)
@@ -55,8 +96,17 @@ void ChannelListModel::setCameraEvents(bool supported)
         m_events.emplace();
         std::ranges::transform(m_recorders.SVREdit.channels, m_events->begin(), &SVRChannel::bSub_CH_Cam_MD_Enabled);
     }
-    if (rowCount() > 0)
-        emit dataChanged(index(0, CameraEvent), index(rowCount() - 1, CameraEvent));
+    allChanged();
+}
+
+bool ChannelListModel::switchOn(int channel, bool on)
+{
+    if (on && !At(*m_events, channel) && cameraEventsOn() >= kCameraEventLimit) {
+        emit limitReached();
+        return false;
+    }
+    At(*m_events, channel) = on;
+    return true;
 }
 
 std::vector<std::pair<int, bool>> ChannelListModel::switched() const
@@ -64,7 +114,7 @@ std::vector<std::pair<int, bool>> ChannelListModel::switched() const
     std::vector<std::pair<int, bool>> changes;
     for (int channel = 0; m_events && channel < rowCount(); ++channel) {
         const bool on = At(*m_events, channel);
-        if (occupied(channel) && on != At(m_recorders.SVREdit.channels, channel).bSub_CH_Cam_MD_Enabled)
+        if (occupied(channel) && on != at(channel).bSub_CH_Cam_MD_Enabled)
             changes.emplace_back(channel, on);
     }
     return changes;
@@ -93,152 +143,11 @@ int ChannelListModel::cameras() const
     return count;
 }
 
-bool ChannelListModel::occupied(int channel) const
-{
-    return !At(m_recorders.SVREdit.channels, channel).sSub_CH_IP.isEmpty();
-}
-
-int ChannelListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : qBound(0, static_cast<int>(m_recorders.SVREdit.iSVR_Maxchannel), kMaxChannel);
-}
-
-int ChannelListModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QString ChannelListModel::iconName(int channel, int column) const
-{
-    switch (column) {
-    case Name:
-        if (!occupied(channel))
-            return {};
-        return m_recorders.SVREdit.sSVR_DeviceType == kFamilyOmluPro ? u"camera-dome"_s : u"camera"_s;
-    case Edit:
-        return occupied(channel) ? u"edit"_s : u"add"_s;
-    case Delete:
-        return occupied(channel) ? u"delete"_s : QString();
-    default:
-        return {};
-    }
-}
-
-int ChannelListModel::stateOf(int channel) const
-{
-    const bool fresh = At(m_recorders.SVREdit.channels, channel).bSub_CH_Modified || (occupied(channel) && m_detected);
-    return static_cast<int>(fresh ? Status::Ok : Status::None);
-}
-
 QString ChannelListModel::stateText(int channel) const
 {
-    if (At(m_recorders.SVREdit.channels, channel).bSub_CH_Modified)
+    if (at(channel).bSub_CH_Modified)
         return GetLangString(967);
     if (!occupied(channel))
         return GetLangString(966);
     return GetLangString(m_detected ? 968 : 969);
-}
-
-QVariant ChannelListModel::shown(int channel, int column) const
-{
-    const SVRRecord& record = m_recorders.SVREdit;
-    switch (column) {
-    case Number:
-        return channel + 1;
-    case Address:
-        return At(record.channels, channel).sSub_CH_IP;
-    case Port:
-        return occupied(channel) ? QVariant(At(record.channels, channel).iSub_CH_HttpPort) : QVariant();
-    case Name:
-        return At(record.channels, channel).sSub_CH_Name;
-    case State:
-        return stateText(channel);
-    default:
-        return {};
-    }
-}
-
-// What assistive technology says, and the tool tip, of cells that show a picture.
-QVariant ChannelListModel::spoken(int channel, int column) const
-{
-    const QString name = At(m_recorders.SVREdit.channels, channel).sSub_CH_Name;
-    switch (column) {
-    case Edit:
-        return QString(GetLangString(occupied(channel) ? 387 : 385) + u' ' + name).trimmed();
-    case Delete:
-        return occupied(channel) ? QVariant(QString(GetLangString(386) + u' ' + name)) : QVariant();
-    case CameraEvent:
-        return occupied(channel) && m_events ? QVariant(QString(GetLangString(781) + u' ' + name)) : QVariant();
-    default:
-        return {};
-    }
-}
-
-QVariant ChannelListModel::data(const QModelIndex& index, int role) const
-{
-    const int channel = index.row();
-    const int column = index.column();
-    if (!hasIndex(channel, column))
-        return {};
-    switch (role) {
-    case kChannelRole:
-        return channel;
-    case kIconRole:
-        return iconName(channel, column);
-    case kStatusRole:
-        return stateOf(channel);
-    case kSortRole:
-        if (column == Address)
-            return AddressSortKey(At(m_recorders.SVREdit.channels, channel).sSub_CH_IP);
-        if (column == CameraEvent)
-            return m_events && At(*m_events, channel);
-        return shown(channel, column);
-    case Qt::CheckStateRole:
-        if (column != CameraEvent || !m_events || !occupied(channel))
-            return {};
-        return At(*m_events, channel) ? Qt::Checked : Qt::Unchecked;
-    case Qt::AccessibleTextRole:
-    case Qt::ToolTipRole:
-        return spoken(channel, column);
-    case Qt::TextAlignmentRole:
-        return column == Number || column == Port ? QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight) : QVariant();
-    case Qt::DisplayRole:
-        return shown(channel, column);
-    default:
-        return {};
-    }
-}
-
-bool ChannelListModel::setData(const QModelIndex& index, const QVariant& value, int role)
-{
-    if (role != Qt::CheckStateRole || !index.isValid() || index.column() != CameraEvent || !m_events ||
-        !occupied(index.row()))
-        return false;
-    const bool on = value.toInt() == Qt::Checked;
-    if (on && !At(*m_events, index.row()) && cameraEventsOn() >= kCameraEventLimit) {
-        emit limitReached();
-        return false;
-    }
-    At(*m_events, index.row()) = on;
-    emit dataChanged(index, index);
-    return true;
-}
-
-Qt::ItemFlags ChannelListModel::flags(const QModelIndex& index) const
-{
-    if (!index.isValid())
-        return Qt::NoItemFlags;
-    const Qt::ItemFlags usual = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    return index.column() == CameraEvent && m_events && occupied(index.row()) ? usual | Qt::ItemIsUserCheckable : usual;
-}
-
-QVariant ChannelListModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    static constexpr std::array<int, ColumnCount> heads{55, 363, 364, 579, 403, 781, 0, 0};
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
-        return {};
-    if (role == Qt::TextAlignmentRole && (section == Number || section == Port))
-        return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
-    const int head = At(heads, section);
-    return role == Qt::DisplayRole && head != 0 ? QVariant(GetLangString(head)) : QVariant();
 }

@@ -1,16 +1,16 @@
 #pragma once
 
+#include "app/shell/TableModel.h"
 #include "recorders/data/RecorderSet.h"
 
-#include <QAbstractTableModel>
 #include <optional>
 #include <utility>
 #include <vector>
 
 inline constexpr int kCameraEventLimit = 32; // channels of the whole station with their camera's events on
 
-// The channels of the recorder in the edit pair, one row each up to iSVR_Maxchannel, with or without a camera.
-class ChannelListModel : public QAbstractTableModel
+// The channels (from 0) of the recorder in the edit pair, up to iSVR_Maxchannel, with or without a camera.
+class ChannelListModel : public TableModel
 {
     Q_OBJECT
 
@@ -23,13 +23,9 @@ public:
         Name, // with an icon that tells the family
         State,
         CameraEvent, // check; only while switches are set
-        Edit,        // icon
-        Delete,      // icon, where there is a camera
-        ColumnCount
+        Edit,
+        Delete // where there is a camera
     };
-    static constexpr int kChannelRole = Qt::UserRole; // channel of the row, from 0
-    static constexpr int kSortRole = Qt::UserRole + 1;
-    static constexpr int kIconRole = Qt::UserRole + 2; // name of the cell's icon; empty for none
 
     explicit ChannelListModel(const RecorderSet& recorders, QObject* parent = nullptr);
     void refill();                    // the edit pair was replaced
@@ -44,25 +40,15 @@ public:
     std::vector<std::pair<int, bool>> switched() const;
     int cameras() const;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    // Qt::CheckStateRole of CameraEvent; refused (with limitReached) where the station would have too many switched on.
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
 signals:
     void limitReached();
 
 private:
     int cameraEventsOn() const; // in the whole station, with the switches as they stand here
-    bool occupied(int channel) const;
-    QString iconName(int channel, int column) const;
+    const SVRChannel& at(int channel) const { return At(m_recorders.SVREdit.channels, channel); }
+    bool occupied(int channel) const { return !at(channel).sSub_CH_IP.isEmpty(); }
     QString stateText(int channel) const;
-    int stateOf(int channel) const;
-    QVariant shown(int channel, int column) const;
-    QVariant spoken(int channel, int column) const;
+    bool switchOn(int channel, bool on); // refused (with limitReached) where the station would have too many
 
     const RecorderSet& m_recorders;
     std::optional<PerChannel<bool>> m_events;

@@ -1,29 +1,47 @@
 #include "recorders/detect/DetectStatusModel.h"
 
 #include "app/language/Languages.h"
-#include "look/tables/StatusRoles.h"
-#include "support/Conversions.h"
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
+namespace {
+constexpr int kWaiting = 872;
+} // namespace
 
 DetectStatusModel::DetectStatusModel(QObject* parent)
-    : QAbstractTableModel(parent)
+    : TableModel(parent)
 {
+    using Kind = TableColumn::Kind;
+    setColumns({
+        {.head = 278, .width = 170, .text = Of(m_items, &NVRDetectItem::sName)},
+        {.head = 363, .width = 140, .kind = Kind::Figures, .text = Of(m_items, &NVRDetectItem::sIP)},
+        {.head = 364, .width = 70, .kind = Kind::Number, .text = Of(m_items, &NVRDetectItem::iPort)},
+        {.head = 382, .width = 120, .text = Of(m_items, &NVRDetectItem::sModel)},
+        {.head = 280,
+         .width = 70,
+         .kind = Kind::Number,
+         .text =
+             [this](int row) {
+                 const int channels = At(m_rows, row).channels;
+                 return channels < 0 ? QVariant() : QVariant(channels);
+             }},
+        {.head = 403,
+         .kind = Kind::State,
+         .text = [this](int row) { return stateText(row); },
+         .status = [this](int row) { return stateOf(row); },
+         .progress = [this](int row) { return stateOf(row) == ::Status::Busy ? At(m_rows, row).status.percent : -1; }},
+    });
     m_tell.setSingleShot(true);
     m_tell.setInterval(30);
-    connect(&m_tell, &QTimer::timeout, this,
-            [this] { emit dataChanged(index(m_firstChanged, Channels), index(m_lastChanged, Status)); });
+    connect(&m_tell, &QTimer::timeout, this, [this] { rowsChanged(m_firstChanged, m_lastChanged); });
 }
 
 void DetectStatusModel::setItems(std::vector<NVRDetectItem> items)
 {
-    beginResetModel();
     m_tell.stop();
     m_items = std::move(items);
     m_rows.assign(m_items.size(), {});
-    endResetModel();
+    setRecordCount(static_cast<int>(m_items.size()));
 }
 
 void DetectStatusModel::setStatus(int row, const DetectStatus& status)
@@ -95,68 +113,18 @@ int DetectStatusModel::failedRows() const
     return rowsIn(DetectStatus::State::Failed);
 }
 
-int DetectStatusModel::rowCount(const QModelIndex& parent) const
+QString DetectStatusModel::stateText(int row) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int DetectStatusModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant DetectStatusModel::text(int row, int column) const
-{
-    const NVRDetectItem& item = At(m_items, row);
     const Row& state = At(m_rows, row);
-    switch (column) {
-    case DeviceName:
-        return item.sName;
-    case Address:
-        return item.sIP;
-    case Port:
-        return item.iPort;
-    case Model:
-        return item.sModel;
-    case Channels:
-        return state.channels < 0 ? QVariant() : QVariant(state.channels);
-    case Status:
-        return state.started ? QString(GetLangString(state.status.message) + state.status.suffix) : GetLangString(872);
-    default:
-        return {};
-    }
+    return state.started ? QString(GetLangString(state.status.message) + state.status.suffix) : GetLangString(kWaiting);
 }
 
-QVariant DetectStatusModel::data(const QModelIndex& index, int role) const
+::Status DetectStatusModel::stateOf(int row) const
 {
-    if (!hasIndex(index.row(), index.column()))
-        return {};
-    const Row& row = At(m_rows, index.row());
-    if (role == Qt::DisplayRole)
-        return text(index.row(), index.column());
-    if (role == Qt::TextAlignmentRole && (index.column() == Port || index.column() == Channels))
-        return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
-    if (index.column() != Status || !row.started)
-        return {};
-    if (role == Qt::ToolTipRole) // the words, should the column be too narrow for them
-        return text(index.row(), Status);
-    const DetectStatus::State state = row.status.state;
-    if (role == kStatusRole) {
-        if (state == DetectStatus::State::Running)
-            return static_cast<int>(::Status::Busy);
-        return static_cast<int>(state == DetectStatus::State::Done ? ::Status::Ok : ::Status::Bad);
-    }
-    if (role == kProgressRole && state == DetectStatus::State::Running)
-        return row.status.percent;
-    return {};
-}
-
-QVariant DetectStatusModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    static constexpr std::array<int, ColumnCount> heads{278, 363, 364, 382, 280, 403};
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
-        return {};
-    if (role == Qt::TextAlignmentRole && (section == Port || section == Channels))
-        return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
-    return role == Qt::DisplayRole ? QVariant(GetLangString(At(heads, section))) : QVariant();
+    const Row& state = At(m_rows, row);
+    if (!state.started)
+        return ::Status::None;
+    if (state.status.state == DetectStatus::State::Running)
+        return ::Status::Busy;
+    return state.status.state == DetectStatus::State::Done ? ::Status::Ok : ::Status::Bad;
 }

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "app/shell/TableModel.h"
 #include "recorders/detect/NVRDetect.h"
 
-#include <QAbstractTableModel>
 #include <QTimer>
 
 // The running status of the recorders being detected, one row an item. Views are told of changes every 30 ms at most: a
 // quick recorder goes through its steps faster than a screen shows them.
-class DetectStatusModel : public QAbstractTableModel
+class DetectStatusModel : public TableModel
 {
     Q_OBJECT
 
@@ -19,8 +19,7 @@ public:
         Port,
         Model,
         Channels,
-        Status,
-        ColumnCount
+        Status
     };
 
     explicit DetectStatusModel(QObject* parent = nullptr);
@@ -35,11 +34,6 @@ public:
     int doneRows() const;
     int failedRows() const;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
-
 private:
     struct Row
     {
@@ -47,7 +41,8 @@ private:
         DetectStatus status;
         int channels = -1;
     };
-    QVariant text(int row, int column) const;
+    QString stateText(int row) const;
+    ::Status stateOf(int row) const;
     int rowsIn(DetectStatus::State state) const;
     void changed(int row);
 

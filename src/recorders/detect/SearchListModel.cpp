@@ -1,22 +1,41 @@
 #include "recorders/detect/SearchListModel.h"
 
-#include "app/language/Languages.h"
 #include "device/protocol/ReplyText.h"
-#include "support/Conversions.h"
 
 #include <algorithm>
 
 SearchListModel::SearchListModel(const RecorderSet& recorders, QObject* parent)
-    : QAbstractTableModel(parent)
+    : TableModel(parent)
     , m_recorders(recorders)
 {
+    const auto device = [this](auto member) {
+        return [this, member](int row) { return QVariant(At(m_rows, row).device.*member); };
+    };
+    setColumns({
+        {.head = 278,
+         .kind = TableColumn::Kind::Check,
+         .text = device(&FoundDevice::Name),
+         .checked = [this](int row) { return known(row) || At(m_rows, row).checked; },
+         .check = [this](int row, bool on) { return check(At(m_rows, row), on); }},
+        {.head = 363, .width = 150, .kind = TableColumn::Kind::Figures, .text = device(&FoundDevice::Address)},
+        {.head = 364, .width = 80, .kind = TableColumn::Kind::Number, .text = device(&FoundDevice::Port)},
+        {.head = 381, .width = 130, .text = device(&FoundDevice::Brand)},
+        {.head = 382, .width = 180, .text = device(&FoundDevice::Model)},
+    });
+}
+
+bool SearchListModel::check(Row& row, bool on)
+{
+    if (on && !row.checked && !room())
+        return false;
+    row.checked = on;
+    return true;
 }
 
 void SearchListModel::clear()
 {
-    beginResetModel();
+    setRecords({});
     m_rows.clear();
-    endResetModel();
 }
 
 bool SearchListModel::inStation(const FoundDevice& device) const
@@ -30,8 +49,6 @@ void SearchListModel::add(const FoundDevice& device)
 {
     if (device.IsSvd)
         return;
-    const int row = rowCount();
-    beginInsertRows({}, row, row);
     m_rows.push_back({device, inStation(device), false});
     for (auto text : {&FoundDevice::Address, &FoundDevice::Brand, &FoundDevice::Model})
         (m_rows.back().device.*text).truncate(kMaxDeviceText);
@@ -39,7 +56,7 @@ void SearchListModel::add(const FoundDevice& device)
     name = name.simplified().left(kRecorderNameLength).trimmed();
     if (name.isEmpty())
         name = device.Address.left(kRecorderNameLength);
-    endInsertRows();
+    addRecord(static_cast<int>(m_rows.size()) - 1);
 }
 
 void SearchListModel::refresh()
@@ -48,19 +65,13 @@ void SearchListModel::refresh()
         row.known = inStation(row.device);
         row.checked = row.checked && !row.known;
     }
-    if (!m_rows.empty())
-        emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    allChanged();
 }
 
 int SearchListModel::checkedRows() const
 {
     return static_cast<int>(
         std::count_if(m_rows.begin(), m_rows.end(), [](const Row& row) { return !row.known && row.checked; }));
-}
-
-bool SearchListModel::known(int row) const
-{
-    return At(m_rows, row).known;
 }
 
 std::vector<NVRDetectItem> SearchListModel::chosen(const QString& user, const QString& password) const
@@ -84,72 +95,4 @@ std::vector<NVRDetectItem> SearchListModel::chosen(const QString& user, const QS
 bool SearchListModel::room() const
 {
     return OccupiedSlots(m_recorders.SVRWorkList) + checkedRows() < kMaxSVR;
-}
-
-int SearchListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int SearchListModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant SearchListModel::data(const QModelIndex& index, int role) const
-{
-    if (!hasIndex(index.row(), index.column()))
-        return {};
-    const Row& row = At(m_rows, index.row());
-    if (role == Qt::CheckStateRole && index.column() == DeviceName)
-        return row.known || row.checked ? Qt::Checked : Qt::Unchecked;
-    if (role == Qt::TextAlignmentRole && index.column() == Port)
-        return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
-    if (role != Qt::DisplayRole)
-        return {};
-    switch (index.column()) {
-    case DeviceName:
-        return row.device.Name;
-    case Address:
-        return row.device.Address;
-    case Port:
-        return row.device.Port;
-    case Brand:
-        return row.device.Brand;
-    case Model:
-        return row.device.Model;
-    default:
-        return {};
-    }
-}
-
-bool SearchListModel::setData(const QModelIndex& index, const QVariant& value, int role)
-{
-    if (role != Qt::CheckStateRole || !hasIndex(index.row(), index.column()) || index.column() != DeviceName)
-        return false;
-    Row& row = At(m_rows, index.row());
-    const bool checked = value.toInt() == Qt::Checked;
-    if (row.known || (checked && !row.checked && !room()))
-        return false;
-    row.checked = checked;
-    emit dataChanged(index, index, {Qt::CheckStateRole});
-    return true;
-}
-
-Qt::ItemFlags SearchListModel::flags(const QModelIndex& index) const
-{
-    if (!hasIndex(index.row(), index.column()) || At(m_rows, index.row()).known)
-        return Qt::NoItemFlags;
-    const Qt::ItemFlags usual = Qt::ItemIsSelectable | Qt::ItemIsEnabled;
-    return index.column() == DeviceName ? usual | Qt::ItemIsUserCheckable : usual;
-}
-
-QVariant SearchListModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    static constexpr std::array<int, ColumnCount> heads{278, 363, 364, 381, 382};
-    if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount)
-        return {};
-    if (role == Qt::TextAlignmentRole && section == Port)
-        return QVariant::fromValue(Qt::AlignVCenter | Qt::AlignRight);
-    return role == Qt::DisplayRole ? QVariant(GetLangString(At(heads, section))) : QVariant();
 }

@@ -1,14 +1,12 @@
 #pragma once
 
+#include "app/shell/TableModel.h"
 #include "device/bridge/DiscoveryMessage.h"
 #include "recorders/detect/NVRDetect.h"
 
-#include <QAbstractTableModel>
-#include <vector>
-
 // The recorders that a search has found, as they come in. A device that the station has already is checked and cannot
 // be changed; others are checked as long as the station has slots for them. Decoders are left out.
-class SearchListModel : public QAbstractTableModel
+class SearchListModel : public TableModel
 {
     Q_OBJECT
 
@@ -19,8 +17,7 @@ public:
         Address,
         Port,
         Brand,
-        Model,
-        ColumnCount
+        Model
     };
 
     explicit SearchListModel(const RecorderSet& recorders, QObject* parent = nullptr);
@@ -30,17 +27,12 @@ public:
     // Recorders were added to the station, or taken back: which devices it has is settled anew.
     void refresh();
     int checkedRows() const; // without the known ones
-    bool known(int row) const;
+    bool known(int device) const { return At(m_rows, device).known; }
     // The checked rows in order, each for the first free slot, with one login for all.
     std::vector<NVRDetectItem> chosen(const QString& user, const QString& password) const;
 
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    // Qt::CheckStateRole of the first column; false for a known device and when the station would be over-full.
-    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
-    Qt::ItemFlags flags(const QModelIndex& index) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+protected:
+    bool enabled(int device) const override { return !known(device); }
 
 private:
     struct Row
@@ -49,6 +41,7 @@ private:
         bool known = false;
         bool checked = false;
     };
+    bool check(Row& row, bool on); // false when the station would be over-full
     bool room() const;
     bool inStation(const FoundDevice& device) const;
 

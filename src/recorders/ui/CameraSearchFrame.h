@@ -7,7 +7,6 @@
 
 class CameraEdit;
 class Work;
-class QSortFilterProxyModel;
 namespace Ui {
 class CameraSearchFrame;
 }
@@ -34,13 +33,10 @@ signals:
     void choiceChanged();
 
 private:
-    void choose(const QModelIndex& row);
-    void showFound();
-    void setSearching(bool searching);
+    void choose(int record);
 
     CameraEdit& m_edit;
     Work& m_work; // the window's
     std::unique_ptr<Ui::CameraSearchFrame> m_ui;
     CameraSearchModel* m_found;
-    QSortFilterProxyModel* m_proxy;
 };

@@ -2,7 +2,6 @@
 
 #include "app/language/Languages.h"
 #include "app/log/StartWork.h"
-#include "look/tables/Tables.h"
 #include "recorders/ui/RecorderFields.h"
 #include "recorders/ui/ui_DetectStatusFrame.h"
 #include "support/Conversions.h"
@@ -30,14 +29,7 @@ DetectStatusFrame::DetectStatusFrame(DetectContext context, Work& work, QWidget*
     , m_status(new DetectStatusModel(this))
 {
     m_ui->setupUi(this);
-    QTableView* grid = m_ui->Grid_DetectStatus;
-    grid->setModel(m_status);
-    StyleTable(grid);
-    grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    MonospaceColumn(grid, DetectStatusModel::Address);
-    StatusColumn(grid, DetectStatusModel::Status);
-    static constexpr std::array widths{170, 140, 70, 120, 70};
-    SetColumnWidths(grid, widths);
+    m_ui->Grid_DetectStatus->setList(m_status);
     m_ui->retryBar->hide();
     m_ui->txtRetryUser->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::User)));
     m_ui->txtRetryPassword->setMaxLength(At(RecorderFields::kLengths, static_cast<int>(ManualField::Password)));
@@ -48,7 +40,7 @@ DetectStatusFrame::~DetectStatusFrame() = default;
 
 void DetectStatusFrame::changeLanguage()
 {
-    m_ui->Grid_DetectStatus->setAccessibleName(GetLangString(289));
+    m_status->retranslate();
     m_ui->txtRetryUser->setAccessibleName(m_ui->lbRetryUser->text());
     m_ui->txtRetryPassword->setAccessibleName(m_ui->lbRetryPassword->text());
 }
@@ -132,6 +124,6 @@ void DetectStatusFrame::report(int row, const DetectStatus& status)
         m_status->setChannels(row, CameraCount(At(m_context.recorders.SVRWorkList, status.slot)));
     }
     if (status.state != DetectStatus::State::Running && (row + 1) % kStatusRows == 0)
-        m_ui->Grid_DetectStatus->scrollTo(m_status->index(row, 0), QAbstractItemView::PositionAtTop);
+        m_ui->Grid_DetectStatus->scrollTo(m_ui->Grid_DetectStatus->cellOf(row), QAbstractItemView::PositionAtTop);
     emit progressed();
 }

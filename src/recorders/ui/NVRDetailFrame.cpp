@@ -9,23 +9,19 @@
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/CameraEvents.h"
 #include "recorders/camera/ChannelClear.h"
-#include "recorders/ui/IconProxy.h"
 #include "recorders/ui/ui_NVRDetailFrame.h"
 #include "support/Conversions.h"
 
 #include <QHeaderView>
-#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int kHeadRoom = 44; // px of a head beside its text: margins and the arrow of sorting
 constexpr int kShortList = 6; // fewer channels than this draw a short grid
 constexpr int kReDetect = 703;
 constexpr int kTooManyEvents = 91;
 constexpr int kAskClear = 970;
-constexpr int kDelete = 877;
 constexpr int kWriting = 976;
 constexpr qint16 kBothEvents = 3; // the two bits of an older recorder's switch
 constexpr qint16 kEvent = 1;      // the one of a Pro recorder
@@ -55,17 +51,11 @@ NVRDetailFrame::NVRDetailFrame(DetectContext context, Work& work, QWidget* paren
     , m_fields({m_ui->TextNVRDetail_0, m_ui->TextNVRDetail_1, m_ui->TextNVRDetail_2, m_ui->TextNVRDetail_3,
                 m_ui->TextNVRDetail_4})
     , m_channels(new ChannelListModel(m_context.recorders, this))
-    , m_proxy(new IconProxy(m_channels, ChannelListModel::kSortRole, ChannelListModel::kIconRole, this))
 {
     prepareGrid();
     connect(m_ui->lbNVRDetect, &QPushButton::clicked, this, &NVRDetailFrame::lbNVRDetect_Click);
-    connect(m_ui->txtChannelFilter, &QLineEdit::textChanged, this, [this](const QString& text) {
-        m_proxy->setFilterFixedString(text);
-        showCounts();
-    });
     OnKey(this, Qt::Key_F5, [this] { lbNVRDetect_Click(); });
     OnKey(this, Qt::Key_F2, [this] { editName(); });
-    connect(m_ui->txtChannelFilter, &QLineEdit::returnPressed, this, &NVRDetailFrame::takeFocus);
     // The box waits until the click that met the limit is over.
     connect(
         m_channels, &ChannelListModel::limitReached, this, [] { Tell(Tone::Warning, kTooManyEvents); },
@@ -88,46 +78,20 @@ NVRDetailFrame::~NVRDetailFrame() = default;
 
 void NVRDetailFrame::prepareGrid()
 {
-    QTableView* grid = m_ui->Grid_ChannelList;
-    grid->setModel(m_proxy);
-    StyleTable(grid);
-    grid->setIconSize(QSize(kIconSize, kIconSize));
-    grid->setSelectionMode(QAbstractItemView::SingleSelection);
-    grid->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    MonospaceColumn(grid, ChannelListModel::Address);
-    StatusColumn(grid, ChannelListModel::State);
-    QHeaderView* head = grid->horizontalHeader();
-    for (const int icon : {ChannelListModel::Edit, ChannelListModel::Delete})
-        grid->setColumnWidth(icon, head->minimumSectionSize());
-    grid->setSortingEnabled(true);
-    grid->sortByColumn(ChannelListModel::Number, Qt::AscendingOrder);
-    head->setStretchLastSection(false);
-    head->setSectionResizeMode(ChannelListModel::Name, QHeaderView::Stretch);
-    ActOnRows(grid, {ChannelListModel::Edit, ChannelListModel::Delete},
-              [this](const QModelIndex& cell) { Grid_ChannelList_Click(cell); });
-    auto* space = new QShortcut(Qt::Key_Space, grid, nullptr, nullptr, Qt::WidgetShortcut);
-    connect(space, &QShortcut::activated, this, [this] {
-        const QModelIndex cell = m_ui->Grid_ChannelList->currentIndex().siblingAtColumn(ChannelListModel::CameraEvent);
-        const bool on = cell.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-        m_proxy->setData(cell, on ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-    });
+    DeskTable* grid = m_ui->Grid_ChannelList;
+    grid->setList(m_channels);
+    grid->sortBy(ChannelListModel::Number);
+    grid->filterBy(m_ui->txtChannelFilter);
+    grid->whenOpened([this](int channel) { emit channelWanted(channel); });
+    grid->whenRemoved(
+        [this](int channel) { Trapped("Form_NVRSetting - Grid_ChannelList_Click", [&] { clearChannel(channel); }); });
+    connect(grid, &DeskTable::shownChanged, this, &NVRDetailFrame::showCounts);
 }
 
 void NVRDetailFrame::changeLanguage()
 {
     m_fields.nameByLabels();
-    m_ui->txtChannelFilter->setPlaceholderText(GetLangString(906));
-    m_ui->txtChannelFilter->setAccessibleName(GetLangString(906));
-    m_ui->Grid_ChannelList->setAccessibleName(GetLangString(298));
-    // Columns are as wide as their contents want, and wider where a language has a long head.
-    std::array widths{64, 150, 76, 0, 190, 110, 48, 48};
-    const QFontMetrics metrics(m_ui->Grid_ChannelList->horizontalHeader()->font());
-    for (int column = 0; column < ChannelListModel::ColumnCount; ++column) {
-        const QString text = m_channels->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        const int head = text.isEmpty() ? 0 : metrics.horizontalAdvance(text) + kHeadRoom;
-        At(widths, column) = qMax(At(widths, column), head);
-    }
-    SetColumnWidths(m_ui->Grid_ChannelList, widths);
+    m_channels->retranslate();
 }
 
 void NVRDetailFrame::SetNVR(int slot)
@@ -147,7 +111,6 @@ void NVRDetailFrame::GridChannelList()
     m_channels->refill();
     m_ui->Grid_ChannelList->setColumnHidden(ChannelListModel::CameraEvent, !m_channels->hasCameraEvents());
     showFacts();
-    showCounts();
     fitGrid();
 }
 
@@ -166,9 +129,10 @@ void NVRDetailFrame::fitGrid()
 
 void NVRDetailFrame::showChannel(int channel)
 {
-    const QModelIndex cell = m_proxy->mapFromSource(m_channels->index(channel, ChannelListModel::Name));
-    m_ui->Grid_ChannelList->setCurrentIndex(cell.isValid() ? cell : m_proxy->index(0, ChannelListModel::Name));
-    m_ui->Grid_ChannelList->scrollTo(m_ui->Grid_ChannelList->currentIndex());
+    DeskTable* grid = m_ui->Grid_ChannelList;
+    const QModelIndex cell = grid->cellOf(channel, ChannelListModel::Name);
+    grid->setCurrentIndex(cell.isValid() ? cell : grid->model()->index(0, ChannelListModel::Name));
+    grid->scrollTo(grid->currentIndex());
 }
 
 QPushButton* NVRDetailFrame::detectButton() const
@@ -198,7 +162,7 @@ void NVRDetailFrame::showFacts()
 void NVRDetailFrame::showCounts()
 {
     m_ui->lbChannelCount->setText(GetLangString(866).arg(m_channels->cameras()).arg(m_channels->rowCount()));
-    m_ui->lbNoChannel->setVisible(m_proxy->rowCount() == 0 && m_channels->rowCount() > 0);
+    m_ui->lbNoChannel->setVisible(m_ui->Grid_ChannelList->shownRows() == 0 && m_channels->rowCount() > 0);
 }
 
 void NVRDetailFrame::showStep(const QString& words, int percent)
@@ -258,17 +222,6 @@ void NVRDetailFrame::takeDetected(const Detected& detected)
         Tell(detected.done ? Tone::Success : Tone::Error, GetLangString(detected.last.message) + detected.last.suffix);
 }
 
-void NVRDetailFrame::Grid_ChannelList_Click(const QModelIndex& cell)
-{
-    Trapped("Form_NVRSetting - Grid_ChannelList_Click", [&] {
-        const int channel = cell.data(ChannelListModel::kChannelRole).toInt();
-        if (cell.column() == ChannelListModel::Delete)
-            clearChannel(channel);
-        else if (cell.column() == ChannelListModel::Edit)
-            emit channelWanted(channel);
-    });
-}
-
 // A call that was stopped has nothing to say.
 void NVRDetailFrame::tell(const RecorderOutcome& outcome) const
 {
@@ -278,12 +231,10 @@ void NVRDetailFrame::tell(const RecorderOutcome& outcome) const
 
 void NVRDetailFrame::clearChannel(int channel)
 {
-    if (At(m_context.recorders.SVREdit.channels, channel).sSub_CH_IP.isEmpty())
-        return;
     const SVRRecord& record = m_context.recorders.SVREdit;
     const QString camera =
         At(record.channels, channel).sSub_CH_Name + u"  ·  "_s + At(record.channels, channel).sSub_CH_IP;
-    if (!AskToDestroy(GetLangString(kAskClear).arg(channel + 1), camera, kDelete))
+    if (!AskToDestroy(GetLangString(kAskClear).arg(channel + 1), camera, Message::kDelete))
         return;
     const auto clear = [this, channel] {
         m_work.say(GetLangString(kWriting));
@@ -301,7 +252,6 @@ void NVRDetailFrame::channelWritten(int channel)
 {
     TakeOverWritten(m_context.recorders, m_slot, channel, m_context.events);
     m_channels->refreshChannel(channel);
-    showCounts();
     emit changesChanged();
 }
 

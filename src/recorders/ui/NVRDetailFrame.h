@@ -8,7 +8,6 @@
 #include <QWidget>
 #include <memory>
 
-class IconProxy;
 class QPushButton;
 namespace Ui {
 class NVRDetailFrame;
@@ -43,8 +42,6 @@ public:
 
 public slots:
     void lbNVRDetect_Click();
-    // The edit icon opens the channel, the delete icon asks and clears it; other columns do nothing.
-    void Grid_ChannelList_Click(const QModelIndex& cell);
 
 signals:
     void channelWanted(int channel); // from 0
@@ -54,7 +51,7 @@ signals:
 private:
     ManualFault differing() const; // message 703 and the first field that is not as detected
     void prepareGrid();
-    void clearChannel(int channel);
+    void clearChannel(int channel); // asks
     struct Detected
     {
         ManualFault fault;
@@ -76,7 +73,6 @@ private:
     std::unique_ptr<Ui::NVRDetailFrame> m_ui;
     RecorderFields m_fields;
     ChannelListModel* m_channels;
-    IconProxy* m_proxy;
     int m_slot = 0;
     bool m_detected = false; // the edit pair is no longer the working slot's
 };

@@ -5,9 +5,7 @@
 #include <QWidget>
 #include <memory>
 
-class EmptyState;
 class Work;
-class QSortFilterProxyModel;
 namespace Ui {
 class NVRPage;
 }
@@ -31,8 +29,6 @@ public:
 public slots:
     // Opens the wizard, or says that the station is full.
     void lbAdd_Click();
-    // The edit icon opens the recorder, the delete icon asks and removes it; other columns do nothing.
-    void Grid_SVRsList_Click(const QModelIndex& cell);
 
 signals:
     void wizardWanted();
@@ -46,11 +42,11 @@ protected:
 
 private:
     void readAgain();
-    void showCounts();
+    void remove(int slot); // asks
+    QString counts() const;
 
     const RecorderSet& m_recorders;
     std::unique_ptr<Ui::NVRPage> m_ui;
     ConnectionWatch m_watch;
     NVRListModel* m_model;
-    QSortFilterProxyModel* m_proxy;
 };

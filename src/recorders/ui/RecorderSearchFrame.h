@@ -6,7 +6,6 @@
 #include <memory>
 
 class FinderBridge;
-class QSortFilterProxyModel;
 namespace Ui {
 class RecorderSearchFrame;
 }
@@ -34,11 +33,9 @@ signals:
 
 private:
     void searchEnded();
-    void toggle(const QModelIndex& row);
 
     FinderBridge& m_finder;
     std::unique_ptr<Ui::RecorderSearchFrame> m_ui;
     SearchListModel* m_found;
-    QSortFilterProxyModel* m_proxy;
     bool m_searching = false;
 };

@@ -1,10 +1,10 @@
 #include "app/shell/ui/RememberColumns.h"
 
+#include "app/shell/ui/DeskTable.h"
 #include "platform/UserSettings.h"
 
 #include <QEvent>
 #include <QHeaderView>
-#include <QTableView>
 
 using namespace Qt::StringLiterals;
 
@@ -57,11 +57,17 @@ private:
 
 } // namespace
 
+void KeepColumns(QTableView* table)
+{
+    if (!table->objectName().isEmpty())
+        new ColumnKeeper(table);
+}
+
 void RememberColumns(QWidget* window)
 {
     const QList<QTableView*> tables = window->findChildren<QTableView*>();
     for (QTableView* table : tables) {
-        if (!table->objectName().isEmpty())
-            new ColumnKeeper(table);
+        if (!qobject_cast<DeskTable*>(table))
+            KeepColumns(table);
     }
 }
