@@ -8,11 +8,17 @@ namespace {
 
 constexpr int kResolverMs = 10'000;
 
+// A lone number resolves as an address of "this network", which no host has (RFC 1122, 3.2.1.3).
+bool IsThisNetwork(const QHostAddress& address)
+{
+    return address.toIPv4Address() >> 24 == 0;
+}
+
 QString FirstIPv4(const QHostInfo& found)
 {
     const QList<QHostAddress> addresses = found.addresses();
     for (const QHostAddress& address : addresses) {
-        if (address.protocol() == QAbstractSocket::IPv4Protocol)
+        if (address.protocol() == QAbstractSocket::IPv4Protocol && !IsThisNetwork(address))
             return address.toString();
     }
     return {};

@@ -1,31 +1,18 @@
 #include "app/RemoveSVR.h"
-#include "app/StartUp.h"
-#include "device/bridge/Form_COM.h"
 #include "emap/EMapStore.h"
-#include "simulators/SimulatorThread.h"
 #include "support/Conversions.h"
-#include "tests/Await.h"
-#include "tests/store/StoreFixture.h"
+#include "tests/support/SimulatedStation.h"
 
 #include <QElapsedTimer>
 
 using namespace Qt::StringLiterals;
-using simulators::Family;
-using simulators::Site;
 
 namespace {
 
 // The maps, detection settings and rows that hang on the recorders, on a station of its own.
-class RecorderRecords : public StoreFixture
+class RecorderRecords : public SimulatedStation
 {
 protected:
-    void start()
-    {
-        desk = std::make_unique<Station>();
-        OpenDatabases(*desk);
-        LoadRecords(*desk);
-        desk->families.InitialSetValue();
-    }
     // A recorder with cameras on its first channels, saved.
     void addRecorder(int slot, const QString& name, int cameras)
     {
@@ -44,12 +31,6 @@ protected:
         }
         work.bSVR_Changed = true;
         FinishNewRecorders(*desk);
-    }
-    QString rows(const QString& select) { return Rows(*desk->databases.DBConn, select, u',', u' '); }
-    void statement(const QString& sql)
-    {
-        QSqlQuery query(desk->databases.DBConn->database());
-        ASSERT_TRUE(query.exec(sql)) << sql.toStdString();
     }
     QString maps() { return rows(u"SELECT iMap_Type, iMap_ID, sName, sParent FROM EMapGroup"_s); }
     QString audit()
@@ -70,8 +51,6 @@ protected:
         std::tie(map.iMap_Type, map.iMap_ID, map.sName, map.sParent, map.bChanged) =
             std::tuple(type, id, name, parent, true);
     }
-
-    std::unique_ptr<Station> desk;
 };
 
 } // namespace
@@ -194,25 +173,13 @@ TEST_F(RecorderRecords, DetectionRowsBelongToTheChannelOfTheirAnalysisId)
 
 TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
 {
-    simulators::SiteDescription description;
-    description.port = 0;
-    description.discovery = false;
-    description.devices.resize(1);
-    description.devices[0].family = Family::Txr632;
-    simulators::SimulatorThread site(description);
-
+    startSite({Recorder(Family::Txr632)});
     start();
     addRecorder(0, u"goes"_s, 4);
     addRecorder(5, u"stays"_s, 2);
     SVRRecord& work = desk->recorders.SVRWorkList[0];
-    site.call([&](Site& running) {
-        work.sSVR_IP = running.device(0).address().toString();
-        work.iSVR_HttpPort = running.device(0).port();
-        running.device(0).channel(3).customEvents = 3;
-    });
-    const QString address = work.sSVR_IP;
-    const qint32 port = work.iSVR_HttpPort;
-    work.sSVR_UserName = work.sSVR_Password = u"admin"_s;
+    place(work, 0);
+    onDevice(0, [](simulators::Device& device) { device.channel(3).customEvents = 3; });
     work.sSVR_DeviceType = kFamilyTXR632;
     work.bSVR_CEventSupport = true;
     work.channels[2].lSub_CH_IntelligentID = 4;
@@ -230,16 +197,13 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     ASSERT_EQ(desk->channelEvents.events[0][2].sName, u"goes camera 3"_s);
     QSqlQuery(desk->databases.LogConn->database()).exec(u"DELETE FROM SystemLog"_s);
 
-    Form_COM com;
     com.SetProToDeviceBridge(desk->recorders.SVRList);
     EXPECT_EQ(com.FindServiceSlot(0), 0);
     Work removal;
     Await(RemoveSVR(*desk, com, 0, removal));
     EXPECT_EQ(com.FindServiceSlot(0), -1) << "nobody polls it any more";
-    site.call([](Site& running) {
-        EXPECT_EQ(running.device(0).channel(3).customEvents, 0);
-        EXPECT_EQ(running.device(0).requestCount("/event/basicevent.cgi?action=set&customevent_c1=0"), 1);
-    });
+    EXPECT_EQ(onDevice(0, [](simulators::Device& device) { return device.channel(3).customEvents; }), 0);
+    EXPECT_EQ(requests(0, "/event/basicevent.cgi?action=set&customevent_c1=0"), 1);
     EXPECT_EQ(rows(u"SELECT DISTINCT iSVR_Num FROM SVR"_s), u"6"_s);
     EXPECT_EQ(maps(), u"0,0,MainMap, 2,6,stays,"_s);
     EXPECT_EQ(rows(u"SELECT iSVR, iChannel FROM EMapIcon"_s), u"6,1 6,2"_s);
@@ -275,16 +239,11 @@ TEST_F(RecorderRecords, ARemovedRecorderLeavesNothingBehind)
     Await(RemoveSVR(*desk, com, 5, removal));
     addRecorder(1, u"silent"_s, 1);
     desk->recorders.SVRWorkList[1].bSVR_CEventSupport = true;
-    desk->recorders.SVRWorkList[1].sSVR_IP = address;
-    desk->recorders.SVRWorkList[1].iSVR_HttpPort = port;
-    site.call([](Site& running) { running.device(0).clearLog(); });
-    site.call([](Site& running) { running.device(0).addFault({simulators::FaultKind::Silent, 0, "/event/"}); });
+    place(desk->recorders.SVRWorkList[1], 0);
+    const int asked = requests(0, "/event/");
+    fault(0, {FaultKind::Silent, 0, "/event/"});
     ASSERT_TRUE(removal.start([&] { return RemoveSVR(*desk, com, 1, removal); }));
-    int asked = 0;
-    while (asked == 0) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        site.call([&](Site& running) { asked = running.device(0).requestCount("/event/"); });
-    }
+    ASSERT_TRUE(WaitUntil([&] { return requests(0, "/event/") > asked; }, 10));
     EXPECT_FALSE(desk->recorders.SVRList[1].sSVR_IP.isEmpty());
     QElapsedTimer time;
     time.start();

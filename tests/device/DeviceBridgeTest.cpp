@@ -1,27 +1,12 @@
 #include "device/bridge/ConnectionWatch.h"
-#include "device/bridge/Form_COM.h"
 #include "platform/Closing.h"
-#include "tests/Await.h"
-#include "tests/TestMain.h"
-#include "tests/device/ScriptedServer.h"
-
-#include <gtest/gtest.h>
+#include "tests/device/ScriptedDevice.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Answer = ScriptedServer::Answer;
-
-class ParameterBridge : public ::testing::Test
-{
-protected:
-    DeviceAddress device() const { return {u"127.0.0.1"_s, server.serverPort(), u"admin"_s, u"pw"_s}; }
-    TemporaryStation station;
-    ScriptedServer server;
-    Form_COM com;
-    Work work;
-};
+using ParameterBridge = ScriptedDevice;
 
 SVRRecord Recorder(const ScriptedServer& at, const QString& family = u"TXR632"_s)
 {
@@ -174,7 +159,7 @@ TEST_F(ParameterBridge, AListAndAServiceShareTheQuestionsToARecorder)
     EXPECT_EQ(com.http.open(), 0) << "a list that is not on show asks nobody";
     com.SetProToDeviceBridge(list);
     EXPECT_TRUE(WaitUntil([&] { return com.Services.at(0).Status == 1; }, 5));
-    server.answer = [](const ScriptedServer::Seen&) { return Answer{{}, false, 0, 0, true}; };
+    server.fallSilent();
     std::size_t asked = server.requests.size();
     EXPECT_TRUE(WaitUntil([&] { return server.requests.size() > asked; }, 5));
     watch.start(); // more impatient than the service
@@ -195,7 +180,7 @@ TEST_F(ParameterBridge, AListAndAServiceShareTheQuestionsToARecorder)
 
     list[4] = Recorder(other);
     list[5] = Recorder(server);
-    server.answer = [](const ScriptedServer::Seen&) { return Answer{ScriptedServer::page({}, "401 No")}; };
+    server.answer = [](const Seen&) { return Answer{ScriptedServer::page({}, "401 No")}; };
     asked = server.requests.size(); // each wrong password may count towards a lock
     std::size_t rounds = other.requests.size() + 40;
     watch.refresh();

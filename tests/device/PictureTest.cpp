@@ -1,21 +1,16 @@
-#include "device/bridge/Form_COM.h"
 #include "device/picture/CoreBridge.h"
 #include "device/picture/JpegBridge.h"
 #include "device/picture/LivePicture.h"
-#include "platform/Closing.h"
-#include "tests/Await.h"
-#include "tests/TestMain.h"
-#include "tests/device/ScriptedServer.h"
+#include "tests/device/ScriptedDevice.h"
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-using Answer = ScriptedServer::Answer;
+using Pictures = ScriptedDevice;
 
 QByteArray Picture(QRgb colour)
 {
@@ -23,15 +18,6 @@ QByteArray Picture(QRgb colour)
     frame.fill(colour);
     return EncodeJpeg(frame);
 }
-
-class Pictures : public ::testing::Test
-{
-protected:
-    DeviceAddress device() const { return {u"127.0.0.1"_s, server.serverPort(), {}, {}}; }
-    TemporaryStation station;
-    ScriptedServer server;
-    Form_COM com;
-};
 
 } // namespace
 
@@ -70,7 +56,7 @@ TEST_F(Pictures, SnapshotsAreWrittenWholeOrNotAtAll)
     EXPECT_TRUE(WaitUntil([&] { return !failed.empty(); }, 5));
     EXPECT_EQ(station.read(u"\\Images\\PresetImage\\imgPreset_0_4_1_1.jpg"), picture);
 
-    server.answer = [](const ScriptedServer::Seen&) { return Answer{{}, false, 0, 0, true}; };
+    server.fallSilent();
     core.GetSnapshot(device(), 5, 4, 1, path);
     com.Unload();
     EXPECT_EQ(com.http.open(), 0);

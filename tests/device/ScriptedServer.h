@@ -47,6 +47,10 @@ public:
     {
         answer = [body](const Seen&) { return Answer{page(body)}; };
     }
+    void fallSilent()
+    {
+        answer = [](const Seen&) { return Answer{{}, false, 0, 0, true}; };
+    }
     QByteArray lastTarget() const { return requests.empty() ? QByteArray() : requests.back().line.split(' ').value(1); }
 
     std::function<Answer(const Seen&)> answer = [](const Seen&) { return Answer{page("OK\n")}; };

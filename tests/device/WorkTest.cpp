@@ -1,33 +1,18 @@
 #include "app/log/StartWork.h"
-#include "device/bridge/Form_COM.h"
 #include "device/bridge/ModuleCGI.h"
 #include "platform/Closing.h"
 #include "platform/HttpDigest.h"
 #include "support/HostNames.h"
-#include "tests/Await.h"
-#include "tests/TestMain.h"
-#include "tests/device/ScriptedServer.h"
+#include "tests/device/ScriptedDevice.h"
 
 #include <QElapsedTimer>
-#include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 using ::testing::ElementsAre;
 
 namespace {
 
-using Answer = ScriptedServer::Answer;
-using Seen = ScriptedServer::Seen;
-
-class WorkTest : public ::testing::Test
-{
-protected:
-    DeviceAddress device() const { return {u"127.0.0.1"_s, server.serverPort(), {}, {}}; }
-
-    TemporaryStation station;
-    ScriptedServer server;
-    Form_COM com;
-};
+using WorkTest = ScriptedDevice;
 
 // The work of a window: asks device after device and notes how it ended.
 QCoro::Task<> AskThrice(Form_COM& com, DeviceAddress device, Work& work, QStringList& notes)
@@ -42,7 +27,6 @@ QCoro::Task<> AskThrice(Form_COM& com, DeviceAddress device, Work& work, QString
 TEST_F(WorkTest, ATaskRunsOnTheEventLoopAndTellsTheWindow)
 {
     server.answer = [](const Seen& seen) { return Answer{ScriptedServer::page(seen.line.split(' ').value(1))}; };
-    Work work;
     QStringList notes;
     std::vector<bool> held;
     QObject::connect(&work, &Work::runningChanged, &work, [&](bool running) { held.push_back(running); });
@@ -61,13 +45,12 @@ TEST_F(WorkTest, ATaskRunsOnTheEventLoopAndTellsTheWindow)
         throw std::runtime_error(reply.text.toStdString());
     }));
     EXPECT_TRUE(WaitUntil([&] { return !work.running(); }, 5));
-    const QString log = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).value(0);
-    EXPECT_TRUE(station.read(QString(u"\\log\\"_s + log)).contains("Test - Fault"));
+    EXPECT_TRUE(station.logs().contains("Test - Fault"));
 }
 
 TEST_F(WorkTest, AStopEndsEverythingAtOnceWhateverTheDeviceDoes)
 {
-    server.answer = [](const Seen&) { return Answer{{}, false, 0, 0, true}; };
+    server.fallSilent();
     const QStringList stoppedThrice{u"-9"_s, u"-9"_s, u"-9"_s};
     enum
     {
@@ -78,21 +61,21 @@ TEST_F(WorkTest, AStopEndsEverythingAtOnceWhateverTheDeviceDoes)
     for (const auto how : {ByStop, WithItsWindow, Closing}) {
         SCOPED_TRACE(how);
         QStringList notes;
-        auto work = std::make_unique<Work>();
-        ASSERT_TRUE(work->start([&, running = work.get()] { return AskThrice(com, device(), *running, notes); }));
+        auto window = std::make_unique<Work>();
+        ASSERT_TRUE(window->start([&, running = window.get()] { return AskThrice(com, device(), *running, notes); }));
         const std::size_t asked = server.requests.size();
         EXPECT_TRUE(WaitUntil([&] { return server.requests.size() > asked; }, 5));
         EXPECT_TRUE(notes.isEmpty());
         if (how == ByStop)
-            work->stop();
+            window->stop();
         else if (how == WithItsWindow)
-            work.reset();
+            window.reset();
         else
             SetClosing(true);
         EXPECT_EQ(notes, stoppedThrice); // already, and the later requests were not sent
         EXPECT_EQ(com.http.open(), 0);
         if (how == Closing) {
-            EXPECT_FALSE(work->start([&] { return AskThrice(com, device(), *work, notes); }));
+            EXPECT_FALSE(window->start([&] { return AskThrice(com, device(), *window, notes); }));
         }
         SetClosing(false);
         EXPECT_EQ(server.requests.size(), asked + 1);
@@ -101,8 +84,7 @@ TEST_F(WorkTest, AStopEndsEverythingAtOnceWhateverTheDeviceDoes)
 
 TEST_F(WorkTest, CommandsOfAStoppedWorkFailLikeATransport)
 {
-    server.answer = [](const Seen&) { return Answer{{}, false, 0, 0, true}; };
-    Work work;
+    server.fallSilent();
     QStringList results;
     ASSERT_TRUE(work.start([&]() -> QCoro::Task<> {
         QCoro::Task<QString> command = com.web.SendCmdXml(device(), u"<CMD/>"_s, work);
@@ -147,7 +129,6 @@ TEST_F(WorkTest, TogetherKeepsTheOrderAndTheLimit)
         return answer;
     };
     using Ask = std::function<QCoro::Task<QString>()>;
-    Work work;
     const auto ask = [&](const QString& url, bool faulty = false) -> Ask {
         return [&, url, faulty]() -> QCoro::Task<QString> {
             const QString reply = co_await CgiGet(com.web, device(), url, work);
@@ -175,8 +156,7 @@ TEST_F(WorkTest, TogetherKeepsTheOrderAndTheLimit)
     EXPECT_TRUE(WaitUntil([&] { return !work.running(); }, 5));
     EXPECT_EQ(open, 0);
     EXPECT_TRUE(got.empty());
-    const QString log = QDir(station.path(u"\\log")).entryList({u"LogSys-*"_s}).value(0);
-    EXPECT_TRUE(station.read(QString(u"\\log\\"_s + log)).contains("/0"));
+    EXPECT_TRUE(station.logs().contains("/0"));
     const std::size_t asked = server.requests.size();
     run({ask(u"/5"_s), ask(u"/never"_s), ask(u"/never"_s), ask(u"/never"_s), ask(u"/6"_s)});
     EXPECT_TRUE(WaitUntil([&] { return server.requests.size() == asked + 4; }, 5));

@@ -1,11 +1,9 @@
-#include "platform/Closing.h"
 #include "tests/recorders/CameraFixture.h"
 
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
 using simulators::Family;
-using simulators::FaultKind;
 using ::testing::ElementsAre;
 
 namespace {
@@ -579,7 +577,7 @@ TEST_F(CameraPage, AStopEndsWhatARecorderDoesNotAnswer)
                 QCoro::Task<CameraEdit::Outcome> call = c.second(running);
                 outcome = co_await call;
             }));
-            waitFor([&] { return requestCount(c.first) > 0; });
+            ASSERT_TRUE(WaitUntil([&] { return requests(0, c.first) > 0; }, 10));
             QElapsedTimer time;
             time.start();
             running.stop();

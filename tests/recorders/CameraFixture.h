@@ -1,60 +1,31 @@
 #pragma once
 
 #include "recorders/camera/CameraEdit.h"
-#include "recorders/detect/NVRDetect.h"
-#include "simulators/SimulatorThread.h"
-#include "tests/Await.h"
-#include "tests/TestMain.h"
+#include "tests/support/RecorderStation.h"
 
-#include <QDeadlineTimer>
-#include <gmock/gmock.h>
-
-// A recorder of one family in a thread, detected into slot 0 and open in the edit pair.
-class CameraStation : public ::testing::Test
+// A recorder of one family, detected into slot 0 and open in the edit pair.
+class CameraStation : public RecorderStation
 {
 protected:
-    using Family = simulators::Family;
     using Control = CameraEdit::Control;
 
     void start(Family family, int channels = 16, int cameras = 7)
     {
-        simulators::DeviceDescription description;
-        description.family = family;
-        description.channels = channels;
-        description.cameras = cameras;
-        simulators::SiteDescription place;
-        place.port = 0;
-        place.discovery = false;
-        place.devices = {description};
         m_family = family;
-        recorders = std::make_unique<RecorderSet>();
-        site = std::make_unique<simulators::SimulatorThread>(place);
-        NVRDetectItem item;
-        item.sName = QStringLiteral("Recorder");
-        item.sUser = item.sPassword = QStringLiteral("admin");
-        onDevice([&](simulators::Device& device) {
-            item.sIP = device.address().toString();
-            item.iPort = device.port();
-        });
-        const std::vector<NVRAccountRecord> accounts(1);
-        ASSERT_TRUE(Await(DetectNVR(
-            {com, *recorders, accounts, events}, item, [](const DetectStatus&) {}, work)));
+        *recorders = RecorderSet();
+        startSite({Recorder(family, channels, cameras)});
+        ASSERT_TRUE(detectAll(context()));
         recorders->SVREdit = recorders->SVRWorkList[0];
         recorders->SVRProEdit = recorders->SVRProWorkList[0];
         page = std::make_unique<CameraEdit>(com, *recorders);
         onDevice([](simulators::Device& device) { device.clearLog(); });
     }
 
-    void onDevice(const std::function<void(simulators::Device&)>& call)
-    {
-        site->call([&](simulators::Site& running) { call(running.device(0)); });
-    }
-    simulators::Camera deviceCamera(int number)
-    {
-        simulators::Camera camera;
-        onDevice([&](simulators::Device& device) { camera = device.channel(number).camera; });
-        return camera;
-    }
+    using SimulatedSite::fault;
+    using SimulatedSite::onDevice;
+    using SimulatedSite::requests;
+    void onDevice(const std::function<void(simulators::Device&)>& call) { onDevice(0, call); }
+    simulators::Camera deviceCamera(int number) { return camera(0, number); }
     std::vector<simulators::LoggedRequest> requests()
     {
         std::vector<simulators::LoggedRequest> log;
@@ -64,27 +35,7 @@ protected:
         });
         return log;
     }
-    int requestCount(const QByteArray& path)
-    {
-        int count = 0;
-        onDevice([&](simulators::Device& device) { count = device.requestCount(path); });
-        return count;
-    }
-    // Lets the event loop run until the condition holds.
-    static void waitFor(const std::function<bool()>& done)
-    {
-        QDeadlineTimer deadline(10'000);
-        while (!done() && !deadline.hasExpired())
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-        EXPECT_TRUE(done());
-    }
-    void fault(const simulators::Fault& fault)
-    {
-        onDevice([&](simulators::Device& device) {
-            device.clearFaults();
-            device.addFault(fault);
-        });
-    }
+    void fault(const simulators::Fault& fault) { onlyFault(0, fault); }
 
     // What the operator types for the made-up camera of that number.
     CameraEdit::Fields fieldsOf(int camera) const
@@ -102,12 +53,6 @@ protected:
     }
     QByteArray log() const { return station.logs(); }
 
-    TemporaryStation station;
-    Form_COM com;
-    Work work;
-    std::unique_ptr<RecorderSet> recorders;
-    RecorderEvents events;
-    std::unique_ptr<simulators::SimulatorThread> site;
     std::unique_ptr<CameraEdit> page;
 
 private:

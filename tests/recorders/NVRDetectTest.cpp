@@ -5,90 +5,37 @@
 #include "recorders/camera/ChannelListModel.h"
 #include "recorders/detect/DetectStatusModel.h"
 #include "recorders/detect/SearchListModel.h"
-#include "simulators/SimulatorThread.h"
-#include "tests/Await.h"
+#include "tests/support/RecorderStation.h"
 
 #include <QElapsedTimer>
-#include <gmock/gmock.h>
 
 using namespace Qt::StringLiterals;
 using simulators::DeviceDescription;
-using simulators::Family;
-using simulators::FaultKind;
-using simulators::Site;
-using simulators::SiteDescription;
 using State = DetectStatus::State;
 
 namespace {
 
-// A site of recorders in a thread, and the station's side that detects them.
-class Detecting : public ::testing::Test
+class Detecting : public RecorderStation
 {
 protected:
-    Detecting()
-        : recorders(std::make_unique<RecorderSet>())
-    {
-    }
-
-    void start(std::vector<DeviceDescription> devices)
-    {
-        SiteDescription description;
-        description.port = 0;
-        description.discovery = false;
-        description.devices = std::move(devices);
-        site = std::make_unique<simulators::SimulatorThread>(description);
-        site->call([this](Site& running) {
-            for (int i = 0; i < running.count(); ++i)
-                where.push_back({running.device(i).address().toString(), running.device(i).port()});
-        });
-    }
-
-    NVRDetectItem item(std::size_t device, const QString& user = u"admin"_s, const QString& password = u"admin"_s)
-    {
-        NVRDetectItem made;
-        made.sName = u"Recorder"_s;
-        made.sIP = where.at(device).first;
-        made.iPort = where.at(device).second;
-        made.sUser = user;
-        made.sPassword = password;
-        return made;
-    }
-
     // The number of the last message.
     int detect(const NVRDetectItem& wanted, DetectMode mode = DetectMode::Add)
     {
         DetectStatus last;
         const auto tell = [&](const DetectStatus& status) { last = status; };
-        const bool done = Await(DetectNVR({com, *recorders, accounts, events}, wanted, tell, work, mode));
+        const bool done = Await(DetectNVR(context(), wanted, tell, work, mode));
         EXPECT_EQ(done, last.state == State::Done);
         return last.message;
     }
-
-    Form_COM com;
-    std::unique_ptr<RecorderSet> recorders;
-    std::vector<NVRAccountRecord> accounts{{}};
-    Work work;
-    RecorderEvents events;
-    std::unique_ptr<simulators::SimulatorThread> site;
-    std::vector<std::pair<QString, int>> where;
 };
-
-DeviceDescription Recorder(Family family, int channels, int cameras)
-{
-    DeviceDescription device;
-    device.family = family;
-    device.channels = channels;
-    device.cameras = cameras;
-    return device;
-}
 
 TEST_F(Detecting, EveryFamilyIsAddedWithItsCamerasAndSystemFacts)
 {
-    start({Recorder(Family::Txr632, 16, 7), Recorder(Family::OmluPro, 9, 4), Recorder(Family::Svr, 16, 12)});
+    startSite({Recorder(Family::Txr632, 16, 7), Recorder(Family::OmluPro, 9, 4), Recorder(Family::Svr, 16, 12)});
     const QString families[] = {kFamilyTXR632, kFamilyOmluPro, kFamilySVR};
     const int cameras[] = {7, 4, 12};
     for (std::size_t i = 0; i < 3; ++i) {
-        EXPECT_EQ(detect(item(i)), 297);
+        EXPECT_EQ(detect(item(static_cast<int>(i))), 297);
         const SVRRecord& record = recorders->SVRWorkList[i];
         EXPECT_EQ(record.sSVR_DeviceType, families[i]);
         EXPECT_EQ(record.iSVR_ValidCH, cameras[i]);
@@ -108,12 +55,12 @@ TEST_F(Detecting, EveryFamilyIsAddedWithItsCamerasAndSystemFacts)
 // One reply breaks off, in its head or in its body.
 TEST_F(Detecting, RepliesThatBreakOffCostTheirRecorderOrTheirValuesOnly)
 {
-    start({Recorder(Family::Svr, 3, 2), Recorder(Family::OmluPro, 4, 2), Recorder(Family::Txr632, 4, 2)});
+    startSite({Recorder(Family::Svr, 3, 2), Recorder(Family::OmluPro, 4, 2), Recorder(Family::Txr632, 4, 2)});
     // Of an older recorder with two cameras the parameter groups come as device, image, ptz; device, image, ptz;
     // device; system.
     const struct
     {
-        std::size_t device;
+        int device;
         QByteArray path;
         int command;
         int skip;
@@ -147,14 +94,12 @@ TEST_F(Detecting, RepliesThatBreakOffCostTheirRecorderOrTheirValuesOnly)
             fault.cmd = c.command;
             fault.skip = c.skip;
             fault.count = 1;
-            site->call([&](Site& running) { running.device(static_cast<int>(c.device)).addFault(fault); });
+            onlyFault(c.device, fault);
             EXPECT_EQ(detect(item(c.device)), c.message);
             EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), c.message == 297 ? 1 : 0);
             EXPECT_EQ(CameraCount(recorders->SVRWorkList[0]), c.message == 297 ? 2 : 0);
-            const std::size_t next = (c.device + 1) % 3;
-            EXPECT_EQ(detect(item(next)), 297) << "the others go on";
+            EXPECT_EQ(detect(item((c.device + 1) % 3)), 297) << "the others go on";
             *recorders = RecorderSet();
-            site->call([&](Site& running) { running.device(static_cast<int>(c.device)).clearFaults(); });
         }
     }
     // A document that ends in its middle though its page is whole, one with a bad channel behind a good one, and one of
@@ -164,9 +109,7 @@ TEST_F(Detecting, RepliesThatBreakOffCostTheirRecorderOrTheirValuesOnly)
                                 good + "<CH ID=\"2\"><HTTPPort>x</HTTPPort></CH></CHList></RESPONSE>",
                                 good + QByteArray("<CH ID=\"2\"></CH>").repeated(200'000) + "</CHList></RESPONSE>"};
     for (const QByteArray& text : texts) {
-        site->call([&](Site& running) {
-            running.device(1).addFault({FaultKind::Body, 0, "/cmd.cgi", 24582, text, 0, 1});
-        });
+        onlyFault(1, {FaultKind::Body, 0, "/cmd.cgi", 24582, text, 0, 1});
         EXPECT_EQ(detect(item(1)), 7);
     }
     EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
@@ -174,7 +117,7 @@ TEST_F(Detecting, RepliesThatBreakOffCostTheirRecorderOrTheirValuesOnly)
 
 TEST_F(Detecting, OlderRecorderGivesPictureMovementAndOnvifValues)
 {
-    start({Recorder(Family::Svr, 16, 8)});
+    startSite({Recorder(Family::Svr, 16, 8)});
     ASSERT_EQ(detect(item(0)), 297);
     const SVRRecord& record = recorders->SVRWorkList[0];
     EXPECT_EQ(record.channels[3].sSub_CH_Name, u"正門"_s); // escaped on the wire
@@ -192,8 +135,8 @@ TEST_F(Detecting, EachFaultHasItsMessageAndLeavesTheSlotFree)
     DeviceDescription decoder = Recorder(Family::Svd, 16, 4);
     DeviceDescription foreign = Recorder(Family::Txr632, 16, 4);
     foreign.cmsSupport = false;
-    start({Recorder(Family::Txr632, 16, 4), Recorder(Family::Svr, 16, 4), decoder, foreign, Recorder(Family::Svr, 8, 0),
-           Recorder(Family::OmluPro, 8, 0)});
+    startSite({Recorder(Family::Txr632, 16, 4), Recorder(Family::Svr, 16, 4), decoder, foreign,
+               Recorder(Family::Svr, 8, 0), Recorder(Family::OmluPro, 8, 0)});
     NVRDetectItem nowhere = item(0);
     nowhere.sIP = u"127.0.0.250"_s;
     nowhere.iPort = 9;
@@ -219,7 +162,7 @@ TEST_F(Detecting, EachFaultHasItsMessageAndLeavesTheSlotFree)
 
 TEST_F(Detecting, AccountsAreTriedInOrderWhenNoLoginIsGiven)
 {
-    start({Recorder(Family::Svr, 8, 2)});
+    startSite({Recorder(Family::Svr, 8, 2)});
     accounts = {{0, u"other"_s, u"x"_s}, {1, u"admin"_s, u"admin"_s}, {2, u"viewer"_s, u"viewer"_s}};
     EXPECT_EQ(detect(item(0, {}, {})), 297);
     EXPECT_EQ(recorders->SVRWorkList[0].sSVR_UserName, u"admin"_s);
@@ -227,7 +170,7 @@ TEST_F(Detecting, AccountsAreTriedInOrderWhenNoLoginIsGiven)
 
 TEST_F(Detecting, ChannelLimitCountsWhatTheStationHasAlready)
 {
-    start({Recorder(Family::Svr, 8, 8)});
+    startSite({Recorder(Family::Svr, 8, 8)});
     for (std::size_t slot = 0; slot < 4; ++slot) {
         recorders->SVRWorkList[slot].sSVR_IP = u"10.0.0.%1"_s.arg(slot);
         for (SVRChannel& channel : recorders->SVRWorkList[slot].channels)
@@ -240,7 +183,7 @@ TEST_F(Detecting, ChannelLimitCountsWhatTheStationHasAlready)
 
 TEST_F(Detecting, NewDetectionKeepsWhatOnlyTheStationKnows)
 {
-    start({Recorder(Family::Svr, 8, 3)});
+    startSite({Recorder(Family::Svr, 8, 3)});
     ASSERT_EQ(detect(item(0)), 297);
     recorders->SVREdit = recorders->SVRWorkList[0];
     recorders->SVRProEdit = recorders->SVRProWorkList[0];
@@ -257,10 +200,10 @@ TEST_F(Detecting, NewDetectionKeepsWhatOnlyTheStationKnows)
 
 TEST_F(Detecting, NewDetectionKeepsWhatTheReplyDoesNotMention)
 {
-    start({Recorder(Family::OmluPro, 8, 3), Recorder(Family::Svr, 3, 3)});
+    startSite({Recorder(Family::OmluPro, 8, 3), Recorder(Family::Svr, 3, 3)});
     const struct
     {
-        std::size_t device;
+        int device;
         simulators::Fault channels;
         simulators::Fault system;
     } cases[] = {{0,
@@ -275,7 +218,7 @@ TEST_F(Detecting, NewDetectionKeepsWhatTheReplyDoesNotMention)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.device);
         ASSERT_EQ(detect(item(c.device)), 297);
-        const auto slot = c.device;
+        const auto slot = static_cast<std::size_t>(c.device);
         recorders->SVREdit = recorders->SVRWorkList[slot];
         recorders->SVRProEdit = recorders->SVRProWorkList[slot];
         recorders->SVREdit.iSVR_VideoPort = 7777;
@@ -290,10 +233,8 @@ TEST_F(Detecting, NewDetectionKeepsWhatTheReplyDoesNotMention)
             recorders->SVRProEdit.channels[channel].streams[2].sFMT = u"h264"_s;
             recorders->SVRProEdit.channels[channel].streams[2].sResolutionList = u"640x480"_s;
         }
-        site->call([&](Site& running) {
-            running.device(static_cast<int>(c.device)).addFault(c.channels);
-            running.device(static_cast<int>(c.device)).addFault(c.system);
-        });
+        fault(c.device, c.channels);
+        fault(c.device, c.system);
         NVRDetectItem again = item(c.device);
         again.iSlot = static_cast<qint16>(slot);
         ASSERT_EQ(detect(again, DetectMode::Modify), 833);
@@ -315,14 +256,14 @@ TEST_F(Detecting, NewDetectionKeepsWhatTheReplyDoesNotMention)
 
 TEST_F(Detecting, AddressesAndNamesAreStoredAsTheyAreCompared)
 {
-    start({Recorder(Family::Svr, 8, 2), Recorder(Family::Txr632, 8, 2)});
+    startSite({Recorder(Family::Svr, 8, 2), Recorder(Family::Txr632, 8, 2)});
     NVRDetectItem typed = item(0);
     typed.sIP = u"  "_s + typed.sIP + u' ';
     typed.sName = u" Front door with a name beyond the field "_s;
-    site->call([](Site& running) { running.device(0).channel(1).cameraEvents = 3; });
+    onDevice(0, [](simulators::Device& device) { device.channel(1).cameraEvents = 3; });
     EXPECT_EQ(detect(typed), 297);
     const SVRRecord& added = recorders->SVRWorkList[0];
-    EXPECT_EQ(added.sSVR_IP, where[0].first);
+    EXPECT_EQ(added.sSVR_IP, item(0).sIP);
     EXPECT_EQ(added.sSVR_Name, u"Front door with a name beyond t"_s);
     EXPECT_TRUE(added.channels[0].bSub_CH_Cam_MD_Enabled) << "as the recorder has it";
     EXPECT_FALSE(added.channels[1].bSub_CH_Cam_MD_Enabled);
@@ -331,7 +272,7 @@ TEST_F(Detecting, AddressesAndNamesAreStoredAsTheyAreCompared)
     NVRDetectItem nameless = item(1);
     nameless.sName = u" "_s;
     EXPECT_EQ(detect(nameless), 297);
-    EXPECT_EQ(recorders->SVRWorkList[1].sSVR_Name, where[1].first);
+    EXPECT_EQ(recorders->SVRWorkList[1].sSVR_Name, item(1).sIP);
     EXPECT_EQ(Await(ValidateManualNVR(u"x"_s, u" 10.0.0.3 "_s, u"80"_s, work)).message, 0);
     EXPECT_EQ(Await(ValidateManualNVR(u"x"_s, u" 127.0.0.1 "_s, u"80"_s, work)).message, 554);
     EXPECT_EQ(Await(ValidateManualNVR(u" "_s, u"10.0.0.3"_s, u"80"_s, work)).message, 553);
@@ -340,7 +281,7 @@ TEST_F(Detecting, AddressesAndNamesAreStoredAsTheyAreCompared)
 // Wrong logins that each take 20 seconds, and a recorder that falls silent while its channels are read.
 TEST_F(Detecting, StopEndsTheRunAtOnceAndChangesNothing)
 {
-    start({Recorder(Family::Svr, 64, 4)});
+    startSite({Recorder(Family::Svr, 64, 4)});
     accounts.assign(6, {});
     for (NVRAccountRecord& account : accounts)
         account.sUser = account.sPass = u"wrong"_s;
@@ -353,24 +294,14 @@ TEST_F(Detecting, StopEndsTheRunAtOnceAndChangesNothing)
                  {{FaultKind::Silent, 0, "/param.cgi"}, "/param.cgi", u"admin"_s}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.path.constData());
-        const auto count = [&] {
-            int requests = 0;
-            site->call([&](Site& running) { requests = running.device(0).requestCount(c.path); });
-            return requests;
-        };
-        site->call([&](Site& running) {
-            running.device(0).clearFaults();
-            running.device(0).addFault(c.fault);
-        });
+        onlyFault(0, c.fault);
         DetectStatus last;
         ASSERT_TRUE(work.start([&]() -> QCoro::Task<> {
             const auto tell = [&](const DetectStatus& status) { last = status; };
-            const DetectContext context{com, *recorders, accounts, events};
-            QCoro::Task<bool> detection = DetectNVR(context, item(0, c.user, c.user), tell, work);
+            QCoro::Task<bool> detection = DetectNVR(context(), item(0, c.user, c.user), tell, work);
             co_await detection;
         }));
-        while (count() == 0)
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        ASSERT_TRUE(WaitUntil([&] { return requests(0, c.path) > 0; }, 10));
         QElapsedTimer time;
         time.start();
         work.stop();
@@ -378,7 +309,7 @@ TEST_F(Detecting, StopEndsTheRunAtOnceAndChangesNothing)
         EXPECT_FALSE(work.running());
         EXPECT_EQ(last.message, 963);
         EXPECT_EQ(com.http.open(), 0);
-        EXPECT_EQ(count(), 1);
+        EXPECT_EQ(requests(0, c.path), 1);
         EXPECT_EQ(OccupiedSlots(recorders->SVRWorkList), 0);
     }
 }
@@ -386,12 +317,11 @@ TEST_F(Detecting, StopEndsTheRunAtOnceAndChangesNothing)
 // The recorders of a list answer in the reverse of its order; what comes of them is as one after the other.
 TEST_F(Detecting, SideBySideChangesNothingButTheTime)
 {
-    std::vector<DeviceDescription> devices;
-    for (int i = 0; i < 7; ++i)
-        devices.push_back(i == 3 ? Recorder(Family::Svr, 4, 4) : Recorder(Family::Txr632, 64, 64));
-    start(devices);
+    std::vector<DeviceDescription> described(7, Recorder(Family::Txr632, 64, 64));
+    described[3] = Recorder(Family::Svr, 4, 4);
+    startSite(described);
     std::vector<NVRDetectItem> items;
-    for (std::size_t i = 0; i < devices.size(); ++i)
+    for (int i = 0; i < devices(); ++i)
         items.push_back(item(i));
     items.insert(items.begin() + 2, items[0]);        // a device that stands in the list before
     items.insert(items.begin() + 3, NVRDetectItem()); // passed over
@@ -407,13 +337,12 @@ TEST_F(Detecting, SideBySideChangesNothingButTheTime)
             if (status.state == State::Done)
                 filled << status.slot;
         };
-        const DetectContext context{com, *recorders, accounts, events};
         if (sideBySide)
-            Await(DetectList(context, items, tell, work));
+            Await(DetectList(context(), items, tell, work));
         for (std::size_t row = 0; row < items.size() && !sideBySide; ++row) {
             const auto tellRow = [&](const DetectStatus& status) { tell(row, status); };
             if (!items[row].sIP.isEmpty())
-                Await(DetectNVR(context, items[row], tellRow, work));
+                Await(DetectNVR(context(), items[row], tellRow, work));
         }
         for (const int slot : std::as_const(filled))
             told += QString::number(slot) + u':' +
@@ -425,10 +354,8 @@ TEST_F(Detecting, SideBySideChangesNothingButTheTime)
     EXPECT_EQ(wanted[2], u"78"_s);
     EXPECT_EQ(wanted[8], u"716(256)"_s);
     *recorders = *before;
-    site->call([](Site& running) {
-        for (int i = 0; i < running.count(); ++i)
-            running.device(i).addFault({FaultKind::Delay, 5 * (running.count() - i)});
-    });
+    for (int i = 0; i < devices(); ++i)
+        fault(i, {FaultKind::Delay, 5 * (devices() - i)});
     EXPECT_EQ(outcome(true), wanted);
 }
 

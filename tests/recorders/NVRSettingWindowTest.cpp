@@ -1,10 +1,7 @@
 #include "platform/Work.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/camera/ChannelListModel.h"
-#include "recorders/detect/NVRDetect.h"
-#include "simulators/SimulatorThread.h"
-#include "tests/Await.h"
-#include "tests/support/DeskFixture.h"
+#include "tests/support/SimulatedDesk.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -15,60 +12,22 @@
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
-using simulators::DeviceDescription;
-using simulators::Family;
-using simulators::Site;
+using simulators::Device;
 
 namespace {
 
-DeviceDescription Recorder(Family family, int channels, int cameras)
-{
-    DeviceDescription device;
-    device.family = family;
-    device.channels = channels;
-    device.cameras = cameras;
-    return device;
-}
-
-// The desk on its page of recorders, with simulated ones in its slots. Boxes are answered from a list.
-class NVRSettingWindow : public DeskFixture
+// The desk on its page of recorders.
+class NVRSettingWindow : public SimulatedDesk
 {
 protected:
-    void start(std::vector<DeviceDescription> devices)
+    void start(std::vector<simulators::DeviceDescription> devices)
     {
-        simulators::SiteDescription description;
-        description.port = 0;
-        description.discovery = false;
-        description.devices = std::move(devices);
-        site = std::make_unique<simulators::SimulatorThread>(description);
-        ASSERT_TRUE(DeskFixture::start());
-        Form_COM com;
-        Work work;
-        for (int slot = 0; slot < static_cast<int>(description.devices.size()); ++slot) {
-            NVRDetectItem item;
-            item.iSlot = static_cast<qint16>(slot);
-            item.sName = u"Recorder %1"_s.arg(slot + 1);
-            item.sUser = item.sPassword = u"admin"_s;
-            site->call([&](Site& running) {
-                item.sIP = running.device(slot).address().toString();
-                item.iPort = running.device(slot).port();
-            });
-            ASSERT_TRUE(Await(DetectNVR(
-                {com, recorders(), station->accounts, station->events}, item, [](const DetectStatus&) {}, work)));
-        }
-        SaveCheck(*station);
+        ASSERT_NO_FATAL_FAILURE(SimulatedDesk::start(std::move(devices)));
         step(u"lbMenu_1"_s, [] { Driver::click(u"lbMenu_1"_s); });
     }
     void openRecorder(int slot)
     {
         step(u"Grid_SVRsList"_s, [slot] { Driver::clickCell(u"Grid_SVRsList"_s, slot, NVRListModel::Edit); });
-    }
-    RecorderSet& recorders() { return station->recorders; }
-    simulators::Camera camera(int device, int channel)
-    {
-        simulators::Camera found;
-        site->call([&](Site& running) { found = running.device(device).channel(channel).camera; });
-        return found;
     }
     void waitClosed() { DeskFixture::waitClosed(u"Form_NVRSetting"_s); }
     void runToEnd()
@@ -99,8 +58,6 @@ protected:
             QTest::keyClick(box, Qt::Key_Down);
         EXPECT_EQ(box->currentText(), entry);
     }
-
-    std::unique_ptr<simulators::SimulatorThread> site;
 };
 
 TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
@@ -110,9 +67,9 @@ TEST_F(NVRSettingWindow, RenamedAndDetectedAnewUntilApplyWritesIt)
     step(u"lbModifyApply_0"_s, [this] {
         Driver::picture(u"detail"_s);
         EXPECT_EQ(rows(u"Grid_ChannelList"_s), 64);
-        site->call([](Site& running) {
-            running.device(0).channel(41).camera = simulators::exampleCamera(1, Family::Svr);
-            running.device(0).channel(2).cameraEvents = 2;
+        onDevice(0, [](Device& device) {
+            device.channel(41).camera = simulators::exampleCamera(1, Family::Svr);
+            device.channel(2).cameraEvents = 2;
         });
         Driver::type(u"TextNVRDetail_0"_s, u"Harbour"_s);
         Driver::type(u"TextNVRDetail_3"_s, u"nobody"_s);
@@ -147,10 +104,8 @@ TEST_F(NVRSettingWindow, StopEndsADetectionAndLeavesTheRecorderAsItWas)
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 64, 3)}));
     openRecorder(0);
     step(u"lbNVRDetect"_s, [this] {
-        site->call([](Site& running) {
-            running.device(0).channel(3).camera.ip = u"10.9.9.9"_s;
-            running.device(0).addFault({simulators::FaultKind::Delay, 60, "/param.cgi"});
-        });
+        onDevice(0, [](Device& device) { device.channel(3).camera.ip = u"10.9.9.9"_s; });
+        fault(0, {FaultKind::Delay, 60, "/param.cgi"});
         Driver::click(u"lbNVRDetect"_s);
         EXPECT_EQ(recorders().SVREdit.channels[2].sSub_CH_IP, u"192.168.10.23"_s);
         Driver::click(u"lbModifyApply_0"_s);
@@ -186,8 +141,7 @@ TEST_F(NVRSettingWindow, SearchedCameraIsWrittenAndStaysAfterCancel)
     });
     step(u"Grid_CamSearchList"_s, [this] {
         Driver::picture(u"camera-search"_s);
-        site->call(
-            [](Site& running) { running.device(0).state().network.erase(running.device(0).state().network.begin()); });
+        onDevice(0, [](Device& device) { device.state().network.erase(device.state().network.begin()); });
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 7);
         Driver::press(u"Grid_CamSearchList"_s, Qt::Key_F5);
         EXPECT_EQ(rows(u"Grid_CamSearchList"_s), 6);
@@ -326,16 +280,14 @@ TEST_F(NVRSettingWindow, CameraPageRefusesWhatCannotBeWritten)
     step(u"txtCam_1"_s, [this] {
         Driver::type(u"txtCam_1"_s, u"192.168.10.124"_s); // of a make the recorder does not know
         Driver::click(u"lbCamModifyApply_0"_s);           // 616
-        site->call([](Site& running) {
-            running.device(0).addFault({simulators::FaultKind::Delay, 200, "/system/detectcam.cgi"});
-        });
+        fault(0, {FaultKind::Delay, 200, "/system/detectcam.cgi"});
         Driver::click(u"lbCamDetect"_s); // 608
         EXPECT_FALSE(Driver::find(u"cmbFormat"_s)) << "a failed detection leaves nothing to choose";
         Driver::picture(u"camera-refused"_s);
         Driver::type(u"txtCam_0"_s, {});
         Driver::click(u"lbCamDetect"_s); // 603
         EXPECT_TRUE(Driver::find(u"txtCam_0"_s)->hasFocus());
-        site->call([](Site& running) { running.device(0).state().network.clear(); });
+        onDevice(0, [](Device& device) { device.state().network.clear(); });
         Driver::click(u"lbCamSearch"_s);
     });
     driver.add(
@@ -476,9 +428,9 @@ TEST_F(NVRSettingWindow, RowsWithNothingToOfferTakeNoPlaceAndEveryControlIsNamed
 TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
 {
     ASSERT_NO_FATAL_FAILURE(start({Recorder(Family::Svr, 64, 40), Recorder(Family::Txr632, 8, 3)}));
-    site->call([](Site& running) {
-        running.device(0).channel(1).cameraEvents = 1;
-        running.device(0).state().refusedEventChannels = {3};
+    onDevice(0, [](Device& device) {
+        device.channel(1).cameraEvents = 1;
+        device.state().refusedEventChannels = {3};
     });
     recorders().SVRWorkList[0].channels[0].bSub_CH_Cam_MD_Enabled = true;
     const auto toggle = [](int row) {
@@ -520,10 +472,8 @@ TEST_F(NVRSettingWindow, CameraEventsAreSwitchedOnTheRecorderWithApply)
     ASSERT_EQ(boxes.size(), 2);
     EXPECT_EQ(boxes[1], GetLangString(834) + u" SVR:1 CH: 3"_s);
     QList<int> events;
-    site->call([&](Site& running) {
-        for (int n = 1; n <= 5; ++n)
-            events << running.device(0).channel(n).cameraEvents;
-    });
+    for (int n = 1; n <= 5; ++n)
+        events << onDevice(0, [n](Device& device) { return device.channel(n).cameraEvents; });
     EXPECT_EQ(events, (QList<int>{1, 3, 0, 3, 0}));
     EXPECT_EQ(
         row(u"SELECT group_concat(iSVR_Num||'.'||iSub_Channel) FROM SVR WHERE bSub_CH_Cam_MD_Enabled<>0"_s).toString(),

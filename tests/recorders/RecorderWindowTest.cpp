@@ -2,16 +2,14 @@
 #include "look/tables/StatusRoles.h"
 #include "look/widgets/ActionBar.h"
 #include "look/widgets/StepStrip.h"
-#include "platform/Closing.h"
 #include "platform/Work.h"
 #include "recorders/detect/DetectStatusModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "recorders/ui/NVRPage.h"
-#include "simulators/SimulatorThread.h"
 #include "support/Conversions.h"
-#include "tests/TestMain.h"
 #include "tests/support/BoxAnswers.h"
-#include "tests/walkthrough/Driver.h"
+#include "tests/support/RecorderStation.h"
+#include "tests/support/WindowSteps.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
@@ -23,13 +21,9 @@
 #include <QSignalSpy>
 #include <QTableView>
 #include <QTest>
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using simulators::DeviceDescription;
-using simulators::Family;
-using simulators::FaultKind;
-using simulators::Site;
 
 namespace {
 
@@ -37,61 +31,31 @@ namespace {
 const QString kNetwork = simulators::ownNetwork();
 
 // Recorders in a thread, and the desk's windows over them.
-class RecorderWindows : public ::testing::Test, protected BoxAnswers
+class RecorderWindows : public RecorderStation, protected BoxAnswers
 {
 protected:
-    RecorderWindows() { SetLanguage(1); }
-
-    void startSite(const std::vector<Family>& families, bool discovery = false)
+    RecorderWindows()
     {
-        simulators::SiteDescription description;
-        description.port = 0;
-        description.baseAddress = kNetwork + u'1';
-        description.discovery = discovery;
-        for (const Family family : families) {
-            DeviceDescription device;
-            device.family = family;
-            device.name = u"Recorder %1"_s.arg(description.devices.size() + 1);
-            device.name.resize(std::max<qsizetype>(device.name.size(), nameLength), u'x');
-            device.channels = 4;
-            device.cameras = 3;
-            if (ownLogin == static_cast<int>(description.devices.size()))
-                device.accounts = {{u"chief"_s, u"other"_s}};
-            description.devices.push_back(device);
-        }
-        site = std::make_unique<simulators::SimulatorThread>(description);
+        SetLanguage(1);
+        accounts = {{0, u"admin"_s, u"admin"_s}};
+    }
+
+    // Recorders with three cameras each.
+    void startSite(const std::vector<Family>& families, bool searched = false)
+    {
+        std::vector<DeviceDescription> all;
+        for (const Family family : families)
+            all.push_back(Recorder(family, 4, 3));
+        SimulatedSite::startSite(all, searched);
     }
     // The site's recorder in a slot of both generations.
     void store(int slot, int device)
     {
         SVRRecord& record = At(recorders->SVRList, slot);
         record.sSVR_Name = u"Name %1"_s.arg(slot);
-        site->call([&](Site& running) {
-            record.sSVR_IP = running.device(device).address().toString();
-            record.iSVR_HttpPort = running.device(device).port();
-        });
-        record.sSVR_UserName = record.sSVR_Password = u"admin"_s;
+        place(record, device);
         At(recorders->SVRWorkList, slot) = record;
     }
-    void fault(int device, const simulators::Fault& wanted)
-    {
-        site->call([&](Site& running) { running.device(device).addFault(wanted); });
-    }
-    int requests(int device, const QByteArray& path)
-    {
-        int count = 0;
-        site->call([&](Site& running) { count = running.device(device).requestCount(path); });
-        return count;
-    }
-
-    int ownLogin = -1;        // the device that takes chief/other instead of admin/admin
-    qsizetype nameLength = 0; // of the devices' names, at least
-    std::unique_ptr<simulators::SimulatorThread> site;
-    std::unique_ptr<RecorderSet> recorders = std::make_unique<RecorderSet>();
-    std::vector<NVRAccountRecord> accounts{{0, u"admin"_s, u"admin"_s}};
-    Form_COM com;
-    RecorderEvents events;
-    TemporaryStation station;
 };
 
 // The text of a column by the recorder's slot, whatever the order of the rows.
@@ -175,61 +139,53 @@ TEST_F(RecorderWindows, TheListSaysHowEachRecorderAnswers)
 }
 
 // The wizard, its steps done by a driver while it is open.
-class WizardWindow : public RecorderWindows
+class WizardWindow : public RecorderWindows, protected WindowSteps
 {
 protected:
     // What the wizard's rows say at its end.
     QStringList run()
     {
-        Form_NVRSetting wizard({com, *recorders, accounts, events}, {[this] { ++finished; }, [this] { ++discarded; }},
-                               nullptr);
+        Form_NVRSetting wizard(context(), {[this] { ++finished; }, [this] { ++discarded; }}, nullptr);
         QStringList rows;
         QObject::connect(&wizard, &QDialog::finished, &wizard, [&] {
             auto* grid = wizard.findChild<QTableView*>(u"Grid_DetectStatus"_s);
             for (int row = 0; row < grid->model()->rowCount(); ++row)
                 rows << grid->model()->index(row, DetectStatusModel::Status).data().toString();
         });
-        driver.add(
-            u"closed"_s, [] { return !QApplication::activeModalWidget(); }, [] {});
+        waitClosed(u"Form_NVRSetting"_s);
         QTimer::singleShot(0, &wizard, [&] { wizard.exec(); });
         driver.run(15000);
         return rows;
     }
-    void step(const QString& name, const QString& widget, std::function<void()> act)
-    {
-        driver.add(
-            name,
-            [widget] {
-                return Driver::usable(widget) && QApplication::activeWindow() == QApplication::activeModalWidget();
-            },
-            std::move(act));
-    }
     void search()
     {
-        step(u"choice"_s, u"OptMode_0"_s, [] {
+        step(u"OptMode_0"_s, [] {
             QTest::keyClick(Driver::find(u"OptMode_0"_s), Qt::Key_Space);
             QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
         });
     }
-    static void enter(const QString& widget) { QTest::keyClick(Driver::find(widget), Qt::Key_Return); }
+    static void enter(const QString& widget) { press(widget, Qt::Key_Return); }
     static QString note() { return QApplication::activeModalWidget()->findChild<ActionBar*>()->noteLabel()->text(); }
     static QString spokenStep() { return QApplication::activeModalWidget()->findChild<StepStrip*>()->accessibleName(); }
     static QAbstractItemModel* list() { return Driver::find<QTableView>(u"Grid_SearchList"_s)->model(); }
 
-    Driver driver;
     int finished = 0;
     int discarded = 0;
 };
 
 TEST_F(WizardWindow, FoundRecordersAreAddedTheFailedOnesWithAnotherLogin)
 {
-    nameLength = 40;
-    ownLogin = 2;
-    startSite({Family::Svr, Family::Txr632, Family::OmluPro, Family::Svd, Family::Svr}, true);
+    std::vector<DeviceDescription> all;
+    for (const Family family : {Family::Svr, Family::Txr632, Family::OmluPro, Family::Svd, Family::Svr})
+        all.push_back(Recorder(family, 4, 3));
+    for (std::size_t i = 0; i < all.size(); ++i)
+        all[i].name = u"Recorder %1"_s.arg(i + 1).leftJustified(40, u'x');
+    all[2].accounts = {{u"chief"_s, u"other"_s}};
+    SimulatedSite::startSite(all, true);
     store(2, 4);
     accounts = {{0, u"root"_s, u"unknown"_s}}; // what is typed counts, not the known accounts
     search();
-    step(u"found"_s, u"lbSearch"_s, [] { // usable again: the search is over
+    step(u"lbSearch"_s, [] { // usable again: the search is over
         Driver::type(u"txtSearchFilter"_s, kNetwork);
         EXPECT_EQ(list()->rowCount(), 4) << "the decoder is left out";
         for (int row = 0; row < 4; ++row)
@@ -242,7 +198,7 @@ TEST_F(WizardWindow, FoundRecordersAreAddedTheFailedOnesWithAnotherLogin)
         enter(u"Text_Manual_4"_s);
         EXPECT_EQ(list()->rowCount(), 4) << "what was found is still there";
     });
-    step(u"told"_s, u"Chk_SelectAll"_s, [this] {
+    step(u"Chk_SelectAll"_s, [this] {
         EXPECT_EQ(boxes, QStringList{GetLangString(832)});
         EXPECT_TRUE(Driver::find(u"Grid_SearchList"_s)->hasFocus());
         QTest::keyClick(Driver::find(u"Grid_SearchList"_s), Qt::Key_Space); // checks the row
@@ -251,14 +207,14 @@ TEST_F(WizardWindow, FoundRecordersAreAddedTheFailedOnesWithAnotherLogin)
         QTest::keyClick(Driver::find(u"Chk_SelectAll"_s), Qt::Key_Space);
         Driver::click(u"lbNext_1"_s);
     });
-    step(u"one failed"_s, u"lbRetry"_s, [this] {
+    step(u"lbRetry"_s, [this] {
         EXPECT_EQ(note(), GetLangString(1031).arg(2).arg(3).arg(1));
         EXPECT_TRUE(Driver::find(u"txtRetryUser"_s)->hasFocus());
         Driver::type(u"txtRetryUser"_s, u"chief"_s);
         Driver::type(u"txtRetryPassword"_s, u"other"_s);
         enter(u"txtRetryPassword"_s);
     });
-    step(u"added"_s, u"lbNext_2"_s, [this] {
+    step(u"lbNext_2"_s, [this] {
         EXPECT_EQ(note(), GetLangString(1030).arg(3).arg(3));
         EXPECT_FALSE(Driver::find(u"lbRetry"_s));
         Driver::click(u"lbBack"_s);
@@ -283,29 +239,24 @@ TEST_F(WizardWindow, TypedRecorderIsAskedAboutBeforeItIsDoubledOrLost)
 {
     startSite({Family::Svr, Family::Svr});
     store(0, 1);
-    QString address;
-    int port = 0;
-    site->call([&](Site& running) {
-        address = running.device(0).address().toString();
-        port = running.device(0).port();
-    });
+    const NVRDetectItem typed = item(0);
     const auto escape = [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); };
-    step(u"choice"_s, u"Text_Manual_0"_s, [&, escape] {
+    step(u"Text_Manual_0"_s, [&, escape] {
         EXPECT_TRUE(spokenStep().startsWith(u"1/2"_s)) << "who types does not search";
         Driver::type(u"Text_Manual_0"_s, u" Name 0 "_s);
         escape(); // No: stays
         enter(u"Text_Manual_0"_s);
         EXPECT_TRUE(Driver::find(u"Text_Manual_1"_s)->hasFocus());
         EXPECT_TRUE(Driver::find(u"Text_Manual_1"_s)->property("faulty").toBool());
-        Driver::type(u"Text_Manual_1"_s, u' ' + address + u' ');
+        Driver::type(u"Text_Manual_1"_s, u' ' + typed.sIP + u' ');
         EXPECT_FALSE(Driver::find(u"Text_Manual_1"_s)->property("faulty").toBool());
-        Driver::type(u"Text_Manual_2"_s, QString::number(port));
+        Driver::type(u"Text_Manual_2"_s, QString::number(typed.iPort));
         enter(u"Text_Manual_2"_s); // doubled, No
         EXPECT_TRUE(Driver::find(u"Text_Manual_0"_s)->hasFocus());
         answers = {MsgResult::Yes};
         enter(u"Text_Manual_0"_s);
     });
-    step(u"added"_s, u"lbNext_2"_s, [&, escape] {
+    step(u"lbNext_2"_s, [&, escape] {
         EXPECT_TRUE(spokenStep().startsWith(u"2/2"_s));
         answers = {MsgResult::Cancel, MsgResult::No};
         escape();
@@ -321,7 +272,7 @@ TEST_F(WizardWindow, TypedRecorderIsAskedAboutBeforeItIsDoubledOrLost)
                   .toStdString());
     EXPECT_EQ(finished, 0);
     EXPECT_EQ(discarded, 1);
-    EXPECT_EQ(recorders->SVRWorkList[1].sSVR_IP, address);
+    EXPECT_EQ(recorders->SVRWorkList[1].sSVR_IP, typed.sIP);
 }
 
 // One click means one step, also when the hand clicks twice.
@@ -329,7 +280,7 @@ TEST_F(WizardWindow, SecondHalfOfADoubleClickReachesNoFrame)
 {
     const int interval = QApplication::doubleClickInterval();
     QApplication::setDoubleClickInterval(100000);
-    step(u"choice"_s, u"OptMode_0"_s, [this] {
+    step(u"OptMode_0"_s, [this] {
         QTest::keyClick(Driver::find(u"OptMode_0"_s), Qt::Key_Space);
         Driver::click(u"lbNext_0"_s);
         Driver::click(u"lbNext_1"_s); // the same button, the same place
@@ -349,7 +300,7 @@ TEST_F(WizardWindow, SecondHalfOfADoubleClickReachesNoFrame)
 TEST_F(WizardWindow, ASearchWithoutAnswerSaysSoAndCanBeGivenUp)
 {
     search();
-    step(u"nothing"_s, u"lbSearch"_s, [] {
+    step(u"lbSearch"_s, [] {
         Driver::type(u"txtSearchFilter"_s, kNetwork);
         EXPECT_EQ(list()->rowCount(), 0);
         Driver::type(u"txtSearchFilter"_s, {});
@@ -364,7 +315,7 @@ TEST_F(WizardWindow, EscapeStopsADetectionEvenInTheMiddleOfARequest)
     startSite({Family::Svr, Family::Svr, Family::Svr}, true);
     fault(1, {FaultKind::Silent, 0, "/login.cgi"});
     search();
-    step(u"found"_s, u"lbSearch"_s, [] {
+    step(u"lbSearch"_s, [] {
         Driver::type(u"txtSearchFilter"_s, kNetwork);
         QTest::keyClick(Driver::find(u"Chk_SelectAll"_s), Qt::Key_Space);
         Driver::click(u"lbNext_1"_s);
@@ -375,7 +326,10 @@ TEST_F(WizardWindow, EscapeStopsADetectionEvenInTheMiddleOfARequest)
             EXPECT_FALSE(Driver::find(u"lbNext_2"_s)->isEnabled());
             QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
         });
-    step(u"stopped"_s, u"lbNext_2"_s, [] { QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape); }); // No
+    step(u"lbNext_2"_s, [this] {
+        answers = {MsgResult::No}; // what was added before the stop is given up
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
     QElapsedTimer time;
     time.start();
     QStringList rows = run();

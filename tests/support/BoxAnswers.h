@@ -5,8 +5,8 @@
 #include <QList>
 #include <QStringList>
 
-// Keeps what the desk's boxes say and answers them from a list: when it is empty, questions with No and notices with
-// Ok.
+// Keeps what the desk's boxes say and answers them from a list; when it is empty with what changes nothing: Cancel
+// where the box has one, else No, and Ok where there is nothing to choose.
 class BoxAnswers
 {
 protected:
@@ -16,14 +16,16 @@ protected:
             boxes << text;
             styles << style;
             titles << title;
-            if (answers.isEmpty())
-                return (style & kQuestionIcon) != 0 ? MsgResult::No : MsgResult::Ok;
-            return answers.takeFirst();
+            if (!answers.isEmpty())
+                return answers.takeFirst();
+            const qint32 buttons = style & kButtons;
+            return buttons == kYesNo ? MsgResult::No : buttons == 0 ? MsgResult::Ok : MsgResult::Cancel;
         });
     }
     ~BoxAnswers() { SetMsgBoxHandler(nullptr); }
 
-    static constexpr qint32 kQuestionIcon = 32; // of a style
+    static constexpr qint32 kButtons = 7; // of a style: 0 Ok, 3 Yes, No and Cancel, 4 Yes and No
+    static constexpr qint32 kYesNo = 4;
     QStringList boxes;
     QList<qint32> styles;
     QStringList titles;

@@ -8,14 +8,11 @@
 #include "platform/FileChooser.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/support/BoxAnswers.h"
-#include "tests/walkthrough/Driver.h"
-
-#include <QApplication>
-#include <QTest>
+#include "tests/support/WindowSteps.h"
 
 // The desk with its real main window over a station of its own, in English or the language of DESK_LANGUAGE. Boxes are
-// answered from a list. Steps for the driver wait until the widget of that name can be used.
-class DeskFixture : public StoreFixture, protected BoxAnswers
+// answered from a list.
+class DeskFixture : public StoreFixture, protected BoxAnswers, protected WindowSteps
 {
 protected:
     DeskFixture()
@@ -58,20 +55,6 @@ protected:
         return QTest::qWaitForWindowExposed(desk.get());
     }
 
-    void step(const QString& name, std::function<void()> act)
-    {
-        const auto ready = [name] {
-            QWidget* modal = QApplication::activeModalWidget();
-            return Driver::usable(name) && (!modal || modal == QApplication::activeWindow());
-        };
-        driver.add(name, ready, std::move(act));
-    }
-    void waitClosed(const QString& dialog)
-    {
-        driver.add(
-            dialog + QStringLiteral(" closed"), [dialog] { return !Driver::find(dialog); }, [] {});
-    }
-    static void press(const QString& name, Qt::Key key) { QTest::keyClick(Driver::find(name), key); }
     // The first value of a statement over the running desk's database.
     QVariant row(const QString& sql)
     {
@@ -81,5 +64,4 @@ protected:
 
     std::unique_ptr<Station> station;
     std::unique_ptr<Form_Initial> desk;
-    Driver driver;
 };

@@ -13,10 +13,9 @@
 #include "platform/MsgBox.h"
 #include "recorders/camera/ChannelListModel.h"
 #include "recorders/ui/Form_NVRSetting.h"
-#include "simulators/SimulatorThread.h"
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
-#include "tests/Await.h"
+#include "tests/support/SimulatedSite.h"
 #include "tests/walkthrough/WindowTour.h"
 #include "users/ui/Form_AccountEdit.h"
 #include "users/ui/Form_GroupPrivilege.h"
@@ -152,20 +151,10 @@ void Visitor::wizard()
 // A recorder that answers, so that its pages have what a device tells of itself.
 void Visitor::recorder()
 {
-    simulators::DeviceDescription description;
-    description.family = simulators::Family::Txr632;
-    simulators::SiteDescription place;
-    place.port = 0;
-    place.discovery = false;
-    place.devices = {description};
-    simulators::SimulatorThread site(place);
-    NVRDetectItem item;
+    SimulatedSite site;
+    site.startSite({Recorder(simulators::Family::Txr632, 16, 8)});
+    NVRDetectItem item = site.item(0);
     item.sName = u"Gatehouse"_s;
-    item.sUser = item.sPassword = u"admin"_s;
-    site.call([&](simulators::Site& running) {
-        item.sIP = running.device(0).address().toString();
-        item.iPort = running.device(0).port();
-    });
     const DetectContext context{m_com, m_station.recorders, m_station.accounts, m_station.events};
     Work work;
     if (!Await(DetectNVR(

@@ -1,12 +1,11 @@
 #include "app/language/Languages.h"
-#include "simulators/SimulatorThread.h"
 #include "store/Databases.h"
+#include "tests/support/SimulatedSite.h"
 #include "tests/walkthrough/DeskRun.h"
 
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
-using simulators::Site;
 
 namespace {
 
@@ -47,7 +46,7 @@ void AddRecorder(DeskRun& desk, const QString& address, int port)
 }
 
 // Compares the rows with what the recorder itself says, and prints them.
-void CheckRows(const QString& address, int port, simulators::SimulatorThread& site)
+void CheckRows(const QString& address, int port, SimulatedSite& site)
 {
     const QStringView file = kDatabaseFile;
     QStringList columns;
@@ -57,8 +56,7 @@ void CheckRows(const QString& address, int port, simulators::SimulatorThread& si
     for (const QStringList& row : rows) {
         const auto value = [&](const QString& column) { return row.at(columns.indexOf(column)); };
         const int channel = value(u"iSub_Channel"_s).toInt();
-        simulators::Camera camera;
-        site.call([&](Site& running) { camera = running.device(0).channel(channel).camera; });
+        const simulators::Camera camera = site.camera(0, channel);
         Expect(value(u"sSVR_IP"_s) == address && value(u"iSVR_HttpPort"_s).toInt() == port,
                u"a row has another address"_s);
         Expect(value(u"sSub_CH_Name"_s) == camera.name,
@@ -68,10 +66,8 @@ void CheckRows(const QString& address, int port, simulators::SimulatorThread& si
         for (qsizetype i = 0; i < columns.size(); ++i)
             Print(u"  %1 = %2"_s.arg(columns[i], -28).arg(row[i]));
     }
-    qsizetype cameras = 0;
-    site.call([&](Site& running) {
-        for (const simulators::Channel& channel : running.device(0).state().channels)
-            cameras += channel.camera.ip.isEmpty() ? 0 : 1;
+    const auto cameras = site.onDevice(0, [](simulators::Device& device) {
+        return std::ranges::count_if(device.state().channels, [](const auto& one) { return !one.camera.ip.isEmpty(); });
     });
     Expect(rows.size() == cameras && cameras > 0, u"%1 rows for %2 cameras"_s.arg(rows.size()).arg(cameras));
     const QString rights = u"SELECT COUNT(*) FROM NVRPrivilege WHERE NVRID=1 AND CHPrivilege LIKE '1:15,15,%15'"_s;
@@ -107,20 +103,11 @@ void FindAgain(DeskRun& desk, const QString& address)
 
 void WalkOneRecorder(const QString& screenshots)
 {
-    simulators::SiteDescription description;
-    description.discovery = false;
-    description.port = 0;
-    simulators::DeviceDescription recorder;
-    recorder.channels = 16;
-    recorder.cameras = 6;
-    description.devices = {recorder};
-    simulators::SimulatorThread site(description);
-    int port = 0;
-    QString address;
-    site.call([&](Site& running) {
-        port = running.device(0).port();
-        address = running.device(0).address().toString();
-    });
+    SimulatedSite site;
+    site.startSite({Recorder(simulators::Family::Txr632, 16, 6)});
+    const NVRDetectItem recorder = site.item(0);
+    const QString& address = recorder.sIP;
+    const int port = recorder.iPort;
     {
         DeskRun desk(screenshots);
         AddRecorder(desk, address, port);

@@ -2,8 +2,8 @@
 #include "platform/Work.h"
 #include "recorders/NVRListModel.h"
 #include "recorders/detect/DetectStatusModel.h"
-#include "simulators/SimulatorThread.h"
 #include "store/Databases.h"
+#include "tests/support/SimulatedSite.h"
 #include "tests/walkthrough/DeskRun.h"
 
 #include <QTableView>
@@ -11,6 +11,7 @@
 #include <map>
 
 using namespace Qt::StringLiterals;
+using simulators::Device;
 using simulators::Family;
 using simulators::Site;
 
@@ -22,19 +23,15 @@ constexpr int kRemoved = 3;
 constexpr int kTunedChannel = 1; // from 0
 constexpr int kTuned = 3;        // recorders from the top of the list, one of each family
 
-simulators::SiteDescription MixedSite()
+std::vector<simulators::DeviceDescription> MixedSite()
 {
-    simulators::SiteDescription site;
-    site.baseAddress = kNetwork + u'1';
-    site.port = 0;
-    for (int i = 0; i < kMaxSVR; ++i) {
-        simulators::DeviceDescription device;
-        device.family = std::array{Family::Svr, Family::Txr632, Family::OmluPro}[static_cast<std::size_t>(i % 3)];
-        device.name = u"Building %1"_s.arg(i + 1);
-        device.channels = device.cameras = i % 4 == 3 ? 64 : 16; // 448 cameras: more than a station takes
-        site.devices.push_back(device);
+    constexpr std::array families{Family::Svr, Family::Txr632, Family::OmluPro};
+    std::vector<simulators::DeviceDescription> devices;
+    for (std::size_t i = 0; i < kMaxSVR; ++i) {
+        const int channels = i % 4 == 3 ? 64 : 16; // 448 cameras: more than a station takes
+        devices.push_back(Recorder(families[i % 3], channels, channels));
     }
-    return site;
+    return devices;
 }
 
 std::function<bool()> Usable(const QString& widget)
@@ -48,9 +45,9 @@ class WholeSite
 public:
     explicit WholeSite(const QString& screenshots)
         : m_screenshots(screenshots)
-        , m_site(MixedSite())
     {
-        m_site.call([this](Site& site) {
+        m_site.startSite(MixedSite(), true);
+        m_site.site->call([this](Site& site) {
             Expect(site.discoveryRunning(), u"the site cannot answer searches"_s);
             for (int i = 0; i < site.count(); ++i) {
                 m_devices[site.device(i).address().toString()] = i;
@@ -170,7 +167,7 @@ private:
             Expect(cell(DetectStatusModel::Channels).toInt() == camerasOf(device), u"another number of channels"_s);
         }
         Expect(refused > 0, u"the station took more cameras than it holds"_s);
-        m_site.call([](Site& site) {
+        m_site.site->call([](Site& site) {
             for (int i = 0; i < site.count(); ++i) {
                 for (const simulators::LoggedRequest& request : site.device(i).log())
                     Expect(request.status == 200 && !request.target.contains("action=set"),
@@ -200,10 +197,8 @@ private:
         answer(desk, 611, u"btnYes"_s);
         driver.add(u"written camera"_s, Usable(u"lbModifyApply_0"_s), [this, &desk, row, name] {
             const int device = m_slots.at(row + 1);
-            m_site.call([device, name](Site& site) {
-                Expect(site.device(device).channel(kTunedChannel + 1).camera.name == name,
-                       u"the recorder's camera is not called "_s + name);
-            });
+            Expect(m_site.camera(device, kTunedChannel + 1).name == name,
+                   u"the recorder's camera is not called "_s + name);
             desk.screenshot(u"3-tuned-%1"_s.arg(row + 1));
             m_audit << u"Modify Setting of NVR"_s;
             Driver::click(u"lbModifyApply_0"_s);
@@ -260,7 +255,7 @@ private:
         QList<QStringList> rows;
         QList<QStringList> maps;
         QList<QStringList> icons;
-        m_site.call([&](Site& site) {
+        m_site.site->call([&](Site& site) {
             for (const auto& [slot, index] : m_slots) {
                 const simulators::Device& device = site.device(index);
                 const QString number = QString::number(slot);
@@ -311,9 +306,7 @@ private:
     }
     int camerasOf(int device)
     {
-        std::size_t channels = 0;
-        m_site.call([&](Site& site) { channels = site.device(device).state().channels.size(); });
-        return static_cast<int>(channels);
+        return m_site.onDevice(device, [](Device& one) { return static_cast<int>(one.state().channels.size()); });
     }
     int cameras()
     {
@@ -324,14 +317,12 @@ private:
     }
     void clearLogs()
     {
-        m_site.call([](Site& site) {
-            for (int i = 0; i < site.count(); ++i)
-                site.device(i).clearLog();
-        });
+        for (int i = 0; i < m_site.devices(); ++i)
+            m_site.onDevice(i, [](Device& one) { one.clearLog(); });
     }
 
     QString m_screenshots;
-    simulators::SimulatorThread m_site;
+    SimulatedSite m_site;
     std::map<QString, int> m_devices; // by address, from 0
     std::map<int, int> m_slots;       // device by slot number (from 1)
     QList<int> m_gone;                // devices that were removed once

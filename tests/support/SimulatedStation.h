@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/StartUp.h"
+#include "tests/store/StoreFixture.h"
+#include "tests/support/SimulatedSite.h"
+
+// A whole station over its database, without windows.
+class SimulatedStation : public StoreFixture, public SimulatedSite
+{
+protected:
+    // Opens it, again if it was.
+    void start()
+    {
+        desk = std::make_unique<Station>();
+        OpenDatabases(*desk);
+        LoadRecords(*desk);
+        desk->families.InitialSetValue();
+    }
+    // With these recorders in its first slots, saved.
+    void start(std::vector<simulators::DeviceDescription> devices)
+    {
+        startSite(std::move(devices));
+        start();
+        ASSERT_TRUE(detectAll({com, desk->recorders, desk->accounts, desk->events}));
+        FinishNewRecorders(*desk);
+    }
+    QString rows(const QString& select) { return Rows(*desk->databases.DBConn, select, u',', u' '); }
+    void statement(const QString& sql)
+    {
+        QSqlQuery query(desk->databases.DBConn->database());
+        ASSERT_TRUE(query.exec(sql)) << sql.toStdString();
+    }
+
+    std::unique_ptr<Station> desk;
+    Form_COM com;
+};
