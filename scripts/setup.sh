@@ -5,6 +5,7 @@ desk_packages=(
     qt6-translations-l10n
     libqt6sql6-sqlite libpugixml-dev libcurl4-openssl-dev libsqlite3-dev qcoro-qt6-dev sqlite3
     libgl-dev libgtest-dev libgmock-dev xauth xvfb
+    python3-aiosmtpd python3-pyftpdlib
     fonts-dejavu-core fonts-noto-cjk fonts-noto-core fonts-noto-mono
 )
 desk_missing=()

@@ -102,9 +102,11 @@ void LoadRecords(Station& station)
     GetUser(station.databases, station.users);
     GetEMapGroup(station.databases, station.emap);
     GetEMapIconEx(station.databases, station.emap);
+    GetListenServer(station.databases, station.eventServers);
     station.screens.iMonitorCount = clsOSInfo().GetScreenCount();
     GetScreenLayout(station.databases, station.screens);
     GetEventInfo(station.databases, station.channelEvents, station.recorders);
+    GetEventHandling(station.databases, station.eventHandling);
     GetMyAccount(station.databases, station.accounts);
     GetGroupPrivilege(station.databases, station.groups);
     GetNVRPrivilege(station.databases, station.groups);

@@ -66,6 +66,8 @@ Station::Station()
     families.add(DefaultStartFamily(databases, screens));
     families.add(PatternFamily(databases, screens, [this] { return !Loading; }));
     families.add(VideoWallFamily(databases, screens));
+    families.add(EventServerFamily(databases, eventServers));
+    families.add(EventHandlingFamily(databases, eventHandling));
     WireRecorderEvents(*this);
 }
 
@@ -92,7 +94,7 @@ bool SaveCheck(Station& station)
 void RunEventAction(Station& station, int action, int key, const QString& text, const QString& operatorName)
 {
     Trapped("Module_PublicFunction - RunEventAction", [&] {
-        const EventHandlingRecord& handling = station.eventHandling;
+        const EventHandlingRecord& handling = station.eventHandling.stored;
         if (action >= 0 && action <= kSystemExport) {
             QString line = QString::fromLatin1(kAuditTexts[static_cast<std::size_t>(action)]);
             SaveSystemLog(station.databases, TimeToUtcSeconds(Now()), operatorName, line);

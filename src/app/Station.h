@@ -2,13 +2,13 @@
 
 #include "emap/EMapSet.h"
 #include "events/ChannelEvents.h"
+#include "events/EventStore.h"
 #include "recorders/data/RecorderEvents.h"
 #include "recorders/data/RecorderSet.h"
 #include "screens/ScreenSet.h"
 #include "store/BasicDefault.h"
 #include "store/Databases.h"
 #include "store/RecordFamily.h"
-#include "store/records/EventRecords.h"
 #include "users/GroupStore.h"
 #include "users/UserStore.h"
 
@@ -60,7 +60,8 @@ struct Station
     ChannelEventSet channelEvents;
     ScreenSet screens;
     std::vector<NVRAccountRecord> accounts{{}}; // tried on devices; one empty element when there is none
-    EventHandlingRecord eventHandling;          // stored copy; all off until the event settings are read
+    EventServerSet eventServers;
+    EventHandlingSet eventHandling;
     FamilyRegister families;
     std::unique_ptr<NotificationQueue> notifications;
 

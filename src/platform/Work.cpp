@@ -15,8 +15,9 @@ std::vector<Work*>& AllWork()
 
 } // namespace
 
-Work::Work(QObject* parent)
+Work::Work(QObject* parent, AtClose atClose)
     : QObject(parent)
+    , m_atClose(atClose)
 {
     AllWork().push_back(this);
 }
@@ -31,7 +32,7 @@ Work::~Work()
 
 bool Work::start(Body body, std::function<void()> after)
 {
-    if (m_running || Closing())
+    if (m_running || (endsAtClose() && Closing()))
         return false;
     m_running = true;
     m_stopped = false;
@@ -70,7 +71,7 @@ void Work::stop()
 
 bool Work::stopped() const
 {
-    return m_stopped || Closing();
+    return m_stopped || (endsAtClose() && Closing());
 }
 
 void Work::say(const QString& step, int percent)
@@ -87,7 +88,7 @@ void StopAllWork()
     const std::vector<Work*> all = AllWork();
     for (Work* work : all) {
         // The end of one may be the end of another.
-        if (std::find(AllWork().begin(), AllWork().end(), work) != AllWork().end())
+        if (std::find(AllWork().begin(), AllWork().end(), work) != AllWork().end() && work->endsAtClose())
             work->stop();
     }
 }
@@ -95,7 +96,7 @@ void StopAllWork()
 bool AnyWorkRunning()
 {
     return std::any_of(AllWork().begin(), AllWork().end(),
-                       [](const Work* work) { return work->running() && !work->isQuiet(); });
+                       [](const Work* work) { return work->running() && work->endsAtClose() && !work->isQuiet(); });
 }
 
 WorkAwaitable::~WorkAwaitable()

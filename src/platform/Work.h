@@ -22,23 +22,30 @@ class Work : public QObject
 
 public:
     using Body = std::function<QCoro::Task<>()>;
+    // What becomes of it when the program is leaving: a window's work ends, what the close waits for goes on.
+    enum class AtClose
+    {
+        Ends,
+        GoesOn
+    };
 
-    explicit Work(QObject* parent = nullptr);
+    explicit Work(QObject* parent = nullptr, AtClose atClose = AtClose::Ends);
     ~Work() override; // stops
 
     // Runs `body`, which is kept until its task has ended; `after` follows when the window's controls are back, but not
-    // when this object goes. False, with nothing begun, while a task runs already or when the program is leaving. An
-    // exception that leaves the task is lost: StartWork (app/log) logs it.
+    // when this object goes. False, with nothing begun, while a task runs already or, AtClose::Ends, when the program
+    // is leaving. An exception that leaves the task is lost: StartWork (app/log) logs it.
     bool start(Body body, std::function<void()> after = {});
     bool running() const { return m_running; }
     // It goes on by itself, for as long as the program does: nobody waits for its end.
     void setQuiet() { m_quiet = true; }
     bool isQuiet() const { return m_quiet; }
+    bool endsAtClose() const { return m_atClose == AtClose::Ends; }
 
-    // Ends the task: on Stop, on Esc, with the window. SetClosing(true) does it for every work there is.
+    // Ends the task: on Stop, on Esc, with the window. SetClosing(true) does it for every work that ends at the close.
     void stop();
-    // Whether it was stopped since it was started; true also while the program is leaving. A stopped work waits for
-    // nothing any more.
+    // Whether it was stopped since it was started; true also while the program is leaving, unless it goes on then. A
+    // stopped work waits for nothing any more.
     bool stopped() const;
 
     // What goes on, in the words of the live language, and how far it is: percent, or -1 where nobody can know.
@@ -56,6 +63,7 @@ private:
     static QCoro::Task<> drive(QPointer<Work> work, Body body, std::function<void()> after);
 
     std::vector<WorkAwaitable*> m_waiting;
+    const AtClose m_atClose;
     bool m_running = false;
     bool m_stopped = false;
     bool m_leaving = false;
@@ -64,9 +72,10 @@ private:
     int m_percent = -1;
 };
 
-// Stops every work there is; SetClosing calls it.
+// Stops every work that ends at the close; SetClosing calls it.
 void StopAllWork();
 // Whether a work is running that somebody waits for.
+// Whether such a work is running.
 bool AnyWorkRunning();
 
 // What a coroutine waits for on behalf of a work. Of a stopped work it does not even begin. A subclass begins in

@@ -464,6 +464,61 @@ TEST_F(StationTest, ANewRecorderGetsEveryRightInAllGroups)
     }
 }
 
+TEST_F(StationTest, ServersOfEventsComeFromTheirRowsWhateverStandsThere)
+{
+    struct RowsCase
+    {
+        const char* name;
+        const char* rows; // aID, sMailFrom, lMailPort, sWarningPath
+        QStringList from;
+        const char* saved; // aID and sender of every row after server 2 was changed
+    };
+    const RowsCase cases[] = {
+        {"none", "", {{}, {}, {}}, "2=new"},
+        {"two", "(3,'c',25,''),(1,'a',25,'')", {u"a"_s, {}, u"c"_s}, "1=a,2=new,3=c"},
+        {"five",
+         "(1,'a',1,''),(2,'b',2,''),(3,'c',3,''),(4,'d',4,''),(0,'e',5,'')",
+         {u"a"_s, u"b"_s, u"c"_s},
+         "0=e,1=a,2=new,3=c,4=d"},
+        {"the same number twice", "(2,'b',2,''),(2,'other',2,'')", {{}, u"b"_s, {}}, "2=new,2=other"},
+        {"null ports and sounds", "(1,'a',NULL,NULL),(2,NULL,NULL,'x.wav')", {u"a"_s, {}, {}}, "1=a,2=new"}};
+    for (const RowsCase& rows : cases) {
+        SCOPED_TRACE(rows.name);
+        makeDatabase(kDatabaseFile, u"x"_s);
+        run(u"DELETE FROM ListenServer"_s);
+        if (*rows.rows)
+            run(u"INSERT INTO ListenServer (aID, sMailFrom, lMailPort, sWarningPath) VALUES "_s +
+                QString::fromLatin1(rows.rows));
+        start();
+        EventServerSet& servers = fresh->eventServers;
+        QStringList from;
+        for (const ListenServerRec& server : servers.edit)
+            from << server.sMailFrom;
+        EXPECT_EQ(from, rows.from);
+        EXPECT_EQ(servers.stored[0].sWarningPath, StationPath(u"\\wav\\alert.wav"));
+        EXPECT_FALSE(CheckListenSetup(servers, EventAction::FTP));
+        servers.edit[1].sMailFrom = u"new"_s;
+        servers.edit[0].sFTPserverIP = u"unmarked"_s;
+        servers.edit[1].bChanged = true;
+        fresh->eventHandling.edit.strMailAddress = u"a@b.c"_s;
+        fresh->eventHandling.edit.bChanged = true;
+        EXPECT_TRUE(SaveCheck(*fresh));
+        EXPECT_TRUE(CheckListenSetup(servers, EventAction::Mail));
+        EXPECT_EQ(ask(u"SELECT group_concat(aID||'='||sMailFrom) FROM (SELECT * FROM ListenServer ORDER BY aID)"_s),
+                  QString::fromLatin1(rows.saved));
+        EXPECT_EQ(ask(u"SELECT count(*)||group_concat(strMailAddress) FROM EventHandling"_s), u"1a@b.c"_s);
+    }
+}
+
+TEST(EventTexts, MailAddresses)
+{
+    for (const char* good : {"a@b.c", "john.doe@site.org", " a@b.c "})
+        EXPECT_TRUE(CheckMail(QString::fromLatin1(good))) << good;
+    for (const char* bad :
+         {"", "a@b", "a.b@c", "@b.c", "a@.c", "a@b..c", "a@b@c.d", "a b@c.d", "a;b@c.d", "a@b.c,d@e.f"})
+        EXPECT_FALSE(CheckMail(QString::fromLatin1(bad))) << bad;
+}
+
 TEST_F(StationTest, BackupsRotateAfterARunThatSaved)
 {
     makeDatabase(kDatabaseFile, u"one"_s);

@@ -28,7 +28,7 @@ struct ListenServerRec
     QString sWaringName;
     QString sWarningPath;
 
-    qint32 lLastSend = 0; // seconds since 1970/1/1; not in the table
+    qint32 lLastSend = 0; // last mail that failed, seconds since 1970/1/1, 0 for none; not in the table
     bool bChanged = false;
 };
 
