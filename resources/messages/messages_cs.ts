@@ -3719,5 +3719,21 @@ Chcete jej přesto použít?</translation>
         <source>Rename</source>
         <translation>Přejmenovat</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Živě</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Čeká se na obraz…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Žádný obraz</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Zkouší se znovu…</translation>
+    </message>
 </context>
 </TS>

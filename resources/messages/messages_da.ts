@@ -3719,5 +3719,21 @@ Vil du bruge det alligevel?</translation>
         <source>Rename</source>
         <translation>Omdøb</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Venter på billedet…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Intet billede</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Prøver igen…</translation>
+    </message>
 </context>
 </TS>

@@ -3719,5 +3719,21 @@ Möchten Sie ihn trotzdem verwenden?</translation>
         <source>Rename</source>
         <translation>Umbenennen</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Warten auf das Bild…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Kein Bild</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Neuer Versuch…</translation>
+    </message>
 </context>
 </TS>

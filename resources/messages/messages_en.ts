@@ -3719,5 +3719,21 @@ Do you want to use it anyway?</translation>
         <source>Rename</source>
         <translation>Rename</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Live</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Waiting for the picture…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>No picture</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Trying again…</translation>
+    </message>
 </context>
 </TS>

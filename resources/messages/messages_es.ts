@@ -3719,5 +3719,21 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>Cambiar nombre</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>En directo</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Esperando la imagen…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Sin imagen</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Intentándolo de nuevo…</translation>
+    </message>
 </context>
 </TS>

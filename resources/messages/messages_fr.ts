@@ -3719,5 +3719,21 @@ Voulez-vous l’utiliser quand même ?</translation>
         <source>Rename</source>
         <translation>Renommer</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>En direct</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>En attente de l’image…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Pas d’image</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Nouvelle tentative…</translation>
+    </message>
 </context>
 </TS>

@@ -3719,5 +3719,21 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>שינוי שם</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>שידור חי</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>ממתין לתמונה…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>אין תמונה</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>מנסה שוב…</translation>
+    </message>
 </context>
 </TS>

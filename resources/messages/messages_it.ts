@@ -3719,5 +3719,21 @@ Usarlo comunque?</translation>
         <source>Rename</source>
         <translation>Rinomina</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Dal vivo</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>In attesa dell’immagine…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Nessuna immagine</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Nuovo tentativo…</translation>
+    </message>
 </context>
 </TS>

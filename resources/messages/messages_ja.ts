@@ -3719,5 +3719,21 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>名前の変更</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>ライブ</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>映像を待っています…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>映像なし</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>再試行しています…</translation>
+    </message>
 </context>
 </TS>

@@ -3719,5 +3719,21 @@ Czy mimo to jej użyć?</translation>
         <source>Rename</source>
         <translation>Zmień nazwę</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Na żywo</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Oczekiwanie na obraz…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Brak obrazu</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Ponowna próba…</translation>
+    </message>
 </context>
 </TS>

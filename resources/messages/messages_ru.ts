@@ -3719,5 +3719,21 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>Переименовать</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Прямой эфир</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Ожидание изображения…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Нет изображения</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Новая попытка…</translation>
+    </message>
 </context>
 </TS>

@@ -3719,5 +3719,21 @@ Yine de kullanmak istiyor musunuz?</translation>
         <source>Rename</source>
         <translation>Yeniden adlandır</translation>
     </message>
+    <message id="1220">
+        <source>Live</source>
+        <translation>Canlı</translation>
+    </message>
+    <message id="1221">
+        <source>Waiting for the picture…</source>
+        <translation>Görüntü bekleniyor…</translation>
+    </message>
+    <message id="1222">
+        <source>No picture</source>
+        <translation>Görüntü yok</translation>
+    </message>
+    <message id="1223">
+        <source>Trying again…</source>
+        <translation>Yeniden deneniyor…</translation>
+    </message>
 </context>
 </TS>

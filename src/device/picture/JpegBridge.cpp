@@ -16,6 +16,13 @@ bool Write(QIODevice& to, const QImage& frame, int quality)
     return writer.write(frame);
 }
 
+// From the header alone; empty for what is no JPEG or claims more than is taken.
+QSize UsableSize(const QByteArray& bytes, const QImageReader& reader)
+{
+    const QSize size = bytes.startsWith("\xff\xd8") ? reader.size() : QSize();
+    return size.isEmpty() || size.width() > kMaxSide || size.height() > kMaxSide ? QSize() : size;
+}
+
 } // namespace
 
 QByteArray EncodeJpeg(const QImage& frame, int quality)
@@ -31,16 +38,25 @@ bool SaveJpeg(const QImage& frame, const QString& path, int quality)
     return !frame.isNull() && file.open(QIODevice::WriteOnly) && Write(file, frame, quality) && file.commit();
 }
 
-QImage DecodeJpeg(const QByteArray& bytes)
+QImage DecodeJpeg(const QByteArray& bytes, const QSize& room)
 {
-    if (!bytes.startsWith("\xff\xd8"))
-        return {};
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer, QByteArrayLiteral("jpeg"));
-    const QSize size = reader.size(); // from the header alone
-    if (size.isEmpty() || size.width() > kMaxSide || size.height() > kMaxSide)
+    const QSize size = UsableSize(bytes, reader);
+    if (size.isEmpty())
         return {};
+    if (!room.isEmpty() && (size.width() > room.width() || size.height() > room.height()))
+        reader.setScaledSize(size.scaled(room, Qt::KeepAspectRatio).expandedTo({1, 1}));
     return reader.read();
+}
+
+QSize JpegSize(const QByteArray& bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    const QImageReader reader(&buffer, QByteArrayLiteral("jpeg"));
+    return UsableSize(bytes, reader);
 }

@@ -30,6 +30,8 @@ enum Message
 
 CameraFrame::CameraFrame(Form_COM& com, RecorderSet& recorders, Work& work, QWidget* parent)
     : QWidget(parent)
+    , m_com(com)
+    , m_recorders(recorders)
     , m_edit(com, recorders)
     , m_work(work)
     , m_ui(std::make_unique<Ui::CameraFrame>())
@@ -88,6 +90,19 @@ void CameraFrame::openChannel(int channel)
     m_ui->lbCamNo->setText(GetLangString(586) + u' ' + QString::number(channel + 1));
     showFields();
     render();
+    showPicture();
+}
+
+// What the recorder shows of the channel; one without a camera has no picture.
+void CameraFrame::showPicture()
+{
+    const SVRRecord& recorder = m_recorders.SVREdit;
+    const SVRChannel& camera = At(recorder.channels, channel());
+    m_ui->VideoCamera->setVisible(!camera.sSub_CH_IP.isEmpty());
+    if (camera.sSub_CH_IP.isEmpty())
+        m_ui->VideoCamera->Stop();
+    else
+        m_ui->VideoCamera->Start(m_com.http, AddressOf(recorder), static_cast<qint16>(channel() + 1));
 }
 
 QPushButton* CameraFrame::detectButton() const

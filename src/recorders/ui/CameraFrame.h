@@ -53,8 +53,11 @@ private:
     void render();
     void takeFields();
     void showFields();
+    void showPicture();
     void report(const RecorderOutcome& outcome);
 
+    Form_COM& m_com;
+    const RecorderSet& m_recorders;
     CameraEdit m_edit;
     Work& m_work; // the window's
     std::unique_ptr<Ui::CameraFrame> m_ui;
