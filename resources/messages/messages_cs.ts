@@ -3719,10 +3719,6 @@ Chcete jej přesto použít?</translation>
         <source>Rename</source>
         <translation>Přejmenovat</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Živě</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Čeká se na obraz…</translation>

@@ -3719,10 +3719,6 @@ Vil du bruge det alligevel?</translation>
         <source>Rename</source>
         <translation>Omdøb</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Live</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Venter på billedet…</translation>

@@ -3719,10 +3719,6 @@ Möchten Sie ihn trotzdem verwenden?</translation>
         <source>Rename</source>
         <translation>Umbenennen</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Live</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Warten auf das Bild…</translation>

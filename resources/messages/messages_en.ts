@@ -3719,10 +3719,6 @@ Do you want to use it anyway?</translation>
         <source>Rename</source>
         <translation>Rename</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Live</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Waiting for the picture…</translation>

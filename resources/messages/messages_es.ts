@@ -3719,10 +3719,6 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>Cambiar nombre</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>En directo</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Esperando la imagen…</translation>

@@ -3719,10 +3719,6 @@ Voulez-vous l’utiliser quand même ?</translation>
         <source>Rename</source>
         <translation>Renommer</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>En direct</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>En attente de l’image…</translation>

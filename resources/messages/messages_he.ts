@@ -3719,10 +3719,6 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>שינוי שם</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>שידור חי</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>ממתין לתמונה…</translation>

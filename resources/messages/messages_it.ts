@@ -3719,10 +3719,6 @@ Usarlo comunque?</translation>
         <source>Rename</source>
         <translation>Rinomina</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Dal vivo</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>In attesa dell’immagine…</translation>

@@ -3719,10 +3719,6 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>名前の変更</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>ライブ</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>映像を待っています…</translation>

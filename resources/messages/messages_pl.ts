@@ -3719,10 +3719,6 @@ Czy mimo to jej użyć?</translation>
         <source>Rename</source>
         <translation>Zmień nazwę</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Na żywo</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Oczekiwanie na obraz…</translation>

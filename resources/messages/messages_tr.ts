@@ -3719,10 +3719,6 @@ Yine de kullanmak istiyor musunuz?</translation>
         <source>Rename</source>
         <translation>Yeniden adlandır</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>Canlı</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>Görüntü bekleniyor…</translation>

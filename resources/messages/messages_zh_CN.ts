@@ -3719,10 +3719,6 @@ Do you want to use it anyway?</source>
         <source>Rename</source>
         <translation>重命名</translation>
     </message>
-    <message id="1220">
-        <source>Live</source>
-        <translation>实时</translation>
-    </message>
     <message id="1221">
         <source>Waiting for the picture…</source>
         <translation>正在等待画面…</translation>

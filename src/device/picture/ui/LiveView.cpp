@@ -15,7 +15,7 @@ enum Words
     kLoginRefused = 958,
     kUnexpected = 962,
     kNoCamera = 966,
-    kLive = 1220,
+    kLive = 908,
     kConnecting = 1221,
     kNoPicture = 1222,
     kTriesAgain = 1223
