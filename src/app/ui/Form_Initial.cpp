@@ -38,7 +38,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QLatin1String kLoadSource("Form_Initial - Form_Load");
-constexpr int kUnauthorised = 139;
 constexpr int kAskExit = 509;
 constexpr int kRunsAlready = 10;
 
@@ -93,7 +92,7 @@ bool Form_Initial::Form_Load()
     CheckRecords(m_station);
     updateHeader();
     showFirstUserNotice();
-    m_pages[kFirstPage]->enter();
+    At(m_pages, PageFor(PageUse::First))->enter();
     Trapped(kLoadSource, [&] { openFirstPage(); });
     Trapped(kLoadSource, [&] { m_com.SetProToDeviceBridge(m_station.recorders.SVRList); });
     m_station.Loading = false;
@@ -174,8 +173,8 @@ void Form_Initial::buildWindow()
     m_ui->noticeIcon->setPixmap(Icon("warning"_L1, "warning"_L1).pixmap(20, 20));
     m_ui->firstUserNotice->hide();
     connect(m_ui->btnFirstUser, &QPushButton::clicked, this, [this] {
-        lbMenu_Click(kUsersPage);
-        if (m_pageIndex == kUsersPage)
+        lbMenu_Click(PageFor(PageUse::FirstUser));
+        if (m_pageIndex == PageFor(PageUse::FirstUser))
             page()->primaryAction();
     });
     connect(m_ui->btnFirstUserLater, &QPushButton::clicked, this, [this] {
@@ -193,8 +192,9 @@ void Form_Initial::buildPages()
         Page* page = At(PageTable(), index).make(parts);
         m_pages[static_cast<std::size_t>(index)] = page;
         page->setObjectName(u"Frame_Setting_%1"_s.arg(index));
-        connect(page, &Page::changesChanged, this,
-                [this, index, page] { m_rail->entry(index)->setDirty(page->hasChanges(), GetLangString(868)); });
+        connect(page, &Page::changesChanged, this, [this, index, page] {
+            m_rail->entry(index)->setDirty(page->hasChanges(), GetLangString(Message::kUnsavedChanges));
+        });
         connect(page, &Page::workRunning, m_rail, &QWidget::setDisabled);
         connect(page, &Page::subtitleChanged, this, &Form_Initial::updateHeader);
         // A window too small for a page scrolls it.
@@ -244,9 +244,11 @@ void Form_Initial::loadRecordsAndPages()
 {
     LoadRecords(m_station);
     m_station.basicDefault.edit = m_station.basicDefault.stored;
-    PaintMenu(kFirstPage);
-    m_pages[kFirstPage]->enter();
-    LoadFrame(kFirstPage);
+    const int first = PageFor(PageUse::First);
+    PaintMenu(first);
+    At(m_pages, first)->enter();
+    LoadFrame(first);
+    m_pageIndex = first;
     m_station.families.InitialSetValue();
     ChangeLanguage();
 }
@@ -301,7 +303,9 @@ void Form_Initial::openFirstPage()
     const GroupPrivilegeRecord rights = m_station.currentRights();
     const int last = RememberedPage();
     const auto allowed = At(PageTable(), last).face.allowed;
-    const int first = rights.Setting != 1 ? kStartupPage : !allowed || allowed(rights) ? last : kFirstPage;
+    const int first = rights.Setting != 1           ? PageFor(PageUse::WithoutRights)
+                      : !allowed || allowed(rights) ? last
+                                                    : PageFor(PageUse::First);
     if (first == m_pageIndex)
         return;
     openPage(first);
@@ -323,7 +327,7 @@ void Form_Initial::lbMenu_Click(int index)
         }
         const auto allowed = At(PageTable(), index).face.allowed;
         if (allowed && !allowed(m_station.currentRights())) {
-            Tell(Tone::Warning, kUnauthorised);
+            Tell(Tone::Warning, Message::kUnauthorised);
             return;
         }
         if (m_pageIndex != index)
@@ -376,9 +380,9 @@ void Form_Initial::showProgress(int maximum, const QString& count)
 {
     if (!m_progress)
         m_progress = new ProgressWindow(GetLangString(62));
-    m_progress->setWindowTitle(GetLangString(570));
+    m_progress->setWindowTitle(GetLangString(Message::kInformation));
     m_progress->setMaximum(maximum);
-    m_progress->setCancelText(GetLangString(475));
+    m_progress->setCancelText(GetLangString(Message::kCancel));
     if (!count.isEmpty())
         m_progress->setText(count);
     connect(m_progress, &ProgressWindow::cancelled, this, [this] { m_progressCancelled = true; });

@@ -13,6 +13,10 @@
 #include "app/ui/UsersPage.h"
 #include "app/ui/WallsPage.h"
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool MaySet(const GroupPrivilegeRecord& rights)
@@ -36,37 +40,39 @@ Page* Make(const DeskParts& parts)
     return new P(parts);
 }
 
-PageRow Row(const char* icon, int label, int title, bool (*shown)(const GroupPrivilegeRecord&),
-            Page* (*make)(const DeskParts&))
-{
-    return {{QLatin1String(icon), label, title, {}, shown}, make};
-}
-
 } // namespace
 
 const std::array<PageRow, kPages>& PageTable()
 {
-    static const std::array<PageRow, kPages> table = [] {
-        std::array rows{
-            Row("system", 850, 330, MaySet, Make<SystemPage>),
-            Row("nvr", 0, 748, MaySet, Make<RecordersPage>),
-            Row("intelligent", 851, 69, MaySet, Make<IntelligentPage>),
-            Row("users", 852, 852, MaySet, Make<UsersPage>),
-            Row("event", 853, 853, MaySet, Make<EventsPage>),
-            Row("server", 854, 312, MaySet, Make<EventServersPage>),
-            Row("emap", 855, 310, MaySet, Make<EMapPage>),
-            Row("screens", 856, 311, MaySet, Make<ScreensPage>),
-            Row("startup", 857, 39, nullptr, Make<StartupPage>),
-            Row("videowall", 752, 36, MaySet, Make<WallsPage>),
-            Row("svd", 0, 797, MaySet, Make<DecoderPage>),
-            Row("tooling", 858, 858, MaySetOrExport, Make<ToolingPage>),
-        };
-        rows[1].face.fixed = QLatin1String("NVR");
-        rows[10].face.fixed = QLatin1String("SVD");
-        rows[10].face.allowed = MayUseDecoders;
-        return rows;
-    }();
+    static const std::array<PageRow, kPages> table{{
+        {.face = {.icon = "system"_L1, .label = 850, .title = 330, .shown = MaySet},
+         .make = Make<SystemPage>,
+         .use = PageUse::First},
+        {.face = {.icon = "nvr"_L1, .title = 748, .fixed = "NVR"_L1, .shown = MaySet}, .make = Make<RecordersPage>},
+        {.face = {.icon = "intelligent"_L1, .label = 851, .title = 69, .shown = MaySet}, .make = Make<IntelligentPage>},
+        {.face = {.icon = "users"_L1, .label = 852, .title = 852, .shown = MaySet},
+         .make = Make<UsersPage>,
+         .use = PageUse::FirstUser},
+        {.face = {.icon = "event"_L1, .label = 853, .title = 853, .shown = MaySet}, .make = Make<EventsPage>},
+        {.face = {.icon = "server"_L1, .label = 854, .title = 312, .shown = MaySet}, .make = Make<EventServersPage>},
+        {.face = {.icon = "emap"_L1, .label = 855, .title = 310, .shown = MaySet}, .make = Make<EMapPage>},
+        {.face = {.icon = "screens"_L1, .label = 856, .title = 311, .shown = MaySet}, .make = Make<ScreensPage>},
+        {.face = {.icon = "startup"_L1, .label = 857, .title = 39},
+         .make = Make<StartupPage>,
+         .use = PageUse::WithoutRights},
+        {.face = {.icon = "videowall"_L1, .label = 752, .title = 36, .shown = MaySet}, .make = Make<WallsPage>},
+        {.face = {.icon = "svd"_L1, .title = 797, .fixed = "SVD"_L1, .shown = MaySet, .allowed = MayUseDecoders},
+         .make = Make<DecoderPage>},
+        {.face = {.icon = "tooling"_L1, .label = 858, .title = 858, .shown = MaySetOrExport},
+         .make = Make<ToolingPage>},
+    }};
     return table;
+}
+
+int PageFor(PageUse use)
+{
+    const auto found = std::ranges::find(PageTable(), use, &PageRow::use);
+    return static_cast<int>(found - PageTable().begin());
 }
 
 const PageFace& ExitFace()

@@ -18,19 +18,24 @@ struct DeskParts
     const PageContext& context;
 };
 
+// What the desk needs one of its pages for.
+enum class PageUse
+{
+    None,
+    First,         // a station starts there
+    WithoutRights, // a user without the right to change settings is left with it
+    FirstUser      // its primary action makes a user
+};
+
 struct PageRow
 {
-    PageFace face;
-    Page* (*make)(const DeskParts& parts); // the caller owns the page
+    PageFace face{};
+    Page* (*make)(const DeskParts& parts) = nullptr; // the caller owns the page
+    PageUse use = PageUse::None;
 };
 
 // The pages in the order of the navigation. A new page is a new row here.
 const std::array<PageRow, kPages>& PageTable();
+int PageFor(PageUse use); // its index; every use but None has one page
 // Exit stands below the pages.
 const PageFace& ExitFace();
-
-// The page where a station starts, the one that a user without the right to change settings is left with, and the one
-// where the first user is made.
-inline constexpr int kFirstPage = 0;
-inline constexpr int kStartupPage = 8;
-inline constexpr int kUsersPage = 3;

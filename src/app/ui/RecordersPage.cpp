@@ -4,14 +4,11 @@
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "app/log/StartWork.h"
+#include "app/shell/Messages.h"
 #include "recorders/ui/Form_NVRSetting.h"
 #include "recorders/ui/NVRPage.h"
 
 #include <QVBoxLayout>
-
-namespace {
-constexpr int kWriting = 976;
-} // namespace
 
 RecordersPage::RecordersPage(const DeskParts& parts)
     : m_station(parts.station)
@@ -27,7 +24,7 @@ RecordersPage::RecordersPage(const DeskParts& parts)
     connect(m_list, &NVRPage::renameWanted, this, [this](int slot) { showRecorder(slot, true); });
     connect(m_list, &NVRPage::removeWanted, this, [this](int slot) {
         const auto remove = [this, slot] {
-            m_work.say(GetLangString(kWriting));
+            m_work.say(GetLangString(Message::kWriting));
             return RemoveSVR(m_station, m_com, slot, m_work);
         };
         StartWork(m_work, QLatin1String("Form_Initial - RemoveSVR"), remove, [this] { m_list->Grid_SVR_Set_withDB(); });

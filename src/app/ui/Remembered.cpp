@@ -43,7 +43,7 @@ void RememberPlace(const QWidget& window)
 int RememberedPage()
 {
     const int page = UserSetting(kPage).toInt();
-    return page >= 0 && page < kPages ? page : kFirstPage;
+    return page >= 0 && page < kPages ? page : PageFor(PageUse::First);
 }
 
 void RememberPage(int page)

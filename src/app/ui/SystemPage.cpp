@@ -60,7 +60,7 @@ QString SystemPage::subtitle() const
 
 void SystemPage::changeLanguage()
 {
-    m_ui->lbChanges->setText(hasChanges() ? GetLangString(868) : QString());
+    m_ui->lbChanges->setText(hasChanges() ? GetLangString(Message::kUnsavedChanges) : QString());
 }
 
 void SystemPage::fillLanguages()
@@ -130,7 +130,7 @@ void SystemPage::setApplyActive(bool active)
 {
     m_ui->lbSystemApply_0->setEnabled(active);
     m_ui->lbSystemApply_1->setEnabled(active);
-    m_ui->lbChanges->setText(active ? GetLangString(868) : QString());
+    m_ui->lbChanges->setText(active ? GetLangString(Message::kUnsavedChanges) : QString());
     emit changesChanged();
 }
 

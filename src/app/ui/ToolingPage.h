@@ -2,6 +2,7 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "app/ui/PageTable.h"
 #include "tooling/ui/Form_Tooling.h"
 
@@ -27,7 +28,7 @@ public:
 
     void enter() override { m_form->open(); }
     void changeLanguage() override { m_form->changeLanguage(); }
-    QString subtitle() const override { return GetLangString(731); }
+    QString subtitle() const override { return GetLangString(Message::kSystemLog); }
 
 private:
     Form_Tooling* m_form;

@@ -1,6 +1,7 @@
 #include "app/ui/UpdateWindow.h"
 
 #include "app/language/Languages.h"
+#include "app/shell/Messages.h"
 #include "look/widgets/ProgressWindow.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,7 @@ void UpdateWindow::begin()
 {
     m_text = GetLangString(16);
     m_window = std::make_unique<ProgressWindow>(m_text);
-    m_window->setWindowTitle(GetLangString(570));
+    m_window->setWindowTitle(GetLangString(Message::kInformation));
     m_window->show();
     Paint();
     m_painted.start();
