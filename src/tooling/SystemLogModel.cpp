@@ -2,13 +2,28 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 
 using namespace Qt::StringLiterals;
 
 SystemLogModel::SystemLogModel(Databases& databases, QObject* parent)
-    : QAbstractTableModel(parent)
+    : TableModel(parent)
     , m_databases(databases)
 {
+    const auto time = [this](QString (LogTimes::*written)(qint32)) {
+        return [this, written](int row) { return (m_times.*written)(At(m_rows, row).TimeStamp); };
+    };
+    const auto user = [this](int row) { return At(m_rows, row).User; };
+    const auto description = [this](int row) { return At(m_rows, row).Description; };
+    setColumns({
+        {.head = 176,
+         .width = 150,
+         .kind = TableColumn::Kind::Figures,
+         .text = time(&LogTimes::shortText),
+         .words = time(&LogTimes::longText)},
+        {.head = Message::kUser, .width = 150, .text = user, .words = user},
+        {.head = 129, .text = description, .words = description},
+    });
     connect(&m_slices, &QTimer::timeout, this, &SystemLogModel::slice);
 }
 
@@ -95,11 +110,10 @@ QString SystemLogModel::pageText() const
 
 void SystemLogModel::draw(bool ok)
 {
-    beginResetModel();
     const auto first = std::min(m_entries.size(), static_cast<std::size_t>(m_page) * kPageRows);
     const auto count = std::min<std::size_t>(kPageRows, m_entries.size() - first);
     const bool fetched = FetchSystemLog(m_databases, std::span(m_entries).subspan(first, count), m_rows) == 1;
-    endResetModel();
+    setRecordCount(static_cast<int>(m_rows.size()));
     emit drawn(ok && fetched);
 }
 
@@ -109,49 +123,8 @@ QString SystemLogModel::copyText(const QList<int>& rows) const
     for (const int row : rows) {
         if (row < 0 || row >= rowCount())
             continue;
-        const SystemLogRow& line = m_rows[static_cast<std::size_t>(row)];
+        const SystemLogRow& line = At(m_rows, row);
         text += m_times.longText(line.TimeStamp) + u'\t' + line.User + u'\t' + line.Description + u'\n';
     }
     return text;
-}
-
-void SystemLogModel::retranslate()
-{
-    emit headerDataChanged(Qt::Horizontal, 0, ColumnCount - 1);
-}
-
-int SystemLogModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
-}
-
-int SystemLogModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant SystemLogModel::data(const QModelIndex& index, int role) const
-{
-    if (!index.isValid() || index.row() >= rowCount())
-        return {};
-    const SystemLogRow& row = m_rows[static_cast<std::size_t>(index.row())];
-    if (role == Qt::ToolTipRole && index.column() == Time)
-        return m_times.longText(row.TimeStamp);
-    if (role != Qt::DisplayRole && role != Qt::ToolTipRole)
-        return {};
-    switch (index.column()) {
-    case Time:
-        return m_times.shortText(row.TimeStamp);
-    case User:
-        return row.User;
-    default:
-        return row.Description;
-    }
-}
-
-QVariant SystemLogModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    return GetLangString(section == Time ? 176 : section == User ? 465 : 129);
 }

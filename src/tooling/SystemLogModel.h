@@ -1,14 +1,14 @@
 #pragma once
 
+#include "app/shell/TableModel.h"
 #include "tooling/LogTimes.h"
 #include "tooling/SystemLogReader.h"
 
-#include <QAbstractTableModel>
 #include <QTimer>
 
 // The found rows of the audit log, shown in pages of 11. Only the page on show holds texts. Finding goes on while the
 // event loop turns; what was found before stays on show until then.
-class SystemLogModel : public QAbstractTableModel
+class SystemLogModel : public TableModel
 {
     Q_OBJECT
 
@@ -17,8 +17,7 @@ public:
     {
         Time,
         User,
-        Description,
-        ColumnCount
+        Description
     };
     static constexpr int kPageRows = 11;
     enum PageButton
@@ -50,12 +49,6 @@ public:
 
     // The rows as tab-separated lines with their whole time, for the clipboard.
     QString copyText(const QList<int>& rows) const;
-    void retranslate();
-
-    int rowCount(const QModelIndex& parent = {}) const override;
-    int columnCount(const QModelIndex& parent = {}) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
     // What was asked for is on show; false when the log could not be read (the grid is empty then).

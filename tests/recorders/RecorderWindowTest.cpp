@@ -167,7 +167,10 @@ protected:
     static void enter(const QString& widget) { press(widget, Qt::Key_Return); }
     static QString note() { return QApplication::activeModalWidget()->findChild<ActionBar*>()->noteLabel()->text(); }
     static QString spokenStep() { return QApplication::activeModalWidget()->findChild<StepStrip*>()->accessibleName(); }
-    static QAbstractItemModel* list() { return Driver::find<QTableView>(u"Grid_SearchList"_s)->model(); }
+    static QAbstractItemModel* list() // also while the filter lets nothing through
+    {
+        return QApplication::activeModalWidget()->findChild<QTableView*>(u"Grid_SearchList"_s)->model();
+    }
 
     int finished = 0;
     int discarded = 0;

@@ -2,10 +2,10 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "app/shell/ui/TellFault.h"
 #include "look/style/Icons.h"
 #include "look/style/Theme.h"
-#include "look/tables/Tables.h"
 #include "look/widgets/Fields.h"
 #include "look/widgets/Keys.h"
 #include "platform/Clock.h"
@@ -79,14 +79,9 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     m_ui->btnOpenFolder->hide();
     m_ui->ProgressBar_Export->hide();
     m_ui->lbExportState->hide();
-    QTableView* grid = m_ui->Grid_SystemLog;
-    grid->setModel(m_model);
-    StyleTable(grid);
-    MonospaceColumn(grid, SystemLogModel::Time);
-    grid->setColumnWidth(SystemLogModel::Time, 150);
-    grid->setColumnWidth(SystemLogModel::User, 150);
+    DeskTable* grid = m_ui->Grid_SystemLog;
+    grid->setList(m_model);
     grid->verticalHeader()->setDefaultSectionSize(TableRowHeight() - 2); // a page fits the smallest desk
-    grid->setSelectionMode(QAbstractItemView::ExtendedSelection);
 
     const std::array buttons{m_ui->lbSysPageControl_0, m_ui->lbSysPageControl_1, m_ui->lbSysPageControl_2,
                              m_ui->lbSysPageControl_3, m_ui->lbSysPageControl_4};
@@ -102,7 +97,6 @@ Form_Tooling::Form_Tooling(Databases& databases, std::function<void()> exported,
     connect(new QShortcut(QKeySequence::Copy, grid, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
             &Form_Tooling::copyRows);
     OnKey(this, Qt::Key_F5, [this] { lbSysPageControl_Click(SystemLogModel::Refresh); });
-    OnKey(this, QKeySequence::Find, [this] { m_ui->txtSysFilter->setFocus(); });
     connect(m_ui->txtSysFilter, &QLineEdit::returnPressed, grid, qOverload<>(&QWidget::setFocus));
     m_filterDelay->setSingleShot(true);
     m_filterDelay->setInterval(kFilterDelay);
@@ -163,11 +157,8 @@ void Form_Tooling::fillUsers(QComboBox* box, const QStringList& users)
 
 void Form_Tooling::changeLanguage()
 {
-    m_ui->lbSysSearch->setText(GetLangString(170));
-    m_ui->txtSysFilter->setPlaceholderText(GetLangString(930));
-    m_ui->txtSysFilter->setAccessibleName(GetLangString(930));
-    m_ui->Grid_SystemLog->setAccessibleName(GetLangString(731));
-    m_ui->Cmb_SystemViewerUser->setAccessibleName(GetLangString(465));
+    m_ui->lbSysSearch->setText(GetLangString(Message::kSearch));
+    m_ui->Cmb_SystemViewerUser->setAccessibleName(GetLangString(Message::kUser));
     m_ui->ProgressBar_Export->setAccessibleName(GetLangString(730));
     for (int i = 0; i < 5; ++i)
         findChild<QToolButton*>(u"lbSysPageControl_%1"_s.arg(i))->setAccessibleName(GetLangString(939 + i));
@@ -204,7 +195,7 @@ void Form_Tooling::lbSysSearch_Click()
         m_filterDelay->stop();
         m_searching =
             std::make_unique<Inactive>(std::initializer_list<QWidget*>{m_ui->Grid_SystemLog, m_ui->Frame_SystemViewer});
-        m_ui->lbFound->setText(GetLangString(888));
+        m_ui->lbFound->setText(GetLangString(Message::kSearching));
         m_model->search(query, m_ui->txtSysFilter->text());
     });
 }
@@ -221,13 +212,13 @@ void Form_Tooling::drawPage(bool ok)
     const bool none = m_model->found() == 0;
     const bool filtered = !m_ui->txtSysFilter->text().isEmpty();
     if (!ok || !m_model->searched() || (none && !filtered)) {
-        m_ui->empty->setHeadline(GetLangString(!ok ? 933 : m_model->searched() ? 744 : 731));
+        m_ui->empty->setHeadline(GetLangString(!ok ? 933 : m_model->searched() ? 744 : Message::kSystemLog));
         m_ui->empty->setHint(GetLangString(!ok ? 946 : 937));
         m_ui->stack->setCurrentWidget(m_ui->emptyPage);
         return;
     }
     m_ui->stack->setCurrentWidget(m_ui->listPage);
-    m_ui->lbFound->setText(none ? GetLangString(931) : GetLangString(932).arg(m_model->found()));
+    m_ui->lbFound->setText(none ? GetLangString(Message::kNoMatch) : GetLangString(932).arg(m_model->found()));
     m_ui->Lb_SystemViewer_2->setText(m_model->pageText());
     m_ui->lbSysPageControl_0->setEnabled(m_model->canGoBack());
     m_ui->lbSysPageControl_1->setEnabled(m_model->canGoBack());
