@@ -2,6 +2,7 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "emap/EMapStore.h"
 #include "platform/AppPath.h"
 #include "platform/DatabaseFile.h"
@@ -62,7 +63,7 @@ void OpenDatabases(Station& station)
         }
         NormaliseLanguage(station);
         SettleLanguage(station);
-        if (MsgBox(GetLangString(981), AskBoxStyle(), GetLangString(570)) != MsgResult::Yes)
+        if (MsgBox(GetLangString(981), AskBoxStyle(), GetLangString(Message::kInformation)) != MsgResult::Yes)
             return;
     }
 }
@@ -130,7 +131,7 @@ bool CheckRecords(Station& station)
         return true;
     QStringList tables(station.databases.unread.cbegin(), station.databases.unread.cend());
     tables.sort();
-    MsgBox(GetLangString(983).arg(tables.join(u", "_s)), InfoBoxStyle(), GetLangString(570));
+    MsgBox(GetLangString(983).arg(tables.join(u", "_s)), InfoBoxStyle(), GetLangString(Message::kInformation));
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "recorders/NVRListModel.h"
 
 #include "app/language/Languages.h"
+#include "app/shell/Messages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -50,16 +51,16 @@ NVRListModel::NVRListModel(const RecorderSet& recorders, const ConnectionWatch& 
          .width = 76,
          .kind = Kind::Number,
          .text = [](int slot) { return slot + 1; }},
-        {.head = 362, .text = Of(list, &SVRRecord::sSVR_Name)},
-        {.headText = [] { return QString(GetLangString(363) + u':' + GetLangString(364)); },
+        {.head = Message::kName, .text = Of(list, &SVRRecord::sSVR_Name)},
+        {.headText = [] { return QString(GetLangString(Message::kAddress) + u':' + GetLangString(Message::kPort)); },
          .width = 196,
          .kind = Kind::Figures,
          .text = Of(list, ShownAddress)},
-        {.head = 381, .width = 92, .text = Of(list, &SVRRecord::sSVR_Brand)},
-        {.head = 382, .width = 92, .text = Of(list, ShownModel)},
+        {.head = Message::kBrand, .width = 92, .text = Of(list, &SVRRecord::sSVR_Brand)},
+        {.head = Message::kModel, .width = 92, .text = Of(list, ShownModel)},
         {.head = 271, .width = 92, .kind = Kind::Number, .text = Of(list, CameraCount)},
-        {.kind = Kind::Open, .words = named(387)},
-        {.kind = Kind::Remove, .words = named(386)},
+        {.kind = Kind::Open, .words = named(Message::kModify)},
+        {.kind = Kind::Remove, .words = named(Message::kRemove)},
         {.head = 956,
          .width = 196,
          .kind = Kind::State,

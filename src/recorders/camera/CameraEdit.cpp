@@ -1,6 +1,7 @@
 #include "recorders/camera/CameraEdit.h"
 
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "device/bridge/ModuleCGI.h"
 #include "device/protocol/ParameterText.h"
 #include "device/protocol/ReplyParsers.h"
@@ -17,21 +18,16 @@ namespace {
 constexpr QLatin1String kDetectSource("Form_CameraSetting - lbCamDetect_Click");
 constexpr qsizetype kShownReply = 200; // characters of a device's reply in a box
 
-enum Message
+enum Words
 {
     kUnusable = 73,
-    kAddressFault = 554,
     kPortFault = 556,
     kNameEmpty = 603,
     kAddressEmpty = 604,
     kPortEmpty = 605,
     kUserEmpty = 606,
     kPasswordEmpty = 607,
-    kDetectFault = 608,
     kNoCamera = 609,
-    kDetectAgain = 616,
-    kTooManyChannels = 716,
-    kDetectSuccess = 833,
     kNameQuote = 980
 };
 
@@ -146,7 +142,7 @@ QCoro::Task<CameraEdit::Outcome> CameraEdit::checkFields(Work& work) const
     if (!CheckIP(address))
         found = co_await GetIpByName(address, work);
     if (found.isEmpty())
-        co_return Outcome::Failed(kAddressFault, {}, kAddress);
+        co_return Outcome::Failed(Message::kAddressFault, {}, kAddress);
     if (m_fields.name.contains(u'"'))
         co_return Outcome::Failed(kNameQuote, {}, kName);
     if (!PortFits(m_fields.port))
@@ -164,7 +160,7 @@ QCoro::Task<CameraEdit::Outcome> CameraEdit::detect(Work& work)
     if (!pro && ownSource && m_fields == storedFields() && HasStoredDetection({editChannel(), editProChannel(), pro})) {
         open(m_channel);
         m_detected = true;
-        co_return Outcome::Done(kDetectSuccess);
+        co_return Outcome::Done(Message::kDetectSuccess);
     }
     const bool answers = co_await CgiGetGid(m_com.web, AddressOf(recorder()), work);
     if (!answers)
@@ -226,7 +222,7 @@ QCoro::Task<CameraEdit::Outcome> CameraEdit::detectSvr(Work& work)
         camera = ReadDetectedCamera(reply, source);
     }
     if (!camera)
-        co_return refuse(Outcome::Failed(kDetectFault, Shown(reply)));
+        co_return refuse(Outcome::Failed(Message::kDetectFault, Shown(reply)));
     if (!TakeDetectedText(*camera, draft.svr, draft.states))
         co_return refuse(Outcome::FailedPlain(kUnusable));
     draft.svr.iSub_CH_VideoID = source;
@@ -272,7 +268,7 @@ CameraEdit::Outcome CameraEdit::takeDetected(Draft draft)
     m_source = std::max<qint16>(m_draft.svr.iSub_CH_VideoID, 1);
     m_seen = {};
     CamDetailFill();
-    return Outcome::Done(kDetectSuccess);
+    return Outcome::Done(Message::kDetectSuccess);
 }
 
 CameraEdit::Outcome CameraEdit::refuse(Outcome outcome)
@@ -295,10 +291,10 @@ CameraEdit::Outcome CameraEdit::checkApply() const
         const int edited =
             known - (own ? CameraCount(At(m_recorders.SVRWorkList, slot)) : 0) + CameraCount(m_recorders.SVREdit);
         if (std::max(known, edited) + 1 > iChannelLimit + 1)
-            return Outcome::FailedPlain(kTooManyChannels, u"(256)"_s);
+            return Outcome::FailedPlain(Message::kTooManyChannels, u"(256)"_s);
     }
     if (m_stale || (m_fields != m_detectedFields && !m_detected))
-        return Outcome::FailedPlain(kDetectAgain);
+        return Outcome::FailedPlain(Message::kDetectAgain);
     return Outcome::Done();
 }
 

@@ -1,5 +1,6 @@
 #include "recorders/camera/CameraSearchModel.h"
 
+#include "app/shell/Messages.h"
 #include "recorders/camera/ChannelListModel.h"
 
 CameraSearchModel::CameraSearchModel(QObject* parent)
@@ -12,8 +13,8 @@ CameraSearchModel::CameraSearchModel(QObject* parent)
          .kind = Kind::Figures,
          .text = Of(m_cameras, &FoundCamera::IP),
          .sort = [this](int record) { return AddressSortKey(camera(record).IP); }},
-        {.head = 381, .width = 200, .text = Of(m_cameras, &FoundCamera::Manufacturer)},
-        {.head = 382, .text = Of(m_cameras, &FoundCamera::Model)},
+        {.head = Message::kBrand, .width = 200, .text = Of(m_cameras, &FoundCamera::Manufacturer)},
+        {.head = Message::kModel, .text = Of(m_cameras, &FoundCamera::Model)},
         {.head = 551, .width = 110, .kind = Kind::Number, .text = Of(m_cameras, &FoundCamera::HTTPPort)},
     });
 }

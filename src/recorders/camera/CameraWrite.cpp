@@ -1,6 +1,7 @@
 #include "recorders/camera/CameraWrite.h"
 
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "device/bridge/WebBridge.h"
 #include "device/protocol/ReplyParsers.h"
 
@@ -12,12 +13,9 @@ namespace {
 
 constexpr QLatin1String kSource("Form_CameraSetting - cmbeditCam_Click");
 
-enum Message
+enum Words
 {
-    kConnectionError = 7,
-    kDetectFault = 608,
-    kFormatFault = 615,
-    kSettingFault = 722
+    kFormatFault = 615
 };
 
 // The number of RET="n" in a reply; 0 when there is none.
@@ -34,7 +32,7 @@ RecorderOutcome RefusedWrite(const QString& reply)
 {
     // Not the reply itself: a recorder may repeat the camera's password in it.
     LogTrap(kSource, u"Recorder refused with result %1 in %2 characters"_s.arg(ResultOf(reply)).arg(reply.size()));
-    return RecorderOutcome::Failed(kDetectFault);
+    return RecorderOutcome::Failed(Message::kDetectFault);
 }
 
 QCoro::Task<RecorderOutcome> WriteSvrChannel(Form_COM& com, DeviceAddress recorder, qint16 channel,
@@ -62,12 +60,12 @@ QCoro::Task<RecorderOutcome> WriteProChannel(Form_COM& com, DeviceAddress record
 {
     const QString written = co_await com.web.SendCmdXml(recorder, BuildSetChannel(settings), work);
     if (written.isEmpty())
-        co_return RecorderOutcome::Failed(kConnectionError);
+        co_return RecorderOutcome::Failed(Message::kConnectionError);
     if (!Accepted(written))
         co_return RefusedWrite(written);
     const QString saved = co_await com.web.SendCmdXml(recorder, BuildSaveConfig(kSaveChannels), work);
     if (!Accepted(saved))
-        co_return RecorderOutcome::Failed(kSettingFault);
+        co_return RecorderOutcome::Failed(Message::kSettingFault);
     const QString request = BuildGetChannels(true, static_cast<qint16>(channel + 1));
     const QString read = co_await com.web.SendCmdXml(recorder, request, work);
     SVRChannel readBack = svr;
@@ -76,7 +74,7 @@ QCoro::Task<RecorderOutcome> WriteProChannel(Form_COM& com, DeviceAddress record
     Trapped(kSource, [&] { result = ParseChannel(read, channel, readBack, readBackPro); });
     if (result != 1) {
         LogTrap(kSource, u"Channel %1 was written and cannot be read back"_s.arg(channel + 1));
-        RecorderOutcome unread = RecorderOutcome::Failed(kConnectionError);
+        RecorderOutcome unread = RecorderOutcome::Failed(Message::kConnectionError);
         unread.ok = true;
         co_return unread;
     }

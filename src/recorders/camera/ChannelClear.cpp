@@ -1,6 +1,7 @@
 #include "recorders/camera/ChannelClear.h"
 
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "device/bridge/WebBridge.h"
 #include "device/protocol/Module_XML.h"
 #include "recorders/camera/CameraWrite.h"
@@ -10,10 +11,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum Message
+enum Words
 {
-    kNoServer = 76,
-    kSettingFault = 722
+    kNoServer = 76
 };
 
 QCoro::Task<RecorderOutcome> ClearOnDevice(Form_COM& com, DeviceAddress recorder, bool pro, qint16 number, Work& work)
@@ -32,7 +32,7 @@ QCoro::Task<RecorderOutcome> ClearOnDevice(Form_COM& com, DeviceAddress recorder
         co_return RecorderOutcome::Failed(kNoServer);
     const QString saved = co_await com.web.SendCmdXml(recorder, BuildSaveConfig(kSaveChannels), work);
     if (!Accepted(saved))
-        co_return RecorderOutcome::Failed(kSettingFault);
+        co_return RecorderOutcome::Failed(Message::kSettingFault);
     co_return RecorderOutcome::Done();
 }
 

@@ -1,6 +1,7 @@
 #include "recorders/camera/ChannelListModel.h"
 
 #include "app/language/Languages.h"
+#include "app/shell/Messages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -28,12 +29,12 @@ ChannelListModel::ChannelListModel(const RecorderSet& recorders, QObject* parent
     };
     setColumns({
         {.head = 55, .width = 64, .kind = Kind::Number, .text = [](int channel) { return channel + 1; }},
-        {.head = 363,
+        {.head = Message::kAddress,
          .width = 150,
          .kind = Kind::Figures,
          .text = Of(recorders.SVREdit.channels, &SVRChannel::sSub_CH_IP),
          .sort = [this](int channel) { return AddressSortKey(at(channel).sSub_CH_IP); }},
-        {.head = 364,
+        {.head = Message::kPort,
          .width = 76,
          .kind = Kind::Number,
          .text = [this](int channel) { return occupied(channel) ? at(channel).iSub_CH_HttpPort : QVariant(); }},
@@ -44,7 +45,7 @@ ChannelListModel::ChannelListModel(const RecorderSet& recorders, QObject* parent
                  const bool dome = m_recorders.SVREdit.sSVR_DeviceType == kFamilyOmluPro;
                  return !occupied(channel) ? QString() : dome ? u"camera-dome"_s : u"camera"_s;
              }},
-        {.head = 403,
+        {.head = Message::kStatus,
          .width = 190,
          .kind = Kind::State,
          .text = [this](int channel) { return stateText(channel); },
@@ -63,10 +64,12 @@ ChannelListModel::ChannelListModel(const RecorderSet& recorders, QObject* parent
          },
          .check = [this](int channel, bool on) { return switchOn(channel, on); }},
         {.kind = Kind::Open,
-         .words = [this, named](int channel) { return named(occupied(channel) ? 387 : 385, channel); },
+         .words = [this,
+                   named](int channel) { return named(occupied(channel) ? Message::kModify : Message::kAdd, channel); },
          .icon = [this](int channel) { return occupied(channel) ? u"edit"_s : u"add"_s; }},
         {.kind = Kind::Remove,
-         .words = [this, named](int channel) { return occupied(channel) ? named(386, channel) : QString(); }},
+         .words = [this,
+                   named](int channel) { return occupied(channel) ? named(Message::kRemove, channel) : QString(); }},
     });
     refill();
 }

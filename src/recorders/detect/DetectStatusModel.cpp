@@ -1,6 +1,7 @@
 #include "recorders/detect/DetectStatusModel.h"
 
 #include "app/language/Languages.h"
+#include "app/shell/Messages.h"
 
 #include <algorithm>
 
@@ -13,10 +14,10 @@ DetectStatusModel::DetectStatusModel(QObject* parent)
 {
     using Kind = TableColumn::Kind;
     setColumns({
-        {.head = 278, .width = 170, .text = Of(m_items, &NVRDetectItem::sName)},
-        {.head = 363, .width = 140, .kind = Kind::Figures, .text = Of(m_items, &NVRDetectItem::sIP)},
-        {.head = 364, .width = 70, .kind = Kind::Number, .text = Of(m_items, &NVRDetectItem::iPort)},
-        {.head = 382, .width = 120, .text = Of(m_items, &NVRDetectItem::sModel)},
+        {.head = Message::kDeviceName, .width = 170, .text = Of(m_items, &NVRDetectItem::sName)},
+        {.head = Message::kAddress, .width = 140, .kind = Kind::Figures, .text = Of(m_items, &NVRDetectItem::sIP)},
+        {.head = Message::kPort, .width = 70, .kind = Kind::Number, .text = Of(m_items, &NVRDetectItem::iPort)},
+        {.head = Message::kModel, .width = 120, .text = Of(m_items, &NVRDetectItem::sModel)},
         {.head = 280,
          .width = 70,
          .kind = Kind::Number,
@@ -25,7 +26,7 @@ DetectStatusModel::DetectStatusModel(QObject* parent)
                  const int channels = At(m_rows, row).channels;
                  return channels < 0 ? QVariant() : QVariant(channels);
              }},
-        {.head = 403,
+        {.head = Message::kStatus,
          .kind = Kind::State,
          .text = [this](int row) { return stateText(row); },
          .status = [this](int row) { return stateOf(row); },

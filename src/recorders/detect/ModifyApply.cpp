@@ -18,12 +18,10 @@ void ForgetModified(SVRRecord& record)
         channel.bSub_CH_Modified = false;
 }
 
-enum Message
+enum Words
 {
     kKeptWithoutChannels = 720,
-    kAskRemove = 721,
-    kDelete = 877,
-    kNotice = 965
+    kAskRemove = 721
 };
 
 bool HasCamera(const SVRRecord& record)
@@ -41,9 +39,9 @@ bool SameDevice(const SVRRecord& edit, const SVRRecord& work)
 // Box 721, and 720 when the answer is No.
 Modified OfferRemoval(const SVRRecord& recorder)
 {
-    if (AskToDestroy(kAskRemove, recorder.sSVR_Name, kDelete))
+    if (AskToDestroy(kAskRemove, recorder.sSVR_Name, Message::kDelete))
         return Modified::Remove;
-    Tell(Tone::Information, kKeptWithoutChannels, kNotice);
+    Tell(Tone::Information, kKeptWithoutChannels, Message::kNotice);
     return Modified::Kept;
 }
 

@@ -1,6 +1,7 @@
 #include "recorders/detect/NVRDetect.h"
 
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 #include "device/bridge/ModuleCGI.h"
 #include "device/protocol/Module_XML.h"
 #include "device/protocol/ParameterText.h"
@@ -20,13 +21,11 @@ constexpr QLatin1String kNoSizes(";;"); // of the three formats
 constexpr QLatin1String kSource("Form_NVRSetting - DetectNVR");
 constexpr qint32 kNewEventVersion = 30026804; // fourth piece of the firmware version
 
-enum Message
+enum Words
 {
-    kConnectionError = 7,
     kLogin = 25,
     kIncorrectAccount = 44,
     kRepeatAdd = 78,
-    kUnauthorised = 139,
     kNoResponse = 221,
     kGetCapability = 293,
     kGetChannels = 294,
@@ -34,11 +33,8 @@ enum Message
     kInitialValue = 296,
     kAddSuccess = 297,
     kNameEmpty = 553,
-    kAddressFault = 554,
     kNotSupported = 619,
-    kTooManyChannels = 716,
-    kNoChannel = 719,
-    kDetectSuccess = 833
+    kNoChannel = 719
 };
 
 // Ends a detection with a message.
@@ -63,7 +59,7 @@ int MessageOfLogin(qint32 result)
     case 404:
         return kNoResponse;
     default:
-        return kConnectionError;
+        return Message::kConnectionError;
     }
 }
 
@@ -125,7 +121,7 @@ public:
         say(kGetCapability, 20);
         co_await readCapability();
         if (!LoginLevelPasses(loginReply, m_family))
-            throw DetectFailure{kUnauthorised};
+            throw DetectFailure{Message::kUnauthorised};
         checkStation(); // what is refused already stays refused
         std::exception_ptr fault;
         try {
@@ -188,7 +184,7 @@ private:
     {
         const std::optional<SvrCapability> read = co_await CgiGetServerCapability(m_web, m_device, m_work);
         if (!read)
-            throw DetectFailure{kConnectionError};
+            throw DetectFailure{Message::kConnectionError};
         m_capability = *read;
         m_family = GetsDeviceType(m_capability.DeviceType, m_capability.MaxHDSupport);
         if (m_capability.DeviceType.contains("SVD"_L1) || (IsProFamily(m_family) && !m_capability.CMSSupport))
@@ -208,7 +204,7 @@ private:
                 throw DetectFailure{kRepeatAdd};
         }
         if (CameraTotal(known) > iChannelLimit)
-            throw DetectFailure{kTooManyChannels, u"(256)"_s};
+            throw DetectFailure{Message::kTooManyChannels, u"(256)"_s};
     }
 
     QCoro::Task<> readRecorder()
@@ -252,7 +248,7 @@ private:
         const auto pro = std::make_unique<SVRProRecord>();
         if (!DeviceBridge::DeviceTook(reply) || !parseChannels(reply, *svr, *pro) ||
             !parseChannels(reply, *m_svr, *m_pro))
-            throw DetectFailure{kConnectionError};
+            throw DetectFailure{Message::kConnectionError};
         for (std::size_t c = 0; c < kMaxChannel; ++c) {
             const SVRChannel& told = svr->channels[c];
             if (told.sSub_CH_IP.isEmpty()) {
@@ -297,7 +293,7 @@ private:
             const std::optional<RecorderChannel> told =
                 co_await m_context.com.device.GetChannel(m_device, number, m_work);
             if (!told)
-                throw DetectFailure{kConnectionError};
+                throw DetectFailure{Message::kConnectionError};
             const RecorderChannel& read = *told;
             SVRChannel& camera = At(m_svr->channels, channel);
             if (read.IP.isEmpty() || camera.sSub_CH_IP != read.IP)
@@ -334,7 +330,7 @@ private:
     {
         const QString system = co_await m_web.SendCmdXml(m_device, BuildGetSystemInfo(), m_work);
         if (!DeviceBridge::DeviceTook(system))
-            throw DetectFailure{kConnectionError};
+            throw DetectFailure{Message::kConnectionError};
         Trapped(kSource, [&] { ParseSystemInfo(system, *m_svr); });
 
         const QString device = co_await m_web.SendCmdXml(m_device, BuildGetDeviceInfo(), m_work);
@@ -414,7 +410,7 @@ QCoro::Task<ManualFault> ValidateManualNVR(QString typedName, QString typedAddre
         if (!CheckIP(address))
             found = co_await GetIpByName(address, work);
         if (found.isEmpty() || address == "127.0.0.1"_L1)
-            fault = {kAddressFault, ManualField::Address};
+            fault = {Message::kAddressFault, ManualField::Address};
         else if (port.trimmed().isEmpty())
             fault = {492, ManualField::Port};
     }
@@ -500,12 +496,12 @@ void DetectOrder::ended(std::size_t row)
 QCoro::Task<bool> DetectNVR(DetectContext context, NVRDetectItem item, DetectReport report, Work& work, DetectMode mode,
                             DetectOrder* order, std::size_t row)
 {
-    int message = kConnectionError;
+    int message = Message::kConnectionError;
     QString suffix;
     try {
         Detection detection(context, item, report, work, mode);
         co_await detection.run(order, row);
-        report({mode == DetectMode::Modify ? kDetectSuccess : kAddSuccess,
+        report({mode == DetectMode::Modify ? Message::kDetectSuccess : kAddSuccess,
                 100,
                 DetectStatus::State::Done,
                 {},

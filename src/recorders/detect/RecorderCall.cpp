@@ -1,15 +1,13 @@
 #include "recorders/detect/RecorderCall.h"
 
 #include "app/language/Languages.h"
+#include "app/shell/Messages.h"
 #include "platform/Closing.h"
 #include "platform/MsgBox.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int kInformation = 570;
-constexpr int kNotice = 965;
 
 // A program that is leaving shows no box any more.
 RecorderOutcome Failure(int message, const QString& suffix, const QString& title, int field)
@@ -28,17 +26,17 @@ QString RecorderOutcome::text() const
 
 RecorderOutcome RecorderOutcome::Failed(int message, const QString& suffix, int field)
 {
-    return Failure(message, suffix, GetLangString(kNotice), field);
+    return Failure(message, suffix, GetLangString(Message::kNotice), field);
 }
 
 RecorderOutcome RecorderOutcome::FailedPlain(int message, const QString& suffix)
 {
-    return Failure(message, suffix, GetLangString(kInformation), -1);
+    return Failure(message, suffix, GetLangString(Message::kInformation), -1);
 }
 
 RecorderOutcome RecorderOutcome::Done(int message)
 {
-    return {true, message, {}, message == 0 ? QString() : GetLangString(kInformation), -1};
+    return {true, message, {}, message == 0 ? QString() : GetLangString(Message::kInformation), -1};
 }
 
 void TellOutcome(const RecorderOutcome& outcome)

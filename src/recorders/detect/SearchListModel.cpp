@@ -1,5 +1,6 @@
 #include "recorders/detect/SearchListModel.h"
 
+#include "app/shell/Messages.h"
 #include "device/protocol/ReplyText.h"
 
 #include <algorithm>
@@ -12,15 +13,18 @@ SearchListModel::SearchListModel(const RecorderSet& recorders, QObject* parent)
         return [this, member](int row) { return QVariant(At(m_rows, row).device.*member); };
     };
     setColumns({
-        {.head = 278,
+        {.head = Message::kDeviceName,
          .kind = TableColumn::Kind::Check,
          .text = device(&FoundDevice::Name),
          .checked = [this](int row) { return known(row) || At(m_rows, row).checked; },
          .check = [this](int row, bool on) { return check(At(m_rows, row), on); }},
-        {.head = 363, .width = 150, .kind = TableColumn::Kind::Figures, .text = device(&FoundDevice::Address)},
-        {.head = 364, .width = 80, .kind = TableColumn::Kind::Number, .text = device(&FoundDevice::Port)},
-        {.head = 381, .width = 130, .text = device(&FoundDevice::Brand)},
-        {.head = 382, .width = 180, .text = device(&FoundDevice::Model)},
+        {.head = Message::kAddress,
+         .width = 150,
+         .kind = TableColumn::Kind::Figures,
+         .text = device(&FoundDevice::Address)},
+        {.head = Message::kPort, .width = 80, .kind = TableColumn::Kind::Number, .text = device(&FoundDevice::Port)},
+        {.head = Message::kBrand, .width = 130, .text = device(&FoundDevice::Brand)},
+        {.head = Message::kModel, .width = 180, .text = device(&FoundDevice::Model)},
     });
 }
 

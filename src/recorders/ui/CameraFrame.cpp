@@ -17,13 +17,10 @@ namespace {
 
 using Control = CameraEdit::Control;
 
-enum Message
+enum Words
 {
     kAskWrite = 611,
-    kDetectAgain = 616,
-    kNotice = 965,
-    kAsking = 975,
-    kWriting = 976
+    kAsking = 975
 };
 
 } // namespace
@@ -112,7 +109,7 @@ QPushButton* CameraFrame::detectButton() const
 
 bool CameraFrame::needsDetection() const
 {
-    return m_edit.changed() && m_edit.checkApply().message == kDetectAgain;
+    return m_edit.changed() && m_edit.checkApply().message == Message::kDetectAgain;
 }
 
 void CameraFrame::takeFocus()
@@ -194,10 +191,10 @@ void CameraFrame::apply()
         report(allowed);
         return;
     }
-    if (!Ask(kAskWrite, kNotice))
+    if (!Ask(kAskWrite, Message::kNotice))
         return;
     const auto write = [this] {
-        m_work.say(GetLangString(kWriting));
+        m_work.say(GetLangString(Message::kWriting));
         return m_edit.writeBack(m_work);
     };
     StartWork(m_work, "Form_NVRSetting - lbCamModifyApply_Click"_L1, write, [this](const RecorderOutcome& outcome) {

@@ -11,10 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int kSearch = 170;
-} // namespace
-
 CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, Work& work, QWidget* parent)
     : QWidget(parent)
     , m_edit(edit)
@@ -28,7 +24,7 @@ CameraSearchFrame::CameraSearchFrame(CameraEdit& edit, Work& work, QWidget* pare
                                   .button = "lb_CamReSearch"_L1,
                                   .name = 612,
                                   .filterText = 971,
-                                  .buttonText = kSearch,
+                                  .buttonText = Message::kSearch,
                                   .buttonIcon = "refresh"_L1,
                                   .buttonKind = {},
                                   .illustration = "empty-recorder"_L1,
@@ -56,7 +52,7 @@ CameraSearchFrame::~CameraSearchFrame() = default;
 void CameraSearchFrame::changeLanguage()
 {
     m_ui->list->changeLanguage();
-    m_ui->list->button()->setToolTip(GetLangString(kSearch) + u" (F5)"_s);
+    m_ui->list->button()->setToolTip(GetLangString(Message::kSearch) + u" (F5)"_s);
 }
 
 void CameraSearchFrame::open()

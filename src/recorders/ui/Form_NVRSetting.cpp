@@ -32,8 +32,6 @@ constexpr int kFrameCamSearch = 5;
 
 enum Words
 {
-    kStop = 951,
-    kWriting = 976,
     kNoneFound = 954,
     kWithSelected = 955,
     kNoneSelected = 832,
@@ -135,9 +133,10 @@ void Form_NVRSetting::showSteps()
 {
     m_ui->manual->setEnabled(!searches());
     const bool withSearch = searches() || m_frame == kFrameSearch;
-    const QString choose = GetLangString(875);
+    const QString choose = GetLangString(Message::kChoose);
     const QString detect = GetLangString(576);
-    steps()->setSteps(withSearch ? QStringList{choose, GetLangString(170), detect} : QStringList{choose, detect});
+    steps()->setSteps(withSearch ? QStringList{choose, GetLangString(Message::kSearch), detect}
+                                 : QStringList{choose, detect});
     steps()->setCurrent(!withSearch && m_frame == kFrameStatus ? 1 : m_frame);
 }
 
@@ -261,7 +260,7 @@ void Form_NVRSetting::showChanges()
     m_next->setEnabled(!m_work.running() && (m_frame != kFrameCamSearch || m_camSearch->hasChoice()));
     const bool changes =
         (m_frame == kFrameDetail && m_detail->changed()) || (m_frame == kFrameCamera && m_camera->edit().changed());
-    footer()->setNote(changes ? GetLangString(868) : QString());
+    footer()->setNote(changes ? GetLangString(Message::kUnsavedChanges) : QString());
 }
 
 void Form_NVRSetting::lbCamModifyApply_Click(int index)
@@ -302,7 +301,7 @@ void Form_NVRSetting::leave(Modified modified, bool applied)
         break;
     case Modified::Remove:
         const auto remove = [this] {
-            m_work.say(GetLangString(kWriting)); // a removal tells the recorder
+            m_work.say(GetLangString(Message::kWriting)); // a removal tells the recorder
             return m_remove(m_detail->slot(), m_work);
         };
         StartWork(m_work, "Form_NVRSetting - lbModifyApply_Click"_L1, remove, go);
@@ -513,7 +512,7 @@ void Form_NVRSetting::setBusy(bool busy)
 {
     m_next->setEnabled(!busy);
     m_back->setEnabled(!busy);
-    m_cancel->setText(GetLangString(busy ? kStop : At(kFaces, m_frame).cancelText));
+    m_cancel->setText(GetLangString(busy ? Message::kStop : At(kFaces, m_frame).cancelText));
     if (busy) {
         m_held.emplace(content());
         m_cancel->setFocus();

@@ -22,7 +22,6 @@ constexpr int kShortList = 6; // fewer channels than this draw a short grid
 constexpr int kReDetect = 703;
 constexpr int kTooManyEvents = 91;
 constexpr int kAskClear = 970;
-constexpr int kWriting = 976;
 constexpr qint16 kBothEvents = 3; // the two bits of an older recorder's switch
 constexpr qint16 kEvent = 1;      // the one of a Pro recorder
 
@@ -161,7 +160,8 @@ void NVRDetailFrame::showFacts()
 
 void NVRDetailFrame::showCounts()
 {
-    m_ui->lbChannelCount->setText(GetLangString(866).arg(m_channels->cameras()).arg(m_channels->rowCount()));
+    m_ui->lbChannelCount->setText(
+        GetLangString(Message::kChannelsOf).arg(m_channels->cameras()).arg(m_channels->rowCount()));
     m_ui->lbNoChannel->setVisible(m_ui->Grid_ChannelList->shownRows() == 0 && m_channels->rowCount() > 0);
 }
 
@@ -237,7 +237,7 @@ void NVRDetailFrame::clearChannel(int channel)
     if (!AskToDestroy(GetLangString(kAskClear).arg(channel + 1), camera, Message::kDelete))
         return;
     const auto clear = [this, channel] {
-        m_work.say(GetLangString(kWriting));
+        m_work.say(GetLangString(Message::kWriting));
         return ClearRecorderChannel(m_context.com, m_context.recorders, channel, m_work);
     };
     StartWork(m_work, "Form_NVRSetting - Grid_ChannelList_Click"_L1, clear,
@@ -258,7 +258,7 @@ void NVRDetailFrame::channelWritten(int channel)
 // Writes the switches that differ; the others stay as the recorder has them.
 QCoro::Task<RecorderOutcome> NVRDetailFrame::writeCameraEvents(std::vector<std::pair<int, bool>> changes)
 {
-    m_work.say(GetLangString(kWriting));
+    m_work.say(GetLangString(Message::kWriting));
     SVRRecord& record = m_context.recorders.SVREdit;
     CameraEventBits bits{};
     RecorderOutcome outcome = co_await ReadRecorderCameraEvents(m_context.com, record, bits, m_work);

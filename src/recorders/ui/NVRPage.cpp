@@ -67,7 +67,7 @@ void NVRPage::Grid_SVR_Draw()
                                   .button = "lbAdd"_L1,
                                   .name = 82,
                                   .filterText = 863,
-                                  .buttonText = 385,
+                                  .buttonText = Message::kAdd,
                                   .illustration = "empty-recorder"_L1,
                                   .none = 861,
                                   .noneHint = 862,
@@ -92,7 +92,7 @@ void NVRPage::Grid_SVR_Set_withDB()
 QString NVRPage::counts() const
 {
     return GetLangString(865).arg(m_model->rowCount()).arg(kMaxSVR) + u"  ·  "_s +
-           GetLangString(866).arg(CameraTotal(m_recorders.SVRList)).arg(iChannelLimit + 1);
+           GetLangString(Message::kChannelsOf).arg(CameraTotal(m_recorders.SVRList)).arg(iChannelLimit + 1);
 }
 
 void NVRPage::changeLanguage()

@@ -13,10 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int kSearch = 170;
-} // namespace
-
 RecorderSearchFrame::RecorderSearchFrame(FinderBridge& finder, const RecorderSet& recorders, QWidget* parent)
     : QWidget(parent)
     , m_finder(finder)
@@ -29,7 +25,7 @@ RecorderSearchFrame::RecorderSearchFrame(FinderBridge& finder, const RecorderSet
                                   .button = "lbSearch"_L1,
                                   .name = 288,
                                   .filterText = 953,
-                                  .buttonText = kSearch,
+                                  .buttonText = Message::kSearch,
                                   .buttonIcon = "refresh"_L1,
                                   .buttonKind = {}});
     m_ui->list->addTool(m_ui->Chk_SelectAll);
@@ -59,7 +55,7 @@ RecorderSearchFrame::~RecorderSearchFrame()
 void RecorderSearchFrame::changeLanguage()
 {
     m_ui->list->changeLanguage();
-    m_ui->list->button()->setToolTip(GetLangString(kSearch) + u" (F5)"_s);
+    m_ui->list->button()->setToolTip(GetLangString(Message::kSearch) + u" (F5)"_s);
 }
 
 void RecorderSearchFrame::open()
