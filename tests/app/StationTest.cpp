@@ -1,5 +1,4 @@
 #include "app/CloseSequence.h"
-#include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "platform/Autostart.h"
 #include "platform/Clock.h"
@@ -9,6 +8,7 @@
 #include "store/SystemLog.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/support/BoxAnswers.h"
+#include "tests/support/StartedStation.h"
 #include "users/AccountStore.h"
 
 #include <QProcess>
@@ -41,21 +41,14 @@ protected:
     {
         QFile::remove(path(literal));
         ASSERT_TRUE(QFile::copy(path(kTemplateFile), path(literal)));
-        Connection connection;
-        connection.setConnectionString(DatabaseConnectionString(path(literal)));
-        connection.openAsIs();
-        QSqlQuery query(connection.database());
-        ASSERT_TRUE(query.exec(u"UPDATE BasicDefault SET iLanguage=1, sSystemName='%1'"_s.arg(name)));
+        ask(u"UPDATE BasicDefault SET iLanguage=1, sSystemName='%1'"_s.arg(name), literal);
     }
-    // The first value of a statement on a database file.
+    // What a statement on a database file answers.
     QString ask(const QString& statement, QStringView literal = kDatabaseFile)
     {
-        Connection connection;
-        connection.setConnectionString(DatabaseConnectionString(path(literal)));
-        connection.openAsIs();
-        QSqlQuery query(connection.database());
-        EXPECT_TRUE(query.exec(statement)) << statement.toStdString() << query.lastError().text().toStdString();
-        return query.next() ? query.value(0).toString() : QString();
+        const QString answer = FileRows(path(literal), statement);
+        EXPECT_FALSE(answer.startsWith("error:"_L1)) << statement.toStdString() << answer.toStdString();
+        return answer;
     }
     void run(const QString& statement) { ask(statement); }
     QString nameIn(QStringView literal) { return ask(u"SELECT sSystemName FROM BasicDefault"_s, literal); }
@@ -75,14 +68,8 @@ protected:
     }
     void start()
     {
-        fresh = std::make_unique<Station>();
-        OpenDatabases(*fresh);
-        UpdateWatcher watcher;
-        ReadDefaults(*fresh, watcher);
-        LoadRecords(*fresh);
-        fresh->basicDefault.edit = fresh->basicDefault.stored;
-        fresh->families.InitialSetValue();
-        fresh->Loading = false;
+        fresh.reset();
+        fresh = StartedStation();
     }
     QStringList audit()
     {
@@ -237,7 +224,7 @@ TEST_F(StationTest, WhatCouldNotBeReadIsNotWrittenOver)
         SCOPED_TRACE(table.toStdString());
         makeDatabase(kDatabaseFile, u"x"_s);
         run(u"INSERT INTO %1 DEFAULT VALUES"_s.arg(table));
-        const QString column = ask(u"SELECT name FROM pragma_table_info('%1') ORDER BY cid DESC"_s.arg(table));
+        const QString column = ask(u"SELECT name FROM pragma_table_info('%1') ORDER BY cid DESC LIMIT 1"_s.arg(table));
         run(u"ALTER TABLE %1 RENAME COLUMN \"%2\" TO gone"_s.arg(table, column));
         const QString before = ask(u"SELECT COUNT(*)||'|'||SUM(rowid) FROM "_s + table);
         boxes.clear();
@@ -685,12 +672,7 @@ TEST(SavingChild, Runs)
     if (folder.isEmpty())
         GTEST_SKIP() << "only as the child of another test";
     SetAppPath(folder);
-    auto station = std::make_unique<Station>();
-    OpenDatabases(*station);
-    UpdateWatcher watcher;
-    ReadDefaults(*station, watcher);
-    LoadRecords(*station);
-    station->families.InitialSetValue();
+    const std::unique_ptr<Station> station = StartedStation();
     SVRRecord& work = station->recorders.SVRWorkList[0];
     work.sSVR_IP = u"10.0.0.1"_s;
     work.iSVR_Num = 1;

@@ -2,6 +2,7 @@
 
 #include "app/log/Module_Log.h"
 #include "platform/AppPath.h"
+#include "platform/DatabaseFile.h"
 #include "store/Databases.h"
 #include "store/Template.h"
 #include "tests/TestMain.h"
@@ -29,6 +30,15 @@ inline QString Rows(const Connection& connection, const QString& statement, QCha
         rows << cells.join(cell);
     }
     return rows.join(row);
+}
+
+// The same of a database file, as it stands.
+inline QString FileRows(const QString& file, const QString& statement)
+{
+    Connection connection;
+    connection.setConnectionString(DatabaseConnectionString(file));
+    connection.openAsIs();
+    return Rows(connection, statement, u'|', u'\n');
 }
 
 // As long as it lives no file grows beyond a size: the disk is full in the middle of a file.

@@ -1,7 +1,6 @@
 #include "app/StartUp.h"
 #include "app/language/Languages.h"
 #include "platform/Clock.h"
-#include "platform/DatabaseFile.h"
 #include "store/DBConvert.h"
 #include "store/DatabaseRepair.h"
 #include "store/UpdateDatabase.h"
@@ -31,14 +30,6 @@ void Make(const QString& file, const QStringList& statements)
         database.close();
     }
     QSqlDatabase::removeDatabase(u"old"_s);
-}
-
-QString Ask(const QString& file, const QString& statement)
-{
-    Connection connection;
-    connection.setConnectionString(DatabaseConnectionString(file));
-    connection.openAsIs();
-    return Rows(connection, statement, u'|', u'\n');
 }
 
 QString Version(const QString& version, const QString& name)
@@ -78,7 +69,7 @@ protected:
         OpenDatabases(*fresh);
         ReadDefaults(*fresh, watcher);
     }
-    QString now(const QString& statement) { return Ask(path(kDatabaseFile), statement); }
+    QString now(const QString& statement) { return FileRows(path(kDatabaseFile), statement); }
     // Files under their seconds names.
     QStringList aside() const
     {
@@ -106,8 +97,8 @@ TEST_F(UpgradeTest, OldDataIsCarriedOverByName)
     EXPECT_EQ(now(u"SELECT COUNT(*) FROM sqlite_master WHERE name IN ('Gone','SVD_P','MDROI')"_s), u"0"_s);
     EXPECT_EQ(logLines("clsDBConvert - ConvertDB"), 1) << "only the table that is part of a longer name fails";
     ASSERT_EQ(aside(), QStringList{path(u"\\Database\\1795521600.Database.mdb")});
-    EXPECT_EQ(Ask(aside().first(), u"SELECT x FROM Gone"_s), QString());
-    EXPECT_EQ(Ask(aside().first(), u"SELECT sDBVer FROM BasicDefault"_s), u"1.0.1.9"_s);
+    EXPECT_EQ(FileRows(aside().first(), u"SELECT x FROM Gone"_s), QString());
+    EXPECT_EQ(FileRows(aside().first(), u"SELECT sDBVer FROM BasicDefault"_s), u"1.0.1.9"_s);
     EXPECT_FALSE(QFile::exists(path(kConvertFile)));
 
     start();
@@ -182,7 +173,7 @@ TEST_F(UpgradeTest, AReadErrorInTheMiddleLeavesTheOldDatabaseInUse)
     layout << u"WITH RECURSIVE n(i) AS (SELECT 0 UNION ALL SELECT i+1 FROM n) INSERT INTO SVR "
               "SELECT 3,hex(zeroblob(400)),i,i,0 FROM n LIMIT 600"_s;
     Make(path(kDatabaseFile), layout);
-    const int page = Ask(path(kDatabaseFile), u"SELECT MAX(pageno) FROM dbstat WHERE name='SVR'"_s).toInt();
+    const int page = FileRows(path(kDatabaseFile), u"SELECT MAX(pageno) FROM dbstat WHERE name='SVR'"_s).toInt();
     const QByteArray whole = read(kDatabaseFile);
     QByteArray damaged = whole;
     ASSERT_GT(page, 0);
@@ -235,10 +226,10 @@ TEST_F(UpgradeTest, EventTriggersComeInTheOrderOfTheirNumbers)
                u"INSERT INTO EventTrigger VALUES(3,'c'),(1,'a'),(2,'b')"_s});
     Make(fresh, {u"CREATE TABLE EventTrigger(SN INTEGER PRIMARY KEY, sText TEXT)"_s});
     EXPECT_TRUE(clsDBConvert().ConvertDB(old, fresh));
-    EXPECT_EQ(Ask(fresh, u"SELECT group_concat(sText) FROM EventTrigger"_s), u"a,b,c"_s);
+    EXPECT_EQ(FileRows(fresh, u"SELECT group_concat(sText) FROM EventTrigger"_s), u"a,b,c"_s);
     Make(old, {u"ALTER TABLE EventTrigger DROP COLUMN SN"_s});
     EXPECT_TRUE(clsDBConvert().ConvertDB(old, fresh));
-    EXPECT_EQ(Ask(fresh, u"SELECT group_concat(sText) FROM EventTrigger"_s), u"c,a,b"_s);
+    EXPECT_EQ(FileRows(fresh, u"SELECT group_concat(sText) FROM EventTrigger"_s), u"c,a,b"_s);
 }
 
 TEST_F(UpgradeTest, ABadValueCostsItsRowOnly)
@@ -326,8 +317,8 @@ TEST_F(UpgradeTest, KilledAtAnyStepTheDataIsStillThere)
             int old = 0; // the user's file, whole, under its seconds name
             const QStringList files = aside();
             for (const QString& file : files)
-                old +=
-                    Ask(file, u"SELECT sSystemName,(SELECT COUNT(*) FROM MDROI) FROM BasicDefault"_s) == "Harbour|4"_L1;
+                old += FileRows(file, u"SELECT sSystemName,(SELECT COUNT(*) FROM MDROI) FROM BasicDefault"_s) ==
+                       "Harbour|4"_L1;
             EXPECT_EQ(old, 1);
             EXPECT_EQ(now(u"SELECT sSystemName,(SELECT COUNT(*) FROM MotionSettings) FROM BasicDefault"_s),
                       u"Harbour|4"_s)

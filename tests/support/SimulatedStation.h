@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/StartUp.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/support/SimulatedSite.h"
+#include "tests/support/StartedStation.h"
 
 // A whole station over its database, without windows.
 class SimulatedStation : public StoreFixture, public SimulatedSite
@@ -11,10 +11,8 @@ protected:
     // Opens it, again if it was.
     void start()
     {
-        desk = std::make_unique<Station>();
-        OpenDatabases(*desk);
-        LoadRecords(*desk);
-        desk->families.InitialSetValue();
+        desk.reset();
+        desk = StartedStation();
     }
     // With these recorders in its first slots, saved.
     void start(std::vector<simulators::DeviceDescription> devices)
