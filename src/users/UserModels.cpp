@@ -2,141 +2,78 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
-#include "support/Conversions.h"
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+using Kind = TableColumn::Kind;
 
 namespace {
 
-QString Mark(bool on)
+constexpr std::array kRightNames{908, 431, 430, 150}; // as the bits in kRightBits
+
+QString RecorderHead()
 {
-    return on ? u"✓"_s : u"–"_s;
+    return u"NVR"_s;
 }
 
-QVariant CentredMark(bool on, int role)
+QString YesOrNo(bool on)
 {
-    if (role == Qt::DisplayRole)
-        return Mark(on);
-    if (role == Qt::AccessibleTextRole)
-        return GetLangString(on ? 878 : 879);
-    return {};
+    return GetLangString(on ? 878 : 879);
+}
+
+// A tick where a group has the right, a dash where not.
+TableColumn RightColumn(const GroupSet& groups, qint16 GroupPrivilegeRecord::*right, int head, int width)
+{
+    return {.head = head,
+            .width = width,
+            .text = Of(groups.edit, [right](const auto& group) { return group.*right == 1 ? u"✓"_s : u"–"_s; }),
+            .words = [&groups, right](int group) { return YesOrNo(At(groups.edit, group).*right == 1); }};
 }
 
 } // namespace
 
 UserListModel::UserListModel(UserSet& users, const GroupSet& groups, QObject* parent)
-    : QAbstractTableModel(parent)
+    : TableModel(parent)
     , m_users(users)
     , m_groups(groups)
 {
+    const auto group = [&groups](const UserRecord& user) {
+        return user.iGroup >= 0 && user.iGroup < kGroups ? At(groups.edit, user.iGroup).Name : QString();
+    };
+    setColumns({{.head = 362, .text = Of(users.edit, &UserRecord::sUser)},
+                {.head = 423, .width = 300, .text = Of(users.edit, group)},
+                {.kind = Kind::Open},
+                {.kind = Kind::Remove}});
 }
 
 void UserListModel::User_Table_Set()
 {
-    beginResetModel();
-    m_slots.clear();
+    std::vector<int> listed;
     m_users.AdminCount = 0;
     for (std::size_t slot = 0; slot < m_users.edit.size(); ++slot) {
         const UserRecord& user = m_users.edit[slot];
         if (!IsListedUser(user))
             continue;
-        m_slots.push_back(static_cast<int>(slot));
+        listed.push_back(static_cast<int>(slot));
         if (user.iGroup == 0)
             ++m_users.AdminCount;
         Trapped("Form_Initial - User_Table_Set", [&] { At(m_groups.edit, user.iGroup); });
     }
-    endResetModel();
-}
-
-int UserListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : static_cast<int>(m_slots.size());
-}
-
-int UserListModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant UserListModel::data(const QModelIndex& index, int role) const
-{
-    const int slot = At(m_slots, index.row());
-    const UserRecord& user = At(m_users.edit, slot);
-    if (role == kSlotRole)
-        return slot;
-    if (index.column() >= Edit) {
-        const QString text = GetLangString(index.column() == Edit ? 876 : 877);
-        return role == Qt::ToolTipRole || role == Qt::AccessibleTextRole ? QVariant(text) : QVariant();
-    }
-    if (role == Qt::AccessibleTextRole)
-        return data(index, Qt::DisplayRole);
-    if (role != Qt::DisplayRole)
-        return {};
-    if (index.column() == Name)
-        return user.sUser;
-    return user.iGroup >= 0 && user.iGroup < kGroups ? At(m_groups.edit, user.iGroup).Name : QString();
-}
-
-QVariant UserListModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    if (section == Name)
-        return GetLangString(362);
-    return section == Group ? GetLangString(423) : QString();
+    setRecords(std::move(listed));
 }
 
 GroupListModel::GroupListModel(const GroupSet& groups, QObject* parent)
-    : QAbstractTableModel(parent)
-    , m_groups(groups)
+    : TableModel(parent)
 {
-}
-
-void GroupListModel::Group_Table_Set()
-{
-    beginResetModel();
-    endResetModel();
-}
-
-int GroupListModel::rowCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : kGroups;
-}
-
-int GroupListModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant GroupListModel::data(const QModelIndex& index, int role) const
-{
-    const GroupPrivilegeRecord& group = At(m_groups.edit, index.row());
-    switch (index.column()) {
-    case Group:
-        return role == Qt::DisplayRole ? QVariant(group.Name) : QVariant();
-    case Live:
-        return CentredMark(group.Live == 1, role);
-    case Setting:
-        return CentredMark(group.Setting == 1, role);
-    case Export:
-        return CentredMark(group.Export == 1, role);
-    case SVD:
-        return CentredMark(group.SVDControl == 1, role);
-    default:
-        return role == Qt::ToolTipRole || role == Qt::AccessibleTextRole ? QVariant(GetLangString(876)) : QVariant();
-    }
-}
-
-QVariant GroupListModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    static constexpr std::array numbers{423, 100, 432, 740};
-    if (section < static_cast<int>(numbers.size()))
-        return GetLangString(At(numbers, section));
-    return section == SVD ? u"SVD"_s : QString();
+    TableColumn svd = RightColumn(groups, &GroupPrivilegeRecord::SVDControl, 0, 100);
+    svd.headText = [] { return u"SVD"_s; };
+    setColumns({{.head = 423, .text = Of(groups.edit, &GroupPrivilegeRecord::Name)},
+                RightColumn(groups, &GroupPrivilegeRecord::Live, 100, 150),
+                RightColumn(groups, &GroupPrivilegeRecord::Setting, 432, 130),
+                RightColumn(groups, &GroupPrivilegeRecord::Export, 740, 130),
+                std::move(svd),
+                {.kind = Kind::Open}});
 }
 
 QStringList MyGroup_GetList(const GroupSet& groups)
@@ -147,49 +84,146 @@ QStringList MyGroup_GetList(const GroupSet& groups)
     return names;
 }
 
+AccountListModel::AccountListModel(const std::vector<NVRAccountRecord>& accounts, QObject* parent)
+    : TableModel(parent)
+    , m_accounts(accounts)
+{
+    setColumns({{.head = 465, .text = Of(accounts, &NVRAccountRecord::sUser)}, {.kind = Kind::Remove}});
+}
+
+void AccountListModel::refill()
+{
+    std::vector<int> named;
+    for (std::size_t element = 0; element < m_accounts.size(); ++element) {
+        if (!m_accounts[element].sUser.isEmpty())
+            named.push_back(static_cast<int>(element));
+    }
+    setRecords(std::move(named));
+}
+
+GroupRecorderModel::GroupRecorderModel(const GroupSet& groups, const RecorderSet& recorders, QObject* parent)
+    : TableModel(parent)
+    , m_groups(groups)
+    , m_recorders(recorders)
+{
+    setColumns({{.headText = RecorderHead, .width = 80, .text = [](int slot) { return slot + 1; }},
+                {.head = 362, .text = Of(recorders.SVRWorkList, &SVRRecord::sSVR_Name)},
+                {.head = 784, .width = 240, .text = [this](int slot) { return privilege(slot); }},
+                {.kind = Kind::Open}});
+}
+
+void GroupRecorderModel::refill(int group)
+{
+    m_group = group;
+    std::vector<int> named;
+    for (int slot = 0; slot < kMaxSVR; ++slot) {
+        if (!At(m_recorders.SVRWorkList, slot).sSVR_Name.isEmpty())
+            named.push_back(slot);
+    }
+    setRecords(std::move(named));
+}
+
+QString GroupRecorderModel::privilege(int slot) const
+{
+    const SVRRecord& recorder = At(m_recorders.SVRWorkList, slot);
+    const ChannelRights rights = ParseCHPrivilege(At(At(m_groups.edit, m_group).CHPrivilege, slot));
+    const bool whole = m_group == 0 || rights.all;
+    int cameras = 0;
+    int live = 0;
+    for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
+        if (At(recorder.channels, channel).sSub_CH_Name.isEmpty())
+            continue;
+        ++cameras;
+        live += whole || (At(rights.masks, channel) & kLiveRight) != 0 ? 1 : 0;
+    }
+    return (whole ? u"✓  "_s : QString()) + GetLangString(866).arg(live).arg(cameras);
+}
+
+ReachModel::ReachModel(const UserRecord& user, const GroupSet& groups, const RecorderSet& recorders, QObject* parent)
+    : TableModel(parent)
+    , m_cameras(CamerasOf(groups, user.iGroup, recorders.SVRWorkList))
+{
+    const auto& list = recorders.SVRWorkList;
+    const auto recorder = [&list](const ReachedCamera& camera) {
+        return QString(QString::number(camera.slot + 1) + u" · "_s + At(list, camera.slot).sSVR_Name);
+    };
+    const auto name = [&list](const ReachedCamera& camera) {
+        return At(At(list, camera.slot).channels, camera.channel).sSub_CH_Name;
+    };
+    const auto rights = [](const ReachedCamera& camera) {
+        QStringList names;
+        for (std::size_t i = 0; i < kRightNames.size(); ++i) {
+            if ((camera.mask & kRightBits[i]) != 0)
+                names << GetLangString(kRightNames[i]);
+        }
+        return names.join(u", "_s);
+    };
+    setColumns(
+        {{.headText = RecorderHead, .width = 190, .text = Of(m_cameras, recorder)},
+         {.head = 366, .width = 80, .text = Of(m_cameras, [](const auto& camera) { return camera.channel + 1; })},
+         {.head = 367, .width = 180, .text = Of(m_cameras, name)},
+         {.head = 784, .text = Of(m_cameras, rights)}});
+    setRecordCount(static_cast<int>(m_cameras.size()));
+}
+
 ChannelRightsModel::ChannelRightsModel(const GroupSet& groups, const UserSet& users, const SVRRecord& recorder,
                                        int group, int slot, QObject* parent)
-    : QAbstractTableModel(parent)
+    : TableModel(parent)
     , m_groups(groups)
     , m_users(users)
-    , m_recorder(recorder)
     , m_group(group)
-    , m_slot(slot)
     , m_rights(ParseCHPrivilege(At(At(groups.edit, group).CHPrivilege, slot)))
 {
+    const auto name = [&recorder](int channel) { return At(recorder.channels, channel).sSub_CH_Name; };
+    const auto reached = [this](int channel) { return reach(channel); };
+    std::vector<TableColumn> columns{
+        {.head = 366, .width = 64, .text = [](int channel) { return channel + 1; }},
+        {.head = 367, .width = 210, .text = name, .words = name},
+    };
+    static constexpr std::array widths{92, 92, 104, 92};
+    for (int column = Live; column <= Audio; ++column) {
+        const int head = At(kRightNames, column - Live);
+        columns.push_back({.head = head,
+                           .width = At(widths, column - Live),
+                           .words =
+                               [this, name, head, column](int channel) {
+                                   return QString(name(channel) + u", "_s + GetLangString(head) + u": "_s +
+                                                  YesOrNo(isOn(channel, column)));
+                               },
+                           .checked = [this, column](int channel) { return isOn(channel, column); }});
+    }
+    columns.push_back({.head = 905, .text = reached, .words = reached});
+    setColumns(std::move(columns));
     if (group == 0) {
         m_rights.all = true;
         m_rights.masks.fill(kAllRights);
     }
-    for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
-        if (!At(recorder.channels, channel).sSub_CH_Name.isEmpty())
-            m_channels.push_back(channel);
-    }
     for (int other = 0; other < kGroups; ++other)
         At(m_effective, other) = EffectiveRights(groups, other, slot);
+    std::vector<int> named;
+    for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
+        if (!name(channel).isEmpty())
+            named.push_back(channel);
+    }
+    setRecords(std::move(named));
 }
 
 void ChannelRightsModel::setAll(bool all)
 {
     m_rights.all = all;
-    if (rowCount() > 0)
-        emit dataChanged(index(0, Reach), index(rowCount() - 1, Reach));
+    allChanged();
 }
 
-int ChannelRightsModel::channelOf(int row) const
+bool ChannelRightsModel::isOn(int channel, int column) const
 {
-    return At(m_channels, row);
-}
-
-bool ChannelRightsModel::isOn(const QModelIndex& index) const
-{
-    return (At(m_rights.masks, channelOf(index.row())) & At(kRightBits, index.column() - Live)) != 0;
+    return (At(m_rights.masks, channel) & At(kRightBits, column - Live)) != 0;
 }
 
 void ChannelRightsModel::flip(const QModelIndexList& cells)
 {
-    give(cells, !std::all_of(cells.begin(), cells.end(),
-                             [this](const QModelIndex& cell) { return !isRight(cell.column()) || isOn(cell); }));
+    give(cells, !std::all_of(cells.begin(), cells.end(), [this](const QModelIndex& cell) {
+             return !isRight(cell.column()) || isOn(cell.data(kRecordRole).toInt(), cell.column());
+         }));
 }
 
 void ChannelRightsModel::give(const QModelIndexList& cells, bool on)
@@ -198,45 +232,17 @@ void ChannelRightsModel::give(const QModelIndexList& cells, bool on)
         return;
     for (const QModelIndex& cell : cells) {
         if (cell.isValid() && isRight(cell.column()))
-            m_rights.set(channelOf(cell.row()), At(kRightBits, cell.column() - Live), on);
+            m_rights.set(cell.data(kRecordRole).toInt(), At(kRightBits, cell.column() - Live), on);
     }
-    emit dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+    allChanged();
 }
 
-int ChannelRightsModel::rowCount(const QModelIndex& parent) const
+bool ChannelRightsModel::setData(const QModelIndex& index, const QVariant&, int role)
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_channels.size());
-}
-
-int ChannelRightsModel::columnCount(const QModelIndex& parent) const
-{
-    return parent.isValid() ? 0 : ColumnCount;
-}
-
-QVariant ChannelRightsModel::data(const QModelIndex& index, int role) const
-{
-    const int channel = channelOf(index.row());
-    const int column = index.column();
-    if (isRight(column)) {
-        if (role == Qt::CheckStateRole)
-            return isOn(index) ? Qt::Checked : Qt::Unchecked;
-        if (role == Qt::AccessibleTextRole)
-            return QString(At(m_recorder.channels, channel).sSub_CH_Name + u", "_s +
-                           headerData(column, Qt::Horizontal, Qt::DisplayRole).toString() + u": "_s +
-                           GetLangString(isOn(index) ? 878 : 879));
-        return {};
-    }
-    if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole &&
-        !(role == Qt::ToolTipRole && (column == Reach || column == Name)))
-        return {};
-    switch (column) {
-    case Channel:
-        return channel + 1;
-    case Name:
-        return At(m_recorder.channels, channel).sSub_CH_Name;
-    default:
-        return reach(channel);
-    }
+    if (role != Qt::CheckStateRole || !editable() || !isRight(index.column()))
+        return false;
+    flip({index});
+    return true;
 }
 
 QString ChannelRightsModel::reach(int channel) const
@@ -253,40 +259,4 @@ QString ChannelRightsModel::reach(int channel) const
             names << user.sUser;
     }
     return names.join(u", "_s);
-}
-
-QVariant ChannelRightsModel::headerData(int section, Qt::Orientation orientation, int role) const
-{
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
-        return {};
-    switch (section) {
-    case Channel:
-        return GetLangString(366);
-    case Name:
-        return GetLangString(367);
-    case Live:
-        return GetLangString(908);
-    case PTZ:
-        return GetLangString(431);
-    case Playback:
-        return GetLangString(430);
-    case Audio:
-        return GetLangString(150);
-    default:
-        return GetLangString(905);
-    }
-}
-
-Qt::ItemFlags ChannelRightsModel::flags(const QModelIndex& index) const
-{
-    // A cell flips as a whole, whoever clicks it: the views' own box handling stays out of it.
-    return index.isValid() ? Qt::ItemIsSelectable | Qt::ItemIsEnabled : Qt::NoItemFlags;
-}
-
-bool ChannelRightsModel::setData(const QModelIndex& index, const QVariant&, int role)
-{
-    if (role != Qt::CheckStateRole || !editable() || !isRight(index.column()))
-        return false;
-    flip({index});
-    return true;
 }

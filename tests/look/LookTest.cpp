@@ -355,6 +355,27 @@ TEST(LookFields, TheEyeShowsTypedPasswordsOnly)
 }
 
 // One pixel of every state: hovered, selected, plain; the hover covers the whole row.
+TEST(LookCards, AControlWithoutRoomBesideTheTitleGoesBelowIt)
+{
+    Card card(u"Users of the station"_s);
+    auto* list = new QLabel;
+    card.content()->addWidget(list);
+    auto* control = new QWidget;
+    control->setLayout(new QVBoxLayout);
+    control->layout()->addWidget(new QPushButton(u"Add another user to the list"_s));
+    card.setTitleControl(control);
+    card.resize(700, 200);
+    card.show();
+    const int beside = control->y();
+    card.resize(240, 200);
+    QCoreApplication::processEvents();
+    EXPECT_GT(control->y(), beside + TableRowHeight() / 2);
+    EXPECT_LE(control->geometry().bottom(), list->y());
+    card.resize(700, 200);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(control->y(), beside);
+}
+
 TEST(LookTables, RowsShowHoverAndSelection)
 {
     QStandardItemModel model(3, 3);

@@ -195,7 +195,7 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
         Driver::picture(u"group"_s);
         Driver::clickCell(u"Grid_NVRList"_s, 0, 0);
         EXPECT_FALSE(Driver::find(u"Grid_ChannelPrivilege"_s)) << "a click selects";
-        Driver::clickCell(u"Grid_NVRList"_s, 0, Form_GroupPrivilege::NVREdit);
+        Driver::clickCell(u"Grid_NVRList"_s, 0, GroupRecorderModel::Edit);
     });
     // A whole column by the keyboard, then Esc: it asks and stays, asks again and nothing is stored.
     step(u"Grid_ChannelPrivilege"_s, [this] {

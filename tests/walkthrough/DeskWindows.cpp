@@ -179,7 +179,7 @@ void Visitor::dialogs()
         rights.SetGroupPrivilege(4);
         rights.LoadFrame(0);
         show(u"rights-0"_s, rights);
-        show(u"rights-1"_s, rights, [] { ClickCell(u"Grid_NVRList"_s, 1, Form_GroupPrivilege::NVREdit); });
+        show(u"rights-1"_s, rights, [] { ClickCell(u"Grid_NVRList"_s, 1, GroupRecorderModel::Edit); });
     }
     show(u"accounts"_s, Form_AccountEdit(station.databases, station.accounts, &m_desk));
     modal(u"account"_s, [this] { Form_UserPass(&m_desk); });

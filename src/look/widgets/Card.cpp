@@ -1,8 +1,17 @@
 #include "look/widgets/Card.h"
 
+#include "look/style/Theme.h"
+
 #include <QStyle>
 #include <QStyleOptionGroupBox>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+namespace {
+constexpr int kBeside = 12; // px beside the control
+constexpr int kBelow = 8;   // px between the title and a control below it
+} // namespace
 
 Card::Card(const QString& title, QWidget* parent)
     : QGroupBox(title, parent)
@@ -56,8 +65,19 @@ void Card::placeTitleControl()
     QStyleOptionGroupBox option;
     initStyleOption(&option);
     const QRect title = style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, this);
-    const QSize size = m_titleControl->sizeHint();
-    const QRect logical(width() - 12 - size.width(), title.center().y() - size.height() / 2, size.width(),
-                        size.height());
+    const QSize wanted = m_titleControl->sizeHint();
+    const int room = width() - 2 * kBeside;
+    const int left = std::max(room - wanted.width(), 0) + kBeside;
+    const int words = QFontMetrics(DeskFont(1.06, true)).horizontalAdvance(option.text);
+    const bool fits = title.left() + words + kBeside <= left;
+    // Below the title where there is no room beside it.
+    const int top = fits ? title.center().y() - wanted.height() / 2 : title.bottom() + kBelow;
+    if (QLayout* content = layout()) {
+        const int taken = fits ? 0 : wanted.height() + kBelow;
+        QMargins margins = content->contentsMargins();
+        margins.setTop(margins.top() + taken - std::exchange(m_taken, taken));
+        content->setContentsMargins(margins);
+    }
+    const QRect logical(left, top, std::min(wanted.width(), room), wanted.height());
     m_titleControl->setGeometry(QStyle::visualRect(layoutDirection(), rect(), logical));
 }

@@ -18,7 +18,8 @@ public:
 
     // The content, top to bottom. Made on first use: a card may be given another layout instead.
     QVBoxLayout* content();
-    // Places a control at the trailing end of the title row. The card owns it.
+    // Places a control at the trailing end of the title row, or below the title where that is too narrow. The card owns
+    // it. Call it once the card has its layout.
     void setTitleControl(QWidget* control);
 
 protected:
@@ -31,4 +32,5 @@ private:
 
     QVBoxLayout* m_content = nullptr;
     QWidget* m_titleControl = nullptr;
+    int m_taken = 0; // px of the layout's upper margin that the control below the title needs
 };

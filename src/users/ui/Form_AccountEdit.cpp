@@ -4,80 +4,47 @@
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
 #include "app/shell/ui/TellFault.h"
-#include "look/style/Icons.h"
-#include "look/tables/Tables.h"
 #include "look/widgets/Keys.h"
 #include "look/widgets/SecondClick.h"
 #include "support/Conversions.h"
 #include "users/AccountStore.h"
 #include "users/ui/ui_Form_AccountEdit.h"
 
-#include <QHeaderView>
-#include <QStandardItemModel>
-
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int kRemove = 1;      // column
-constexpr int kIconColumn = 56; // px
-} // namespace
 
 Form_AccountEdit::Form_AccountEdit(Databases& databases, std::vector<NVRAccountRecord>& accounts, QWidget* parent)
     : DialogFrame(parent)
     , m_databases(databases)
     , m_accounts(accounts)
     , m_ui(std::make_unique<Ui::Form_AccountEdit>())
-    , m_model(new QStandardItemModel(this))
+    , m_list(new AccountListModel(accounts, this))
 {
     setObjectName(u"Form_AccountEdit"_s);
     setWindowTitle(GetLangString(831));
     m_ui->setupUi(content());
     setFooter(m_ui->footer);
-    m_ui->Grid_Account->setModel(m_model);
-    StyleTable(m_ui->Grid_Account);
+    DeskTable* grid = m_ui->Grid_Account;
+    grid->setList(m_list);
+    grid->whenRemoved([this](int element) { Grid_Account_Click(element); });
+    connect(grid, &DeskTable::shownChanged, this,
+            [this, grid] { m_ui->stack->setCurrentIndex(grid->shownRows() > 0 ? 0 : 1); });
     PasswordField* password = m_ui->Text_Account_1;
     QCheckBox* mask = m_ui->Chk_PasswordMask;
     connect(mask, &QCheckBox::toggled, password, [password](bool on) { password->setRevealed(!on); });
     connect(password, &PasswordField::revealedChanged, mask, [mask](bool revealed) { mask->setChecked(!revealed); });
     connect(m_ui->lbAccountClose, &QPushButton::clicked, this, &Form_AccountEdit::reject);
     connect(m_ui->lbAccountApply, &QPushButton::clicked, this, &Form_AccountEdit::lbAccountApply_Click);
-    ActOnRows(m_ui->Grid_Account, {.remove = kRemove}, [this](const QModelIndex& cell) {
-        if (cell.column() == kRemove)
-            Grid_Account_Click(cell.row());
-    });
     OnKey(this, Qt::Key_F5, [this] {
         if (GetMyAccount(m_databases, m_accounts) == 1)
-            refill();
+            m_list->refill();
     });
     ApplyLanguage(this);
-    refill();
+    m_list->refill();
     resize(520, 480);
     m_ui->Text_Account_0->setFocus();
 }
 
 Form_AccountEdit::~Form_AccountEdit() = default;
-
-void Form_AccountEdit::refill()
-{
-    QTableView* grid = m_ui->Grid_Account;
-    const int row = qMax(0, grid->currentIndex().row());
-    m_model->clear();
-    m_model->setHorizontalHeaderLabels({GetLangString(465), QString()});
-    for (const NVRAccountRecord& account : m_accounts) {
-        if (account.sUser.isEmpty())
-            continue;
-        auto* remove = new QStandardItem(Icon("delete"_L1), QString());
-        remove->setToolTip(GetLangString(877));
-        remove->setData(GetLangString(877), Qt::AccessibleTextRole);
-        m_model->appendRow({new QStandardItem(account.sUser), remove});
-    }
-    QHeaderView* head = grid->horizontalHeader();
-    head->setStretchLastSection(false);
-    head->setSectionResizeMode(0, QHeaderView::Stretch);
-    grid->setColumnWidth(kRemove, kIconColumn);
-    grid->setCurrentIndex(m_model->index(qMin(row, m_model->rowCount() - 1), 0));
-    m_ui->stack->setCurrentIndex(m_model->rowCount() > 0 ? 0 : 1);
-}
 
 bool Form_AccountEdit::lbAccountApply_Click()
 {
@@ -92,8 +59,9 @@ bool Form_AccountEdit::lbAccountApply_Click()
             return TellFault(m_ui->Text_Account_0, 620);
         AddAccount(m_accounts, m_ui->Text_Account_0->text(), m_ui->Text_Account_1->text());
         SaveMyAccount(m_databases, m_accounts);
-        refill();
-        m_ui->Grid_Account->setCurrentIndex(m_model->index(m_model->rowCount() - 1, 0));
+        m_list->refill();
+        const QAbstractItemModel* rows = m_ui->Grid_Account->model();
+        m_ui->Grid_Account->setCurrentIndex(rows->index(rows->rowCount() - 1, 0));
         m_ui->Text_Account_0->clear();
         m_ui->Text_Account_1->clear();
         m_ui->Text_Account_0->setFocus();
@@ -113,21 +81,14 @@ void Form_AccountEdit::reject()
     DialogFrame::reject();
 }
 
-void Form_AccountEdit::Grid_Account_Click(int row)
+void Form_AccountEdit::Grid_Account_Click(int element)
 {
     Trapped("Form_AccountEdit - Grid_Account_Click", [&] {
-        // Rows stand for the elements that have a user.
-        int element = -1;
-        for (int left = row; left >= 0; --left) {
-            do
-                ++element;
-            while (At(m_accounts, element).sUser.isEmpty());
-        }
         if (!AskToDestroy(1084, At(m_accounts, element).sUser))
             return;
         RemoveAccount(m_accounts, element);
         SaveMyAccount(m_databases, m_accounts);
-        refill();
+        m_list->refill();
         DropSecondClick(); // the next account has come under the pointer
     });
 }

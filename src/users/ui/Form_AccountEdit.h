@@ -1,13 +1,10 @@
 #pragma once
 
 #include "look/widgets/DialogFrame.h"
-#include "store/Databases.h"
-#include "store/records/UserRecords.h"
+#include "users/UserModels.h"
 
 #include <memory>
-#include <vector>
 
-class QStandardItemModel;
 namespace Ui {
 class Form_AccountEdit;
 }
@@ -24,13 +21,12 @@ public:
 
 private:
     bool lbAccountApply_Click(); // whether the account was added
-    void Grid_Account_Click(int row);
-    void refill();
+    void Grid_Account_Click(int element);
 
     Databases& m_databases;
     std::vector<NVRAccountRecord>& m_accounts;
     std::unique_ptr<Ui::Form_AccountEdit> m_ui;
-    QStandardItemModel* m_model;
+    AccountListModel* m_list;
 };
 
 // Opens the dialog; whoever has a button for it calls this.

@@ -4,7 +4,6 @@
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
-#include "look/style/Icons.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/Keys.h"
 #include "look/widgets/SecondClick.h"
@@ -14,15 +13,9 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QSortFilterProxyModel>
-#include <QStandardItemModel>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-constexpr int kSlotRole = Qt::UserRole;
-constexpr int kIconColumn = 56; // px
-} // namespace
 
 Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users, const RecorderSet& recorders,
                                          std::function<void()> save, QWidget* parent)
@@ -32,7 +25,7 @@ Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users,
     , m_recorders(recorders)
     , m_save(std::move(save))
     , m_ui(std::make_unique<Ui::Form_GroupPrivilege>())
-    , m_nvrs(new QStandardItemModel(this))
+    , m_nvrs(new GroupRecorderModel(groups, recorders, this))
     , m_proxy(new QSortFilterProxyModel(this))
 {
     setObjectName(u"Form_GroupPrivilege"_s);
@@ -57,11 +50,12 @@ void Form_GroupPrivilege::setUpGroupFrame()
 {
     Chk_GroupPrivilege = {m_ui->Chk_GroupPrivilege_0, m_ui->Chk_GroupPrivilege_1, m_ui->Chk_GroupPrivilege_2,
                           m_ui->Chk_GroupPrivilege_3, m_ui->Chk_GroupPrivilege_4};
-    QTableView* grid = m_ui->Grid_NVRList;
-    grid->setModel(m_nvrs);
-    StyleTable(grid);
-    ActOnRows(grid, {.open = NVREdit}, [this](const QModelIndex& cell) { openRecorder(cell.row()); });
-    OnKey(grid, Qt::Key_Space, [this, grid] { openRecorder(grid->currentIndex().row()); });
+    DeskTable* grid = m_ui->Grid_NVRList;
+    grid->setList(m_nvrs);
+    grid->whenOpened([this](int slot) { openRecorder(slot); });
+    OnKey(grid, Qt::Key_Space, [this, grid] { openRecorder(grid->currentRecord()); });
+    connect(grid, &DeskTable::shownChanged, this,
+            [this, grid] { m_ui->nvrStack->setCurrentIndex(grid->shownRows() > 0 ? 0 : 1); });
     connect(m_ui->Chk_GroupPrivilege_3, &QCheckBox::toggled, grid, &QWidget::setDisabled);
     m_ui->noRecorder->setIllustration("empty-recorder"_L1);
 }
@@ -114,7 +108,7 @@ void Form_GroupPrivilege::SetGroupPrivilege(int index)
     for (std::size_t i = 0; i < values.size(); ++i)
         Chk_GroupPrivilege[i]->setChecked(values[i] == 1);
     m_ui->Grid_NVRList->setEnabled(record.Live_all != 1);
-    Grid_NVRList_Draw();
+    m_nvrs->refill(m_group);
 }
 
 void Form_GroupPrivilege::LoadFrame(int frame)
@@ -136,52 +130,12 @@ void Form_GroupPrivilege::LoadFrame(int frame)
         m_ui->Grid_ChannelPrivilege->setFocus();
 }
 
-void Form_GroupPrivilege::Grid_NVRList_Draw()
+void Form_GroupPrivilege::openRecorder(int slot)
 {
-    m_nvrs->clear();
-    m_nvrs->setHorizontalHeaderLabels({u"NVR"_s, GetLangString(362), GetLangString(784), QString()});
-    for (int slot = 0; slot < kMaxSVR; ++slot) {
-        const SVRRecord& recorder = At(m_recorders.SVRWorkList, slot);
-        if (recorder.sSVR_Name.isEmpty())
-            continue;
-        const ChannelRights rights = ParseCHPrivilege(At(group().CHPrivilege, slot));
-        int cameras = 0;
-        int live = 0;
-        for (int channel = 0; channel < RightsChannelCount(recorder); ++channel) {
-            if (At(recorder.channels, channel).sSub_CH_Name.isEmpty())
-                continue;
-            ++cameras;
-            live += m_group == 0 || rights.all || (At(rights.masks, channel) & kLiveRight) != 0 ? 1 : 0;
-        }
-        auto* number = new QStandardItem(QString::number(slot + 1));
-        number->setData(slot, kSlotRole);
-        auto* state = new QStandardItem((m_group == 0 || rights.all ? u"✓  "_s : QString()) +
-                                        GetLangString(866).arg(live).arg(cameras));
-        auto* edit = new QStandardItem(Icon("edit"_L1), QString());
-        edit->setToolTip(GetLangString(876));
-        edit->setData(GetLangString(876), Qt::AccessibleTextRole);
-        m_nvrs->appendRow({number, new QStandardItem(recorder.sSVR_Name), state, edit});
-    }
-    QHeaderView* head = m_ui->Grid_NVRList->horizontalHeader();
-    head->setStretchLastSection(false);
-    head->setSectionResizeMode(1, QHeaderView::Stretch);
-    m_ui->Grid_NVRList->setColumnWidth(0, 80);
-    m_ui->Grid_NVRList->setColumnWidth(2, 240);
-    m_ui->Grid_NVRList->setColumnWidth(NVREdit, kIconColumn);
-    m_ui->nvrStack->setCurrentIndex(m_nvrs->rowCount() > 0 ? 0 : 1);
-    for (int row = 0; row < m_nvrs->rowCount(); ++row) {
-        if (row == 0 || m_nvrs->item(row)->data(kSlotRole).toInt() == m_slot)
-            m_ui->Grid_NVRList->setCurrentIndex(m_nvrs->index(row, 0));
-    }
-}
-
-void Form_GroupPrivilege::openRecorder(int row)
-{
+    if (slot < 0)
+        return;
     Trapped("Form_GroupPrivilege - Grid_NVRList_Click", [&] {
-        const QStandardItem* item = m_nvrs->item(row, 0);
-        if (!item)
-            return;
-        m_slot = item->data(kSlotRole).toInt();
+        m_slot = slot;
         Grid_ChannelPrivilege_Draw(m_slot);
         LoadFrame(1);
         DropSecondClick();
@@ -203,9 +157,10 @@ void Form_GroupPrivilege::Grid_ChannelPrivilege_Draw(int slot)
     m_ui->lbChannelHint->setText(GetLangString(editable ? 912 : 913));
     m_ui->Grid_ChannelPrivilege->setAccessibleName(GetLangString(784) + u". "_s + m_ui->lbChannelHint->text());
     m_before = FormCHPrivilege(m_channels->rights(), At(m_recorders.SVRWorkList, slot));
-    static constexpr std::array widths{64, 210, 92, 92, 104, 92};
-    for (int column = 0; column < static_cast<int>(widths.size()); ++column)
-        m_ui->Grid_ChannelPrivilege->setColumnWidth(column, At(widths, column));
+    std::vector<int> widths;
+    for (const TableColumn& column : m_channels->columns())
+        widths.push_back(column.width);
+    SetColumnWidths(m_ui->Grid_ChannelPrivilege, widths);
     m_ui->Grid_ChannelPrivilege->setCurrentIndex(m_proxy->index(0, ChannelRightsModel::Live));
 }
 
@@ -259,7 +214,7 @@ void Form_GroupPrivilege::lbNVRPrivilege_Click()
         record.bChanged = true;
         m_save();
         m_ui->Chk_GroupPrivilege_3->setChecked(record.Live_all == 1);
-        Grid_NVRList_Draw();
+        m_nvrs->refill(m_group);
         LoadFrame(0);
     });
 }

@@ -7,7 +7,6 @@
 
 class QCheckBox;
 class QSortFilterProxyModel;
-class QStandardItemModel;
 namespace Ui {
 class Form_GroupPrivilege;
 }
@@ -24,7 +23,6 @@ public:
 
     void SetGroupPrivilege(int group); // group index from 0
     void LoadFrame(int frame);
-    static constexpr int NVREdit = 3; // column of Grid_NVRList
 
     void reject() override;
 
@@ -34,11 +32,10 @@ protected:
 private:
     void setUpGroupFrame();
     void setUpChannelFrame();
-    void Grid_NVRList_Draw();
     void Grid_ChannelPrivilege_Draw(int slot);
     void lbGroupPrivilege_Click();
     void lbNVRPrivilege_Click();
-    void openRecorder(int row);
+    void openRecorder(int slot);
     void leaveFrame();
     GroupPrivilegeRecord ticked();
     bool changed(); // since the frame was opened
@@ -51,7 +48,7 @@ private:
     std::function<void()> m_save;
     std::unique_ptr<Ui::Form_GroupPrivilege> m_ui;
     std::array<QCheckBox*, 5> Chk_GroupPrivilege; // Setting, Export, Live, Live_all, SVDControl
-    QStandardItemModel* m_nvrs;
+    GroupRecorderModel* m_nvrs;
     QSortFilterProxyModel* m_proxy;
     std::unique_ptr<ChannelRightsModel> m_channels;
     int m_group = 0;

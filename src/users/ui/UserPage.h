@@ -6,7 +6,6 @@
 #include <functional>
 #include <memory>
 
-class QSortFilterProxyModel;
 namespace Ui {
 class UserPage;
 }
@@ -44,13 +43,10 @@ private:
     void editUser(int slot);
     void deleteUser(int slot);
     void editGroup(int group);
-    void showReach();
-    void showList();
-    int currentSlot() const;
+    void showReach(int slot);
 
     UserPageContext m_context;
     std::unique_ptr<Ui::UserPage> m_ui;
     UserListModel* m_users;
     GroupListModel* m_groups;
-    QSortFilterProxyModel* m_proxy;
 };

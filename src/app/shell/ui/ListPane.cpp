@@ -109,11 +109,10 @@ void ListPane::showState()
     const bool noMatch = any && m_table->shownRows() == 0;
     m_toolRow->setVisible(!none);
     m_counts->setText(m_searching ? GetLangString(Message::kSearching) : m_face.counts ? m_face.counts() : QString());
-    if (none || noMatch) {
-        m_empty->setHeadline(GetLangString(none ? m_face.none : m_face.noMatch));
-        m_empty->setHint(none && m_face.noneHint != 0 ? GetLangString(m_face.noneHint) : QString());
-        m_empty->setButton(none && m_face.buttonText != 0 ? GetLangString(m_face.buttonText) : QString());
-    }
+    // Also while the table is on show: what is hidden asks for room too.
+    m_empty->setHeadline(GetLangString(none ? m_face.none : m_face.noMatch));
+    m_empty->setHint(none && m_face.noneHint != 0 ? GetLangString(m_face.noneHint) : QString());
+    m_empty->setButton(none && m_face.buttonText != 0 ? GetLangString(m_face.buttonText) : QString());
     m_stack->setCurrentWidget(none || noMatch ? static_cast<QWidget*>(m_empty) : m_table);
 }
 
