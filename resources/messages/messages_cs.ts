@@ -3731,5 +3731,69 @@ Chcete jej přesto použít?</translation>
         <source>Trying again…</source>
         <translation>Zkouší se znovu…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filtrovat mapy a kamery…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Vyjmout</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Vložit</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Přesunout do…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>Mapa rekordéru patří pod hlavní mapu nebo do skupiny.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Kamera patří na mapu svého rekordéru nebo na některou jeho podmapu; na hlavní mapě není na žádné.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Už tam je.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Přesouvat lze jen mapy rekordérů a kamery.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Přesunout</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Zobrazit obrázek mapy</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Filtru neodpovídá žádná mapa ani kamera.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Zadejte název a přidejte skupinu.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Zadejte název a přidejte podmapu. Název mapy je název rekordéru.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Do skupiny se přetahují mapy rekordérů.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Přetáhněte kameru na mapu jejího rekordéru.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Na podmapu se přetahují kamery jejího rekordéru.</translation>
+    </message>
 </context>
 </TS>

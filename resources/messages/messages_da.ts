@@ -3731,5 +3731,69 @@ Vil du bruge det alligevel?</translation>
         <source>Trying again…</source>
         <translation>Prøver igen…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filtrer kort og kameraer …</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Klip</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Indsæt</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Flyt til …</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>En optagers kort hører til under hovedkortet eller i en gruppe.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Et kamera hører til på sin egen optagers kort eller et af dennes underkort; på hovedkortet er det ikke på noget.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Det er der allerede.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Kun optageres kort og kameraer kan flyttes.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Flyt</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Vis kortets billede</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Intet kort og intet kamera passer til filteret.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Angiv et navn for at tilføje en gruppe.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Angiv et navn for at tilføje et underkort. Kortet hedder som optageren.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Træk optageres kort ind i gruppen.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Træk kameraet til sin optagers kort.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Træk optagerens kameraer til underkortet.</translation>
+    </message>
 </context>
 </TS>

@@ -3731,5 +3731,69 @@ Möchten Sie ihn trotzdem verwenden?</translation>
         <source>Trying again…</source>
         <translation>Neuer Versuch…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Pläne und Kameras filtern …</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Verschieben nach …</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>Der Plan eines Rekorders gehört unter den Hauptplan oder in eine Gruppe.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Eine Kamera gehört auf den Plan ihres Rekorders oder einen seiner Unterpläne; auf dem Hauptplan steht sie auf keinem.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Das ist bereits dort.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Nur Pläne von Rekordern und Kameras lassen sich verschieben.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Bild des Plans zeigen</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Kein Plan und keine Kamera entspricht dem Filter.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Geben Sie einen Namen ein, um eine Gruppe hinzuzufügen.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Geben Sie einen Namen ein, um einen Unterplan hinzuzufügen. Der Plan heißt wie der Rekorder.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Ziehen Sie Pläne von Rekordern in die Gruppe.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Ziehen Sie die Kamera auf den Plan ihres Rekorders.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Ziehen Sie Kameras des Rekorders auf den Unterplan.</translation>
+    </message>
 </context>
 </TS>

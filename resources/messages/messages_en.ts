@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</translation>
         <source>Trying again…</source>
         <translation>Trying again…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filter maps and cameras…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Move to…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>A recorder's map goes under the main map or into a group.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>It is there already.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Only recorders' maps and cameras can be moved.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Move</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Show the map's picture</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>No map or camera matches the filter.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Enter a name to add a group.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Enter a name to add a sub-map. The map has the name of its recorder.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Drag recorders' maps into the group.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Drag the camera to the map of its recorder.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Drag cameras of its recorder to the sub-map.</translation>
+    </message>
 </context>
 </TS>

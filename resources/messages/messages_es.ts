@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</source>
         <source>Trying again…</source>
         <translation>Intentándolo de nuevo…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filtrar mapas y cámaras…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Cortar</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Pegar</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Mover a…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>El mapa de un grabador va bajo el mapa principal o en un grupo.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Una cámara va en el mapa de su grabador o en uno de sus submapas; en el mapa principal no está en ninguno.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Ya está ahí.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Solo se pueden mover los mapas de los grabadores y las cámaras.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Mover</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Mostrar la imagen del mapa</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Ningún mapa ni cámara coincide con el filtro.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Escriba un nombre para añadir un grupo.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Escriba un nombre para añadir un submapa. El mapa lleva el nombre del grabador.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Arrastre mapas de grabadores al grupo.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Arrastre la cámara al mapa de su grabador.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Arrastre al submapa cámaras de su grabador.</translation>
+    </message>
 </context>
 </TS>

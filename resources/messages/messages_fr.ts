@@ -3731,5 +3731,69 @@ Voulez-vous l’utiliser quand même ?</translation>
         <source>Trying again…</source>
         <translation>Nouvelle tentative…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filtrer plans et caméras…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Couper</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Coller</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Déplacer vers…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>Le plan d’un enregistreur va sous le plan principal ou dans un groupe.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Une caméra va sur le plan de son enregistreur ou l’un de ses sous-plans ; sur le plan principal, elle n’est sur aucun.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Il s’y trouve déjà.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Seuls les plans des enregistreurs et les caméras peuvent être déplacés.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Déplacer</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Afficher l’image du plan</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Aucun plan ni caméra ne correspond au filtre.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Saisissez un nom pour ajouter un groupe.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Saisissez un nom pour ajouter un sous-plan. Le plan porte le nom de l’enregistreur.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Faites glisser des plans d’enregistreurs dans le groupe.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Faites glisser la caméra sur le plan de son enregistreur.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Faites glisser des caméras de l’enregistreur sur le sous-plan.</translation>
+    </message>
 </context>
 </TS>

@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</source>
         <source>Trying again…</source>
         <translation>מנסה שוב…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>סינון מפות ומצלמות…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>גזירה</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>הדבקה</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>העברה אל…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>מפה של מקליט נמצאת תחת המפה הראשית או בקבוצה.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>מצלמה נמצאת במפת המקליט שלה או באחת ממפות המשנה שלו; במפה הראשית היא מוסרת מכל המפות.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>זה כבר נמצא שם.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>אפשר להעביר רק מפות של מקליטים ומצלמות.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>העברה</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>הצגת תמונת המפה</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>אין מפה או מצלמה התואמת למסנן.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>הקלידו שם כדי להוסיף קבוצה.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>הקלידו שם כדי להוסיף מפת משנה. שם המפה הוא שם המקליט.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>גררו מפות של מקליטים אל הקבוצה.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>גררו את המצלמה אל מפת המקליט שלה.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>גררו אל מפת המשנה מצלמות של המקליט שלה.</translation>
+    </message>
 </context>
 </TS>

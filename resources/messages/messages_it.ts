@@ -3731,5 +3731,69 @@ Usarlo comunque?</translation>
         <source>Trying again…</source>
         <translation>Nuovo tentativo…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filtra mappe e telecamere…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Taglia</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Incolla</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Sposta in…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>La mappa di un registratore va sotto la mappa principale o in un gruppo.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Una telecamera va sulla mappa del suo registratore o su una sua sottomappa; sulla mappa principale non sta su nessuna.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>È già lì.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Si possono spostare solo le mappe dei registratori e le telecamere.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Sposta</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Mostra l’immagine della mappa</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Nessuna mappa o telecamera corrisponde al filtro.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Inserire un nome per aggiungere un gruppo.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Inserire un nome per aggiungere una sottomappa. La mappa ha il nome del registratore.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Trascinare nel gruppo le mappe dei registratori.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Trascinare la telecamera sulla mappa del suo registratore.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Trascinare sulla sottomappa le telecamere del suo registratore.</translation>
+    </message>
 </context>
 </TS>

@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</source>
         <source>Trying again…</source>
         <translation>再試行しています…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>マップとカメラを絞り込み…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>切り取り</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>貼り付け</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>移動先…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>レコーダーのマップはメインマップの下かグループに置きます。</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>カメラは自分のレコーダーのマップかそのサブマップに置きます。メインマップに置くと、どのマップからも外れます。</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>すでにそこにあります。</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>移動できるのはレコーダーのマップとカメラだけです。</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>マップの画像を表示</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>条件に一致するマップやカメラがありません。</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>名前を入力してグループを追加します。</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>名前を入力してサブマップを追加します。マップ名はレコーダー名です。</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>レコーダーのマップをグループへドラッグします。</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>カメラを自分のレコーダーのマップへドラッグします。</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>このレコーダーのカメラをサブマップへドラッグします。</translation>
+    </message>
 </context>
 </TS>

@@ -3731,5 +3731,69 @@ Czy mimo to jej użyć?</translation>
         <source>Trying again…</source>
         <translation>Ponowna próba…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Filtruj mapy i kamery…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Wytnij</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Wklej</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Przenieś do…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>Mapa rejestratora należy pod mapę główną lub do grupy.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Kamera należy na mapę swojego rejestratora lub jego podmapę; na mapie głównej nie jest na żadnej.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Już tam jest.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Przenosić można tylko mapy rejestratorów i kamery.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Przenieś</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Pokaż obraz mapy</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Żadna mapa ani kamera nie pasuje do filtra.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Wpisz nazwę, aby dodać grupę.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Wpisz nazwę, aby dodać podmapę. Mapa nosi nazwę rejestratora.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Przeciągnij mapy rejestratorów do grupy.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Przeciągnij kamerę na mapę jej rejestratora.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Przeciągnij na podmapę kamery jej rejestratora.</translation>
+    </message>
 </context>
 </TS>

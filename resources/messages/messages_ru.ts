@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</source>
         <source>Trying again…</source>
         <translation>Новая попытка…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Фильтр карт и камер…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Вырезать</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Вставить</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Переместить в…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>Карта регистратора помещается под главную карту или в группу.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Камера помещается на карту своего регистратора или его подкарту; на главной карте она снимается со всех карт.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Это уже там.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Перемещать можно только карты регистраторов и камеры.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Переместить</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Показать изображение карты</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Нет карт и камер, соответствующих фильтру.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Введите имя, чтобы добавить группу.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Введите имя, чтобы добавить подкарту. Карта носит имя регистратора.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Перетащите в группу карты регистраторов.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Перетащите камеру на карту её регистратора.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Перетащите на подкарту камеры её регистратора.</translation>
+    </message>
 </context>
 </TS>

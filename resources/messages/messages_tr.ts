@@ -3731,5 +3731,69 @@ Yine de kullanmak istiyor musunuz?</translation>
         <source>Trying again…</source>
         <translation>Yeniden deneniyor…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>Haritaları ve kameraları filtrele…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>Kes</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>Yapıştır</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>Şuraya taşı…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>Kayıt cihazının haritası ana haritanın altına ya da bir gruba konur.</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>Kamera kendi kayıt cihazının haritasına ya da onun alt haritasına konur; ana haritada hiçbir haritada değildir.</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>Zaten orada.</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>Yalnızca kayıt cihazlarının haritaları ve kameralar taşınabilir.</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>Taşı</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>Haritanın resmini göster</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>Filtreye uyan harita ya da kamera yok.</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>Grup eklemek için bir ad girin.</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>Alt harita eklemek için bir ad girin. Haritanın adı kayıt cihazının adıdır.</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>Kayıt cihazlarının haritalarını gruba sürükleyin.</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>Kamerayı kayıt cihazının haritasına sürükleyin.</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>Kayıt cihazının kameralarını alt haritaya sürükleyin.</translation>
+    </message>
 </context>
 </TS>

@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</source>
         <source>Trying again…</source>
         <translation>正在重试…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>筛选地图和摄像机…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>剪切</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>粘贴</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>移动到…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>录像机的地图应放在主地图下或组中。</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>摄像机应放在其录像机的地图或其子地图上；放到主地图则从所有地图上移除。</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>已经在那里。</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>只能移动录像机的地图和摄像机。</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>移动</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>显示地图图片</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>没有符合筛选条件的地图或摄像机。</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>输入名称以添加组。</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>输入名称以添加子地图。地图使用录像机的名称。</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>将录像机的地图拖到组中。</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>将摄像机拖到其录像机的地图上。</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>将其录像机的摄像机拖到子地图上。</translation>
+    </message>
 </context>
 </TS>

@@ -3731,5 +3731,69 @@ Do you want to use it anyway?</source>
         <source>Trying again…</source>
         <translation>正在重試…</translation>
     </message>
+    <message id="1260">
+        <source>Filter maps and cameras…</source>
+        <translation>篩選地圖和攝影機…</translation>
+    </message>
+    <message id="1261">
+        <source>Cut</source>
+        <translation>剪下</translation>
+    </message>
+    <message id="1262">
+        <source>Paste</source>
+        <translation>貼上</translation>
+    </message>
+    <message id="1263">
+        <source>Move to…</source>
+        <translation>移動到…</translation>
+    </message>
+    <message id="1264">
+        <source>A recorder's map goes under the main map or into a group.</source>
+        <translation>錄影主機的地圖應放在主地圖下或群組中。</translation>
+    </message>
+    <message id="1265">
+        <source>A camera goes on the map of its own recorder or one of its sub-maps; on the main map it is taken off all maps.</source>
+        <translation>攝影機應放在其錄影主機的地圖或其子地圖上；放到主地圖則從所有地圖上移除。</translation>
+    </message>
+    <message id="1266">
+        <source>It is there already.</source>
+        <translation>已經在那裡。</translation>
+    </message>
+    <message id="1267">
+        <source>Only recorders' maps and cameras can be moved.</source>
+        <translation>只能移動錄影主機的地圖和攝影機。</translation>
+    </message>
+    <message id="1268">
+        <source>Move</source>
+        <translation>移動</translation>
+    </message>
+    <message id="1269">
+        <source>Show the map's picture</source>
+        <translation>顯示地圖圖片</translation>
+    </message>
+    <message id="1270">
+        <source>No map or camera matches the filter.</source>
+        <translation>沒有符合篩選條件的地圖或攝影機。</translation>
+    </message>
+    <message id="1271">
+        <source>Enter a name to add a group.</source>
+        <translation>輸入名稱以新增群組。</translation>
+    </message>
+    <message id="1272">
+        <source>Enter a name to add a sub-map. The map has the name of its recorder.</source>
+        <translation>輸入名稱以新增子地圖。地圖使用錄影主機的名稱。</translation>
+    </message>
+    <message id="1273">
+        <source>Drag recorders' maps into the group.</source>
+        <translation>將錄影主機的地圖拖到群組中。</translation>
+    </message>
+    <message id="1274">
+        <source>Drag the camera to the map of its recorder.</source>
+        <translation>將攝影機拖到其錄影主機的地圖上。</translation>
+    </message>
+    <message id="1275">
+        <source>Drag cameras of its recorder to the sub-map.</source>
+        <translation>將其錄影主機的攝影機拖到子地圖上。</translation>
+    </message>
 </context>
 </TS>

@@ -18,6 +18,33 @@ EMapGroupRow* MapOfRecorder(EMapSet& set, int slot)
     return found == set.edit.end() ? nullptr : &*found;
 }
 
+QString SubMapsParent(int slot)
+{
+    return u'S' + QString::number(slot + 1);
+}
+
+// Cameras of the slot that name one map as theirs name another one.
+void RenameParent(EMapIconRecord& icons, const QString& from, const QString& to)
+{
+    for (EMapIcon& icon : icons.channels) {
+        if (!from.isEmpty() && icon.sParent == from)
+            icon.sParent = to;
+    }
+}
+
+QString FreeName(const std::vector<EMapGroupRow>& maps, const QString& name)
+{
+    const auto taken = [&maps](const QString& tried) {
+        return std::any_of(maps.begin(), maps.end(), [&](const EMapGroupRow& map) { return map.sName == tried; });
+    };
+    int number = 2;
+    QString free;
+    do {
+        free = name + u' ' + QString::number(number++);
+    } while (taken(free));
+    return free;
+}
+
 } // namespace
 
 EMapSet::EMapSet()
@@ -52,6 +79,16 @@ void ReDimEMapGroup(EMapSet& set)
     set.edit = std::move(maps);
 }
 
+qint16 NextMapNumber(const std::vector<EMapGroupRow>& maps)
+{
+    qint16 highest = 0;
+    for (const EMapGroupRow& map : maps) {
+        if (map.iMap_Type == kMapGroup || map.iMap_Type == kMapSub)
+            highest = std::max(highest, map.iMap_ID);
+    }
+    return ToInt16(QString::number(highest + 1));
+}
+
 bool AddRecorderMap(EMapSet& set, int slot, const QString& name)
 {
     if (MapOfRecorder(set, slot))
@@ -76,10 +113,15 @@ void RenameRecorderMap(EMapSet& set, int slot, const QString& name)
     if (!map || map->sName == name)
         return;
     EMapIconRecord& icons = At(set.iconsEdit, slot);
-    for (auto& [parent, mapX, mapY, infoX, infoY, position] : icons.channels) {
-        if (parent == map->sName && !parent.isEmpty())
-            parent = name;
+    for (EMapGroupRow& sub : set.edit) {
+        if (sub.iMap_Type == kMapSub && sub.sParent == SubMapsParent(slot) && sub.sName == name) {
+            const QString free = FreeName(set.edit, name);
+            RenameParent(icons, name, free);
+            sub.sName = free;
+            sub.bChanged = true;
+        }
     }
+    RenameParent(icons, map->sName, name);
     icons.bChanged = true;
     map->sName = name;
     map->bChanged = true;
@@ -93,7 +135,7 @@ void RemoveCameraIcon(EMapSet& set, int slot, int channel)
 
 void RemoveRecorderMaps(EMapSet& set, int slot)
 {
-    const QString key = u'S' + QString::number(slot + 1);
+    const QString key = SubMapsParent(slot);
     for (EMapGroupRow& map : set.edit) {
         const bool own = map.iMap_Type == kMapRecorder && map.iMap_ID == slot + 1;
         if (own || (map.iMap_Type == kMapSub && map.sParent == key)) {

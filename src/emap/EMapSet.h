@@ -34,13 +34,16 @@ EMapGroupRow RootMap();
 // marked as changed.
 void ReDimEMapGroup(EMapSet& set);
 
+// Number for a new group or sub-map: one above the highest of both.
+qint16 NextMapNumber(const std::vector<EMapGroupRow>& maps);
+
 // What the maps have to do with a recorder (slot from 0). All work on the edit copies and mark what they touch.
 
 // Gives a new recorder its map, directly under the root and behind the other recorders' maps. False, with nothing
 // changed, when the slot has one already.
 bool AddRecorderMap(EMapSet& set, int slot, const QString& name);
-// The map follows the recorder's new name, and so do the cameras placed on it, which name their map. Without a map of
-// the slot nothing happens.
+// The map follows the recorder's new name, and so do the cameras placed on it, which name their map. One of its own
+// sub-maps that has this name gives way ("Hall 2") with its cameras. Without a map of the slot nothing happens.
 void RenameRecorderMap(EMapSet& set, int slot, const QString& name);
 // A camera (channel from 0) is on no map any more.
 void RemoveCameraIcon(EMapSet& set, int slot, int channel);

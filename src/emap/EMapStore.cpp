@@ -4,6 +4,7 @@
 #include "store/tables/Tables.h"
 
 #include <algorithm>
+#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,37 @@ constexpr int kPage = 6;
 constexpr int kCaption = 433; // "Map"
 constexpr QLatin1String kGroupSource("Module_DB_Access - SaveEMapGroup");
 constexpr QLatin1String kIconSource("Module_DB_Access - SaveEMapIcon");
+
+bool OnPicture(double fraction)
+{
+    return fraction >= 0 && fraction <= 1;
+}
+
+// Tells of positions outside the picture; they are kept and drawn at its edge.
+void TellPositions(QLatin1String source, int outside)
+{
+    if (outside > 0)
+        LogTrap(source, u"%1 positions are outside the picture"_s.arg(outside));
+}
+
+// What the tree takes for granted: the root stands first, a recorder has one map, numbers of groups and of sub-maps
+// are given once.
+void SettleMaps(std::vector<EMapGroupRow>& maps, QLatin1String source)
+{
+    if (maps.empty() || maps.front().iMap_Type != kMapRoot)
+        maps.insert(maps.begin(), RootMap());
+    std::set<std::pair<qint16, qint16>> numbers;
+    std::erase_if(maps, [&](EMapGroupRow& map) {
+        if (numbers.emplace(map.iMap_Type, map.iMap_ID).second)
+            return false;
+        LogTrap(source, u"Two maps have the level %1 and the number %2"_s.arg(map.iMap_Type).arg(map.iMap_ID));
+        if (map.iMap_Type != kMapGroup && map.iMap_Type != kMapSub)
+            return true;
+        map.iMap_ID = NextMapNumber(maps);
+        numbers.emplace(map.iMap_Type, map.iMap_ID);
+        return false;
+    });
+}
 
 EMapIcon& IconOf(EMapIconTable& table, const EMapIconRow& row)
 {
@@ -33,8 +65,11 @@ bool GetEMapGroup(Databases& databases, EMapSet& set)
     if (ReadTable(databases, u"EMapGroup"_s, u"Select * From EMapGroup  ORDER BY iMap_Type,iMap_ID ASC"_s,
                   EMapGroupColumns, source, [&](EMapGroupRow&& map) { maps.push_back(std::move(map)); }) == 0)
         return false;
-    if (maps.empty() || maps.front().iMap_Type != kMapRoot)
-        maps.insert(maps.begin(), RootMap());
+    SettleMaps(maps, source);
+    TellPositions(source, static_cast<int>(std::count_if(maps.begin(), maps.end(), [](const EMapGroupRow& map) {
+                      return !OnPicture(map.dMapX) || !OnPicture(map.dMapY) || !OnPicture(map.dSMapX) ||
+                             !OnPicture(map.dSMapY) || !OnPicture(map.dInfoX) || !OnPicture(map.dInfoY);
+                  })));
     set.stored = maps;
     set.edit = std::move(maps);
     return true;
@@ -49,8 +84,15 @@ bool SaveEMapGroup(Databases& databases, const EMapSet& set)
 bool GetEMapIconEx(Databases& databases, EMapSet& set)
 {
     constexpr QLatin1String source("Module_DB_Access - GetEMapIconEx");
-    return ReadTable(databases, u"EMapIcon"_s, u"Select * From EMapIcon"_s, EMapIconColumns, source,
-                     [&](EMapIconRow&& row) { IconOf(set.iconsStored, row) = row; }) == 1;
+    int outside = 0;
+    const qint16 read = ReadTable(databases, u"EMapIcon"_s, u"Select * From EMapIcon"_s, EMapIconColumns, source,
+                                  [&](EMapIconRow&& row) {
+                                      IconOf(set.iconsStored, row) = row;
+                                      outside += !OnPicture(row.dMapX) || !OnPicture(row.dMapY) ||
+                                                 !OnPicture(row.dInfoX) || !OnPicture(row.dInfoY);
+                                  });
+    TellPositions(source, outside);
+    return read == 1;
 }
 
 bool SaveEMapIcon(Databases& databases, const EMapSet& set, const RecorderSet& recorders)

@@ -16,7 +16,7 @@
 #include "store/SystemLog.h"
 #include "support/TimeSeconds.h"
 #include "tests/support/SimulatedSite.h"
-#include "tests/walkthrough/WindowTour.h"
+#include "tests/walkthrough/EMapWindows.h"
 #include "users/ui/Form_AccountEdit.h"
 #include "users/ui/Form_GroupPrivilege.h"
 #include "users/ui/Form_Login.h"
@@ -227,6 +227,7 @@ void VisitWindows(Form_Initial& desk, Station& station, const VisitWindow& visit
     visitor.furnish();
     visitor.pages(u"filled-"_s, {Visitor::kRecorders, Visitor::kUsers, Visitor::kTooling});
     visitor.dialogs();
+    EMapWindows(visitor);
     visitor.clear();
     SetMsgBoxHandler(boxes);
 }

@@ -20,6 +20,7 @@ struct EMapGroupRow
     qint16 iInfo_Position = 0;
     QString sMap_Path;
     bool bChanged = false;
+    friend bool operator==(const EMapGroupRow&, const EMapGroupRow&) = default;
 };
 
 // Where a camera is on the maps.
@@ -31,6 +32,7 @@ struct EMapIcon
     double dInfoX = 0;
     double dInfoY = 0;
     qint16 iInfo_Position = 0;
+    friend bool operator==(const EMapIcon&, const EMapIcon&) = default;
 };
 
 // A row of the table: a camera and where it is.
