@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/Work.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <exception>
 #include <optional>
-#include <qcorotask.h>
 
 // Runs the event loop until the task has ended. Gives its result, or throws what it threw.
 template <class T>
@@ -44,4 +46,13 @@ bool WaitUntil(Condition&& holds, double seconds)
     while (!holds() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 20);
     return holds();
+}
+
+// Stops a work; false when it, or what it waits for, takes longer than an operator would notice.
+inline bool StopsAtOnce(Work& work)
+{
+    QElapsedTimer time;
+    time.start();
+    work.stop();
+    return time.elapsed() < 200 && !work.running();
 }

@@ -8,6 +8,7 @@ class CameraStation : public RecorderStation
 {
 protected:
     using Control = CameraEdit::Control;
+    static constexpr Family kFamilies[] = {Family::Svr, Family::OmluPro, Family::Txr632};
 
     void start(Family family, int channels = 16, int cameras = 7)
     {

@@ -5,14 +5,10 @@
 #include "tests/recorders/CameraFixture.h"
 
 using namespace Qt::StringLiterals;
-using simulators::Family;
-using simulators::FaultKind;
 
 namespace {
 
 using ChannelWrite = CameraStation;
-
-constexpr Family kFamilies[] = {Family::Svr, Family::OmluPro, Family::Txr632};
 
 TEST_F(ChannelWrite, ClearedChannelIsEmptyOnTheRecorderAndOnThePage)
 {

@@ -7,8 +7,6 @@
 #include "recorders/detect/SearchListModel.h"
 #include "tests/support/RecorderStation.h"
 
-#include <QElapsedTimer>
-
 using namespace Qt::StringLiterals;
 using simulators::DeviceDescription;
 using State = DetectStatus::State;
@@ -302,11 +300,7 @@ TEST_F(Detecting, StopEndsTheRunAtOnceAndChangesNothing)
             co_await detection;
         }));
         ASSERT_TRUE(WaitUntil([&] { return requests(0, c.path) > 0; }, 10));
-        QElapsedTimer time;
-        time.start();
-        work.stop();
-        EXPECT_LT(time.elapsed(), 200);
-        EXPECT_FALSE(work.running());
+        EXPECT_TRUE(StopsAtOnce(work));
         EXPECT_EQ(last.message, 963);
         EXPECT_EQ(com.http.open(), 0);
         EXPECT_EQ(requests(0, c.path), 1);

@@ -82,17 +82,19 @@ protected:
     }
     void execute(const QString& sql)
     {
-        QSqlQuery query(databases.DBConn->database());
+        QSqlQuery query(opened().DBConn->database());
         ASSERT_TRUE(query.exec(sql)) << sql.toStdString();
     }
     QVariant value(const QString& sql)
     {
-        QSqlQuery query(databases.DBConn->database());
+        QSqlQuery query(opened().DBConn->database());
         return query.exec(sql) && query.next() ? query.value(0) : QVariant();
     }
     // Lines that the traps of one source have written so far.
     qsizetype logLines(const QByteArray& source) const { return allLogs().count(QByteArray("\"" + source + "\"")); }
     QByteArray allLogs() const { return station.logs(); }
+
+    virtual Databases& opened() { return databases; }
 
     TemporaryStation station;
     Databases databases;

@@ -23,11 +23,7 @@ protected:
         FinishNewRecorders(*desk);
     }
     QString rows(const QString& select) { return Rows(*desk->databases.DBConn, select, u',', u' '); }
-    void statement(const QString& sql)
-    {
-        QSqlQuery query(desk->databases.DBConn->database());
-        ASSERT_TRUE(query.exec(sql)) << sql.toStdString();
-    }
+    Databases& opened() override { return desk->databases; }
 
     std::unique_ptr<Station> desk;
     Form_COM com;
