@@ -193,14 +193,19 @@ TEST_F(ShellTest, ColoursWindowColumnsAndPageAreThereAgainAtTheNextStart)
     EXPECT_EQ(CurrentScheme(), other) << "one click is one switch";
     Driver::click(u"lbMenu_3"_s);
     QHeaderView* head = Driver::find<QTableView>(u"Grid_GroupList"_s)->horizontalHeader();
-    const QPoint edge(head->sectionViewportPosition(2) - 1, head->height() / 2);
+    const auto drag = [head](int section) {
+        const QPoint edge(head->sectionViewportPosition(section + 1) - 1, head->height() / 2);
+        QTest::mousePress(head->viewport(), Qt::LeftButton, {}, edge);
+        QTest::mouseMove(head->viewport(), edge + QPoint(20, 0));
+        QTest::mouseMove(head->viewport(), edge + QPoint(40, 0));
+        QTest::mouseRelease(head->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
+    };
     const int width = head->sectionSize(1);
-    QTest::mousePress(head->viewport(), Qt::LeftButton, {}, edge);
-    QTest::mouseMove(head->viewport(), edge + QPoint(20, 0));
-    QTest::mouseMove(head->viewport(), edge + QPoint(40, 0));
-    QTest::mouseRelease(head->viewport(), Qt::LeftButton, {}, edge + QPoint(40, 0));
+    drag(1);
     const int dragged = head->sectionSize(1);
     EXPECT_NE(dragged, width);
+    head->hideSection(1); // as in a window without room for it
+    drag(2);
     desk->resize(1111, 666);
     end();
 

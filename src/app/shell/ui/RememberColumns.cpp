@@ -43,9 +43,12 @@ protected:
 private:
     void save() const
     {
+        const QVariantList before = UserSetting(m_key).toList();
         QVariantList widths;
-        for (int column = 0; column < m_head->count(); ++column)
-            widths << m_head->sectionSize(column);
+        for (int column = 0; column < m_head->count(); ++column) {
+            const bool leftOut = m_head->isSectionHidden(column);
+            widths << (leftOut ? before.value(column, 0) : m_head->sectionSize(column));
+        }
         SetUserSetting(m_key, widths);
     }
 
