@@ -2,6 +2,7 @@
 
 #include "app/language/Languages.h"
 #include "app/log/Module_Log.h"
+#include "app/shell/Messages.h"
 
 #include <algorithm>
 
@@ -19,7 +20,7 @@ QString RecorderHead()
 
 QString YesOrNo(bool on)
 {
-    return GetLangString(on ? 878 : 879);
+    return GetLangString(on ? Message::kYes : Message::kNo);
 }
 
 // A tick where a group has the right, a dash where not.
@@ -41,8 +42,8 @@ UserListModel::UserListModel(UserSet& users, const GroupSet& groups, QObject* pa
     const auto group = [&groups](const UserRecord& user) {
         return user.iGroup >= 0 && user.iGroup < kGroups ? At(groups.edit, user.iGroup).Name : QString();
     };
-    setColumns({{.head = 362, .text = Of(users.edit, &UserRecord::sUser)},
-                {.head = 423, .width = 300, .text = Of(users.edit, group)},
+    setColumns({{.head = Message::kName, .text = Of(users.edit, &UserRecord::sUser)},
+                {.head = Message::kGroup, .width = 300, .text = Of(users.edit, group)},
                 {.kind = Kind::Open},
                 {.kind = Kind::Remove}});
 }
@@ -68,7 +69,7 @@ GroupListModel::GroupListModel(const GroupSet& groups, QObject* parent)
 {
     TableColumn svd = RightColumn(groups, &GroupPrivilegeRecord::SVDControl, 0, 100);
     svd.headText = [] { return u"SVD"_s; };
-    setColumns({{.head = 423, .text = Of(groups.edit, &GroupPrivilegeRecord::Name)},
+    setColumns({{.head = Message::kGroup, .text = Of(groups.edit, &GroupPrivilegeRecord::Name)},
                 RightColumn(groups, &GroupPrivilegeRecord::Live, 100, 150),
                 RightColumn(groups, &GroupPrivilegeRecord::Setting, 432, 130),
                 RightColumn(groups, &GroupPrivilegeRecord::Export, 740, 130),
@@ -88,7 +89,7 @@ AccountListModel::AccountListModel(const std::vector<NVRAccountRecord>& accounts
     : TableModel(parent)
     , m_accounts(accounts)
 {
-    setColumns({{.head = 465, .text = Of(accounts, &NVRAccountRecord::sUser)}, {.kind = Kind::Remove}});
+    setColumns({{.head = Message::kUser, .text = Of(accounts, &NVRAccountRecord::sUser)}, {.kind = Kind::Remove}});
 }
 
 void AccountListModel::refill()
@@ -106,10 +107,11 @@ GroupRecorderModel::GroupRecorderModel(const GroupSet& groups, const RecorderSet
     , m_groups(groups)
     , m_recorders(recorders)
 {
-    setColumns({{.headText = RecorderHead, .width = 80, .text = [](int slot) { return slot + 1; }},
-                {.head = 362, .text = Of(recorders.SVRWorkList, &SVRRecord::sSVR_Name)},
-                {.head = 784, .width = 240, .text = [this](int slot) { return privilege(slot); }},
-                {.kind = Kind::Open}});
+    setColumns(
+        {{.headText = RecorderHead, .width = 80, .text = [](int slot) { return slot + 1; }},
+         {.head = Message::kName, .text = Of(recorders.SVRWorkList, &SVRRecord::sSVR_Name)},
+         {.head = Message::kChannelPrivilege, .width = 240, .text = [this](int slot) { return privilege(slot); }},
+         {.kind = Kind::Open}});
 }
 
 void GroupRecorderModel::refill(int group)
@@ -136,7 +138,7 @@ QString GroupRecorderModel::privilege(int slot) const
         ++cameras;
         live += whole || (At(rights.masks, channel) & kLiveRight) != 0 ? 1 : 0;
     }
-    return (whole ? u"✓  "_s : QString()) + GetLangString(866).arg(live).arg(cameras);
+    return (whole ? u"✓  "_s : QString()) + GetLangString(Message::kChannelsOf).arg(live).arg(cameras);
 }
 
 ReachModel::ReachModel(const UserRecord& user, const GroupSet& groups, const RecorderSet& recorders, QObject* parent)
@@ -158,11 +160,12 @@ ReachModel::ReachModel(const UserRecord& user, const GroupSet& groups, const Rec
         }
         return names.join(u", "_s);
     };
-    setColumns(
-        {{.headText = RecorderHead, .width = 190, .text = Of(m_cameras, recorder)},
-         {.head = 366, .width = 80, .text = Of(m_cameras, [](const auto& camera) { return camera.channel + 1; })},
-         {.head = 367, .width = 180, .text = Of(m_cameras, name)},
-         {.head = 784, .text = Of(m_cameras, rights)}});
+    setColumns({{.headText = RecorderHead, .width = 190, .text = Of(m_cameras, recorder)},
+                {.head = Message::kChannel,
+                 .width = 80,
+                 .text = Of(m_cameras, [](const auto& camera) { return camera.channel + 1; })},
+                {.head = Message::kChannelName, .width = 180, .text = Of(m_cameras, name)},
+                {.head = Message::kChannelPrivilege, .text = Of(m_cameras, rights)}});
     setRecordCount(static_cast<int>(m_cameras.size()));
 }
 
@@ -177,8 +180,8 @@ ChannelRightsModel::ChannelRightsModel(const GroupSet& groups, const UserSet& us
     const auto name = [&recorder](int channel) { return At(recorder.channels, channel).sSub_CH_Name; };
     const auto reached = [this](int channel) { return reach(channel); };
     std::vector<TableColumn> columns{
-        {.head = 366, .width = 64, .text = [](int channel) { return channel + 1; }},
-        {.head = 367, .width = 210, .text = name, .words = name},
+        {.head = Message::kChannel, .width = 64, .text = [](int channel) { return channel + 1; }},
+        {.head = Message::kChannelName, .width = 210, .text = name, .words = name},
     };
     static constexpr std::array widths{92, 92, 104, 92};
     for (int column = Live; column <= Audio; ++column) {

@@ -200,6 +200,8 @@ TEST_F(UserWindowTest, ChannelRightsByMouseAndKeyboard)
     // A whole column by the keyboard, then Esc: it asks and stays, asks again and nothing is stored.
     step(u"Grid_ChannelPrivilege"_s, [this] {
         auto* grid = Driver::find<QTableView>(u"Grid_ChannelPrivilege"_s);
+        QTest::keyClick(grid, Qt::Key_F, Qt::ControlModifier);
+        EXPECT_TRUE(Driver::find(u"txtFilter"_s)->hasFocus());
         grid->setFocus();
         QTest::keyClick(grid, Qt::Key_Space, Qt::ControlModifier);
         QTest::keyClick(grid, Qt::Key_Space);

@@ -5,7 +5,6 @@
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
-#include "app/shell/ui/RememberColumns.h"
 #include "app/ui/KeysWindow.h"
 #include "app/ui/Remembered.h"
 #include "app/ui/UpdateWindow.h"
@@ -204,7 +203,6 @@ void Form_Initial::buildPages()
         room->setWidgetResizable(true);
         room->setWidget(page);
         m_frames->addWidget(room);
-        RememberColumns(page);
     }
 }
 

@@ -4,7 +4,6 @@
 #include "app/language/ui/ChangeLanguage.h"
 #include "app/log/Module_Log.h"
 #include "app/shell/Boxes.h"
-#include "look/tables/Tables.h"
 #include "look/widgets/Keys.h"
 #include "look/widgets/SecondClick.h"
 #include "support/Conversions.h"
@@ -12,7 +11,6 @@
 
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QSortFilterProxyModel>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +24,6 @@ Form_GroupPrivilege::Form_GroupPrivilege(GroupSet& groups, const UserSet& users,
     , m_save(std::move(save))
     , m_ui(std::make_unique<Ui::Form_GroupPrivilege>())
     , m_nvrs(new GroupRecorderModel(groups, recorders, this))
-    , m_proxy(new QSortFilterProxyModel(this))
 {
     setObjectName(u"Form_GroupPrivilege"_s);
     m_ui->setupUi(content());
@@ -66,21 +63,14 @@ void Form_GroupPrivilege::setUpChannelFrame()
         if (m_channels)
             m_channels->setAll(on);
     });
-    SearchField* filter = m_ui->txtFilter;
-    QTableView* grid = m_ui->Grid_ChannelPrivilege;
-    connect(filter, &QLineEdit::textChanged, m_proxy, &QSortFilterProxyModel::setFilterFixedString);
-    connect(filter, &QLineEdit::returnPressed, grid, qOverload<>(&QWidget::setFocus));
-    OnKey(m_ui->Frame_1, QKeySequence::Find, [filter] { filter->setFocus(); });
+    DeskTable* grid = m_ui->Grid_ChannelPrivilege;
+    grid->filterBy(m_ui->txtFilter);
     for (const auto& [button, on] : {std::pair{m_ui->btnGrant, true}, {m_ui->btnWithdraw, false}}) {
         connect(button, &QPushButton::clicked, this, [this, on = on] {
             if (m_channels)
                 m_channels->give(chosenCells(), on);
         });
     }
-    grid->setModel(m_proxy);
-    m_proxy->setFilterKeyColumn(ChannelRightsModel::Name);
-    m_proxy->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    StyleTable(grid);
     grid->setSelectionBehavior(QAbstractItemView::SelectItems);
     grid->horizontalHeader()->setSectionsClickable(true);
     connect(grid->horizontalHeader(), &QHeaderView::sectionClicked, grid, &QTableView::selectColumn);
@@ -88,7 +78,7 @@ void Form_GroupPrivilege::setUpChannelFrame()
         if (QGuiApplication::keyboardModifiers() != Qt::NoModifier || !m_channels)
             return;
         if (ChannelRightsModel::isRight(index.column()))
-            m_channels->flip({m_proxy->mapToSource(index)});
+            m_channels->flip({index});
         else
             grid->selectRow(index.row());
     });
@@ -146,7 +136,7 @@ void Form_GroupPrivilege::Grid_ChannelPrivilege_Draw(int slot)
 {
     auto model =
         std::make_unique<ChannelRightsModel>(m_groups, m_users, At(m_recorders.SVRWorkList, slot), m_group, slot);
-    m_proxy->setSourceModel(model.get());
+    m_ui->Grid_ChannelPrivilege->setList(model.get());
     m_channels = std::move(model);
     m_ui->Chk_NVRPrivilege_0->setChecked(m_channels->rights().all);
     const bool editable = m_channels->editable();
@@ -155,22 +145,16 @@ void Form_GroupPrivilege::Grid_ChannelPrivilege_Draw(int slot)
     m_ui->btnGrant->setEnabled(editable);
     m_ui->btnWithdraw->setEnabled(editable);
     m_ui->lbChannelHint->setText(GetLangString(editable ? 912 : 913));
-    m_ui->Grid_ChannelPrivilege->setAccessibleName(GetLangString(784) + u". "_s + m_ui->lbChannelHint->text());
+    m_ui->Grid_ChannelPrivilege->setAccessibleName(GetLangString(Message::kChannelPrivilege) + u". "_s +
+                                                   m_ui->lbChannelHint->text());
     m_before = FormCHPrivilege(m_channels->rights(), At(m_recorders.SVRWorkList, slot));
-    std::vector<int> widths;
-    for (const TableColumn& column : m_channels->columns())
-        widths.push_back(column.width);
-    SetColumnWidths(m_ui->Grid_ChannelPrivilege, widths);
-    m_ui->Grid_ChannelPrivilege->setCurrentIndex(m_proxy->index(0, ChannelRightsModel::Live));
+    DeskTable* grid = m_ui->Grid_ChannelPrivilege;
+    grid->setCurrentIndex(grid->model()->index(0, ChannelRightsModel::Live));
 }
 
 QModelIndexList Form_GroupPrivilege::chosenCells() const
 {
-    QModelIndexList cells;
-    const QModelIndexList chosen = m_ui->Grid_ChannelPrivilege->selectionModel()->selectedIndexes();
-    for (const QModelIndex& cell : chosen)
-        cells << m_proxy->mapToSource(cell);
-    return cells;
+    return m_ui->Grid_ChannelPrivilege->selectionModel()->selectedIndexes();
 }
 
 // The group with the five rights as they are ticked.

@@ -6,7 +6,6 @@
 #include <functional>
 
 class QCheckBox;
-class QSortFilterProxyModel;
 namespace Ui {
 class Form_GroupPrivilege;
 }
@@ -49,7 +48,6 @@ private:
     std::unique_ptr<Ui::Form_GroupPrivilege> m_ui;
     std::array<QCheckBox*, 5> Chk_GroupPrivilege; // Setting, Export, Live, Live_all, SVDControl
     GroupRecorderModel* m_nvrs;
-    QSortFilterProxyModel* m_proxy;
     std::unique_ptr<ChannelRightsModel> m_channels;
     int m_group = 0;
     int m_slot = 0;

@@ -2,11 +2,11 @@
 
 #include "app/language/Languages.h"
 #include "app/shell/Messages.h"
-#include "app/shell/ui/RememberColumns.h"
 #include "look/style/Icons.h"
 #include "look/tables/Tables.h"
 #include "look/widgets/Fields.h"
 #include "look/widgets/SecondClick.h"
+#include "platform/UserSettings.h"
 
 #include <QAction>
 #include <QContextMenuEvent>
@@ -41,6 +41,55 @@ public:
     }
 };
 
+// Columns keep the widths that the user drags them to, from one run to the next, under the name of their table.
+class ColumnKeeper : public QObject
+{
+public:
+    explicit ColumnKeeper(QTableView* table)
+        : QObject(table)
+        , m_head(table->horizontalHeader())
+        , m_key(u"columns/"_s + table->objectName())
+    {
+        const QVariantList widths = UserSetting(m_key).toList();
+        for (int column = 0; column < m_head->count() && widths.size() == m_head->count(); ++column) {
+            if (m_head->sectionResizeMode(column) == QHeaderView::Interactive && widths[column].toInt() > 0)
+                m_head->resizeSection(column, widths[column].toInt());
+        }
+        connect(m_head, &QHeaderView::sectionResized, this, [this] { m_dragged = m_pressed; });
+        m_head->viewport()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress)
+            m_pressed = true;
+        if (event->type() == QEvent::MouseButtonRelease) {
+            m_pressed = false;
+            if (std::exchange(m_dragged, false))
+                save();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    void save() const
+    {
+        const QVariantList before = UserSetting(m_key).toList();
+        QVariantList widths;
+        for (int column = 0; column < m_head->count(); ++column) {
+            const bool leftOut = m_head->isSectionHidden(column);
+            widths << (leftOut ? before.value(column, 0) : m_head->sectionSize(column));
+        }
+        SetUserSetting(m_key, widths);
+    }
+
+    QHeaderView* m_head;
+    QString m_key;
+    bool m_pressed = false;
+    bool m_dragged = false;
+};
+
 QString WordsOf(const QModelIndex& cell)
 {
     return cell.data(Qt::AccessibleTextRole).toString();
@@ -61,25 +110,32 @@ DeskTable::DeskTable(QWidget* parent)
 
 void DeskTable::setList(TableModel* list)
 {
-    m_list = list;
-    connect(this, &QTableView::clicked, this, &DeskTable::clickedCell);
-    connect(this, &QTableView::doubleClicked, this, &DeskTable::doubleClickedCell);
     // Before the rows follow the list, and with them the current one goes.
     connect(list, &TableModel::modelAboutToBeReset, this, [this] {
         m_keptRow = std::max(0, currentIndex().row());
         m_keptRecord = currentRecord();
     });
+    const bool first = !m_list;
+    m_list = list;
     m_rows->setSourceModel(list);
+    if (!first)
+        return;
     setModel(m_rows);
+    connect(this, &QTableView::clicked, this, &DeskTable::clickedCell);
+    connect(this, &QTableView::doubleClicked, this, &DeskTable::doubleClickedCell);
     connect(m_rows, &QAbstractItemModel::modelReset, this, &DeskTable::restoreCurrent);
     for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
         connect(m_rows, signal, this, &DeskTable::shownChanged);
     connect(m_rows, &QAbstractItemModel::modelReset, this, &DeskTable::shownChanged);
     connect(m_rows, &QAbstractItemModel::dataChanged, this, &DeskTable::shownChanged);
+    setUpColumns();
+}
 
+void DeskTable::setUpColumns()
+{
     horizontalHeader()->setStretchLastSection(false);
     std::vector<int> widths;
-    for (const TableColumn& column : list->columns()) {
+    for (const TableColumn& column : m_list->columns()) {
         const int index = static_cast<int>(widths.size());
         const bool icon = column.kind == Kind::Open || column.kind == Kind::Remove;
         widths.push_back(icon ? horizontalHeader()->minimumSectionSize() : column.width);
@@ -91,6 +147,14 @@ void DeskTable::setList(TableModel* list)
             StatusColumn(this, index);
     }
     SetColumnWidths(this, widths);
+    if (testAttribute(Qt::WA_WState_Polished))
+        keepColumns();
+}
+
+void DeskTable::keepColumns()
+{
+    if (model() && !objectName().isEmpty() && !std::exchange(m_columnsKept, true))
+        new ColumnKeeper(this);
 }
 
 void DeskTable::sortBy(int column)
@@ -209,7 +273,7 @@ bool DeskTable::toggle(const QModelIndex& row)
 bool DeskTable::event(QEvent* event)
 {
     if (event->type() == QEvent::Polish) // it has its name, and its columns the widths that they begin with
-        KeepColumns(this);
+        keepColumns();
     return QTableView::event(event);
 }
 

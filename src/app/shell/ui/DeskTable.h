@@ -10,8 +10,7 @@ class QSortFilterProxyModel;
 
 // The table of the desk: widths, faces, icons and checks come from the columns of the list that it shows, and the
 // widths to which a user drags the columns are kept from one run to the next under the table's object name. When the
-// list is filled anew the same record stays current, or the one that has come to its place. It may show another model
-// with setModel(): then the look and the keeping of widths is what it gives.
+// list is filled anew the same record stays current, or the one that has come to its place.
 class DeskTable : public QTableView
 {
     Q_OBJECT
@@ -19,7 +18,8 @@ class DeskTable : public QTableView
 public:
     explicit DeskTable(QWidget* parent = nullptr);
 
-    void setList(TableModel* list); // once
+    // Again only with a list of the same columns.
+    void setList(TableModel* list);
     // Clicks on heads sort. At first rows are in the order of this column, for -1 in that of the list.
     void sortBy(int column);
     // Shows the rows that hold the filter's text. Return in it goes to the table, Esc in the table empties it.
@@ -51,6 +51,8 @@ private:
     QAction* makeAction(const QList<QKeySequence>& keys, std::function<void(int record)> act);
     void clickedCell(const QModelIndex& cell);
     void doubleClickedCell(const QModelIndex& cell);
+    void setUpColumns();
+    void keepColumns();
     void restoreCurrent();
     int columnOf(TableColumn::Kind kind) const; // the first of its kind, -1 for none
 
@@ -59,6 +61,7 @@ private:
     SearchField* m_filter = nullptr;
     QAction* m_open = nullptr;
     QAction* m_remove = nullptr;
+    bool m_columnsKept = false;
     int m_keptRow = 0; // the current one while the list is filled anew
     int m_keptRecord = -1;
 };
