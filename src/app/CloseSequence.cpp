@@ -33,7 +33,7 @@ void CloseSequence::start()
 {
     if (m_state != 0)
         return;
-    m_station.notifications->stopTimer();
+    m_station.sendEvent.stopTimer();
     m_state = 1;
 }
 
@@ -85,7 +85,7 @@ void CloseSequence::askAndSave()
         const Leave answer = AskToLeave();
         if (answer == Leave::Stay) {
             SetClosing(false);
-            m_station.notifications->startTimer();
+            m_station.sendEvent.startTimer();
             m_state = 0;
             m_host.closeCalledOff();
             return;
@@ -102,22 +102,24 @@ void CloseSequence::askAndSave()
 
 void CloseSequence::showPending()
 {
-    m_PendingEvents = m_station.notifications->pendingItems();
+    m_PendingEvents = m_station.sendEvent.pendingItems();
     m_host.showProgress(qMax(1, m_PendingEvents), m_PendingEvents > 0 ? CountText(m_PendingEvents) : QString());
 }
 
+// One item of each queue goes at a time, as long as more may be under way.
 void CloseSequence::drainQueue()
 {
-    NotificationQueue& queue = *m_station.notifications;
+    Form_SendEvent& queue = m_station.sendEvent;
     const bool cancelled = m_host.progressCancelled();
-    if (!cancelled) {
+    if (cancelled)
+        queue.cancel();
+    for (int before = -1; before != queue.pendingItems();) {
+        before = queue.pendingItems();
         queue.CheckNeedToSend();
-        if (m_PendingEvents > 0) {
-            const int remaining = queue.pendingItems();
-            m_host.updateProgress(m_PendingEvents - remaining, CountText(remaining));
-        }
     }
-    const bool idle = queue.sendsUnderWay() == 0;
-    if (idle && (cancelled || queue.timerStopped()))
+    const int remaining = queue.pendingItems();
+    if (m_PendingEvents > 0 && !cancelled)
+        m_host.updateProgress(m_PendingEvents - remaining, CountText(remaining));
+    if (queue.sendsUnderWay() == 0 && remaining == 0 && (cancelled || queue.timerStopped()))
         m_state = 7;
 }

@@ -45,14 +45,13 @@ void NotifyChannel(Station& station, int key, const QString& text)
     const QString name = At(At(station.recorders.SVRList, slot).channels, channel).sSub_CH_Name;
     if (name.isEmpty())
         return;
-    station.notifications->SendQueueStr_Set(
+    station.sendEvent.SendQueueStr_Set(
         text + u" NVR -"_s + QString::number(slot) + u" CH-"_s + QString::number(channel) + u' ' + name, false);
 }
 
 } // namespace
 
 Station::Station()
-    : notifications(std::make_unique<EmptyNotificationQueue>())
 {
     families.add(BasicDefaultFamily(databases, basicDefault));
     families.add(SVRFamily(databases, recorders));
@@ -101,11 +100,11 @@ void RunEventAction(Station& station, int action, int key, const QString& text, 
             if (action == 0)
                 line += u" setting"_s;
             if (handling.bConfigModify)
-                station.notifications->SendQueueStr_Set(line, false);
+                station.sendEvent.SendQueueStr_Set(line, false);
         } else if (action == kSystemStart || action == kSystemStop) {
             if (handling.bSystemStartup)
-                station.notifications->SendQueueStr_Set(action == kSystemStart ? u"System Start"_s : u"System Stop"_s,
-                                                        false);
+                station.sendEvent.SendQueueStr_Set(action == kSystemStart ? u"System Start"_s : u"System Stop"_s,
+                                                   false);
         } else if (action == kSoftTrigger && handling.bSoftTrigger) {
             NotifyChannel(station, key, text);
         } else if (action == kNVRTrigger && handling.bNVRTrigger) {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "device/bridge/Form_COM.h"
 #include "emap/EMapSet.h"
 #include "events/ChannelEvents.h"
 #include "events/EventStore.h"
+#include "events/Form_SendEvent.h"
 #include "recorders/data/RecorderEvents.h"
 #include "recorders/data/RecorderSet.h"
 #include "screens/ScreenSet.h"
@@ -11,39 +13,6 @@
 #include "store/RecordFamily.h"
 #include "users/GroupStore.h"
 #include "users/UserStore.h"
-
-// What notifications need of the events subsystem.
-class NotificationQueue
-{
-public:
-    virtual ~NotificationQueue() = default;
-    // Queues an event's text; with `attach` a snapshot goes along.
-    virtual void SendQueueStr_Set(const QString& text, bool attach) = 0;
-    // Items that wait in all queues, and sends under way.
-    virtual int pendingItems() const = 0;
-    virtual int sendsUnderWay() const = 0;
-    // The queue's own timer: while it is stopped, CheckNeedToSend is called by hand.
-    virtual void startTimer() = 0;
-    virtual void stopTimer() = 0;
-    virtual bool timerStopped() const = 0;
-    virtual void CheckNeedToSend() = 0;
-};
-
-// Holds nothing and sends nothing: stands in until notifications are part of the desk.
-class EmptyNotificationQueue final : public NotificationQueue
-{
-public:
-    void SendQueueStr_Set(const QString&, bool) override {}
-    int pendingItems() const override { return 0; }
-    int sendsUnderWay() const override { return 0; }
-    void startTimer() override { m_stopped = false; }
-    void stopTimer() override { m_stopped = true; }
-    bool timerStopped() const override { return m_stopped; }
-    void CheckNeedToSend() override {}
-
-private:
-    bool m_stopped = false;
-};
 
 // Everything the station knows, for the whole run of the process. Made once (on the heap) in main.
 struct Station
@@ -63,7 +32,8 @@ struct Station
     EventServerSet eventServers;
     EventHandlingSet eventHandling;
     FamilyRegister families;
-    std::unique_ptr<NotificationQueue> notifications;
+    Form_COM com;
+    Form_SendEvent sendEvent{eventServers, eventHandling, com};
 
     quint32 CurrentUserIndex = 65535; // 65535 and above: not in the user array
     qint16 CurrentGroupIndex = 0;     // 0 to 6

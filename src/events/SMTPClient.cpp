@@ -2,6 +2,7 @@
 
 #include "app/log/StartWork.h"
 #include "platform/Clock.h"
+#include "platform/OneLine.h"
 #include "platform/SocketWait.h"
 #include "support/TimeSeconds.h"
 
@@ -9,7 +10,6 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QNetworkProxy>
-#include <QRegularExpression>
 #include <QStringEncoder>
 
 using namespace Qt::StringLiterals;
@@ -26,13 +26,6 @@ constexpr qint64 kMostUnsent = 256 * 1024;
 constexpr qsizetype kLineBytes = 45; // 60 characters in base64
 constexpr qsizetype kPieceBytes = 1024 * kLineBytes;
 constexpr qsizetype kShownAnswer = 500;
-
-// One line of what a command or a header line carries: line ends would begin another one.
-QString OneLine(QString text)
-{
-    text.remove(u'\r').remove(u'\n');
-    return text;
-}
 
 QString BareAddress(const QString& text)
 {
@@ -373,10 +366,8 @@ QCoro::Task<bool> SMTPClient::attachment(Session& session, Attachment attached)
         co_return true;
     }
     QString name = OneLine(attached.name);
-    if (name.isEmpty()) {
-        static const QRegularExpression separators(u"[:/\\\\]"_s);
-        name = OneLine(attached.path.sliced(attached.path.lastIndexOf(separators) + 1));
-    }
+    if (name.isEmpty())
+        name = OneLine(FileNameOf(attached.path));
     session.write("--" + kBoundary.toByteArray() +
                   "\r\nContent-Type: application/octet-stream;name=\"Attachment \" \r\n"
                   "Content-Transfer-Encoding: base64\r\n"

@@ -1,17 +1,10 @@
 #pragma once
 
+#include "events/SendParts.h"
 #include "platform/Work.h"
 
 #include <QString>
 #include <vector>
-
-// Sends under way, one count for each kind of server.
-struct EventQueueBusy
-{
-    int mails = 0;
-    int uploads = 0;
-    int alerts = 0;
-};
 
 // Sends one mail at a time to one server (RFC 5321, with AUTH LOGIN; no encryption). Works on the thread that made it.
 class SMTPClient : public QObject

@@ -1,5 +1,6 @@
 #include "platform/HttpClient.h"
 
+#include "platform/CurlLibrary.h"
 #include "platform/HttpDigest.h"
 
 #include <QDeadlineTimer>
@@ -9,10 +10,8 @@
 #include <QRandomGenerator>
 #include <QSocketNotifier>
 #include <QTimer>
-#include <QUrl>
 #include <curl/curl.h>
 #include <deque>
-#include <stdexcept>
 #include <unordered_map>
 #include <vector>
 
@@ -23,28 +22,6 @@ namespace {
 constexpr qsizetype kMaxHeaderBytes = 256 * 1024;
 constexpr std::size_t kIdleHandles = 8;
 constexpr long kKeptConnections = 32;
-
-// Host part of a URL, or empty when the text cannot be one (so that nothing in it reaches another part of the URL).
-QByteArray UrlHost(const QString& address)
-{
-    QString host = address.trimmed();
-    if (host.startsWith(u'[') && host.endsWith(u']'))
-        host = host.sliced(1, host.size() - 2);
-    if (host.contains(u':')) {
-        for (const QChar c : std::as_const(host)) {
-            if (!(c.unicode() < 128 && (c.isLetterOrNumber() || c == u':' || c == u'.')))
-                return {};
-        }
-        return '[' + host.toLatin1() + ']';
-    }
-    const QByteArray ascii = QUrl::toAce(host);
-    for (const char c : ascii) {
-        const bool plain = (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-        if (!plain && c != '.' && c != '-' && c != '_')
-            return {};
-    }
-    return ascii;
-}
 
 // The target in a form that the library's URL parser takes; the request line carries the target itself.
 QByteArray UrlTarget(const QByteArray& target)
@@ -138,14 +115,6 @@ std::size_t TakeHeader(char* data, std::size_t size, std::size_t count, void* us
     return size * count;
 }
 
-// libcurl is set up once for the process and never taken down: sockets may live until the very end.
-void SetUpLibrary()
-{
-    static const CURLcode code = curl_global_init(CURL_GLOBAL_DEFAULT);
-    if (code != CURLE_OK)
-        throw std::runtime_error(curl_easy_strerror(code));
-}
-
 } // namespace
 
 // The multi interface says which sockets and which moment it waits for; notifiers and one timer of the event loop call
@@ -155,7 +124,7 @@ class HttpClient::Engine : public QObject
 public:
     Engine()
     {
-        SetUpLibrary();
+        SetUpCurl();
         m_multi = curl_multi_init();
         if (!m_multi)
             throw std::bad_alloc();

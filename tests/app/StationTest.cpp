@@ -6,6 +6,8 @@
 #include "platform/DatabaseFile.h"
 #include "recorders/data/SVRStore.h"
 #include "store/SystemLog.h"
+#include "tests/Await.h"
+#include "tests/events/LineServer.h"
 #include "tests/store/StoreFixture.h"
 #include "tests/support/BoxAnswers.h"
 #include "tests/support/StartedStation.h"
@@ -521,8 +523,8 @@ TEST_F(StationTest, BackupsRotateAfterARunThatSaved)
 
 namespace {
 
-// Notes what the close sequence does to windows, and a queue that still holds items.
-class NotedHost : public CloseHost, public NotificationQueue
+// Notes what the close sequence does to windows.
+class NotedHost : public CloseHost
 {
 public:
     void disableWindows() override { steps << u"disable"_s; }
@@ -533,19 +535,8 @@ public:
     void closeProgressAndHide() override { steps << u"hide"_s; }
     void unloadAll() override { steps << u"unload"_s; }
 
-    void SendQueueStr_Set(const QString&, bool) override {}
-    int pendingItems() const override { return items; }
-    int sendsUnderWay() const override { return underWay; }
-    void startTimer() override { stopped = false; }
-    void stopTimer() override { stopped = true; }
-    bool timerStopped() const override { return stopped; }
-    void CheckNeedToSend() override { items = qMax(0, items - 1); }
-
     QStringList steps;
     bool cancelled = false;
-    bool stopped = false;
-    int items = 0;
-    int underWay = 0;
 };
 
 } // namespace
@@ -557,9 +548,7 @@ protected:
     {
         makeDatabase(kDatabaseFile, u"x"_s);
         start();
-        auto owned = std::make_unique<NotedHost>();
-        host = owned.get();
-        fresh->notifications = std::move(owned);
+        host = std::make_unique<NotedHost>();
         sequence = std::make_unique<CloseSequence>(*fresh, *host);
     }
     QList<int> statesUntilEnd()
@@ -572,7 +561,7 @@ protected:
         }
         return states;
     }
-    NotedHost* host = nullptr;
+    std::unique_ptr<NotedHost> host;
     std::unique_ptr<CloseSequence> sequence;
 };
 
@@ -603,7 +592,7 @@ TEST_F(CloseTest, UnsavedChangesAreAskedAboutAndTheRunningViewerNamed)
     sequence->tick();
     EXPECT_EQ(sequence->m_CloseState(), 0) << "Cancel stays";
     EXPECT_EQ(host->steps, QStringList{u"stay"_s});
-    EXPECT_FALSE(Closing() || host->stopped || fresh->m_bDataSaved);
+    EXPECT_FALSE(Closing() || fresh->sendEvent.timerStopped() || fresh->m_bDataSaved);
     boxes.clear();
     statesUntilEnd();
     EXPECT_EQ(boxes, (QStringList{GetLangString(514), GetLangString(772)}));
@@ -611,23 +600,42 @@ TEST_F(CloseTest, UnsavedChangesAreAskedAboutAndTheRunningViewerNamed)
     EXPECT_TRUE(fresh->m_bDataSaved);
 }
 
-TEST_F(CloseTest, WaitsForTheQueueUntilItIsEmptyOrCancelled)
+TEST_F(CloseTest, SendsWhatWaitsUnlessItIsCancelled)
 {
-    begin();
-    host->items = 2;
-    host->underWay = 1;
-    sequence->start();
-    for (int i = 0; i < 6; ++i)
-        sequence->tick();
-    EXPECT_EQ(sequence->m_CloseState(), 5);
-    EXPECT_TRUE(host->steps.contains(u"show 2 [2]"_s));
-    EXPECT_TRUE(host->steps.contains(u"update 2 [0]"_s));
-    host->cancelled = true;
-    sequence->tick();
-    EXPECT_EQ(sequence->m_CloseState(), 5) << "a send under way is waited for even then";
-    host->underWay = 0;
-    sequence->tick();
-    EXPECT_EQ(sequence->m_CloseState(), 7);
+    for (const bool cancelled : {false, true}) {
+        SCOPED_TRACE(cancelled);
+        LineServer server;
+        server.answers["data"] = cancelled ? "" : "354 go\r\n";
+        begin();
+        ListenServerRec& record = fresh->eventServers.stored[0];
+        record.sMailFrom = u"desk@site.org"_s;
+        record.sMailServer = u"127.0.0.1"_s;
+        record.lMailPort = server.serverPort();
+        fresh->eventHandling.stored.bConfigModify = fresh->eventHandling.stored.bTriActMail = true;
+        fresh->eventHandling.stored.strMailAddress = QStringList(20, u"guard@site.org"_s).join(u',');
+        RunEventAction(*fresh, 0, -1, {}, u"operator"_s);
+        sequence->start();
+        for (int i = 0; i < 4; ++i)
+            sequence->tick();
+        EXPECT_EQ(sequence->m_CloseState(), 5);
+        EXPECT_TRUE(host->steps.contains(u"show 20 [20]"_s));
+        EXPECT_TRUE(host->steps.contains(u"update 11 [9]"_s)) << "so many may be under way";
+        const auto end = [&] {
+            sequence->tick();
+            return sequence->m_CloseState() != 5;
+        };
+        if (cancelled) {
+            EXPECT_TRUE(WaitUntil([&] { return server.commands.count("data") == 11; }, 10));
+            host->cancelled = true;
+            EXPECT_TRUE(end()) << "at once";
+            EXPECT_EQ(fresh->sendEvent.pendingItems() + fresh->sendEvent.sendsUnderWay(), 0);
+        } else {
+            EXPECT_TRUE(WaitUntil(end, 20));
+            EXPECT_TRUE(host->steps.contains(u"update 20 [0]"_s));
+        }
+        EXPECT_EQ(server.mails.join().count("<b>Modify Setting of System setting</b>"), cancelled ? 0 : 20);
+        SetClosing(false);
+    }
 }
 
 TEST_F(StationTest, KilledAtAnyWriteOfASaveTheOldRowsOrTheNewOnesAreThere)

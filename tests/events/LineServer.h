@@ -5,6 +5,7 @@
 #include <QTcpSocket>
 #include <QTimer>
 #include <map>
+#include <memory>
 
 // A mail server of a few lines on loopback: answers each command by its first word and keeps what came.
 class LineServer : public QTcpServer
@@ -13,7 +14,10 @@ public:
     LineServer()
     {
         listen(QHostAddress(QStringLiteral("127.0.0.1")));
-        connect(this, &QTcpServer::newConnection, this, [this] { accept(nextPendingConnection()); });
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            while (hasPendingConnections())
+                accept(nextPendingConnection());
+        });
     }
 
     // By the first word; "user" and "pass" are the lines of a login, "." is the end of a mail, "" the greeting. What is
@@ -33,43 +37,52 @@ public:
     bool takesNoData = false; // reads nothing any more from "data" on
     int connections = 0;
     QByteArrayList commands;
-    QByteArray mail;
+    QByteArrayList mails;
 
 private:
+    struct Session
+    {
+        QByteArray buffer;
+        QByteArrayList login;
+        std::map<QByteArray, int> count;
+        bool inData = false;
+    };
+
     void accept(QTcpSocket* socket)
     {
         ++connections;
+        const auto session = std::make_shared<Session>();
         socket->setReadBufferSize(64 * 1024);
         connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-        connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { read(*socket); });
+        connect(socket, &QTcpSocket::readyRead, socket, [this, socket, session] { read(*socket, *session); });
         answer(*socket, answers[""]);
     }
 
-    void read(QTcpSocket& socket)
+    void read(QTcpSocket& socket, Session& session)
     {
-        if (m_inData && takesNoData)
+        if (session.inData && takesNoData)
             return;
-        m_buffer += socket.readAll();
+        session.buffer += socket.readAll();
         while (true) {
-            const QByteArray end = m_inData ? "\r\n.\r\n" : "\r\n";
-            const qsizetype at = m_buffer.indexOf(end, m_inData ? qMax<qsizetype>(0, m_buffer.size() - 70000) : 0);
+            const QByteArray end = session.inData ? "\r\n.\r\n" : "\r\n";
+            const qsizetype at =
+                session.buffer.indexOf(end, session.inData ? qMax<qsizetype>(0, session.buffer.size() - 70000) : 0);
             if (at < 0)
                 return;
-            const QByteArray taken = m_buffer.left(at);
-            m_buffer.remove(0, at + end.size());
-            QByteArray word = taken.left(taken.indexOf(' '));
-            if (m_inData) {
-                mail = taken;
-                word = ".";
+            const QByteArray taken = session.buffer.left(at);
+            session.buffer.remove(0, at + end.size());
+            QByteArray word = ".";
+            if (session.inData) {
+                mails << taken;
             } else {
                 commands << taken;
-                word = !m_login.isEmpty() ? m_login.takeFirst() : taken.split(' ').value(0);
+                word = !session.login.isEmpty() ? session.login.takeFirst() : taken.split(' ').value(0);
             }
-            const bool again = ++m_count[word] >= 2 && second.count(word);
+            const bool again = ++session.count[word] >= 2 && second.count(word);
             const QByteArray said = again ? second[word] : answers[word];
-            m_inData = word == "data" && said.startsWith("354");
+            session.inData = word == "data" && said.startsWith("354");
             if (word == "AUTH" && said.startsWith("334"))
-                m_login = {"user", "pass"};
+                session.login = {"user", "pass"};
             answer(socket, said);
         }
     }
@@ -88,9 +101,4 @@ private:
         if (close)
             socket.disconnectFromHost();
     }
-
-    QByteArray m_buffer;
-    QByteArrayList m_login;
-    std::map<QByteArray, int> m_count;
-    bool m_inData = false;
 };

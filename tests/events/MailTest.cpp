@@ -276,7 +276,7 @@ TEST_F(MailTest, DateLineTellsTheZoneAsHours)
         SMTPClient client;
         fill(client, server.serverPort());
         EXPECT_TRUE(send(client)) << client.ErrorStr().toStdString();
-        EXPECT_EQ(server.mail.left(server.mail.indexOf("\r\n")),
+        EXPECT_EQ(server.mails.value(0).left(server.mails.value(0).indexOf("\r\n")),
                   "Date: Mon, 16 Nov 2026 08:05:03 " + QByteArray(zone.date));
     }
     qunsetenv("TZ");

@@ -68,10 +68,12 @@ def smtp(login):
 
 
 def ftp(folder):
+    import logging
     from pyftpdlib.authorizers import DummyAuthorizer
     from pyftpdlib.handlers import FTPHandler
     from pyftpdlib.servers import FTPServer
 
+    logging.basicConfig(level=logging.ERROR)
     authorizer = DummyAuthorizer()
     authorizer.add_user("operator", "pass wörd", folder, perm="elradfmw")
     FTPHandler.authorizer = authorizer

@@ -45,6 +45,7 @@ constexpr int kRunsAlready = 10;
 Form_Initial::Form_Initial(Station& station, QWidget* parent)
     : QWidget(parent)
     , m_station(station)
+    , m_com(station.com)
     , m_close(station, *this)
     , m_ui(std::make_unique<Ui::Form_Initial>())
 {
@@ -78,6 +79,7 @@ bool Form_Initial::Form_Load()
         Tell(Tone::Warning, kRunsAlready);
         return false;
     }
+    m_station.sendEvent.startTimer();
     Trapped(kLoadSource, [&] { loadRecordsAndPages(); });
 
     m_station.LoginOk = true;

@@ -80,7 +80,7 @@ private:
     void unloadAll() override;
 
     Station& m_station;
-    Form_COM m_com;
+    Form_COM& m_com;
     SingleInstance m_instance;
     CloseSequence m_close;
     QTimer TimerCloseSystem;

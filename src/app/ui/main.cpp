@@ -4,6 +4,7 @@
 #include "app/ui/MsgBoxWindow.h"
 #include "app/ui/Remembered.h"
 #include "platform/AppPath.h"
+#include "platform/SoundPlayer.h"
 #include "platform/UserSettings.h"
 #include "platform/clsOSInfo.h"
 
@@ -21,6 +22,7 @@ int main(int argc, char** argv)
     ApplyTheme(application, RememberedScheme());
     InstallMsgBoxWindow();
     InstallFileChooserWindow();
+    InstallSoundPlayer();
 
     const auto station = std::make_unique<Station>();
     Form_Initial window(*station);
