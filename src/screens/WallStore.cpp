@@ -70,7 +70,7 @@ qint16 SaveVideoWall(Databases& databases, const VideoWallRow& wall, const QStri
 
 RecordFamily VideoWallFamily(Databases& databases, ScreenSet& set)
 {
-    const auto name = [](const VideoWallRow& wall) { return u'#' + QString::number(wall.VideoWallIndex); };
+    const auto name = [](const VideoWallRow& wall) { return u"#%1"_s.arg(wall.VideoWallIndex); };
     const auto rows = [name](const std::vector<VideoWallRow>& walls) {
         std::vector<FamilyRow<VideoWallTableRow>> list;
         for (const VideoWallRow& wall : walls)
