@@ -223,6 +223,12 @@ EMapEdit::EMapEdit(EMapSet& set, QObject* parent)
     connect(&m_steps, &QUndoStack::indexChanged, this, &EMapEdit::changed);
 }
 
+// The steps that are left end without a word.
+EMapEdit::~EMapEdit()
+{
+    m_steps.disconnect(this);
+}
+
 bool EMapEdit::step(const std::function<void(EMapSet& set)>& work, int run)
 {
     const std::vector<EMapGroupRow> maps = m_set.edit;

@@ -32,6 +32,7 @@ class EMapEdit : public QObject
 
 public:
     explicit EMapEdit(EMapSet& set, QObject* parent = nullptr);
+    ~EMapEdit() override;
 
     const EMapSet& set() const { return m_set; }
     // Carries out `work` as one step; a step that changes nothing is none. Consecutive steps of one `run` (from 0) are

@@ -108,6 +108,16 @@ TEST_F(EMap, TheTreeTakesWhatMayBeDroppedAndSaysWhyNot)
     while (edit.steps().canUndo())
         edit.steps().undo();
     EXPECT_EQ(tree(), QString::fromUtf16(kAtFirst));
+
+    int told = 0;
+    EMapSet others;
+    {
+        EMapEdit closing(others);
+        QObject::connect(&closing, &EMapEdit::changed, &model, [&] { ++told; });
+        closing.step([](EMapSet& set) { AddMap(set, 0, u"Attic"_s); });
+        EXPECT_EQ(std::exchange(told, 0), 1);
+    }
+    EXPECT_EQ(told, 0) << "whoever shows the maps may be gone when the steps go";
     EXPECT_FALSE(edit.isMarked());
     edit.steps().redo();
     EXPECT_EQ(tree(), u"MainMap(S2 G1(S1(T2(C_1_2) C_1_1)) C_1_3 C_2_1 C_2_2 C_2_3)"_s);
