@@ -15,8 +15,8 @@ class Form_COM;
 // What became of the sends of one kind to one server in this run.
 struct ServerSends
 {
-    int waiting = 0;  // items that go to it next; of mails all, at the server that would take them now
-    int underWay = 0; //
+    int waiting = 0; // items that go to it next; of mails all, at the server that would take them now
+    int underWay = 0;
     QDateTime lastSuccess;
     QDateTime lastFailure;
     QString step;         // that failed last, in the words of the protocol; may be empty

@@ -14,10 +14,10 @@ public:
     FtpControl();
     ~FtpControl() override; // ends what goes on
 
-    QString host;     // name or address
-    qint32 port = 0;  // 0: the protocol's own
-    QString user;     // empty: anonymous
-    QString password; //
+    QString host;    // name or address
+    qint32 port = 0; // 0: the protocol's own
+    QString user;    // empty: anonymous
+    QString password;
 
     // put "<local file>" <remote path>: uploads the file in binary; the path, which may hold blanks, is sent byte for
     // byte as UTF-8 without changing folders. Ended follows, whatever became of it. False, with nothing begun, for any
